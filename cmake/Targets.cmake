@@ -1,0 +1,32 @@
+# Makers of the project's own targets, so that every one has the same warnings and include root.
+
+add_library(brellowind_options INTERFACE)
+target_compile_options(brellowind_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+  $<$<BOOL:${BRELLOWIND_WARNINGS_AS_ERRORS}>:-Werror>)
+if(BRELLOWIND_SANITIZE)
+  target_compile_options(brellowind_options INTERFACE
+    -fsanitize=${BRELLOWIND_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(brellowind_options INTERFACE -fsanitize=${BRELLOWIND_SANITIZE})
+endif()
+
+add_library(brellowind_qt_options INTERFACE)
+target_link_libraries(brellowind_qt_options INTERFACE brellowind_options Qt6::Core)
+target_compile_definitions(brellowind_qt_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+
+# A static library without Qt; its includes are written from src/.
+function(brellowind_core_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PRIVATE brellowind_options)
+endfunction()
+
+# A static library that may use Qt.
+function(brellowind_qt_library name)
+  add_library(${name} STATIC ${ARGN})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC Qt6::Core PRIVATE brellowind_qt_options)
+endfunction()

@@ -1,0 +1,129 @@
+#include "lyrics/LrclibAPI.h"
+
+#include "foundation/FatalError.h"
+#include "foundation/Utf8.h"
+#include "lyrics/LRCParser.h"
+#include "platform/Services.h"
+
+#include <cmath>
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <utility>
+
+namespace brellowind::LrclibAPI {
+namespace {
+
+constexpr int notFoundStatus = 404;
+
+struct Response {
+    std::optional<std::string> syncedLyrics;
+    std::optional<std::string> plainLyrics;
+};
+
+/// False when the key is there and holds neither a string nor null.
+bool readText(nlohmann::json& object, const char* key, std::optional<std::string>& text) {
+    const auto value = object.find(key);
+    if (value == object.end() || value->is_null())
+        return true;
+    if (!value->is_string())
+        return false;
+    text = std::move(value->get_ref<std::string&>());
+    return true;
+}
+
+std::optional<Response> decode(std::string_view body) {
+    auto object = nlohmann::json::parse(body, nullptr, /*allow_exceptions=*/false);
+    Response response;
+    if (!object.is_object() || !readText(object, "syncedLyrics", response.syncedLyrics) ||
+        !readText(object, "plainLyrics", response.plainLyrics))
+        return std::nullopt;
+    return response;
+}
+
+/// Appends `value` so that any decoder of URL queries or forms reads the same bytes back: all but
+/// the unreserved characters become percent escapes.
+void appendEscaped(std::string& url, std::string_view value) {
+    constexpr std::string_view hex = "0123456789ABCDEF";
+    for (const char character : value) {
+        const auto byte = static_cast<unsigned char>(character);
+        const bool unreserved = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
+                                (byte >= '0' && byte <= '9') || byte == '-' || byte == '.' ||
+                                byte == '_' || byte == '~';
+        if (unreserved)
+            url += character;
+        else
+            url.append({'%', hex[byte >> 4], hex[byte & 0xF]});
+    }
+}
+
+std::int64_t wholeSeconds(double durationMs) {
+    constexpr double limit = 9223372036854775808.0; // 2^63, exact as a double
+    const double seconds = durationMs / 1000.0;
+    if (!std::isfinite(seconds) || seconds < -limit || seconds >= limit)
+        fatalError("the duration of a track is not representable in whole seconds");
+    return static_cast<std::int64_t>(seconds);
+}
+
+std::optional<platform::HttpRequest> lyricsRequest(const Track& track) {
+    const auto& constants = platform::services().constants;
+    auto url = requestURL(constants.lyricsOrigin, track);
+    if (!url)
+        return std::nullopt;
+    return platform::HttpRequest{
+        .url = std::move(*url),
+        .headers = {{"User-Agent", "Brellowind v0.1 (" + constants.websiteURL + ")"}},
+        .maximumBodyBytes = maximumBodyBytes,
+    };
+}
+
+} // namespace
+
+std::optional<std::string> requestURL(std::string_view origin, const Track& track) {
+    const std::string duration = std::to_string(wholeSeconds(track.durationMs));
+    const std::pair<std::string_view, std::string_view> items[] = {
+        {"track_name", track.title},
+        {"artist_name", track.artist},
+        {"album_name", track.album},
+        {"duration", duration},
+    };
+    std::string url(origin);
+    url += "/api/get";
+    char separator = '?';
+    for (const auto& [name, value] : items) {
+        if (!utf8::isValid(value))
+            return std::nullopt;
+        url += separator;
+        url += name;
+        url += '=';
+        appendEscaped(url, value);
+        separator = '&';
+    }
+    return url;
+}
+
+LyricsState interpret(int status, std::string_view body) {
+    if (status == notFoundStatus)
+        return LyricsState::notFound();
+    auto response = decode(body); // of any other status: an error may answer with an object, too
+    if (!response)
+        return LyricsState::failed();
+    const auto& [synced, plain] = *response;
+    if (synced && !synced->empty()) {
+        auto lines = LRCParser::parse(*synced);
+        return lines.empty() ? LyricsState::notFound() : LyricsState::loaded(std::move(lines));
+    }
+    if (plain && !plain->empty())
+        return LyricsState::plain(std::move(*response->plainLyrics));
+    return LyricsState::notFound();
+}
+
+Task<LyricsState> fetch(Track track) {
+    auto request = lyricsRequest(track);
+    if (!request)
+        co_return LyricsState::failed();
+    const auto result = co_await platform::fetch(std::move(*request));
+    const auto* response = std::get_if<platform::HttpResponse>(&result);
+    co_return response ? interpret(response->status, response->body) : LyricsState::failed();
+}
+
+} // namespace brellowind::LrclibAPI

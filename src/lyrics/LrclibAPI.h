@@ -1,0 +1,30 @@
+#pragma once
+
+#include "foundation/Task.h"
+#include "lyrics/LyricsState.h"
+#include "playback/Track.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// The LRCLIB lyrics service.
+namespace brellowind::LrclibAPI {
+
+/// A longer answer counts as a transport failure.
+inline constexpr std::size_t maximumBodyBytes = 4 * 1024 * 1024;
+
+/// The address that asks `origin` for the lyrics of `track`. Absent when a text of the track is not
+/// valid UTF-8. A duration that is not finite, or whose whole seconds do not fit 64 bits, stops the
+/// program.
+std::optional<std::string> requestURL(std::string_view origin, const Track& track);
+
+/// What an answer of the service means: `loaded`, `plain`, `notFound` or `failed`.
+LyricsState interpret(int status, std::string_view body);
+
+/// Asks the service once for the lyrics of `track`. Every failure, cancellation included, is
+/// `failed`; nothing is retried.
+Task<LyricsState> fetch(Track track);
+
+} // namespace brellowind::LrclibAPI

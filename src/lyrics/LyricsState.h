@@ -1,0 +1,47 @@
+#pragma once
+
+#include "lyrics/LyricLine.h"
+
+#include <string>
+#include <vector>
+
+namespace brellowind {
+
+/// What is known of a track's lyrics.
+class LyricsState {
+public:
+    enum class Case {
+        idle,     ///< no track
+        loading,  ///< a fetch is under way
+        loaded,   ///< synchronised lines, sorted by time, at least one
+        plain,    ///< only words without times, not empty
+        notFound, ///< the service has no lyrics for the track
+        failed,   ///< the fetch failed
+    };
+
+    static LyricsState idle() { return LyricsState(Case::idle); }
+    static LyricsState loading() { return LyricsState(Case::loading); }
+    static LyricsState loaded(std::vector<LyricLine> lines);
+    static LyricsState plain(std::string text);
+    static LyricsState notFound() { return LyricsState(Case::notFound); }
+    static LyricsState failed() { return LyricsState(Case::failed); }
+
+    Case which() const { return case_; }
+
+    /// The lines of a `loaded` state; empty in every other.
+    const std::vector<LyricLine>& lines() const { return lines_; }
+
+    /// The words of a `plain` state; empty in every other.
+    const std::string& text() const { return text_; }
+
+    bool operator==(const LyricsState&) const = default;
+
+private:
+    explicit LyricsState(Case which) : case_(which) {}
+
+    Case case_;
+    std::vector<LyricLine> lines_;
+    std::string text_;
+};
+
+} // namespace brellowind

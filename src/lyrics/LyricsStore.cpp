@@ -1,0 +1,58 @@
+#include "lyrics/LyricsStore.h"
+
+#include "lyrics/LrclibAPI.h"
+#include "platform/Services.h"
+
+#include <utility>
+
+namespace brellowind {
+
+std::shared_ptr<LyricsStore> LyricsStore::create() {
+    return std::shared_ptr<LyricsStore>(new LyricsStore);
+}
+
+void LyricsStore::load(const Track& track) {
+    auto id = track.id();
+    if (currentTrackID_ == id)
+        return;
+    currentTrackID_ = std::move(id);
+    if (task_)
+        task_->cancel();
+    state.set(State::loading());
+    task_ = platform::services().tasks.start(fetchInto(weak_from_this(), track));
+}
+
+void LyricsStore::clear() {
+    if (task_)
+        task_->cancel();
+    currentTrackID_.reset();
+    state.set(State::idle());
+}
+
+Task<void> LyricsStore::fetchInto(std::weak_ptr<LyricsStore> weakStore, Track track) {
+    auto result = co_await LrclibAPI::fetch(std::move(track));
+    // A later load or clear has cancelled this task before it resumes: its answer is stale.
+    if ((co_await CurrentStopToken{}).stop_requested())
+        co_return;
+    if (const auto store = weakStore.lock())
+        store->state.set(std::move(result));
+}
+
+std::optional<std::size_t> LyricsStore::activeIndex(double seconds) const {
+    const auto& all = lines();
+    std::optional<std::size_t> active;
+    std::size_t low = 0;
+    std::size_t end = all.size();
+    while (low < end) {
+        const std::size_t middle = low + (end - low) / 2;
+        if (all[middle].time <= seconds) {
+            active = middle;
+            low = middle + 1;
+        } else {
+            end = middle;
+        }
+    }
+    return active;
+}
+
+} // namespace brellowind

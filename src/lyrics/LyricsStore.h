@@ -1,0 +1,50 @@
+#pragma once
+
+#include "foundation/Published.h"
+#include "foundation/Task.h"
+#include "lyrics/LyricsState.h"
+#include "platform/TaskRunner.h"
+#include "playback/Track.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brellowind {
+
+/// Holds the lyrics of the current track. The answer for an earlier track never overwrites what is
+/// known of a later one. Main thread only.
+class LyricsStore : public std::enable_shared_from_this<LyricsStore> {
+public:
+    using State = LyricsState;
+
+    static std::shared_ptr<LyricsStore> create();
+
+    /// Starts to load the lyrics of `track`. Does nothing when its `id` is the current one, however
+    /// the earlier load ended.
+    void load(const Track& track);
+
+    /// Forgets the current track; a fetch under way is cancelled.
+    void clear();
+
+    /// The lines of a `loaded` state, valid until `state` changes; empty in every other state.
+    const std::vector<LyricLine>& lines() const { return state->lines(); }
+
+    /// The index of the last line whose time is not after `seconds`. Absent before the first line
+    /// and when no lines are loaded.
+    std::optional<std::size_t> activeIndex(double seconds) const;
+
+    Published<State, LyricsStore> state{State::idle()};
+
+private:
+    LyricsStore() = default;
+
+    static Task<void> fetchInto(std::weak_ptr<LyricsStore> store, Track track);
+
+    std::optional<std::string> currentTrackID_;
+    std::optional<TaskHandle> task_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,16 @@
+#include "platform/HttpClient.h"
+
+#include "platform/Operation.h"
+
+namespace brellowind::platform {
+
+Task<HttpResult> fetch(HttpRequest request) {
+    Operation<Transfer, HttpResult> operation(
+        [&request](HttpClient::Completion completion) {
+            return services().http.send(request, std::move(completion));
+        },
+        TransportError{"cancelled"});
+    co_return co_await operation;
+}
+
+} // namespace brellowind::platform

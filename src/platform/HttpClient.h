@@ -1,0 +1,59 @@
+#pragma once
+
+#include "foundation/Task.h"
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace brellowind::platform {
+
+/// A GET request.
+struct HttpRequest {
+    std::string url; ///< absolute and percent-encoded
+    std::vector<std::pair<std::string, std::string>> headers;
+    std::size_t maximumBodyBytes; ///< a longer body is a transport failure
+    std::chrono::milliseconds timeout = std::chrono::seconds(60); ///< for the whole transfer
+};
+
+struct HttpResponse {
+    int status;
+    std::string body;
+};
+
+/// No answer arrived: no connection, time-out, cancellation, an unsafe redirect, a body too long.
+struct TransportError {
+    std::string description;
+};
+
+using HttpResult = std::variant<HttpResponse, TransportError>;
+
+/// A running transfer. Destroying it aborts it and closes its connection.
+class Transfer {
+public:
+    virtual ~Transfer() = default;
+};
+
+/// The process-wide HTTP client. It follows redirects, but never from https to http, verifies TLS
+/// certificates, and keeps no cookies.
+class HttpClient {
+public:
+    using Completion = std::function<void(HttpResult)>;
+
+    virtual ~HttpClient() = default;
+
+    /// Calls `completion` once, later, on the main thread, unless the transfer is destroyed first;
+    /// `completion` may destroy the transfer.
+    virtual std::unique_ptr<Transfer> send(const HttpRequest& request, Completion completion) = 0;
+};
+
+/// Sends `request` through the process-wide client. Cancelling the task aborts the transfer and
+/// gives a transport error.
+Task<HttpResult> fetch(HttpRequest request);
+
+} // namespace brellowind::platform

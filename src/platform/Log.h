@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string_view>
+
+namespace brellowind::platform {
+
+/// The system log.
+class Log {
+public:
+    virtual ~Log() = default;
+
+    /// Writes one line; `line` carries no line end.
+    virtual void write(std::string_view line) = 0;
+};
+
+} // namespace brellowind::platform

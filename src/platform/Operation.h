@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/Services.h"
+
+#include <coroutine>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace brellowind::platform {
+
+/// Awaits something that the machine finishes later.
+///
+/// `begin` starts it and returns its owner; destroying the owner abandons it. The awaiting task
+/// resumes with what the machine reports, or, when it is cancelled first, with `cancelled` on the
+/// next turn of the main loop: the operation itself is abandoned at once.
+template <typename Owner, typename Result>
+class Operation {
+public:
+    using Finish = std::function<void(Result)>;
+    using Begin = std::function<std::unique_ptr<Owner>(Finish)>;
+
+    Operation(Begin begin, Result cancelled)
+        : begin_(std::move(begin)), cancelled_(std::move(cancelled)) {}
+    Operation(const Operation&) = delete;
+    Operation& operator=(const Operation&) = delete;
+
+    bool await_ready() const noexcept { return false; }
+
+    template <typename Promise>
+    bool await_suspend(std::coroutine_handle<Promise> awaiting) {
+        const std::stop_token& token = awaiting.promise().stopToken;
+        if (token.stop_requested()) {
+            result_ = std::move(cancelled_);
+            return false;
+        }
+        awaiting_ = awaiting;
+        owner_ = begin_([this](Result result) {
+            onStop_.reset();
+            result_ = std::move(result);
+            awaiting_.resume();
+        });
+        onStop_.emplace(token, Abandon{this});
+        return true;
+    }
+
+    Result await_resume() { return std::move(*result_); }
+
+private:
+    struct Abandon {
+        Operation* operation;
+        void operator()() const { operation->abandon(); }
+    };
+
+    void abandon() {
+        owner_.reset();
+        result_ = std::move(cancelled_);
+        resumption_ = services().mainLoop.scheduleOnce(std::chrono::milliseconds(0),
+                                                       [this] { awaiting_.resume(); });
+    }
+
+    Begin begin_;
+    Result cancelled_;
+    std::coroutine_handle<> awaiting_;
+    std::optional<Result> result_;
+    std::unique_ptr<Owner> owner_;
+    std::unique_ptr<Timer> resumption_;
+    std::optional<std::stop_callback<Abandon>> onStop_;
+};
+
+} // namespace brellowind::platform

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "foundation/Task.h"
+
+#include <chrono>
+
+namespace brellowind::platform {
+
+/// Suspends the task for `duration`. False when the task was cancelled first.
+Task<bool> sleep(std::chrono::milliseconds duration);
+
+} // namespace brellowind::platform

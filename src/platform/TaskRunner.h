@@ -1,0 +1,48 @@
+#pragma once
+
+#include "foundation/Task.h"
+#include "platform/MainLoop.h"
+
+#include <list>
+#include <memory>
+#include <stop_token>
+
+namespace brellowind {
+
+/// A started task, to request its cancellation with. Dropping it changes nothing for the task.
+class TaskHandle {
+public:
+    explicit TaskHandle(std::stop_source source) : source_(std::move(source)) {}
+
+    void cancel() { source_.request_stop(); }
+
+private:
+    std::stop_source source_;
+};
+
+/// Runs tasks to their end on the main thread. Destroying it destroys those that are suspended.
+class TaskRunner {
+public:
+    explicit TaskRunner(platform::MainLoop& mainLoop);
+    TaskRunner(const TaskRunner&) = delete;
+    TaskRunner& operator=(const TaskRunner&) = delete;
+    ~TaskRunner();
+
+    /// `task` begins on the next turn of the main loop.
+    TaskHandle start(Task<void> task);
+
+    /// How many tasks have started and not ended.
+    std::size_t running() const { return roots_.size(); }
+
+private:
+    struct Root;
+    struct Frame;
+    using Position = std::list<std::unique_ptr<Root>>::iterator;
+
+    Frame run(Task<void> task, Position position);
+
+    platform::MainLoop& mainLoop_;
+    std::list<std::unique_ptr<Root>> roots_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/RunningApplications.h"
+#include "platform/Scripting.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QStringList>
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QDBusPendingCallWatcher;
+
+namespace brellowind::platform {
+
+/// What the player's own scripts and identifier mean on the session bus.
+struct MprisVocabulary {
+    std::string bundleIdentifier;
+    std::string readOutScript;
+    std::string playPauseScript;
+    std::vector<std::string> players; ///< bus names after "org.mpris.MediaPlayer2."
+};
+
+/// Stands for the player application: a process that owns one of the players' bus names, or one of
+/// its ".instance…" forms, counts as the running application; the read-out script is answered from
+/// one `Properties.GetAll`, the play/pause script by `PlayPause`.
+///
+/// A player that does not answer costs one wait of `patience`; from then on every execution fails at
+/// once until the player answers again.
+class MprisPlayer final : public Scripting, public RunningApplications {
+public:
+    static constexpr std::chrono::milliseconds patience{200};
+
+    explicit MprisPlayer(MprisVocabulary vocabulary);
+    ~MprisPlayer() override;
+
+    ScriptOutcome execute(std::string_view source) override;
+    std::vector<std::optional<std::string>> bundleIdentifiers() override;
+
+private:
+    ScriptOutcome readOut();
+    ScriptOutcome playPause();
+
+    /// The bus names that count, the plain ones first.
+    QStringList runningPlayers() const;
+    QDBusMessage call(const QDBusMessage& request);
+    void awaitRecovery(const QString& player);
+
+    MprisVocabulary vocabulary_;
+    QDBusConnection bus_;
+    std::unique_ptr<QDBusPendingCallWatcher> recovery_; ///< there while the player hangs
+};
+
+} // namespace brellowind::platform

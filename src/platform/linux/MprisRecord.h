@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QVariantMap>
+#include <string>
+
+namespace brellowind::platform {
+
+/// The answer to the read-out script, made from the properties of `org.mpris.MediaPlayer2.Player`.
+///
+/// Lenient with what real players send: a property that is absent or of a type that cannot be read
+/// becomes an empty field; `mpris:length` and `Position` may be any integer type or a double, in
+/// microseconds; `xesam:artist` may be a list, whose first entry counts, or a text.
+std::string mprisRecord(const QVariantMap& properties);
+
+} // namespace brellowind::platform

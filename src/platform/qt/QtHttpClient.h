@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/HttpClient.h"
+
+#include <QNetworkAccessManager>
+
+namespace brellowind::platform {
+
+/// HTTP through one `QNetworkAccessManager`.
+class QtHttpClient final : public HttpClient {
+public:
+    std::unique_ptr<Transfer> send(const HttpRequest& request, Completion completion) override;
+
+private:
+    QNetworkAccessManager manager_;
+};
+
+} // namespace brellowind::platform

@@ -1,0 +1,71 @@
+#include "platform/qt/QtMainLoop.h"
+
+#include <QAbstractEventDispatcher>
+#include <QObject>
+#include <QTimerEvent>
+#include <utility>
+
+namespace brellowind::platform {
+namespace {
+
+enum class Repeat { never, always };
+
+class QtTimer final : public QObject, public Timer {
+public:
+    QtTimer(std::chrono::milliseconds interval, Repeat repeat, MainLoop::Handler handler)
+        : handler_(std::make_shared<MainLoop::Handler>(std::move(handler))), repeat_(repeat),
+          id_(startTimer(interval, Qt::PreciseTimer)) {}
+
+protected:
+    void timerEvent(QTimerEvent* event) override {
+        if (event->timerId() != id_)
+            return;
+        if (repeat_ == Repeat::never)
+            killTimer(id_);
+        const auto handler = handler_; // it may destroy this timer
+        (*handler)();
+    }
+
+private:
+    std::shared_ptr<MainLoop::Handler> handler_;
+    Repeat repeat_;
+    int id_;
+};
+
+/// Runs just before the loop rests; `awake` covers loops that are driven without resting.
+class QtNextTurn final : public QObject, public NextTurn {
+public:
+    explicit QtNextTurn(MainLoop::Handler handler) : handler_(std::move(handler)) {
+        const auto* dispatcher = QAbstractEventDispatcher::instance();
+        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &QtNextTurn::run);
+        connect(dispatcher, &QAbstractEventDispatcher::awake, this, &QtNextTurn::run);
+    }
+
+    void request() override { requested_ = true; }
+
+private:
+    void run() {
+        if (std::exchange(requested_, false))
+            handler_();
+    }
+
+    MainLoop::Handler handler_;
+    bool requested_ = false;
+};
+
+} // namespace
+
+std::unique_ptr<Timer> QtMainLoop::scheduleOnce(std::chrono::milliseconds delay, Handler handler) {
+    return std::make_unique<QtTimer>(delay, Repeat::never, std::move(handler));
+}
+
+std::unique_ptr<Timer> QtMainLoop::scheduleRepeating(std::chrono::milliseconds interval,
+                                                     Handler handler) {
+    return std::make_unique<QtTimer>(interval, Repeat::always, std::move(handler));
+}
+
+std::unique_ptr<NextTurn> QtMainLoop::onNextTurn(Handler handler) {
+    return std::make_unique<QtNextTurn>(std::move(handler));
+}
+
+} // namespace brellowind::platform

@@ -1,0 +1,70 @@
+#include "playback/NowPlaying.h"
+
+#include "platform/Services.h"
+#include "platform/Sleep.h"
+#include "playback/SpotifyBridge.h"
+
+#include <utility>
+
+namespace brellowind {
+
+using platform::services;
+
+std::shared_ptr<NowPlaying> NowPlaying::create() {
+    return std::shared_ptr<NowPlaying>(new NowPlaying);
+}
+
+NowPlaying::NowPlaying() : lastSyncDate_(services().clock.now()) {}
+
+void NowPlaying::start() {
+    stop();
+    poll();
+    auto& mainLoop = services().mainLoop;
+    timer_ = mainLoop.scheduleRepeating(pollInterval, [this] { poll(); });
+    ticker_ = mainLoop.scheduleRepeating(tickInterval, [this] { tick(); });
+}
+
+void NowPlaying::stop() {
+    timer_.reset();
+    ticker_.reset();
+}
+
+void NowPlaying::togglePlayPause() {
+    isPlaying.set(!isPlaying.get());
+    SpotifyBridge::playPause();
+    services().tasks.start(confirmToggle(shared_from_this()));
+}
+
+Task<void> NowPlaying::confirmToggle(std::shared_ptr<NowPlaying> self) {
+    co_await platform::sleep(confirmationDelay);
+    self->poll();
+}
+
+void NowPlaying::poll() {
+    if (!SpotifyBridge::isRunning()) {
+        if (track.get()) {
+            track.set(std::nullopt);
+            isPlaying.set(false);
+        }
+        return;
+    }
+    auto reading = SpotifyBridge::snapshot();
+    if (!reading)
+        return;
+    if (!track.get() || track->value().id() != reading->track.id())
+        track.set(std::move(reading->track));
+    isPlaying.set(reading->isPlaying);
+    positionSec.set(reading->positionSec);
+    lastSyncDate_ = services().clock.now();
+}
+
+void NowPlaying::tick() {
+    if (!isPlaying.get())
+        return;
+    const auto now = services().clock.now();
+    const std::chrono::duration<double> elapsed = now - lastSyncDate_;
+    positionSec.set(positionSec.get() + elapsed.count());
+    lastSyncDate_ = now;
+}
+
+} // namespace brellowind

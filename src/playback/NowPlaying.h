@@ -1,0 +1,52 @@
+#pragma once
+
+#include "foundation/Published.h"
+#include "foundation/Task.h"
+#include "platform/Clock.h"
+#include "platform/MainLoop.h"
+#include "playback/Track.h"
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+namespace brellowind {
+
+/// What Spotify plays, whether it plays, and where playback stands. It asks the player once a
+/// second and advances the position itself in between. Main thread only.
+class NowPlaying : public std::enable_shared_from_this<NowPlaying> {
+public:
+    static constexpr std::chrono::milliseconds pollInterval{1000};
+    static constexpr std::chrono::milliseconds tickInterval{50};
+    static constexpr std::chrono::milliseconds confirmationDelay{150};
+
+    /// Idle: the player is not asked before `start()`.
+    static std::shared_ptr<NowPlaying> create();
+
+    /// Begins monitoring with a reading at once. Monitoring already, it begins anew.
+    void start();
+
+    /// Ends monitoring; the published properties keep their values.
+    void stop();
+
+    /// Flips `isPlaying` at once, sends the play/pause command, and asks the player 150 ms later
+    /// what came of it.
+    void togglePlayPause();
+
+    Published<std::optional<Track>, NowPlaying> track{std::nullopt}; ///< absent: not running
+    Published<bool, NowPlaying> isPlaying{false};
+    Published<double, NowPlaying> positionSec{0}; ///< seconds; never clamped to the duration
+
+private:
+    NowPlaying();
+
+    void poll();
+    void tick();
+    static Task<void> confirmToggle(std::shared_ptr<NowPlaying> self);
+
+    std::unique_ptr<platform::Timer> timer_;
+    std::unique_ptr<platform::Timer> ticker_;
+    platform::WallTime lastSyncDate_; ///< when `positionSec` was last read or advanced
+};
+
+} // namespace brellowind

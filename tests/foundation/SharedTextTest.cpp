@@ -1,0 +1,37 @@
+#include "foundation/SharedText.h"
+
+#include <gtest/gtest.h>
+
+namespace brellowind {
+namespace {
+
+TEST(SharedText, ComparesByItsBytes) {
+    EXPECT_EQ(SharedText("chorus"), SharedText("chorus"));
+    EXPECT_EQ(SharedText("chorus"), "chorus");
+    EXPECT_NE(SharedText("chorus"), "verse");
+    EXPECT_EQ(SharedText(), "");
+}
+
+TEST(SharedText, CopiesShareTheBytes) {
+    const SharedText original("a text that is long enough to need memory of its own");
+    const SharedText copy = original; // NOLINT(performance-unnecessary-copy-initialization)
+    EXPECT_EQ(copy.view().data(), original.view().data());
+}
+
+TEST(SharedText, OutlivesTheBufferHandleItWasCutFrom) {
+    SharedText text;
+    {
+        const auto buffer = SharedText::copyBytes("one two");
+        text = SharedText(buffer, std::string_view(buffer.get() + 4, 3));
+    }
+    EXPECT_EQ(text, "two");
+}
+
+TEST(SharedText, ReadsAsAString) {
+    const SharedText text("words");
+    const std::string string = text;
+    EXPECT_EQ(string, "words");
+}
+
+} // namespace
+} // namespace brellowind

@@ -1,0 +1,40 @@
+#include "foundation/UUID.h"
+
+#include <gtest/gtest.h>
+#include <regex>
+#include <set>
+
+namespace brellowind {
+namespace {
+
+TEST(UUID, IsOfVersion4AndTheStandardVariant) {
+    const std::regex form("[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}");
+    for (int i = 0; i < 1000; ++i) {
+        const auto text = UUID::random().string();
+        EXPECT_TRUE(std::regex_match(text, form)) << text;
+    }
+}
+
+TEST(UUID, IsFreshEachTime) {
+    std::set<std::string> seen;
+    for (int i = 0; i < 10000; ++i)
+        seen.insert(UUID::random().string());
+    EXPECT_EQ(seen.size(), 10000U);
+}
+
+TEST(UUID, EveryOtherBitTakesBothValues) {
+    UUID ones;
+    UUID zeros;
+    for (int i = 0; i < 200; ++i) {
+        const auto id = UUID::random();
+        for (std::size_t word = 0; word < 2; ++word) {
+            ones.words[word] |= id.words[word];
+            zeros.words[word] |= ~id.words[word];
+        }
+    }
+    EXPECT_EQ(ones.words[0] & zeros.words[0], ~std::uint64_t{0xF000});
+    EXPECT_EQ(ones.words[1] & zeros.words[1], ~std::uint64_t{0xC000'0000'0000'0000});
+}
+
+} // namespace
+} // namespace brellowind

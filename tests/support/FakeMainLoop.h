@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/MainLoop.h"
+
+#include <list>
+
+namespace brellowind::test {
+
+/// A main loop that runs only when a test says so, on a time that only the test moves.
+class FakeMainLoop final : public platform::MainLoop {
+public:
+    std::unique_ptr<platform::Timer> scheduleOnce(std::chrono::milliseconds delay,
+                                                  Handler handler) override;
+    std::unique_ptr<platform::Timer> scheduleRepeating(std::chrono::milliseconds interval,
+                                                       Handler handler) override;
+    std::unique_ptr<platform::NextTurn> onNextTurn(Handler handler) override;
+
+    /// Runs what is due until nothing is, without moving time.
+    void runTurns() { advance(std::chrono::milliseconds(0)); }
+
+    /// Moves time forward by `duration`, running each timer at its own moment.
+    void advance(std::chrono::milliseconds duration);
+
+    std::chrono::milliseconds elapsed() const { return now_; }
+    std::size_t timerCount() const { return timers_.size(); }
+
+    /// How many repeating timers of `interval` are scheduled.
+    std::size_t repeatingTimerCount(std::chrono::milliseconds interval) const;
+
+private:
+    class FakeTimer;
+    class FakeNextTurn;
+
+    FakeTimer* nextDue(std::chrono::milliseconds until) const;
+    void runNextTurns();
+
+    std::chrono::milliseconds now_{0};
+    std::list<FakeTimer*> timers_; ///< in order of scheduling
+    std::list<FakeNextTurn*> nextTurns_;
+};
+
+} // namespace brellowind::test

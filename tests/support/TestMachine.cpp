@@ -1,0 +1,53 @@
+#include "support/TestMachine.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brellowind::test {
+namespace {
+
+class FakeTransfer final : public platform::Transfer {
+public:
+    explicit FakeTransfer(std::shared_ptr<FakeHttpClient::Pending> pending)
+        : pending_(std::move(pending)) {}
+
+    ~FakeTransfer() override {
+        if (std::exchange(pending_->completion, nullptr))
+            pending_->aborted = true;
+    }
+
+private:
+    std::shared_ptr<FakeHttpClient::Pending> pending_;
+};
+
+} // namespace
+
+std::size_t FakeScripting::count(std::string_view source) const {
+    return static_cast<std::size_t>(std::ranges::count(executed, source));
+}
+
+std::unique_ptr<platform::Transfer> FakeHttpClient::send(const platform::HttpRequest& request,
+                                                         Completion completion) {
+    requests.push_back(std::make_shared<Pending>(request, std::move(completion)));
+    return std::make_unique<FakeTransfer>(requests.back());
+}
+
+void FakeHttpClient::answer(std::size_t index, platform::HttpResult result) {
+    if (const auto completion = std::exchange(requests.at(index)->completion, nullptr))
+        completion(std::move(result));
+}
+
+TestMachine::TestMachine()
+    : constants{.version = "1.0",
+                .lyricsOrigin = "https://lyrics.example",
+                .websiteURL = "https://brellowind.example"},
+      scope_({.mainLoop = mainLoop,
+              .tasks = tasks,
+              .clock = clock,
+              .log = log,
+              .http = http,
+              .scripting = scripting,
+              .runningApplications = runningApplications,
+              .constants = constants}) {}
+
+} // namespace brellowind::test

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "platform/Services.h"
+#include "support/FakeMainLoop.h"
+
+#include <functional>
+#include <list>
+#include <string>
+#include <vector>
+
+namespace brellowind::test {
+
+/// A wall clock that runs with the fake main loop and can be put forward or back.
+class FakeClock final : public platform::Clock {
+public:
+    explicit FakeClock(const FakeMainLoop& loop) : loop_(loop) {}
+
+    platform::WallTime now() const override { return start_ + loop_.elapsed() + shift; }
+
+    std::chrono::milliseconds shift{0};
+
+private:
+    const FakeMainLoop& loop_;
+    platform::WallTime start_{std::chrono::hours(24 * 365 * 50)};
+};
+
+class FakeLog final : public platform::Log {
+public:
+    void write(std::string_view line) override { lines.emplace_back(line); }
+
+    std::vector<std::string> lines;
+};
+
+/// Answers every script with what `answer` returns and remembers the scripts.
+class FakeScripting final : public platform::Scripting {
+public:
+    platform::ScriptOutcome execute(std::string_view source) override {
+        executed.emplace_back(source);
+        return answer(executed.back());
+    }
+
+    /// How often `source` was executed.
+    std::size_t count(std::string_view source) const;
+
+    std::function<platform::ScriptOutcome(const std::string&)> answer = [](const auto&) {
+        return platform::ScriptOutcome{};
+    };
+    std::vector<std::string> executed;
+};
+
+class FakeRunningApplications final : public platform::RunningApplications {
+public:
+    std::vector<std::optional<std::string>> bundleIdentifiers() override {
+        ++readings;
+        return running;
+    }
+
+    std::vector<std::optional<std::string>> running;
+    int readings = 0;
+};
+
+/// Holds every request until the test answers it.
+class FakeHttpClient final : public platform::HttpClient {
+public:
+    struct Pending {
+        platform::HttpRequest request;
+        Completion completion;
+        bool aborted = false;
+
+        Pending(platform::HttpRequest request_, Completion completion_)
+            : request(std::move(request_)), completion(std::move(completion_)) {}
+    };
+
+    std::unique_ptr<platform::Transfer> send(const platform::HttpRequest& request,
+                                             Completion completion) override;
+
+    /// Ends the transfer of the `index`-th request ever sent.
+    void answer(std::size_t index, platform::HttpResult result);
+
+    std::vector<std::shared_ptr<Pending>> requests;
+};
+
+/// The whole machine of one test, installed for as long as it lives.
+class TestMachine {
+public:
+    TestMachine();
+
+    FakeMainLoop mainLoop;
+    TaskRunner tasks{mainLoop};
+    FakeClock clock{mainLoop};
+    FakeLog log;
+    FakeHttpClient http;
+    FakeScripting scripting;
+    FakeRunningApplications runningApplications;
+    platform::ProductConstants constants;
+
+private:
+    platform::ServicesScope scope_;
+};
+
+} // namespace brellowind::test
