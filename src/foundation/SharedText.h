@@ -21,8 +21,7 @@ public:
     explicit SharedText(std::string_view text);
 
     /// Shares `buffer`; `slice` must lie inside it.
-    SharedText(Buffer buffer, std::string_view slice)
-        : buffer_(std::move(buffer)), slice_(slice) {}
+    SharedText(Buffer buffer, std::string_view slice) : buffer_(std::move(buffer)), slice_(slice) {}
 
     /// A buffer that holds the bytes of `text`, for several texts to share.
     static Buffer copyBytes(std::string_view text);
@@ -33,9 +32,13 @@ public:
     std::size_t size() const { return slice_.size(); }
 
     operator std::string_view() const { return slice_; } // NOLINT(google-explicit-constructor)
-    operator std::string() const { return std::string(slice_); } // NOLINT(google-explicit-constructor)
+    operator std::string() const {
+        return std::string(slice_);
+    } // NOLINT(google-explicit-constructor)
 
-    friend bool operator==(const SharedText& a, const SharedText& b) { return a.slice_ == b.slice_; }
+    friend bool operator==(const SharedText& a, const SharedText& b) {
+        return a.slice_ == b.slice_;
+    }
     friend bool operator==(const SharedText& a, std::string_view b) { return a.slice_ == b; }
     friend std::ostream& operator<<(std::ostream& out, const SharedText& text) {
         return out << text.slice_;

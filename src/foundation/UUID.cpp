@@ -8,8 +8,8 @@ namespace {
 
 std::mt19937_64 seededGenerator() {
     std::random_device device;
-    std::seed_seq seed{device(), device(), device(), device(), device(), device(), device(),
-                       device()};
+    std::seed_seq seed{device(), device(), device(), device(),
+                       device(), device(), device(), device()};
     return std::mt19937_64(seed);
 }
 

@@ -105,8 +105,8 @@ std::optional<Tag> nextTag(const char* position, const char* end) {
     return std::nullopt;
 }
 
-/// The line feed that ends the piece `position` is in. One that follows a carriage return ends none:
-/// the two are a single character. `position` is not the first byte of the text.
+/// The line feed that ends the piece `position` is in. One that follows a carriage return ends
+/// none: the two are a single character. `position` is not the first byte of the text.
 const char* endOfPiece(const char* position, const char* end) {
     auto feed = find(position, end, '\n');
     while (feed != end && feed[-1] == '\r')
@@ -164,8 +164,8 @@ std::vector<LyricLine> parse(std::string_view text) {
     const auto buffer = SharedText::copyBytes(text);
     for (const auto& piece : pieces) {
         const auto offset = piece.text.data() - text.data();
-        lines.emplace_back(
-            piece.time, SharedText(buffer, std::string_view(buffer.get() + offset, piece.text.size())));
+        lines.emplace_back(piece.time, SharedText(buffer, std::string_view(buffer.get() + offset,
+                                                                           piece.text.size())));
     }
     return lines;
 }

@@ -16,8 +16,8 @@ struct LyricLine {
 
     bool operator==(const LyricLine&) const = default;
 
-    const UUID id; ///< drawn anew for every line that is made
-    const double time; ///< seconds from the start of the track
+    const UUID id;         ///< drawn anew for every line that is made
+    const double time;     ///< seconds from the start of the track
     const SharedText text; ///< may be empty
 };
 

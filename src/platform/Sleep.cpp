@@ -7,8 +7,8 @@ namespace brellowind::platform {
 Task<bool> sleep(std::chrono::milliseconds duration) {
     Operation<Timer, bool> operation(
         [duration](Operation<Timer, bool>::Finish finish) {
-            return services().mainLoop.scheduleOnce(
-                duration, [finish = std::move(finish)] { finish(true); });
+            return services().mainLoop.scheduleOnce(duration,
+                                                    [finish = std::move(finish)] { finish(true); });
         },
         false);
     co_return co_await operation;

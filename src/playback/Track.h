@@ -20,7 +20,7 @@ struct Track {
     std::string title;
     std::string artist;
     std::string album;
-    double durationMs;                     ///< milliseconds; 0 when the player's value was unreadable
+    double durationMs; ///< milliseconds; 0 when the player's value was unreadable
     std::optional<std::string> artworkURL; ///< kept as text; absent when the player reported none
 };
 

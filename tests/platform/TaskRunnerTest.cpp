@@ -67,9 +67,7 @@ TEST(TaskRunner, ItsEndDestroysSuspendedTasksAndWhatTheyWaitFor) {
     test::TestMachine machine;
     {
         TaskRunner runner(machine.mainLoop);
-        const auto body = [](std::shared_ptr<int>) -> Task<void> {
-            co_await platform::sleep(1h);
-        };
+        const auto body = [](std::shared_ptr<int>) -> Task<void> { co_await platform::sleep(1h); };
         runner.start(body(held));
         machine.mainLoop.runTurns();
         EXPECT_EQ(held.use_count(), 2);

@@ -28,8 +28,8 @@ struct MprisVocabulary {
 /// its ".instance…" forms, counts as the running application; the read-out script is answered from
 /// one `Properties.GetAll`, the play/pause script by `PlayPause`.
 ///
-/// A player that does not answer costs one wait of `patience`; from then on every execution fails at
-/// once until the player answers again.
+/// A player that does not answer costs one wait of `patience`; from then on every execution fails
+/// at once until the player answers again.
 class MprisPlayer final : public Scripting, public RunningApplications {
 public:
     static constexpr std::chrono::milliseconds patience{200};

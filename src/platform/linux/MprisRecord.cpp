@@ -80,8 +80,8 @@ std::string numberField(std::optional<double> microseconds, double unit) {
     if (!microseconds)
         return {};
     std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
-                                   *microseconds / unit);
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), *microseconds / unit);
     return {digits.data(), end.ptr};
 }
 
