@@ -2,7 +2,9 @@
 
 add_library(brellowind_options INTERFACE)
 target_compile_options(brellowind_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+  -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+  # Compiled QML shadows its own parameters.
+  $<$<NOT:$<BOOL:$<TARGET_PROPERTY:BRELLOWIND_COMPILES_QML>>>:-Wshadow>
   $<$<BOOL:${BRELLOWIND_WARNINGS_AS_ERRORS}>:-Werror>)
 if(BRELLOWIND_SANITIZE)
   target_compile_options(brellowind_options INTERFACE

@@ -1,0 +1,80 @@
+#include "app/BrellowindApp.h"
+
+#include "app/AppDelegate.h"
+#include "app/CompiledConstants.h"
+#include "platform/Services.h"
+#include "platform/linux/MprisPlayer.h"
+#include "platform/linux/StderrLog.h"
+#include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtMainLoop.h"
+#include "platform/qt/SystemClock.h"
+#include "playback/SpotifyBridge.h"
+
+#include <QQuickWindow>
+#include <QSGRendererInterface>
+#include <sstream>
+
+namespace brellowind {
+namespace {
+
+platform::MprisVocabulary mprisVocabulary() {
+    platform::MprisVocabulary vocabulary{
+        .bundleIdentifier = std::string(SpotifyBridge::bundleIdentifier),
+        .readOutScript = std::string(SpotifyBridge::readOutScript),
+        .playPauseScript = std::string(SpotifyBridge::playPauseScript),
+        .players = {},
+    };
+    std::istringstream names(mprisPlayers);
+    for (std::string name; std::getline(names, name, ';');)
+        vocabulary.players.push_back(name);
+    return vocabulary;
+}
+
+} // namespace
+
+/// Destroyed from the bottom up: suspended tasks go before the services that they wait for.
+struct BrellowindApp::Machine {
+    explicit Machine(const platform::ProductConstants& productConstants)
+        : constants(productConstants) {}
+
+    platform::ProductConstants constants;
+    platform::QtMainLoop mainLoop;
+    platform::SystemClock clock;
+    platform::StderrLog log;
+    platform::QtHttpClient http;
+    platform::MprisPlayer player{mprisVocabulary()};
+    TaskRunner tasks{mainLoop};
+    platform::ServicesScope scope{{.mainLoop = mainLoop,
+                                   .tasks = tasks,
+                                   .clock = clock,
+                                   .log = log,
+                                   .http = http,
+                                   .scripting = player,
+                                   .runningApplications = player,
+                                   .constants = constants}};
+    AppDelegate delegate;
+};
+
+void BrellowindApp::prepare() {
+    // A pill is too small to need a graphics card, and takes a third of the memory without one.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)
+    : machine_(std::make_unique<Machine>(constants)) {}
+
+BrellowindApp::~BrellowindApp() = default;
+
+void BrellowindApp::launch() {
+    machine_->delegate.applicationDidFinishLaunching();
+}
+
+NotchRootView& BrellowindApp::rootView() {
+    return machine_->delegate.rootView();
+}
+
+QQuickWindow& BrellowindApp::window() {
+    return machine_->delegate.window();
+}
+
+} // namespace brellowind

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/ProductConstants.h"
+
+#include <memory>
+
+class QQuickWindow;
+
+namespace brellowind {
+
+class NotchRootView;
+
+/// The application: the services of this machine, and what is built on them. A `QGuiApplication`
+/// must live longer.
+class BrellowindApp {
+public:
+    /// What Qt wants to be told before its application object exists.
+    static void prepare();
+
+    explicit BrellowindApp(const platform::ProductConstants& constants);
+    BrellowindApp(const BrellowindApp&) = delete;
+    BrellowindApp& operator=(const BrellowindApp&) = delete;
+    ~BrellowindApp();
+
+    /// Creates the notch window and shows it. Called once.
+    void launch();
+
+    NotchRootView& rootView();
+    QQuickWindow& window(); ///< there once launched
+
+private:
+    struct Machine;
+    std::unique_ptr<Machine> machine_;
+};
+
+} // namespace brellowind

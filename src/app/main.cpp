@@ -1,0 +1,14 @@
+#include "app/BrellowindApp.h"
+#include "app/CompiledConstants.h"
+
+#include <QGuiApplication>
+
+int main(int argc, char** argv) {
+    argc = 1; // the program has no command line
+    brellowind::BrellowindApp::prepare();
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
+    brellowind::BrellowindApp app(brellowind::compiledConstants());
+    app.launch();
+    return QGuiApplication::exec();
+}
