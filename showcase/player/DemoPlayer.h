@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QElapsedTimer>
+#include <QVariantMap>
+
+/// The player's object on the bus, "/org/mpris/MediaPlayer2".
+///
+/// Beside the two MPRIS interfaces it has one of its own, "org.brellowind.DemoPlayer", through which
+/// the demo and the tests say what it plays:
+/// - `SetTrack(a{sv} metadata)`: another track, from its beginning
+/// - `SetPosition(x microseconds)`, `SetStatus(s status)`: "Playing", "Paused" or "Stopped"
+/// - `SetProperties(a{sv} properties)`: answers `GetAll` with exactly these from now on; with none,
+///   tells the truth again
+/// - `Requests() -> u`: how many calls of the MPRIS interfaces and `GetAll` it has answered
+/// - `Leave()`: ends the process
+class DemoPlayer : public QDBusVirtualObject {
+    Q_OBJECT
+
+public:
+    QString introspect(const QString& path) const override;
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+    void setTrack(const QVariantMap& metadata);
+    void setPlaying(bool playing);
+
+    /// Begins again whenever the track has ended.
+    bool loops = false;
+
+private:
+    QDBusMessage answerProperties(const QDBusMessage& message);
+    QDBusMessage answerPlayer(const QDBusMessage& message);
+    QDBusMessage answerControl(const QDBusMessage& message);
+
+    QVariantMap applicationProperties() const;
+    QVariantMap playerProperties() const;
+    qint64 positionUs() const;
+    void setPosition(qint64 microseconds);
+    void setStatus(const QString& status);
+
+    QVariantMap metadata_;
+    QVariantMap fixedProperties_;
+    QString status_ = QStringLiteral("Stopped");
+    qint64 startUs_ = 0; ///< the position when `sinceStart_` began
+    QElapsedTimer sinceStart_;
+    uint requests_ = 0;
+};

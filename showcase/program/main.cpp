@@ -1,0 +1,94 @@
+#include "Backdrop.h"
+#include "Companion.h"
+#include "Recorder.h"
+#include "app/BrellowindApp.h"
+#include "app/CompiledConstants.h"
+#include "service/DemoSong.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QTimer>
+#include <chrono>
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+using namespace brellowind;
+using namespace brellowind::demo;
+
+namespace {
+
+const auto secondsOption = QStringLiteral("seconds");
+const auto picturesOption = QStringLiteral("pictures");
+
+/// Long enough for the pill without music to be seen.
+constexpr std::chrono::milliseconds silence{1500};
+
+int complain(const char* message) {
+    std::fprintf(stderr, "brellowind-demo: %s\n", message);
+    return 1;
+}
+
+QStringList playerArguments(const DemoSong& song, const QString& origin) {
+    return {QStringLiteral("--title"),   song.title,
+            QStringLiteral("--artist"),  song.artist,
+            QStringLiteral("--album"),   song.album,
+            QStringLiteral("--length"),  QString::number(song.durationMs),
+            QStringLiteral("--artwork"), origin + QStringLiteral("/cover.png"),
+            QStringLiteral("--loop")};
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    BrellowindApp::prepare();
+    QGuiApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Shows the pill singing a built-in song."));
+    parser.addHelpOption();
+    parser.addOptions({{secondsOption, QStringLiteral("End after N seconds"), QStringLiteral("N")},
+                       {picturesOption, QStringLiteral("Save pictures into a folder"),
+                        QStringLiteral("folder")}});
+    parser.process(application);
+    bool isNumber = true;
+    const int seconds =
+        parser.isSet(secondsOption) ? parser.value(secondsOption).toInt(&isNumber) : 0;
+    if (!isNumber || seconds < 0 || (parser.isSet(secondsOption) && seconds == 0))
+        return complain("--seconds takes a whole number greater than 0");
+    if (!parser.positionalArguments().isEmpty())
+        return complain("nothing follows the options");
+
+    const auto song = DemoSong::load(QStringLiteral(BRELLOWIND_DEMO_SONG));
+    if (!song)
+        return complain("the demo song is not whole");
+    Companion service(QStringLiteral(BRELLOWIND_DEMO_SERVICE),
+                      {QStringLiteral(BRELLOWIND_DEMO_SONG)});
+    const QString origin = service.firstLine();
+    if (origin.isEmpty())
+        return complain("the demo lyrics service did not start");
+
+    auto constants = compiledConstants();
+    constants.lyricsOrigin = origin.toStdString();
+    BrellowindApp app(constants);
+    Recorder recorder(app);
+    std::optional<Backdrop> backdrop;
+    if (parser.isSet(picturesOption)) {
+        if (!recorder.savePictures(parser.value(picturesOption)))
+            return complain("the folder for the pictures cannot be written");
+        backdrop.emplace();
+        backdrop->show();
+    }
+    app.launch();
+
+    std::unique_ptr<Companion> player;
+    QTimer::singleShot(silence, &application, [&] {
+        player = std::make_unique<Companion>(QStringLiteral(BRELLOWIND_DEMO_PLAYER),
+                                             playerArguments(*song, origin));
+    });
+    if (seconds > 0)
+        QTimer::singleShot(std::chrono::seconds(seconds), &application, &QGuiApplication::quit);
+    const int status = QGuiApplication::exec();
+    if (recorder.failed())
+        return complain("a picture could not be saved");
+    return status;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+namespace brellowind::demo {
+
+/// A song in a folder: song.json names its texts, its lyrics file and its cover.
+struct DemoSong {
+    QString title;
+    QString artist;
+    QString album;
+    qint64 durationMs;
+    QByteArray lyrics; ///< LRC
+    QByteArray cover;  ///< PNG
+
+    /// Absent when the folder holds no whole song.
+    static std::optional<DemoSong> load(const QString& folder);
+};
+
+} // namespace brellowind::demo
