@@ -15,7 +15,7 @@ struct Exchange {
     QByteArray path; ///< still percent-encoded, without the query
     QByteArray query;
     QList<std::pair<QByteArray, QByteArray>> headers; ///< names in lower case
-    QPointer<QTcpSocket> connection; ///< null once the client has gone
+    QPointer<QTcpSocket> connection;                  ///< null once the client has gone
 
     QByteArray header(const QByteArray& name) const;
 

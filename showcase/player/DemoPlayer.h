@@ -7,8 +7,8 @@
 
 /// The player's object on the bus, "/org/mpris/MediaPlayer2".
 ///
-/// Beside the two MPRIS interfaces it has one of its own, "org.brellowind.DemoPlayer", through which
-/// the demo and the tests say what it plays:
+/// Beside the two MPRIS interfaces it has one of its own, "org.brellowind.DemoPlayer", through
+/// which the demo and the tests say what it plays:
 /// - `SetTrack(a{sv} metadata)`: another track, from its beginning
 /// - `SetPosition(x microseconds)`, `SetStatus(s status)`: "Playing", "Paused" or "Stopped"
 /// - `SetProperties(a{sv} properties)`: answers `GetAll` with exactly these from now on; with none,

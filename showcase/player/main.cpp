@@ -37,7 +37,8 @@ int main(int argc, char** argv) {
     bool lengthIsNumber = false;
     const qulonglong lengthMs = parser.value(QStringLiteral("length")).toULongLong(&lengthIsNumber);
     if (!lengthIsNumber || !parser.positionalArguments().isEmpty())
-        return complain("the length is a whole number of milliseconds, and nothing follows the options");
+        return complain(
+            "the length is a whole number of milliseconds, and nothing follows the options");
 
     DemoPlayer player;
     player.loops = parser.isSet(QStringLiteral("loop"));

@@ -21,6 +21,7 @@ Recorder::Recorder(BrellowindApp& app)
     : app_(app), redraws_(app.rootView().onRedraw([this] { redrawn(); })) {
     rest_.setSingleShot(true);
     connect(&rest_, &QTimer::timeout, this, &Recorder::takePicture);
+    redrawn();
 }
 
 bool Recorder::savePictures(const QString& folder) {
@@ -52,7 +53,8 @@ void Recorder::takePicture() {
     const QPixmap picture =
         app_.window().screen()->grabWindow(0, frame.x(), frame.y(), frame.width(), pictureHeight);
     QString name = QString::fromStdString(shown_).toLower().simplified().replace(u' ', u'-');
-    name.removeIf([](QChar c) { return c != u'-' && !(c.isLetterOrNumber() && c.unicode() < 128); });
+    name.removeIf(
+        [](QChar c) { return c != u'-' && !(c.isLetterOrNumber() && c.unicode() < 128); });
     const QString file = QStringLiteral("%1-%2.png")
                              .arg(++pictures_, 2, 10, QLatin1Char('0'))
                              .arg(name.isEmpty() ? QStringLiteral("note") : name.left(32));

@@ -1,8 +1,8 @@
 #include "Backdrop.h"
-#include "Companion.h"
 #include "Recorder.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
+#include "companion/Companion.h"
 #include "service/DemoSong.h"
 
 #include <QCommandLineParser>
@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
         return complain("the demo song is not whole");
     Companion service(QStringLiteral(BRELLOWIND_DEMO_SERVICE),
                       {QStringLiteral(BRELLOWIND_DEMO_SONG)});
-    const QString origin = service.firstLine();
+    const QString origin = service.readLine();
     if (origin.isEmpty())
         return complain("the demo lyrics service did not start");
 

@@ -10,6 +10,7 @@
 #include "platform/qt/SystemClock.h"
 #include "playback/SpotifyBridge.h"
 
+#include <QDBusConnection>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <sstream>
@@ -42,7 +43,7 @@ struct BrellowindApp::Machine {
     platform::SystemClock clock;
     platform::StderrLog log;
     platform::QtHttpClient http;
-    platform::MprisPlayer player{mprisVocabulary()};
+    platform::MprisPlayer player{QDBusConnection::sessionBus(), mprisVocabulary()};
     TaskRunner tasks{mainLoop};
     platform::ServicesScope scope{{.mainLoop = mainLoop,
                                    .tasks = tasks,

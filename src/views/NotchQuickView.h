@@ -15,7 +15,7 @@ public:
     explicit NotchQuickView(NotchRootView& rootView);
 
 private:
-    NotchRootModel model_;
+    NotchRootModel* model_; ///< a child: it goes after the items that draw from it
 };
 
 } // namespace brellowind

@@ -34,15 +34,10 @@ bool isTimeout(const QDBusMessage& reply) {
 
 } // namespace
 
-MprisPlayer::MprisPlayer(MprisVocabulary vocabulary)
-    : vocabulary_(std::move(vocabulary)),
-      bus_(QDBusConnection::connectToBus(QDBusConnection::SessionBus,
-                                         QStringLiteral("brellowind-player"))) {}
+MprisPlayer::MprisPlayer(QDBusConnection bus, MprisVocabulary vocabulary)
+    : bus_(std::move(bus)), vocabulary_(std::move(vocabulary)) {}
 
-MprisPlayer::~MprisPlayer() {
-    recovery_.reset();
-    QDBusConnection::disconnectFromBus(bus_.name());
-}
+MprisPlayer::~MprisPlayer() = default;
 
 ScriptOutcome MprisPlayer::execute(std::string_view source) {
     if (source == vocabulary_.readOutScript)

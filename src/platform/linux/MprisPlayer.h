@@ -34,7 +34,7 @@ class MprisPlayer final : public Scripting, public RunningApplications {
 public:
     static constexpr std::chrono::milliseconds patience{200};
 
-    explicit MprisPlayer(MprisVocabulary vocabulary);
+    MprisPlayer(QDBusConnection bus, MprisVocabulary vocabulary);
     ~MprisPlayer() override;
 
     ScriptOutcome execute(std::string_view source) override;
@@ -49,8 +49,8 @@ private:
     QDBusMessage call(const QDBusMessage& request);
     void awaitRecovery(const QString& player);
 
-    MprisVocabulary vocabulary_;
     QDBusConnection bus_;
+    MprisVocabulary vocabulary_;
     std::unique_ptr<QDBusPendingCallWatcher> recovery_; ///< there while the player hangs
 };
 

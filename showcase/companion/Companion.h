@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+
+namespace brellowind::demo {
+
+/// A process that lives no longer than this one, whatever ends it.
+class Companion {
+public:
+    Companion(const QString& program, const QStringList& arguments,
+              const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
+    Companion(const Companion&) = delete;
+    Companion& operator=(const Companion&) = delete;
+    ~Companion();
+
+    /// The next line of its standard output; empty when it ends without one or takes too long.
+    QString readLine();
+
+    bool isRunning() const { return process_.state() != QProcess::NotRunning; }
+    qint64 processId() const { return process_.processId(); }
+
+    /// Asks it to end and waits for that. The exit status, or -1 when it had to be killed.
+    int end();
+
+private:
+    QProcess process_;
+};
+
+} // namespace brellowind::demo

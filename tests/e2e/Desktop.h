@@ -1,0 +1,58 @@
+#pragma once
+
+#include "companion/Companion.h"
+
+#include <QDBusConnection>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+#include <memory>
+
+namespace brellowind::test {
+
+/// A session bus of its own. Fails the running test when it does not start.
+class SessionBus {
+public:
+    SessionBus();
+    SessionBus(const SessionBus&) = delete;
+    SessionBus& operator=(const SessionBus&) = delete;
+    ~SessionBus();
+
+    QString address() const { return address_; }
+
+    /// This process's own connection to it.
+    QDBusConnection connection() const { return QDBusConnection(connectionName_); }
+
+private:
+    demo::Companion daemon_;
+    QString address_;
+    QString connectionName_;
+};
+
+/// A virtual X server. Fails the running test when it does not start.
+class XServer {
+public:
+    /// `screen` such as "1440x900x24".
+    explicit XServer(const QString& screen);
+
+    QString display() const { return display_; }
+
+private:
+    demo::Companion server_;
+    QString display_;
+};
+
+/// A session bus, an X server and a home of their own, and the environment that leads to them.
+class Desktop {
+public:
+    explicit Desktop(const QString& screen = QStringLiteral("1440x900x24"));
+
+    QProcessEnvironment environment() const;
+
+    SessionBus bus;
+    XServer xServer;
+
+private:
+    QTemporaryDir home_;
+};
+
+} // namespace brellowind::test

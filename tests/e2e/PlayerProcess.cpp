@@ -1,0 +1,59 @@
+#include "e2e/PlayerProcess.h"
+
+#include "e2e/EventLoop.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <utility>
+
+namespace brellowind::test {
+
+PlayerProcess::PlayerProcess(QDBusConnection bus, const QString& name)
+    : bus_(std::move(bus)), name_(QStringLiteral("org.mpris.MediaPlayer2.") + name) {
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus_.name());
+    process_ =
+        std::make_unique<demo::Companion>(QStringLiteral(BRELLOWIND_DEMO_PLAYER),
+                                          QStringList{QStringLiteral("--name"), name}, environment);
+    EXPECT_TRUE(waitUntil([this] { return bus_.interface()->isServiceRegistered(name_).value(); }))
+        << "the player did not start";
+}
+
+QVariantMap PlayerProcess::metadata(const QString& title, const QString& artist,
+                                    const QString& album, qint64 lengthMs) {
+    return {
+        {QStringLiteral("mpris:trackid"), QStringLiteral("/com/spotify/track/test")},
+        {QStringLiteral("mpris:length"), static_cast<qulonglong>(lengthMs * 1000)},
+        {QStringLiteral("xesam:title"), title},
+        {QStringLiteral("xesam:artist"), QStringList{artist}},
+        {QStringLiteral("xesam:album"), album},
+    };
+}
+
+void PlayerProcess::quit() {
+    call("Leave", {});
+    EXPECT_TRUE(
+        waitUntil([this] { return !bus_.interface()->isServiceRegistered(name_).value(); }));
+}
+
+void PlayerProcess::hang() {
+    EXPECT_EQ(::kill(static_cast<pid_t>(process_->processId()), SIGSTOP), 0);
+}
+
+void PlayerProcess::recover() {
+    EXPECT_EQ(::kill(static_cast<pid_t>(process_->processId()), SIGCONT), 0);
+}
+
+QDBusMessage PlayerProcess::call(const char* method, const QVariantList& arguments) {
+    auto message = QDBusMessage::createMethodCall(name_, QStringLiteral("/org/mpris/MediaPlayer2"),
+                                                  QStringLiteral("org.brellowind.DemoPlayer"),
+                                                  QString::fromLatin1(method));
+    message.setArguments(arguments);
+    auto reply = bus_.call(message);
+    EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage) << qPrintable(reply.errorMessage());
+    return reply;
+}
+
+} // namespace brellowind::test

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "companion/Companion.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QVariantList>
+#include <QVariantMap>
+#include <memory>
+
+namespace brellowind::test {
+
+/// A player in a process of its own that plays what the test says.
+class PlayerProcess {
+public:
+    /// Owns the bus name once this returns; fails the running test when it does not come.
+    explicit PlayerProcess(QDBusConnection bus, const QString& name = QStringLiteral("spotify"));
+
+    /// The metadata that the Spotify application sends for a track.
+    static QVariantMap metadata(const QString& title, const QString& artist, const QString& album,
+                                qint64 lengthMs);
+
+    void setTrack(const QVariantMap& metadata) { call("SetTrack", {metadata}); }
+    void setPosition(double seconds) {
+        call("SetPosition", {static_cast<qlonglong>(seconds * 1e6)});
+    }
+    void setStatus(const char* status) { call("SetStatus", {QString::fromLatin1(status)}); }
+    void setProperties(const QVariantMap& properties) { call("SetProperties", {properties}); }
+    unsigned requests() { return call("Requests", {}).arguments().value(0).toUInt(); }
+
+    /// Ends the player as its user would.
+    void quit();
+
+    /// Stops the process so that it answers nothing, and lets it go on.
+    void hang();
+    void recover();
+
+private:
+    QDBusMessage call(const char* method, const QVariantList& arguments);
+
+    QDBusConnection bus_;
+    QString name_;
+    std::unique_ptr<demo::Companion> process_;
+};
+
+} // namespace brellowind::test
