@@ -190,6 +190,12 @@ TEST_F(HoverMonitorTest, StartedTwiceWatchesOnce) {
     EXPECT_TRUE(insideAt(overThePill));
 }
 
+TEST_F(HoverMonitorTest, StartedTwiceRemovesTheEarlierMonitorsFirst) {
+    hover->start();
+    hover->start();
+    EXPECT_EQ(machine.pointer.mostMonitorsAtOnce, 2U);
+}
+
 TEST_F(HoverMonitorTest, StoppedWatchesNoMore) {
     hover->start();
     ASSERT_TRUE(insideAt(overThePill));

@@ -1,5 +1,6 @@
 #include "support/FakePointer.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace brellowind::test {
@@ -43,7 +44,9 @@ void FakePointer::moveOverWindow(std::optional<Point> to) {
 
 std::unique_ptr<platform::PointerMonitor> FakePointer::add(Monitors& monitors, Handler handler) {
     handlers.push_back(handler);
-    return std::make_unique<Monitor>(monitors, std::move(handler));
+    auto monitor = std::make_unique<Monitor>(monitors, std::move(handler));
+    mostMonitorsAtOnce = std::max(mostMonitorsAtOnce, global_.size() + local_.size());
+    return monitor;
 }
 
 void FakePointer::notify(const Monitors& monitors) {

@@ -31,6 +31,7 @@ public:
     bool refusesGlobalMonitors = false;
     bool refusesLocalMonitors = false;
     int locationReadings = 0;
+    std::size_t mostMonitorsAtOnce = 0; ///< global and local ones together
 
     /// Every handler that was ever handed over, also those of monitors that are gone.
     std::vector<Handler> handlers;
