@@ -4,8 +4,10 @@
 #include "platform/HttpClient.h"
 #include "platform/Log.h"
 #include "platform/MainLoop.h"
+#include "platform/Pointer.h"
 #include "platform/ProductConstants.h"
 #include "platform/RunningApplications.h"
+#include "platform/Screens.h"
 #include "platform/Scripting.h"
 #include "platform/TaskRunner.h"
 
@@ -20,6 +22,8 @@ struct Services {
     HttpClient& http;
     Scripting& scripting;
     RunningApplications& runningApplications;
+    Screens& screens;
+    Pointer& pointer;
     const ProductConstants& constants;
 };
 

@@ -48,6 +48,8 @@ TestMachine::TestMachine()
               .http = http,
               .scripting = scripting,
               .runningApplications = runningApplications,
+              .screens = screens,
+              .pointer = pointer,
               .constants = constants}) {}
 
 } // namespace brellowind::test

@@ -2,6 +2,8 @@
 
 #include "platform/Services.h"
 #include "support/FakeMainLoop.h"
+#include "support/FakePointer.h"
+#include "support/FakeScreens.h"
 
 #include <functional>
 #include <list>
@@ -92,6 +94,8 @@ public:
     FakeHttpClient http;
     FakeScripting scripting;
     FakeRunningApplications runningApplications;
+    FakeScreens screens; ///< none at first
+    FakePointer pointer;
     platform::ProductConstants constants;
 
 private:

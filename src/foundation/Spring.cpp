@@ -1,0 +1,91 @@
+#include "foundation/Spring.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace brellowind {
+namespace {
+
+/// A quicker spring has arrived before anybody can see it move, and its stiffness would overflow.
+constexpr double shortestResponse = 1e-6;
+
+bool jumps(SpringParameters parameters) {
+    return !(parameters.response >= shortestResponse);
+}
+
+double angularFrequency(SpringParameters parameters) {
+    return 2 * std::numbers::pi / parameters.response;
+}
+
+/// The two motions that all others are made of.
+struct Basis {
+    double even; ///< begins at 1 with velocity -damping * frequency
+    double odd;  ///< begins at 0 with velocity 1
+};
+
+Basis basis(double frequency, double damping, double time) {
+    if (damping < 1) {
+        const double damped = frequency * std::sqrt(1 - damping * damping);
+        const double decay = std::exp(-damping * frequency * time);
+        return {decay * std::cos(damped * time), decay * std::sin(damped * time) / damped};
+    }
+    if (damping > 1) {
+        // Written with the slower of the two decays, since the hyperbolic functions overflow.
+        const double root = std::sqrt(damping * damping - 1);
+        const double decay = std::exp(-frequency * time / (damping + root));
+        const double fall = std::expm1(-2 * frequency * root * time);
+        return {decay * (1 + fall / 2), -decay * fall / (2 * frequency * root)};
+    }
+    const double decay = std::exp(-frequency * time);
+    return {decay, decay * time};
+}
+
+} // namespace
+
+Spring::Spring(SpringParameters parameters, double value)
+    : parameters_(parameters), target_(value) {}
+
+void Spring::retarget(double target, double time) {
+    retarget(target, time, parameters_);
+}
+
+void Spring::retarget(double target, double time, SpringParameters parameters) {
+    const auto now = at(time);
+    initial_ = {target_ + now.displacement - target, now.velocity};
+    target_ = target;
+    start_ = time;
+    parameters_ = parameters;
+}
+
+double Spring::value(double time) const {
+    return target_ + at(time).displacement;
+}
+
+double Spring::velocity(double time) const {
+    return at(time).velocity;
+}
+
+bool Spring::isSettled(double time, double tolerance) const {
+    const auto now = at(time);
+    if (now.displacement == 0 && now.velocity == 0)
+        return true;
+    if (jumps(parameters_))
+        return false; // it has not begun
+    // The energy never grows, so neither does the reach that it leaves to the value.
+    const double reach = std::hypot(now.displacement, now.velocity / angularFrequency(parameters_));
+    return reach <= tolerance;
+}
+
+Spring::Motion Spring::at(double time) const {
+    if (jumps(parameters_))
+        return time < start_ ? initial_ : Motion{0, 0};
+    const double frequency = angularFrequency(parameters_);
+    const double damping = parameters_.dampingFraction;
+    const auto [x, v] = initial_;
+    const auto [even, odd] = basis(frequency, damping, std::max(0.0, time - start_));
+    return {x * even + (v + damping * frequency * x) * odd,
+            v * even - (frequency * frequency * x + damping * frequency * v) * odd};
+}
+
+} // namespace brellowind

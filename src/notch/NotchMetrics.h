@@ -1,0 +1,11 @@
+#pragma once
+
+/// The measures that everything about the notch shares, in points.
+namespace brellowind::NotchMetrics {
+
+inline constexpr double windowHeight = 540;   ///< whatever the window shows
+inline constexpr double collapsedHeight = 59; ///< of the collapsed pill, nominally
+inline constexpr double panelHeight = 220;    ///< of the expanded panel, nominally
+inline constexpr double panelWidth = 460;     ///< of the expanded panel, nominally
+
+} // namespace brellowind::NotchMetrics

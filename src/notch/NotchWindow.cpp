@@ -1,0 +1,36 @@
+#include "notch/NotchWindow.h"
+
+#include "notch/NotchMetrics.h"
+#include "notch/NotchScreens.h"
+#include "platform/Services.h"
+
+#include <algorithm>
+
+namespace brellowind {
+namespace {
+
+constexpr double maximumWidth = 640;
+
+} // namespace
+
+Rect notchWindowFrame(const Rect& screenFrame) {
+    const double width = std::min(screenFrame.width, maximumWidth);
+    const double height = NotchMetrics::windowHeight;
+    return {screenFrame.midX() - width / 2, screenFrame.maxY() - height, width, height};
+}
+
+NotchWindow::NotchWindow(platform::OverlayWindow& window) : window_(window) {
+    window_.setIgnoresMouseEvents(true);
+}
+
+void NotchWindow::show() {
+    repositionToNotch();
+    window_.orderFrontRegardless();
+}
+
+void NotchWindow::repositionToNotch() {
+    if (const auto screen = pillScreen(platform::services().screens))
+        window_.setFrame(notchWindowFrame(screen->frame));
+}
+
+} // namespace brellowind

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "foundation/Geometry.h"
+#include "platform/OverlayWindow.h"
+
+namespace brellowind {
+
+/// The frame of the notch window on a screen: it hangs from the middle of the top edge, as wide as
+/// the screen but at most 640 points.
+Rect notchWindowFrame(const Rect& screenFrame);
+
+/// The one window that hangs over the notch. Main thread only.
+class NotchWindow {
+public:
+    /// Makes `window`, which must outlive this, click-through; it is neither placed nor shown yet.
+    explicit NotchWindow(platform::OverlayWindow& window);
+    NotchWindow(const NotchWindow&) = delete;
+    NotchWindow& operator=(const NotchWindow&) = delete;
+
+    /// Places the window over the notch and brings it to the front without activating the program.
+    void show();
+
+    /// Places the window on the screen that has the notch now, else on the main one. Without a
+    /// screen it stays where it is.
+    void repositionToNotch();
+
+private:
+    platform::OverlayWindow& window_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/MainLoop.h"
+#include "platform/OverlayWindow.h"
+
+#include <functional>
+#include <memory>
+
+namespace brellowind {
+
+/// Makes the window that an element of the interface stands in accept mouse events, or fall
+/// click-through again. Main thread only.
+class WindowInteractivity {
+public:
+    /// The window that the element stands in at the moment of the call, null when in none.
+    using WindowFinder = std::function<platform::OverlayWindow*()>;
+
+    explicit WindowInteractivity(WindowFinder window);
+    WindowInteractivity(const WindowInteractivity&) = delete;
+    WindowInteractivity& operator=(const WindowInteractivity&) = delete;
+
+    /// On the next turn of the main loop, never within this call, the window takes `interactive`.
+    /// Of several updates before that turn the last one counts. Does nothing when there is no
+    /// window by then.
+    void update(bool interactive);
+
+private:
+    void apply();
+
+    WindowFinder window_;
+    bool interactive_ = false;
+    std::unique_ptr<platform::NextTurn> nextTurn_;
+};
+
+} // namespace brellowind

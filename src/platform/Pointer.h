@@ -1,0 +1,39 @@
+#pragma once
+
+#include "foundation/Geometry.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace brellowind::platform {
+
+/// An installed observer of pointer movements. Destroying it removes it; its handler may destroy
+/// it.
+class PointerMonitor {
+public:
+    virtual ~PointerMonitor() = default;
+};
+
+/// The mouse pointer.
+class Pointer {
+public:
+    using Handler = std::function<void()>;
+
+    virtual ~Pointer() = default;
+
+    /// In desktop coordinates (origin at the bottom left of the primary screen, y upward). Absent
+    /// while the pointer is where the system does not let this program see it, so over none of its
+    /// windows.
+    virtual std::optional<Point> location() = 0;
+
+    /// Calls `handler` after every movement over anything but this program's windows, on the main
+    /// thread. Absent when the system refuses.
+    virtual std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) = 0;
+
+    /// Calls `handler` after every movement over this program's windows, on the main thread, before
+    /// the movement is delivered to them as usual. Absent when the system refuses.
+    virtual std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) = 0;
+};
+
+} // namespace brellowind::platform

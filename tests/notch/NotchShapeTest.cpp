@@ -1,0 +1,108 @@
+#include "notch/NotchShape.h"
+#include "support/PrintGeometry.h"
+
+#include <gmock/gmock.h>
+
+namespace brellowind {
+
+void PrintTo(const Path::Element& element, std::ostream* out) {
+    if (const auto* move = std::get_if<Path::Move>(&element))
+        *out << "move to " << testing::PrintToString(move->to);
+    else if (const auto* line = std::get_if<Path::Line>(&element))
+        *out << "line to " << testing::PrintToString(line->to);
+    else if (const auto* curve = std::get_if<Path::QuadCurve>(&element))
+        *out << "curve to " << testing::PrintToString(curve->to) << " by "
+             << testing::PrintToString(curve->control);
+    else
+        *out << "close";
+}
+
+namespace {
+
+using testing::ElementsAre;
+
+Path::Element move(double x, double y) {
+    return Path::Move{{x, y}};
+}
+
+Path::Element line(double x, double y) {
+    return Path::Line{{x, y}};
+}
+
+Path::Element curve(Point to, Point control) {
+    return Path::QuadCurve{to, control};
+}
+
+const Path::Element close = Path::Close{};
+
+TEST(NotchShape, FlaresAtTheTopAndIsRoundAtTheBottom) {
+    const auto path = NotchShape(8, 12).path({0, 0, 280, 59});
+    EXPECT_THAT(path.elements(),
+                ElementsAre(move(0, 0), curve({8, 8}, {8, 0}), line(8, 47),
+                            curve({20, 59}, {8, 59}), line(260, 59), curve({272, 47}, {272, 59}),
+                            line(272, 8), curve({280, 0}, {272, 0}), close));
+}
+
+TEST(NotchShape, LiesWhereItsRectangleLies) {
+    const auto path = NotchShape(8, 12).path({100, -30, 280, 59});
+    EXPECT_THAT(path.elements(),
+                ElementsAre(move(100, -30), curve({108, -22}, {108, -30}), line(108, 17),
+                            curve({120, 29}, {108, 29}), line(360, 29), curve({372, 17}, {372, 29}),
+                            line(372, -22), curve({380, -30}, {372, -30}), close));
+}
+
+TEST(NotchShape, FlaresMeetInTheMiddleWhenTheTopRadiusExceedsHalfTheWidth) {
+    const auto path = NotchShape(8, 4).path({0, 0, 10, 59});
+    EXPECT_THAT(path.elements(),
+                ElementsAre(move(0, 0), curve({5, 5}, {5, 0}), line(5, 55), curve({9, 59}, {5, 59}),
+                            line(1, 59), curve({5, 55}, {5, 59}), line(5, 5),
+                            curve({10, 0}, {5, 0}), close));
+}
+
+TEST(NotchShape, LosesBottomRoundingBeforeTheFlareWhenItIsShort) {
+    const auto path = NotchShape(8, 12).path({0, 0, 280, 15}); // 7 are left for the corners
+    EXPECT_THAT(path.elements(),
+                ElementsAre(move(0, 0), curve({8, 8}, {8, 0}), line(8, 8), curve({15, 15}, {8, 15}),
+                            line(265, 15), curve({272, 8}, {272, 15}), line(272, 8),
+                            curve({280, 0}, {272, 0}), close));
+}
+
+TEST(NotchShape, LimitsTheBottomByTheFlareThatIsLeftAndNotByTheOneAskedFor) {
+    const auto path = NotchShape(100, 12).path({0, 0, 10, 15}); // flare 5 leaves 10
+    EXPECT_EQ(path.elements().at(2), line(5, 5));
+    EXPECT_EQ(path.elements().at(3), curve({15, 15}, {5, 15}));
+}
+
+TEST(NotchShape, WithoutHeightComesOutOfTheSameFormulas) {
+    const auto path = NotchShape(8, 12).path({0, 0, 280, 0}); // the bottom radius is -8
+    EXPECT_THAT(path.elements(),
+                ElementsAre(move(0, 0), curve({8, 8}, {8, 0}), line(8, 8), curve({0, 0}, {8, 0}),
+                            line(280, 0), curve({272, 8}, {272, 0}), line(272, 8),
+                            curve({280, 0}, {272, 0}), close));
+}
+
+TEST(NotchShape, WithoutWidthIsALine) {
+    const auto path = NotchShape(8, 12).path({5, 0, 0, 59}); // flare 0, bottom radius 12
+    EXPECT_THAT(path.elements(),
+                ElementsAre(move(5, 0), curve({5, 0}, {5, 0}), line(5, 47),
+                            curve({17, 59}, {5, 59}), line(-7, 59), curve({5, 47}, {5, 59}),
+                            line(5, 0), curve({5, 0}, {5, 0}), close));
+}
+
+TEST(NotchShape, WithoutRadiiIsItsRectangle) {
+    const auto path = NotchShape(0, 0).path({0, 0, 100, 50});
+    EXPECT_THAT(path.elements(),
+                ElementsAre(move(0, 0), curve({0, 0}, {0, 0}), line(0, 50), curve({0, 50}, {0, 50}),
+                            line(100, 50), curve({100, 50}, {100, 50}), line(100, 0),
+                            curve({100, 0}, {100, 0}), close));
+}
+
+TEST(NotchShape, TakesItsRadiiInTheOrderTopThenBottom) {
+    const NotchShape shape(8, 12);
+    EXPECT_EQ(shape.topRadius, 8);
+    EXPECT_EQ(shape.bottomRadius, 12);
+    EXPECT_NE(shape, NotchShape(12, 8));
+}
+
+} // namespace
+} // namespace brellowind

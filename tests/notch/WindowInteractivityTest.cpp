@@ -1,0 +1,104 @@
+#include "notch/WindowInteractivity.h"
+#include "support/FakeOverlayWindow.h"
+#include "support/TestMachine.h"
+
+#include <gmock/gmock.h>
+#include <optional>
+
+namespace brellowind {
+namespace {
+
+using test::FakeOverlayWindow;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class WindowInteractivityTest : public testing::Test {
+protected:
+    /// The last thing that the window was told.
+    bool ignoresMouseEvents() const {
+        return std::get<FakeOverlayWindow::SetIgnoresMouseEvents>(window.calls.back()).ignores;
+    }
+
+    test::TestMachine machine;
+    FakeOverlayWindow window;
+    FakeOverlayWindow* current = &window;
+    std::optional<WindowInteractivity> element{std::in_place, [this] { return current; }};
+};
+
+TEST_F(WindowInteractivityTest, MakesTheWindowAcceptMouseEvents) {
+    element->update(true);
+    machine.mainLoop.runTurns();
+    EXPECT_THAT(window.calls, ElementsAre(FakeOverlayWindow::SetIgnoresMouseEvents{false}));
+}
+
+TEST_F(WindowInteractivityTest, MakesTheWindowClickThroughAgain) {
+    element->update(true);
+    machine.mainLoop.runTurns();
+    element->update(false);
+    machine.mainLoop.runTurns();
+    EXPECT_TRUE(ignoresMouseEvents());
+}
+
+TEST_F(WindowInteractivityTest, LeavesTheWindowAloneWithinTheUpdate) {
+    element->update(true);
+    EXPECT_THAT(window.calls, IsEmpty());
+}
+
+TEST_F(WindowInteractivityTest, LeavesTheWindowAloneBeforeTheFirstUpdate) {
+    machine.mainLoop.runTurns();
+    EXPECT_THAT(window.calls, IsEmpty());
+}
+
+TEST_F(WindowInteractivityTest, TakesTheLastOfTwoQuickUpdates) {
+    element->update(true);
+    element->update(false);
+    machine.mainLoop.runTurns();
+    ASSERT_FALSE(window.calls.empty());
+    EXPECT_TRUE(ignoresMouseEvents());
+}
+
+TEST_F(WindowInteractivityTest, TakesTheLastOfTwoQuickUpdatesAlsoTheOtherWayRound) {
+    element->update(false);
+    element->update(true);
+    machine.mainLoop.runTurns();
+    ASSERT_FALSE(window.calls.empty());
+    EXPECT_FALSE(ignoresMouseEvents());
+}
+
+TEST_F(WindowInteractivityTest, DoesNothingOutsideAWindow) {
+    current = nullptr;
+    element->update(true);
+    machine.mainLoop.runTurns();
+    current = &window;
+    machine.mainLoop.runTurns();
+    EXPECT_THAT(window.calls, IsEmpty());
+}
+
+TEST_F(WindowInteractivityTest, NextUpdateAfterItsPlacementInAWindowCounts) {
+    current = nullptr;
+    element->update(true);
+    machine.mainLoop.runTurns();
+    current = &window;
+    element->update(true);
+    machine.mainLoop.runTurns();
+    EXPECT_THAT(window.calls, ElementsAre(FakeOverlayWindow::SetIgnoresMouseEvents{false}));
+}
+
+TEST_F(WindowInteractivityTest, LooksForTheWindowOnlyWhenTheTurnHasCome) {
+    FakeOverlayWindow later;
+    element->update(true);
+    current = &later;
+    machine.mainLoop.runTurns();
+    EXPECT_THAT(window.calls, IsEmpty());
+    EXPECT_THAT(later.calls, ElementsAre(FakeOverlayWindow::SetIgnoresMouseEvents{false}));
+}
+
+TEST_F(WindowInteractivityTest, DoesNothingWhenItIsGoneByThen) {
+    element->update(true);
+    element.reset();
+    machine.mainLoop.runTurns();
+    EXPECT_THAT(window.calls, IsEmpty());
+}
+
+} // namespace
+} // namespace brellowind

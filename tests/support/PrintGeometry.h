@@ -1,0 +1,18 @@
+#pragma once
+
+#include "foundation/Geometry.h"
+
+#include <ostream>
+
+// How failed expectations show geometry.
+namespace brellowind {
+
+inline void PrintTo(Point point, std::ostream* out) {
+    *out << "(" << point.x << ", " << point.y << ")";
+}
+
+inline void PrintTo(const Rect& rect, std::ostream* out) {
+    *out << "(" << rect.x << ", " << rect.y << ", " << rect.width << ", " << rect.height << ")";
+}
+
+} // namespace brellowind
