@@ -1,6 +1,6 @@
 #include "e2e/ObservedProgram.h"
 
-#include "e2e/EventLoop.h"
+#include "session/EventLoop.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

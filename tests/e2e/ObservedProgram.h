@@ -1,7 +1,7 @@
 #pragma once
 
 #include "companion/Companion.h"
-#include "e2e/Desktop.h"
+#include "session/Desktop.h"
 
 #include <QObject>
 #include <QStringList>

@@ -1,7 +1,7 @@
-#include "e2e/Desktop.h"
-#include "e2e/EventLoop.h"
+#include "session/Desktop.h"
+#include "session/EventLoop.h"
 #include "e2e/ObservedProgram.h"
-#include "e2e/PlayerProcess.h"
+#include "session/PlayerProcess.h"
 #include "loopback/LoopbackServer.h"
 
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "e2e/Desktop.h"
+#include "session/Desktop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "e2e/PlayerProcess.h"
+#include "session/PlayerProcess.h"
 
-#include "e2e/EventLoop.h"
+#include "session/EventLoop.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusReply>

@@ -1,4 +1,4 @@
-#include "e2e/EventLoop.h"
+#include "session/EventLoop.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
