@@ -35,8 +35,8 @@ class ReferenceParser {
 public:
     ReferenceParser() {
         UErrorCode status = U_ZERO_ERROR;
-        tag_.reset(icu::RegexPattern::compile(u"\\[(\\d{1,2}):(\\d{1,2})(?:[.:](\\d{1,3}))?\\]", 0,
-                                              status));
+        tag_ = std::make_unique<icu::RegexMatcher>(
+            u"\\[(\\d{1,2}):(\\d{1,2})(?:[.:](\\d{1,3}))?\\]", 0, status);
         spaces_.applyPattern(u"[\\p{Zs}\\t]", status);
         EXPECT_TRUE(U_SUCCESS(status));
     }
@@ -58,12 +58,12 @@ public:
 private:
     void readPiece(const icu::UnicodeString& piece, std::vector<ReferenceLine>& lines) const {
         UErrorCode status = U_ZERO_ERROR;
-        const std::unique_ptr<icu::RegexMatcher> matcher(tag_->matcher(piece, status));
+        tag_->reset(piece);
         std::vector<double> times;
         std::int32_t lyric = 0;
-        while (matcher->find(status)) {
-            times.push_back(timeOf(*matcher));
-            lyric = matcher->end(status);
+        while (tag_->find(status)) {
+            times.push_back(timeOf(*tag_));
+            lyric = tag_->end(status);
         }
         EXPECT_TRUE(U_SUCCESS(status));
         const auto words = trimmed(piece.tempSubString(lyric));
@@ -101,7 +101,7 @@ private:
         return words;
     }
 
-    std::unique_ptr<icu::RegexPattern> tag_;
+    std::unique_ptr<icu::RegexMatcher> tag_;
     icu::UnicodeSet spaces_;
 };
 
