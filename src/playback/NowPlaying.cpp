@@ -20,8 +20,15 @@ void NowPlaying::start() {
     stop();
     poll();
     auto& mainLoop = services().mainLoop;
-    timer_ = mainLoop.scheduleRepeating(pollInterval, [this] { poll(); });
-    ticker_ = mainLoop.scheduleRepeating(tickInterval, [this] { tick(); });
+    // Weak, so that timers keep no monitor alive; locked, so that an observer may release it.
+    timer_ = mainLoop.scheduleRepeating(pollInterval, [weakSelf = weak_from_this()] {
+        if (const auto self = weakSelf.lock())
+            self->poll();
+    });
+    ticker_ = mainLoop.scheduleRepeating(tickInterval, [weakSelf = weak_from_this()] {
+        if (const auto self = weakSelf.lock())
+            self->tick();
+    });
 }
 
 void NowPlaying::stop() {

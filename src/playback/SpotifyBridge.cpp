@@ -40,17 +40,18 @@ std::optional<Fields> split(std::string_view record) {
     return fields;
 }
 
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
 /// The number that the whole of `text` spells in C notation; 0 when it spells none.
 double number(std::string_view text) {
-    if (text.starts_with('+') || text.starts_with('-')) {
-        const bool negative = text.front() == '-';
-        text.remove_prefix(1);
-        if (text.starts_with('-'))
-            return 0;
-        const double magnitude = number(text.starts_with('+') ? std::string_view() : text);
-        return negative ? -magnitude : magnitude;
-    }
-    if (text.empty() || !(text.front() == '.' || (text.front() >= '0' && text.front() <= '9')))
+    const bool hasPlus = text.starts_with('+'); // from_chars takes a minus sign only
+    text.remove_prefix(hasPlus ? 1 : 0);
+    const auto unsignedText = text.substr(!hasPlus && text.starts_with('-') ? 1 : 0);
+    const bool isNumeric =
+        unsignedText.starts_with('.') || (!unsignedText.empty() && isDigit(unsignedText.front()));
+    if (!isNumeric)
         return 0; // from_chars would also read "inf" and "nan"
     double value = 0;
     const auto* const end = text.data() + text.size();

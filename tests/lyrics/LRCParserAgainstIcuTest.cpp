@@ -1,0 +1,272 @@
+#include "lyrics/LRCParser.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <memory>
+#include <ostream>
+#include <random>
+#include <string>
+#include <unicode/regex.h>
+#include <unicode/uniset.h>
+#include <unicode/unistr.h>
+#include <vector>
+
+// The parser reads tags by hand. Here the pattern it stands for is run by a regular-expression
+// engine over UTF-16 text, and both must find the same lines in texts made to be hard.
+
+namespace brellowind {
+namespace {
+
+struct ReferenceLine {
+    double time;
+    std::string text;
+
+    bool operator==(const ReferenceLine&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const ReferenceLine& line) {
+    return out << line.time << " " << testing::PrintToString(line.text);
+}
+
+class ReferenceParser {
+public:
+    ReferenceParser() {
+        UErrorCode status = U_ZERO_ERROR;
+        tag_ = std::make_unique<icu::RegexMatcher>(
+            u"\\[(\\d{1,2}):(\\d{1,2})(?:[.:](\\d{1,3}))?\\]", 0, status);
+        spaces_.applyPattern(u"[\\p{Zs}\\t]", status);
+        EXPECT_TRUE(U_SUCCESS(status));
+    }
+
+    std::vector<ReferenceLine> parse(const icu::UnicodeString& text) const {
+        std::vector<ReferenceLine> lines;
+        std::int32_t start = 0;
+        for (std::int32_t i = 0; i < text.length(); ++i) {
+            if (text[i] != u'\n' || (i > 0 && text[i - 1] == u'\r'))
+                continue;
+            readPiece(text.tempSubStringBetween(start, i), lines);
+            start = i + 1;
+        }
+        readPiece(text.tempSubString(start), lines);
+        std::ranges::stable_sort(lines, {}, &ReferenceLine::time);
+        return lines;
+    }
+
+private:
+    void readPiece(const icu::UnicodeString& piece, std::vector<ReferenceLine>& lines) const {
+        UErrorCode status = U_ZERO_ERROR;
+        tag_->reset(piece);
+        std::vector<double> times;
+        std::int32_t lyric = 0;
+        while (tag_->find(status)) {
+            times.push_back(timeOf(*tag_));
+            lyric = tag_->end(status);
+        }
+        EXPECT_TRUE(U_SUCCESS(status));
+        const auto words = trimmed(piece.tempSubString(lyric));
+        for (const double time : times)
+            lines.push_back({time, words});
+    }
+
+    static double timeOf(const icu::RegexMatcher& matcher) {
+        UErrorCode status = U_ZERO_ERROR;
+        const double minutes = number(matcher.group(1, status));
+        const double seconds = number(matcher.group(2, status));
+        double fraction = 0;
+        if (matcher.start(3, status) >= 0) {
+            const auto digits = matcher.group(3, status);
+            fraction = number(digits) / std::pow(10.0, digits.countChar32());
+        }
+        EXPECT_TRUE(U_SUCCESS(status));
+        return (minutes * 60 + seconds) + fraction;
+    }
+
+    static double number(const icu::UnicodeString& digits) {
+        std::string text;
+        digits.toUTF8String(text);
+        char* stop = nullptr;
+        const double value = std::strtod(text.c_str(), &stop);
+        return *stop == '\0' ? value : 0;
+    }
+
+    std::string trimmed(const icu::UnicodeString& text) const {
+        const auto start = spaces_.span(text, 0, USET_SPAN_CONTAINED);
+        const auto end = spaces_.spanBack(text, text.length(), USET_SPAN_CONTAINED);
+        std::string words;
+        if (start < end)
+            text.tempSubStringBetween(start, end).toUTF8String(words);
+        return words;
+    }
+
+    std::unique_ptr<icu::RegexMatcher> tag_;
+    icu::UnicodeSet spaces_;
+};
+
+/// Makes texts that are tags, nearly tags, and what may stand around them.
+class Generator {
+public:
+    std::u32string text() {
+        std::u32string made;
+        for (int parts = below(14); parts > 0; --parts)
+            made += part();
+        return made;
+    }
+
+private:
+    int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+
+    template <std::size_t N>
+    std::u32string oneOf(const char32_t* const (&choices)[N]) {
+        return choices[below(static_cast<int>(N))];
+    }
+
+    std::u32string part() {
+        switch (below(9)) {
+        case 0:
+        case 1:
+        case 2:
+            return tag();
+        case 3:
+            return nearlyTag();
+        case 4:
+            return oneOf(breaks);
+        case 5:
+            return oneOf(spaces);
+        case 6:
+            return oneOf(invisible);
+        default:
+            return oneOf(words);
+        }
+    }
+
+    std::u32string tag() {
+        auto made = U"[" + digits(1 + below(2)) + U":" + digits(1 + below(2));
+        if (below(4) > 0)
+            made += (below(3) ? U"." : U":") + digits(1 + below(3));
+        return made + U"]";
+    }
+
+    /// A tag with one character lost, doubled, or replaced.
+    std::u32string nearlyTag() {
+        auto made = tag();
+        const auto at = static_cast<std::size_t>(below(static_cast<int>(made.size())));
+        switch (below(4)) {
+        case 0:
+            made.erase(at, 1);
+            break;
+        case 1:
+            made.insert(at, 1, made[at]);
+            break;
+        case 2:
+            made.replace(at, 1, oneOf(spoilers));
+            break;
+        default:
+            made.insert(at, oneOf(spoilers));
+        }
+        return made;
+    }
+
+    std::u32string digits(int count) {
+        std::u32string made;
+        for (; count > 0; --count) {
+            const char32_t zero = below(12) ? U'0' : foreignZeros[below(8)];
+            made += zero + static_cast<char32_t>(below(10));
+        }
+        return made;
+    }
+
+    static constexpr const char32_t* breaks[] = {U"\n",   U"\n",     U"\n",     U"\n\n", U"\r",
+                                                 U"\r\n", U"\r\r\n", U"\r\n\n", U"\n\r"};
+    static constexpr const char32_t* spaces[] = {
+        U" ",      U"  ",     U"\t",     U"\u00A0", U"\u1680", U"\u2000", U"\u2001",
+        U"\u2002", U"\u2003", U"\u2004", U"\u2005", U"\u2006", U"\u2007", U"\u2008",
+        U"\u2009", U"\u200A", U"\u202F", U"\u205F", U"\u3000"};
+    static constexpr const char32_t* invisible[] = {
+        U"\u200B", U"\uFEFF", U"\u0085", U"\u2028", U"\u2029", U"\u180E", U"\u2060", U"\u200D",
+        U"\u00AD", U"\v",     U"\f",     U"\x1C",   U"\x1F",   U"\u0301", U"\uFE0F", U"\U000E0020"};
+    static constexpr const char32_t* words[] = {
+        U"la",    U"Hello world", U"ç",  U"e\u0301", U"夜に駆ける", U"🎵",   U"👨\u200D👩", U"[ar:x]",
+        U"[",     U"]",           U"[[", U"]]",      U"7",          U":",   U"[00:",     U"00]",
+        U"[1:2.", U"\U0001D7D8",  U"½",  U"²",       U"(1:02)",     U"שלום"};
+    static constexpr const char32_t* spoilers[] = {
+        U"[", U"]",      U":",      U".",      U",",      U"0",      U"00", U"000",
+        U" ", U"\u0301", U"\u200B", U"\uFEFF", U"\u0665", U"²",      U"\n", U"\r\n",
+        U"-", U"x",      U"😀",      U"\u20E3", U"\uFF1A", U"\uFF3B", U"¼",  U"\u2460"};
+    static constexpr char32_t foreignZeros[] = {U'\u0660',     U'\u06F0',    U'\u0966',
+                                                U'\u0E50',     U'\uFF10',    U'\U0001D7CE',
+                                                U'\U000104A0', U'\U0001E950'};
+
+    std::mt19937 random_{20240229};
+};
+
+icu::UnicodeString utf16(const std::u32string& text) {
+    icu::UnicodeString units;
+    for (const char32_t character : text)
+        units.append(static_cast<UChar32>(character));
+    return units;
+}
+
+std::vector<ReferenceLine> parsed(const std::string& text) {
+    std::vector<ReferenceLine> lines;
+    for (const auto& line : LRCParser::parse(text))
+        lines.push_back({line.time, line.text});
+    return lines;
+}
+
+bool isAscii(const icu::UnicodeString& text) {
+    return std::all_of(text.getBuffer(), text.getBuffer() + text.length(),
+                       [](char16_t unit) { return unit < 0x80; });
+}
+
+TEST(LRCParserAgainstIcu, FindsWhatThePatternFinds) {
+    const ReferenceParser reference;
+    Generator generator;
+    std::size_t lineCount = 0;
+    std::size_t textsWithTags = 0;
+    std::size_t foreignTextsWithTags = 0;
+    for (int i = 0; i < 60'000; ++i) {
+        const auto text = utf16(generator.text());
+        std::string bytes;
+        text.toUTF8String(bytes);
+        const auto expected = reference.parse(text);
+        ASSERT_EQ(parsed(bytes), expected) << "text " << i << ": " << testing::PrintToString(bytes);
+        lineCount += expected.size();
+        textsWithTags += expected.empty() ? 0 : 1;
+        foreignTextsWithTags += expected.empty() || isAscii(text) ? 0 : 1;
+    }
+    // Texts without tags would agree too: most must have some.
+    EXPECT_GT(textsWithTags, 40'000U);
+    EXPECT_GT(foreignTextsWithTags, 30'000U);
+    EXPECT_GT(lineCount, 100'000U);
+}
+
+TEST(LRCParserAgainstIcu, ReadsEveryTimeAlike) {
+    const ReferenceParser reference;
+    for (int minutes = 0; minutes < 100; minutes += 7)
+        for (int seconds = 0; seconds < 100; seconds += 3)
+            for (int fraction = 0; fraction < 1000; fraction += 11) {
+                const auto text = "[" + std::to_string(minutes) + ":" + std::to_string(seconds) +
+                                  "." + std::to_string(fraction) + "]";
+                ASSERT_EQ(parsed(text), reference.parse(icu::UnicodeString::fromUTF8(text)));
+            }
+}
+
+TEST(LRCParserAgainstIcu, AgreesOnWhichCharactersAreDigitsAndSpaces) {
+    const ReferenceParser reference;
+    for (char32_t character = 1; character <= 0x10FFFF; ++character) {
+        if (character >= 0xD800 && character <= 0xDFFF)
+            continue;
+        const auto text = utf16(std::u32string(U"[00:0") + character + U"]\n[00:02]" + character +
+                                U"x" + character);
+        std::string bytes;
+        text.toUTF8String(bytes);
+        if (parsed(bytes) != reference.parse(text))
+            ADD_FAILURE() << "U+" << std::hex << static_cast<std::uint32_t>(character);
+    }
+}
+
+} // namespace
+} // namespace brellowind

@@ -1,0 +1,417 @@
+#include "playback/MonitorFixture.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brellowind {
+namespace {
+
+using namespace std::chrono_literals;
+using test::Entries;
+using test::Journal;
+using test::Monitor;
+using test::tolerance;
+
+TEST(NowPlaying, AsksNothingBeforeItsStart) {
+    Monitor monitor;
+    monitor.advance(5s);
+    EXPECT_EQ(monitor.nowPlaying->track.get(), std::nullopt);
+    EXPECT_FALSE(monitor.nowPlaying->isPlaying.get());
+    EXPECT_EQ(monitor.position(), 0);
+    EXPECT_EQ(monitor.machine.runningApplications.readings, 0);
+    EXPECT_TRUE(monitor.machine.scripting.executed.empty());
+    EXPECT_EQ(monitor.machine.mainLoop.timerCount(), 0U);
+}
+
+TEST(NowPlayingStart, ReadsThePlayerAtOnce) {
+    Monitor monitor;
+    monitor.spotify.artwork = "https://covers.example/1";
+    monitor.spotify.position = "12,5";
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    EXPECT_EQ(monitor.nowPlaying->track.get(),
+              Track("Song", "Artist", "Album", 215000, "https://covers.example/1"));
+    EXPECT_TRUE(monitor.nowPlaying->isPlaying.get());
+    EXPECT_EQ(monitor.position(), 12.5);
+}
+
+TEST(NowPlayingStart, ReadsOnceASecondFromThenOn) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    EXPECT_EQ(monitor.spotify.readings(), 1U);
+    monitor.advance(999ms);
+    EXPECT_EQ(monitor.spotify.readings(), 1U);
+    monitor.advance(1ms);
+    EXPECT_EQ(monitor.spotify.readings(), 2U);
+    monitor.advance(10s);
+    EXPECT_EQ(monitor.spotify.readings(), 12U);
+}
+
+TEST(NowPlayingStart, CalledTwiceLeavesOneTimerOfEachKindAndReadsOncePerCall) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    monitor.advance(400ms);
+    monitor.nowPlaying->start();
+    EXPECT_EQ(monitor.spotify.readings(), 2U);
+    EXPECT_EQ(monitor.machine.mainLoop.repeatingTimerCount(1000ms), 1U);
+    EXPECT_EQ(monitor.machine.mainLoop.repeatingTimerCount(50ms), 1U);
+    EXPECT_EQ(monitor.machine.mainLoop.timerCount(), 2U);
+    monitor.advance(999ms);
+    EXPECT_EQ(monitor.spotify.readings(), 2U);
+    monitor.advance(1ms);
+    EXPECT_EQ(monitor.spotify.readings(), 3U);
+}
+
+TEST(NowPlayingStop, EndsBothTimersAndKeepsThePublishedValues) {
+    Monitor monitor;
+    monitor.spotify.position = "7";
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    monitor.nowPlaying->stop();
+    EXPECT_EQ(monitor.machine.mainLoop.timerCount(), 0U);
+    monitor.spotify.playSong("Other");
+    monitor.advance(3s);
+    EXPECT_EQ(monitor.title(), "Song");
+    EXPECT_TRUE(monitor.nowPlaying->isPlaying.get());
+    EXPECT_EQ(monitor.position(), 7);
+    EXPECT_EQ(monitor.spotify.readings(), 1U);
+}
+
+TEST(NowPlayingStop, MayBeFollowedByAnotherStart) {
+    Monitor monitor;
+    monitor.nowPlaying->stop();
+    monitor.nowPlaying->start();
+    monitor.nowPlaying->stop();
+    monitor.nowPlaying->start();
+    monitor.advance(1s);
+    EXPECT_EQ(monitor.spotify.readings(), 3U);
+}
+
+TEST(NowPlayingReading, AssignsTrackThenPlayingFlagThenPosition) {
+    Monitor monitor;
+    monitor.spotify.position = "3";
+    monitor.spotify.state = "playing";
+    Journal journal(*monitor.nowPlaying);
+    monitor.nowPlaying->start();
+    EXPECT_EQ(journal.take(),
+              (Entries{"track: absent, paused, 0 ms", "isPlaying: Song, paused, 0 ms",
+                       "positionSec: Song, playing, 0 ms"}));
+    EXPECT_EQ(monitor.position(), 3);
+}
+
+TEST(NowPlayingReading, AnotherSongReplacesTheTrackWhileThePositionStillHoldsTheOldOne) {
+    Monitor monitor;
+    monitor.spotify.position = "200";
+    monitor.nowPlaying->start();
+    monitor.spotify.playSong("Next");
+    Journal journal(*monitor.nowPlaying);
+    monitor.advance(1s);
+    EXPECT_EQ(journal.take(),
+              (Entries{"track: Song, paused, 200000 ms", "isPlaying: Next, paused, 200000 ms",
+                       "positionSec: Next, paused, 200000 ms"}));
+    EXPECT_EQ(monitor.position(), 0);
+}
+
+TEST(NowPlayingReading, SameSongAssignsPlayingFlagAndPositionAlsoUnchanged) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    Journal journal(*monitor.nowPlaying);
+    monitor.advance(1s);
+    EXPECT_EQ(journal.take(),
+              (Entries{"isPlaying: Song, paused, 0 ms", "positionSec: Song, paused, 0 ms"}));
+}
+
+TEST(NowPlayingReading, KeepsPublishedTrackWhenOnlyDurationOrArtworkDiffers) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    monitor.spotify.duration = "1000";
+    monitor.spotify.artwork = "https://covers.example/late";
+    monitor.spotify.position = "4";
+    monitor.spotify.state = "playing";
+    int trackAssignments = 0;
+    const auto subscription = monitor.nowPlaying->track.observe([&] { ++trackAssignments; });
+    monitor.advance(1s);
+    EXPECT_EQ(trackAssignments, 0);
+    EXPECT_EQ(monitor.nowPlaying->track.get(),
+              Track("Song", "Artist", "Album", 215000, std::nullopt));
+    EXPECT_TRUE(monitor.nowPlaying->isPlaying.get());
+    EXPECT_EQ(monitor.position(), 4);
+}
+
+TEST(NowPlayingReading, SongsWhoseIdsCoincideCountAsOne) {
+    Monitor monitor;
+    monitor.spotify.title = "x|y";
+    monitor.spotify.artist = "z";
+    monitor.nowPlaying->start();
+    monitor.spotify.title = "x";
+    monitor.spotify.artist = "y|z";
+    monitor.advance(1s);
+    EXPECT_EQ(monitor.title(), "x|y");
+}
+
+TEST(NowPlayingReading, EachPartOfTheIdMakesAnotherSong) {
+    Monitor monitor;
+    int assignments = 0;
+    const auto subscription = monitor.nowPlaying->track.observe([&] { ++assignments; });
+    monitor.nowPlaying->start();
+    monitor.spotify.title = "Other";
+    monitor.advance(1s);
+    monitor.spotify.artist = "Other";
+    monitor.advance(1s);
+    monitor.spotify.album = "Other";
+    monitor.advance(1s);
+    EXPECT_EQ(assignments, 4);
+}
+
+TEST(NowPlayingReading, AnUntitledSongIsStillATrack) {
+    Monitor monitor;
+    monitor.spotify.title = monitor.spotify.artist = monitor.spotify.album = "";
+    monitor.nowPlaying->start();
+    EXPECT_EQ(monitor.nowPlaying->track.get(), Track("", "", "", 215000, std::nullopt));
+}
+
+TEST(NowPlayingTick, AdvancesThePositionTwentyTimesASecond) {
+    Monitor monitor;
+    monitor.spotify.position = "10";
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    Journal journal(*monitor.nowPlaying);
+    monitor.advance(49ms);
+    EXPECT_EQ(monitor.position(), 10);
+    monitor.advance(1ms);
+    EXPECT_NEAR(monitor.position(), 10.05, tolerance);
+    EXPECT_EQ(journal.take(), Entries{"positionSec: Song, playing, 10000 ms"});
+    monitor.advance(900ms);
+    EXPECT_NEAR(monitor.position(), 10.95, tolerance);
+    EXPECT_EQ(journal.take().size(), 18U);
+}
+
+TEST(NowPlayingTick, ChangesNothingWhilePaused) {
+    Monitor monitor;
+    monitor.spotify.position = "10";
+    monitor.nowPlaying->start();
+    Journal journal(*monitor.nowPlaying);
+    monitor.advance(999ms);
+    EXPECT_EQ(monitor.position(), 10);
+    EXPECT_EQ(journal.take(), Entries{});
+}
+
+TEST(NowPlayingTick, ALateTickMakesUpForTheTimeLost) {
+    Monitor monitor;
+    monitor.spotify.position = "10";
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    monitor.advance(100ms);
+    monitor.machine.clock.shift += 730ms;
+    monitor.advance(50ms);
+    EXPECT_NEAR(monitor.position(), 10.88, tolerance);
+    monitor.advance(50ms);
+    EXPECT_NEAR(monitor.position(), 10.93, tolerance);
+}
+
+TEST(NowPlayingTick, FollowsAWallClockThatIsPutBack) {
+    Monitor monitor;
+    monitor.spotify.position = "10";
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    monitor.machine.clock.shift -= 3s;
+    monitor.advance(50ms);
+    EXPECT_NEAR(monitor.position(), 7.05, tolerance);
+    monitor.advance(50ms);
+    EXPECT_NEAR(monitor.position(), 7.1, tolerance);
+}
+
+TEST(NowPlayingTick, CountsFromTheLastReadingAndNotFromTheTickBeforeIt) {
+    Monitor monitor;
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    monitor.advance(999ms);
+    monitor.machine.clock.shift += 20s; // between the tick at 950 ms and the reading at 1000 ms
+    monitor.spotify.position = "30";
+    monitor.advance(51ms);
+    EXPECT_EQ(monitor.spotify.readings(), 2U);
+    EXPECT_NEAR(monitor.position(), 30.05, tolerance);
+}
+
+TEST(NowPlayingTick, CountsFromTheMomentTheAnswerArrived) {
+    Monitor monitor;
+    monitor.spotify.position = "10";
+    monitor.spotify.state = "playing";
+    monitor.spotify.answerTime = 400ms;
+    monitor.nowPlaying->start();
+    monitor.advance(50ms);
+    EXPECT_NEAR(monitor.position(), 10.05, tolerance);
+}
+
+TEST(NowPlayingTick, CountsFromTheMomentAfterThePositionWasPublished) {
+    Monitor monitor;
+    monitor.spotify.position = "10";
+    monitor.spotify.state = "playing";
+    auto slowObserver =
+        monitor.nowPlaying->positionSec.observe([&] { monitor.machine.clock.shift += 300ms; });
+    monitor.nowPlaying->start();
+    slowObserver.cancel();
+    monitor.advance(50ms);
+    EXPECT_NEAR(monitor.position(), 10.05, tolerance);
+}
+
+TEST(NowPlayingTick, NeverClampsThePositionToTheDuration) {
+    Monitor monitor;
+    monitor.spotify.duration = "11000";
+    monitor.spotify.position = "10.9";
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    monitor.advance(950ms);
+    EXPECT_NEAR(monitor.position(), 11.85, tolerance);
+}
+
+TEST(NowPlayingFailingReading, ChangesNothing) {
+    Monitor monitor;
+    monitor.spotify.position = "10";
+    monitor.nowPlaying->start();
+    Journal journal(*monitor.nowPlaying);
+    monitor.spotify.error = "timed out";
+    monitor.advance(1s);
+    EXPECT_EQ(monitor.spotify.readings(), 2U);
+    EXPECT_EQ(journal.take(), Entries{});
+    EXPECT_EQ(monitor.title(), "Song");
+    EXPECT_EQ(monitor.machine.log.lines,
+              std::vector<std::string>{"Spotify AppleScript error: timed out"});
+}
+
+TEST(NowPlayingFailingReading, LeavesThePositionRunningOnItsOwn) {
+    Monitor monitor;
+    monitor.spotify.position = "214";
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    monitor.spotify.error = "timed out";
+    monitor.advance(60s);
+    EXPECT_NEAR(monitor.position(), 274, 1e-6);
+    EXPECT_TRUE(monitor.nowPlaying->isPlaying.get());
+    EXPECT_EQ(monitor.title(), "Song");
+}
+
+TEST(NowPlayingFailingReading, DoesNotCountAsTheMomentToAdvanceFrom) {
+    Monitor monitor;
+    monitor.spotify.position = "10";
+    monitor.nowPlaying->start();
+    monitor.spotify.error = "timed out";
+    monitor.advance(2s);
+    monitor.nowPlaying->togglePlayPause();
+    monitor.advance(50ms);
+    EXPECT_NEAR(monitor.position(), 12.05, tolerance);
+}
+
+TEST(NowPlayingFailingReading, TheNextSuccessfulOneSetsEverythingRight) {
+    Monitor monitor;
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    monitor.spotify.error = "timed out";
+    monitor.advance(5s);
+    monitor.spotify.error.reset();
+    monitor.spotify.playSong("Next");
+    monitor.spotify.position = "2";
+    monitor.advance(1s);
+    EXPECT_EQ(monitor.title(), "Next");
+    EXPECT_EQ(monitor.position(), 2);
+}
+
+TEST(NowPlayingFailingReading, OfAPlayerThatIsJustEndingKeepsTheTrack) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    monitor.machine.scripting.answer = [](const auto&) {
+        return platform::ScriptOutcome{.text = "", .error = std::nullopt};
+    };
+    monitor.advance(1s);
+    EXPECT_EQ(monitor.title(), "Song");
+    EXPECT_TRUE(monitor.machine.log.lines.empty());
+}
+
+TEST(NowPlayingQuitting, TakesTrackAndPlayingFlagButKeepsThePosition) {
+    Monitor monitor;
+    monitor.spotify.position = "42";
+    monitor.spotify.state = "playing";
+    monitor.nowPlaying->start();
+    monitor.advance(950ms);
+    monitor.spotify.quit();
+    Journal journal(*monitor.nowPlaying);
+    monitor.advance(50ms);
+    EXPECT_EQ(journal.take(),
+              (Entries{"track: Song, playing, 42950 ms", "isPlaying: absent, playing, 42950 ms"}));
+    EXPECT_FALSE(monitor.nowPlaying->isPlaying.get());
+    EXPECT_EQ(monitor.nowPlaying->track.get(), std::nullopt);
+    EXPECT_NEAR(monitor.position(), 42.95, tolerance);
+}
+
+TEST(NowPlayingQuitting, IsAnnouncedOnce) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    monitor.spotify.quit();
+    monitor.advance(1s);
+    Journal journal(*monitor.nowPlaying);
+    monitor.advance(5s);
+    EXPECT_EQ(journal.take(), Entries{});
+    EXPECT_EQ(monitor.spotify.readings(), 1U);
+    EXPECT_EQ(monitor.machine.runningApplications.readings, 7);
+}
+
+TEST(NowPlayingQuitting, ThePlayerThatNeverRanAssignsNothing) {
+    Monitor monitor;
+    monitor.spotify.quit();
+    Journal journal(*monitor.nowPlaying);
+    monitor.nowPlaying->start();
+    monitor.advance(2s);
+    EXPECT_EQ(journal.take(), Entries{});
+    EXPECT_TRUE(monitor.machine.scripting.executed.empty());
+}
+
+TEST(NowPlayingQuitting, ALaterLaunchPublishesTheSongAgain) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    monitor.spotify.quit();
+    monitor.advance(1s);
+    monitor.spotify.launch();
+    monitor.advance(1s);
+    EXPECT_EQ(monitor.title(), "Song");
+}
+
+TEST(NowPlayingLifetime, TimersDoNotKeepTheMonitorAlive) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    const std::weak_ptr<NowPlaying> observer = monitor.nowPlaying;
+    monitor.nowPlaying.reset();
+    EXPECT_TRUE(observer.expired());
+    monitor.advance(3s);
+    EXPECT_EQ(monitor.spotify.readings(), 1U);
+}
+
+TEST(NowPlayingLifetime, ToggleKeepsTheMonitorAliveUntilItsConfirmation) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    monitor.nowPlaying->togglePlayPause();
+    const std::weak_ptr<NowPlaying> observer = monitor.nowPlaying;
+    monitor.nowPlaying.reset();
+    monitor.advance(149ms);
+    EXPECT_FALSE(observer.expired());
+    monitor.advance(1ms);
+    EXPECT_EQ(monitor.spotify.readings(), 2U);
+    EXPECT_TRUE(observer.expired());
+}
+
+TEST(NowPlayingLifetime, AReadingEndsEvenIfAnObserverReleasesTheMonitor) {
+    Monitor monitor;
+    monitor.nowPlaying->start();
+    monitor.spotify.playSong("Next");
+    Journal journal(*monitor.nowPlaying);
+    const auto releasing = monitor.nowPlaying->track.observe([&] { monitor.nowPlaying.reset(); });
+    monitor.advance(2s);
+    EXPECT_EQ(journal.take(), (Entries{"track: Song, paused, 0 ms", "isPlaying: Next, paused, 0 ms",
+                                       "positionSec: Next, paused, 0 ms"}));
+    EXPECT_EQ(monitor.spotify.readings(), 2U);
+}
+
+} // namespace
+} // namespace brellowind
