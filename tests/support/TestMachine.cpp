@@ -37,6 +37,15 @@ void FakeHttpClient::answer(std::size_t index, platform::HttpResult result) {
         completion(std::move(result));
 }
 
+std::optional<std::string> FakeLoginItem::attempt(std::string_view name,
+                                                  const std::optional<std::string>& error,
+                                                  Status outcome) {
+    attempts.emplace_back(name);
+    if (!error)
+        current = outcome;
+    return error;
+}
+
 TestMachine::TestMachine()
     : constants{.version = "1.0",
                 .lyricsOrigin = "https://lyrics.example",
@@ -54,6 +63,9 @@ TestMachine::TestMachine()
               .http = http,
               .scripting = scripting,
               .runningApplications = runningApplications,
+              .application = application,
+              .links = links,
+              .loginItem = loginItem,
               .constants = constants}) {}
 
 } // namespace brellowind::test
