@@ -13,27 +13,40 @@ UpdateCard updateCard(const UpdateChecker::State& state, std::string_view curren
     version += currentVersion;
     switch (state.which()) {
     case Case::available:
-        version += "  →  ver-" + state.release()->version;
-        return {"arrow.down.circle.fill", Color::yellow,     0.1,
-                "Update Available",       "Download update", Action::openDownload,
-                std::move(version)};
+        return {.icon = "arrow.down.circle.fill",
+                .color = Color::yellow,
+                .tintOpacity = 0.1,
+                .title = "Update Available",
+                .buttonLabel = "Download update",
+                .buttonAction = Action::openDownload,
+                .versionText = version + "  →  ver-" + state.release()->version};
     case Case::checking:
-        return {{},           Color::teal,       0.12, "Checking for updates", "Checking…",
-                Action::none, std::move(version)};
+        return {.icon = {},
+                .color = Color::teal,
+                .tintOpacity = 0.12,
+                .title = "Checking for updates",
+                .buttonLabel = "Checking…",
+                .buttonAction = Action::none,
+                .versionText = std::move(version)};
     case Case::failed:
-        return {"exclamationmark.circle.fill",
-                Color::red,
-                0.1,
-                "Update check failed",
-                "Try again",
-                Action::check,
-                std::move(version)};
+        return {.icon = "exclamationmark.circle.fill",
+                .color = Color::red,
+                .tintOpacity = 0.1,
+                .title = "Update check failed",
+                .buttonLabel = "Try again",
+                .buttonAction = Action::check,
+                .versionText = std::move(version)};
     case Case::idle: // as good as up to date until a check says otherwise
     case Case::upToDate:
         break;
     }
-    return {"checkmark.circle.fill", Color::green,      0.12, "Up to date", "Check update",
-            Action::check,           std::move(version)};
+    return {.icon = "checkmark.circle.fill",
+            .color = Color::green,
+            .tintOpacity = 0.12,
+            .title = "Up to date",
+            .buttonLabel = "Check update",
+            .buttonAction = Action::check,
+            .versionText = std::move(version)};
 }
 
 } // namespace brellowind

@@ -46,6 +46,16 @@ TEST(UpdateFeed, IgnoresOtherKeys) {
         (Release{"1", "a:b", std::nullopt}));
 }
 
+TEST(UpdateFeed, NestingOfAnyDepthIsReadOrRefusedLikeAnythingElse) {
+    constexpr std::size_t depth = 400'000;
+    const std::string open(depth, '[');
+    const std::string closed = open + std::string(depth, ']');
+    EXPECT_TRUE(std::holds_alternative<Undecodable>(decode(open)));
+    EXPECT_TRUE(std::holds_alternative<Undecodable>(decode(closed)));
+    EXPECT_TRUE(std::holds_alternative<Release>(
+        decode(R"({"version": "1", "url": "a:b", "more": )" + closed + "}")));
+}
+
 class UndecodableFeed : public testing::TestWithParam<const char*> {};
 
 TEST_P(UndecodableFeed, GivesADescriptionThatRepeatsNothingOfIt) {
