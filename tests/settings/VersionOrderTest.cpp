@@ -2,6 +2,7 @@
 
 #include <array>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <random>
 #include <string>
 #include <vector>
@@ -12,6 +13,10 @@ namespace {
 struct Pair {
     std::string newer;
     std::string older;
+
+    friend std::ostream& operator<<(std::ostream& out, const Pair& pair) {
+        return out << pair.newer << " over " << pair.older;
+    }
 };
 
 class VersionOrderTable : public testing::TestWithParam<Pair> {};
