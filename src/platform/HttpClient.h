@@ -13,12 +13,19 @@
 
 namespace brellowind::platform {
 
+/// What caches may do with a request.
+enum class CachePolicy {
+    protocol, ///< what HTTP lets them do
+    reload,   ///< nothing: the answer comes from the origin, whatever is kept on the way
+};
+
 /// A GET request.
 struct HttpRequest {
     std::string url; ///< absolute and percent-encoded
     std::vector<std::pair<std::string, std::string>> headers;
     std::size_t maximumBodyBytes; ///< a longer body is a transport failure
     std::chrono::milliseconds timeout = std::chrono::seconds(60); ///< for the whole transfer
+    CachePolicy cachePolicy = CachePolicy::protocol;
 };
 
 struct HttpResponse {

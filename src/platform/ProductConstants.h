@@ -9,6 +9,12 @@ struct ProductConstants {
     std::string version;      ///< short version, such as "1.2"; empty in a build without one
     std::string lyricsOrigin; ///< scheme, host and optional port, without a trailing slash
     std::string websiteURL;
+    std::string socialURL;
+    std::string privacyPolicyURL;
+    std::string termsURL;
+    std::string feedbackEmail;
+    std::string updateFeedURL; ///< https, of a document named latest.json
+    std::string legalNotice;   ///< one line
 };
 
 } // namespace brellowind::platform

@@ -7,20 +7,29 @@
 namespace brellowind::platform {
 namespace {
 
-Services* installed = nullptr;
+ServicesScope* installed = nullptr;
 
 } // namespace
 
-Services& services() {
+ServicesScope& ServicesScope::innermost() {
     if (!installed)
         fatalError("no platform services are installed");
     return *installed;
 }
 
+Services& services() {
+    return ServicesScope::innermost().services_;
+}
+
+std::shared_ptr<void>& sharedSlot(std::type_index type) {
+    return ServicesScope::innermost().shared_[type];
+}
+
 ServicesScope::ServicesScope(Services services)
-    : services_(services), previous_(std::exchange(installed, &services_)) {}
+    : services_(services), previous_(std::exchange(installed, this)) {}
 
 ServicesScope::~ServicesScope() {
+    shared_.clear();
     installed = previous_;
 }
 

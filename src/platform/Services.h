@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/Application.h"
 #include "platform/Clock.h"
 #include "platform/HttpClient.h"
+#include "platform/LinkOpener.h"
 #include "platform/Log.h"
+#include "platform/LoginItem.h"
 #include "platform/MainLoop.h"
 #include "platform/Pointer.h"
 #include "platform/ProductConstants.h"
@@ -10,6 +13,10 @@
 #include "platform/Screens.h"
 #include "platform/Scripting.h"
 #include "platform/TaskRunner.h"
+
+#include <map>
+#include <memory>
+#include <typeindex>
 
 namespace brellowind::platform {
 
@@ -24,13 +31,21 @@ struct Services {
     RunningApplications& runningApplications;
     Screens& screens;
     Pointer& pointer;
+    Application& application;
+    LinkOpener& links;
+    LoginItem& loginItem;
     const ProductConstants& constants;
 };
 
 /// The installed services. Stops the program when none are.
 Services& services();
 
-/// Installs `services` for as long as it lives, then puts back what was there before.
+/// Where the shared instance of `type` is kept: empty until somebody puts it there, and emptied
+/// when the installed services go. `sharedInstance` is made on it.
+std::shared_ptr<void>& sharedSlot(std::type_index type);
+
+/// Installs `services` for as long as it lives, then puts back what was there before. The shared
+/// instances that were made meanwhile go with it.
 class ServicesScope {
 public:
     explicit ServicesScope(Services services);
@@ -39,8 +54,14 @@ public:
     ~ServicesScope();
 
 private:
+    friend Services& services();
+    friend std::shared_ptr<void>& sharedSlot(std::type_index type);
+
+    static ServicesScope& innermost();
+
     Services services_;
-    Services* previous_;
+    std::map<std::type_index, std::shared_ptr<void>> shared_;
+    ServicesScope* previous_;
 };
 
 } // namespace brellowind::platform

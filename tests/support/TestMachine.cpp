@@ -37,10 +37,25 @@ void FakeHttpClient::answer(std::size_t index, platform::HttpResult result) {
         completion(std::move(result));
 }
 
+std::optional<std::string> FakeLoginItem::attempt(std::string_view name,
+                                                  const std::optional<std::string>& error,
+                                                  Status outcome) {
+    attempts.emplace_back(name);
+    if (!error)
+        current = outcome;
+    return error;
+}
+
 TestMachine::TestMachine()
     : constants{.version = "1.0",
                 .lyricsOrigin = "https://lyrics.example",
-                .websiteURL = "https://brellowind.example"},
+                .websiteURL = "https://brellowind.example",
+                .socialURL = "https://social.example/brellowind",
+                .privacyPolicyURL = "https://brellowind.example/privacy",
+                .termsURL = "https://brellowind.example/terms",
+                .feedbackEmail = "feedback@brellowind.example",
+                .updateFeedURL = "https://brellowind.example/latest.json",
+                .legalNotice = "© brellowind.example"},
       scope_({.mainLoop = mainLoop,
               .tasks = tasks,
               .clock = clock,
@@ -50,6 +65,9 @@ TestMachine::TestMachine()
               .runningApplications = runningApplications,
               .screens = screens,
               .pointer = pointer,
+              .application = application,
+              .links = links,
+              .loginItem = loginItem,
               .constants = constants}) {}
 
 } // namespace brellowind::test

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <list>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -82,6 +83,46 @@ public:
     std::vector<std::shared_ptr<Pending>> requests;
 };
 
+class FakeApplication final : public platform::Application {
+public:
+    void terminate() override { ++terminations; }
+
+    int terminations = 0;
+};
+
+/// Remembers the links that were to be opened.
+class FakeLinkOpener final : public platform::LinkOpener {
+public:
+    bool open(std::string_view url) override {
+        opened.emplace_back(url);
+        return opens;
+    }
+
+    bool opens = true;
+    std::vector<std::string> opened;
+};
+
+/// A login item whose registrations and unregistrations succeed unless the test says what fails.
+class FakeLoginItem final : public platform::LoginItem {
+public:
+    Status status() override { return current; }
+    std::optional<std::string> registerItem() override {
+        return attempt("register", registrationError, Status::enabled);
+    }
+    std::optional<std::string> unregisterItem() override {
+        return attempt("unregister", unregistrationError, Status::notRegistered);
+    }
+
+    Status current = Status::notRegistered;
+    std::optional<std::string> registrationError;
+    std::optional<std::string> unregistrationError;
+    std::vector<std::string> attempts; ///< "register" and "unregister", in order
+
+private:
+    std::optional<std::string> attempt(std::string_view name,
+                                       const std::optional<std::string>& error, Status outcome);
+};
+
 /// The whole machine of one test, installed for as long as it lives.
 class TestMachine {
 public:
@@ -96,6 +137,9 @@ public:
     FakeRunningApplications runningApplications;
     FakeScreens screens; ///< none at first
     FakePointer pointer;
+    FakeApplication application;
+    FakeLinkOpener links;
+    FakeLoginItem loginItem;
     platform::ProductConstants constants;
 
 private:

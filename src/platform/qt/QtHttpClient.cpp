@@ -84,6 +84,11 @@ QNetworkRequest networkRequest(const HttpRequest& request) {
     network.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     network.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     network.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    if (request.cachePolicy == CachePolicy::reload) {
+        network.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
+                             QNetworkRequest::AlwaysNetwork);
+        network.setRawHeader("Cache-Control", "no-cache"); // for the proxies on the way
+    }
     for (const auto& [name, value] : request.headers)
         network.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
     return network;

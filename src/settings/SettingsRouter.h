@@ -1,0 +1,26 @@
+#pragma once
+
+#include "foundation/Published.h"
+
+namespace brellowind {
+
+/// The tabs of the settings window, in the order in which they stand.
+enum class SettingsTab { general, about };
+
+/// Says which tab the settings window shows. Whoever opens the window chooses here, and the window
+/// writes back what the user picks. Main thread only.
+class SettingsRouter {
+public:
+    /// The one instance. It belongs to the installed services: made on first use, dropped with
+    /// them.
+    static SettingsRouter& shared();
+
+    void setSelectedTab(SettingsTab tab) { selectedTab.set(tab); }
+
+    Published<SettingsTab, SettingsRouter> selectedTab{SettingsTab::general};
+
+private:
+    SettingsRouter() = default;
+};
+
+} // namespace brellowind

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace brellowind {
+
+/// A release of the program, as the release feed describes it.
+struct Release {
+    std::string version;
+    std::string url; ///< absolute: where people download it
+    std::optional<std::string> notes;
+
+    bool operator==(const Release&) const = default;
+};
+
+/// What is known of newer releases.
+class UpdateState {
+public:
+    enum class Case {
+        idle,      ///< no check made yet
+        checking,  ///< a check is under way
+        upToDate,  ///< the feed's release is not newer than the program
+        available, ///< the feed's release is newer
+        failed,    ///< the feed could not be fetched or read
+    };
+
+    static UpdateState idle() { return UpdateState(Case::idle); }
+    static UpdateState checking() { return UpdateState(Case::checking); }
+    static UpdateState upToDate() { return UpdateState(Case::upToDate); }
+    static UpdateState available(Release release);
+    static UpdateState failed() { return UpdateState(Case::failed); }
+
+    Case which() const { return case_; }
+
+    /// The release of an `available` state; absent in every other.
+    const std::optional<Release>& release() const { return release_; }
+
+    bool operator==(const UpdateState&) const = default;
+
+private:
+    explicit UpdateState(Case which) : case_(which) {}
+
+    Case case_;
+    std::optional<Release> release_;
+};
+
+} // namespace brellowind
