@@ -1,6 +1,6 @@
 #include "settings/UpdateFeed.h"
 
-#include "settings/AbsoluteURL.h"
+#include "foundation/AbsoluteURL.h"
 
 #include <nlohmann/json.hpp>
 #include <utility>

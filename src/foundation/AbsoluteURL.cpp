@@ -1,4 +1,4 @@
-#include "settings/AbsoluteURL.h"
+#include "foundation/AbsoluteURL.h"
 
 #include <algorithm>
 
