@@ -13,7 +13,7 @@ Exchange parse(const QByteArray& head, QTcpSocket* connection) {
     const QList<QByteArray> lines = head.split('\n');
     const QByteArray target = lines.constFirst().split(' ').value(1);
     const qsizetype mark = target.indexOf('?');
-    exchange.path = target.left(mark);
+    exchange.path = mark < 0 ? target : target.left(mark);
     exchange.query = mark < 0 ? QByteArray() : target.mid(mark + 1);
     for (const QByteArray& line : lines.mid(1)) {
         const qsizetype colon = line.indexOf(':');

@@ -1,22 +1,40 @@
 #include "app/AppDelegate.h"
 
-#include "views/NotchQuickView.h"
+#include "platform/Services.h"
 #include "views/NotchRootView.h"
+
+#include <utility>
 
 namespace brellowind {
 
-AppDelegate::AppDelegate() : rootView_(std::make_unique<NotchRootView>()) {}
+using platform::services;
+
+AppDelegate::Notch::Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock)
+    : content(std::move(rootView)), overlay(content, services().mainLoop, screenLock),
+      window(overlay) {
+    QObject::connect(&content, &NotchQuickView::outlineChanged, &overlay,
+                     &platform::X11OverlayWindow::setContentOutline);
+}
+
+AppDelegate::AppDelegate(platform::ScreenLock& screenLock, std::function<void()> openSettings)
+    : screenLock_(screenLock),
+      rootView_(NotchRootView::create({.window = [this]() -> platform::OverlayWindow* {
+                                           return notch_ ? &notch_->overlay : nullptr;
+                                       },
+                                       .openSettings = std::move(openSettings)})) {}
 
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
-    notchWindow_ = std::make_unique<NotchQuickView>(*rootView_);
-    notchWindow_->show();
+    notch_.emplace(rootView_, screenLock_);
+    notch_->window.show();
     rootView_->appear();
+    screenChange_ = services().screens.onChange([this] { screenParametersChanged(); });
 }
 
-QQuickWindow& AppDelegate::window() {
-    return *notchWindow_;
+void AppDelegate::screenParametersChanged() {
+    if (notch_)
+        notch_->window.repositionToNotch();
 }
 
 } // namespace brellowind

@@ -1,28 +1,49 @@
 #pragma once
 
-#include <memory>
+#include "foundation/Observers.h"
+#include "notch/NotchWindow.h"
+#include "platform/linux/x11/X11OverlayWindow.h"
+#include "views/NotchQuickView.h"
 
-class QQuickWindow;
+#include <functional>
+#include <memory>
+#include <optional>
 
 namespace brellowind {
 
 class NotchRootView;
-class NotchQuickView;
 
-/// Creates the one notch window when launching has finished.
+/// Creates the one notch window when launching has finished, and keeps it over the notch whenever
+/// the screens change.
 class AppDelegate {
 public:
-    AppDelegate();
+    /// `screenLock` outlives this; `openSettings` opens the settings window, or raises it.
+    AppDelegate(platform::ScreenLock& screenLock, std::function<void()> openSettings);
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
     ~AppDelegate();
 
     void applicationDidFinishLaunching();
 
     NotchRootView& rootView() { return *rootView_; }
-    QQuickWindow& window();
+    QQuickWindow& window() { return notch_->content; } ///< there once launched
 
 private:
-    std::unique_ptr<NotchRootView> rootView_;
-    std::unique_ptr<NotchQuickView> notchWindow_;
+    /// The window's three sides: what it draws, what the system shows, where it hangs.
+    struct Notch {
+        Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock);
+
+        NotchQuickView content;
+        platform::X11OverlayWindow overlay;
+        NotchWindow window;
+    };
+
+    void screenParametersChanged();
+
+    platform::ScreenLock& screenLock_;
+    std::shared_ptr<NotchRootView> rootView_;
+    std::optional<Notch> notch_;
+    Subscription screenChange_;
 };
 
 } // namespace brellowind

@@ -4,19 +4,37 @@
 #include "app/CompiledConstants.h"
 #include "platform/Services.h"
 #include "platform/linux/MprisPlayer.h"
+#include "platform/linux/ScreenLock.h"
 #include "platform/linux/StderrLog.h"
+#include "platform/linux/XdgLoginItem.h"
+#include "platform/linux/screens/QtScreens.h"
+#include "platform/linux/x11/X11Pointer.h"
+#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtImageDecoder.h"
+#include "platform/qt/QtLinkOpener.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/SystemClock.h"
 #include "playback/SpotifyBridge.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
+#include <QStandardPaths>
 #include <sstream>
 
 namespace brellowind {
 namespace {
+
+/// The side of the enlarged artwork.
+constexpr int largestArtworkPoints = 320;
+
+platform::XdgLoginItem makeLoginItem() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return {folder.toStdString(), QCoreApplication::applicationFilePath().toStdString(),
+            qEnvironmentVariable("PATH").toStdString()};
+}
 
 platform::MprisVocabulary mprisVocabulary() {
     platform::MprisVocabulary vocabulary{
@@ -43,17 +61,30 @@ struct BrellowindApp::Machine {
     platform::SystemClock clock;
     platform::StderrLog log;
     platform::QtHttpClient http;
+    platform::QtImageDecoder images{largestArtworkPoints};
     platform::MprisPlayer player{QDBusConnection::sessionBus(), mprisVocabulary()};
+    platform::QtScreens screens{mainLoop};
+    platform::X11Pointer pointer{mainLoop};
+    platform::QtApplication application;
+    platform::QtLinkOpener links;
+    platform::XdgLoginItem loginItem = makeLoginItem();
+    platform::ScreenLock screenLock{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
     TaskRunner tasks{mainLoop};
     platform::ServicesScope scope{{.mainLoop = mainLoop,
                                    .tasks = tasks,
                                    .clock = clock,
                                    .log = log,
                                    .http = http,
+                                   .images = images,
                                    .scripting = player,
                                    .runningApplications = player,
+                                   .screens = screens,
+                                   .pointer = pointer,
+                                   .application = application,
+                                   .links = links,
+                                   .loginItem = loginItem,
                                    .constants = constants}};
-    AppDelegate delegate;
+    AppDelegate delegate{screenLock, [] {}};
 };
 
 void BrellowindApp::prepare() {

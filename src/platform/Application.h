@@ -7,6 +7,9 @@ class Application {
 public:
     virtual ~Application() = default;
 
+    /// Brings the program's windows to the front, whichever application is active.
+    virtual void activate() = 0;
+
     /// Asks the program to end. It ends on a later turn of the main loop.
     virtual void terminate() = 0;
 };

@@ -3,6 +3,7 @@
 #include "platform/Application.h"
 #include "platform/Clock.h"
 #include "platform/HttpClient.h"
+#include "platform/Images.h"
 #include "platform/LinkOpener.h"
 #include "platform/Log.h"
 #include "platform/LoginItem.h"
@@ -27,6 +28,7 @@ struct Services {
     Clock& clock;
     Log& log;
     HttpClient& http;
+    ImageDecoder& images;
     Scripting& scripting;
     RunningApplications& runningApplications;
     Screens& screens;

@@ -1,7 +1,7 @@
 #include "settings/GeneralSettings.h"
 
-#include "platform/Services.h"
 #include "foundation/AbsoluteURL.h"
+#include "platform/Services.h"
 #include "settings/AppInfo.h"
 #include "settings/UpdateCard.h"
 #include "settings/UpdateChecker.h"

@@ -1,21 +1,31 @@
 #pragma once
 
-#include "views/NotchRootModel.h"
-
+#include <QPainterPath>
 #include <QQuickView>
+#include <memory>
 
 namespace brellowind {
 
-/// The window that hangs from the top edge of the screen and draws the pill.
+class NotchRootView;
+class PillShape;
+
+/// The contents of the notch window: it draws the pill at its top, the rest is clear.
 class NotchQuickView : public QQuickView {
     Q_OBJECT
 
 public:
-    /// `rootView` must outlive the window.
-    explicit NotchQuickView(NotchRootView& rootView);
+    explicit NotchQuickView(std::shared_ptr<NotchRootView> rootView);
+    ~NotchQuickView() override;
+
+Q_SIGNALS:
+    /// The outline of the pill as the next frame will show it, in points of the window.
+    void outlineChanged(const QPainterPath& outline);
 
 private:
-    NotchRootModel* model_; ///< a child: it goes after the items that draw from it
+    void followOutline();
+
+    PillShape* pill_ = nullptr;
+    QRectF pillRect_;
 };
 
 } // namespace brellowind

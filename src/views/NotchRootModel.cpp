@@ -1,21 +1,54 @@
 #include "views/NotchRootModel.h"
 
-#include "views/NotchRootView.h"
+#include "platform/qt/QtImageDecoder.h"
+
+#include <utility>
 
 namespace brellowind {
+namespace {
 
-NotchRootModel::NotchRootModel(NotchRootView& view)
-    : view_(view), redraws_(view.onRedraw([this] { redraw(); })) {
+QString text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+} // namespace
+
+NotchRootModel::NotchRootModel(std::shared_ptr<NotchRootView> view, QObject* parent)
+    : QObject(parent), view_(std::move(view)), redraws_(view_->onRedraw([this] { redraw(); })) {
     redraw();
 }
 
 void NotchRootModel::redraw() {
-    const auto text = view_.currentLineText();
-    if (text == shownLineText_)
+    redrawTrack();
+    if (const auto line = view_->currentLineText(); line != shownLineText_) {
+        shownLineText_ = line;
+        currentLineText_ = text(line);
+        Q_EMIT currentLineTextChanged();
+    }
+    if (const auto& image = view_->artwork().image.get(); image != shownImage_) {
+        shownImage_ = image;
+        const auto* decoded = dynamic_cast<const platform::QtImage*>(image.get());
+        coverImage_ = decoded ? decoded->image : QImage();
+        Q_EMIT coverImageChanged();
+    }
+    if (const bool isPlaying = view_->nowPlaying().isPlaying.get(); isPlaying != isPlaying_) {
+        isPlaying_ = isPlaying;
+        Q_EMIT isPlayingChanged();
+    }
+    if (view_->form() != form_) {
+        form_ = view_->form();
+        Q_EMIT formChanged();
+    }
+}
+
+void NotchRootModel::redrawTrack() {
+    const auto& track = view_->nowPlaying().track.get();
+    if (track == shownTrack_)
         return;
-    shownLineText_ = text;
-    currentLineText_ = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    Q_EMIT currentLineTextChanged();
+    shownTrack_ = track;
+    title_ = track ? text(track->title) : QString();
+    artist_ = track ? text(track->artist) : QString();
+    Q_EMIT trackChanged();
 }
 
 } // namespace brellowind

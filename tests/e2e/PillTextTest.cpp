@@ -1,8 +1,8 @@
+#include "e2e/ObservedProgram.h"
+#include "loopback/LoopbackServer.h"
 #include "session/Desktop.h"
 #include "session/EventLoop.h"
-#include "e2e/ObservedProgram.h"
 #include "session/PlayerProcess.h"
-#include "loopback/LoopbackServer.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -61,6 +61,7 @@ TestMachine::TestMachine()
               .clock = clock,
               .log = log,
               .http = http,
+              .images = images,
               .scripting = scripting,
               .runningApplications = runningApplications,
               .screens = screens,

@@ -85,8 +85,10 @@ public:
 
 class FakeApplication final : public platform::Application {
 public:
+    void activate() override { ++activations; }
     void terminate() override { ++terminations; }
 
+    int activations = 0;
     int terminations = 0;
 };
 
@@ -123,6 +125,22 @@ private:
                                        const std::optional<std::string>& error, Status outcome);
 };
 
+/// An image that remembers the bytes it came from.
+class FakeImage final : public platform::Image {
+public:
+    explicit FakeImage(std::string_view bytes_) : bytes(bytes_) {}
+
+    const std::string bytes;
+};
+
+/// Decodes whatever begins with "image".
+class FakeImageDecoder final : public platform::ImageDecoder {
+public:
+    std::shared_ptr<const platform::Image> decode(std::string_view bytes) override {
+        return bytes.starts_with("image") ? std::make_shared<FakeImage>(bytes) : nullptr;
+    }
+};
+
 /// The whole machine of one test, installed for as long as it lives.
 class TestMachine {
 public:
@@ -133,6 +151,7 @@ public:
     FakeClock clock{mainLoop};
     FakeLog log;
     FakeHttpClient http;
+    FakeImageDecoder images;
     FakeScripting scripting;
     FakeRunningApplications runningApplications;
     FakeScreens screens; ///< none at first

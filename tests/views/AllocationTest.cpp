@@ -108,7 +108,9 @@ struct PlayingView {
 
     test::TestMachine machine;
     test::FakeSpotify spotify{machine};
-    NotchRootView view;
+    std::shared_ptr<NotchRootView> root =
+        NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
+    NotchRootView& view = *root;
 };
 
 TEST(Allocation, IsCounted) {

@@ -21,7 +21,9 @@ HttpResponse synced(const std::string& lrc) {
 struct View {
     test::TestMachine machine;
     test::FakeSpotify spotify{machine};
-    NotchRootView view;
+    std::shared_ptr<NotchRootView> root =
+        NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
+    NotchRootView& view = *root;
 
     void advance(std::chrono::milliseconds duration) { machine.mainLoop.advance(duration); }
     void runTurns() { machine.mainLoop.runTurns(); }

@@ -1,0 +1,58 @@
+#include "platform/qt/QtImageDecoder.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QPixelFormat>
+#include <algorithm>
+#include <cmath>
+
+namespace brellowind::platform {
+namespace {
+
+bool isKnown(const QByteArray& format) {
+    return format == "jpeg" || format == "jpg" || format == "png" || format == "webp";
+}
+
+qint64 decodedBytes(const QImageReader& reader) {
+    const QSize size = reader.size();
+    int bits = 32;
+    if (reader.imageFormat() != QImage::Format_Invalid)
+        bits = std::max<int>(bits, QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel());
+    return static_cast<qint64>(size.width()) * size.height() * bits / 8;
+}
+
+QRect middleSquare(QSize size) {
+    const int side = std::min(size.width(), size.height());
+    return {(size.width() - side) / 2, (size.height() - side) / 2, side, side};
+}
+
+} // namespace
+
+QtImageDecoder::QtImageDecoder(int largestPoints) : largestPoints_(largestPoints) {
+    QImageReader::setAllocationLimit(maximumDecodedBytes / (1024 * 1024));
+}
+
+std::shared_ptr<const Image> QtImageDecoder::decode(std::string_view bytes) {
+    auto data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (!isKnown(reader.format()) || size.isEmpty() || decodedBytes(reader) > maximumDecodedBytes)
+        return nullptr;
+    const int side = static_cast<int>(std::ceil(largestPoints_ * qGuiApp->devicePixelRatio()));
+    const double scale = static_cast<double>(side) / std::min(size.width(), size.height());
+    if (scale < 1)
+        reader.setScaledSize((QSizeF(size) * scale).toSize().expandedTo({1, 1}));
+    QImage image = reader.read();
+    if (image.isNull())
+        return nullptr;
+    image = image.copy(middleSquare(image.size()));
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                            : QImage::Format_RGB32);
+    return std::make_shared<QtImage>(std::move(image));
+}
+
+} // namespace brellowind::platform

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Images.h"
+
+#include <QImage>
+
+namespace brellowind::platform {
+
+/// An image that Qt has decoded.
+class QtImage final : public Image {
+public:
+    explicit QtImage(QImage decoded) : image(std::move(decoded)) {}
+
+    const QImage image;
+};
+
+/// Decodes JPEG, PNG and WebP into squares no larger than they are ever drawn: the middle of the
+/// image, scaled down.
+class QtImageDecoder final : public ImageDecoder {
+public:
+    /// An image that would need more memory than this to decode is refused.
+    static constexpr qint64 maximumDecodedBytes = 64 * 1024 * 1024;
+
+    /// `largestPoints` is the side of the largest square that an image is drawn in. What that is in
+    /// pixels follows the screens that are there when an image is decoded.
+    explicit QtImageDecoder(int largestPoints);
+
+    std::shared_ptr<const Image> decode(std::string_view bytes) override;
+
+private:
+    int largestPoints_;
+};
+
+} // namespace brellowind::platform

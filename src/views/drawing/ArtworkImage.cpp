@@ -1,0 +1,45 @@
+#include "views/drawing/ArtworkImage.h"
+
+#include <QPainter>
+#include <algorithm>
+
+namespace brellowind {
+namespace {
+
+const QColor placeholder = QColor::fromRgbF(0.11F, 0.11F, 0.11F);
+
+} // namespace
+
+ArtworkImage::ArtworkImage(QQuickItem* parent) : PainterItem(parent) {}
+
+void ArtworkImage::setImage(const QImage& image) {
+    if (image.cacheKey() == image_.cacheKey())
+        return;
+    image_ = image;
+    cover_ = CoverImage(image);
+    update();
+    Q_EMIT imageChanged();
+}
+
+void ArtworkImage::setRadius(double radius) {
+    if (radius == radius_)
+        return;
+    radius_ = radius;
+    update();
+    Q_EMIT radiusChanged();
+}
+
+void ArtworkImage::paint(QPainter& painter) {
+    const QRectF square = fillingSquare(size());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(cover_.isNull() ? QBrush(placeholder)
+                                     : cover_.brush(square, square.width() * pixelRatio()));
+    painter.drawRoundedRect(boundingRect(), radius_, radius_);
+}
+
+QRectF fillingSquare(QSizeF size) {
+    const double side = std::max(size.width(), size.height());
+    return {(size.width() - side) / 2, (size.height() - side) / 2, side, side};
+}
+
+} // namespace brellowind

@@ -1,0 +1,109 @@
+#include "views/drawing/PillShape.h"
+
+#include "notch/NotchShape.h"
+#include "views/drawing/Blur.h"
+#include "views/drawing/PainterPaths.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace brellowind {
+namespace {
+
+constexpr double topRadius = 8;
+constexpr double bottomRadius = 12;
+
+constexpr double shadowOpacity = 0.5;
+constexpr double shadowSigma = 10; ///< a shadow of radius 20
+constexpr double shadowDrop = 10;
+
+const double shadowReach = std::ceil(blurReach(shadowSigma));
+
+QPainterPath notchPath(QSizeF size) {
+    return painterPath(
+        NotchShape(topRadius, bottomRadius).path({0, 0, size.width(), size.height()}));
+}
+
+/// The blurred alpha of a pill as high as `size` and just so wide that its middle column knows
+/// nothing of either end, if `size` is not narrower itself.
+QImage narrowShadow(QSizeF size, double ratio) {
+    const double narrowest = 2 * (shadowReach + topRadius + bottomRadius) + 1;
+    const QSizeF pill(std::min(narrowest, size.width()), size.height());
+    const QSizeF whole = pill + QSizeF(2 * shadowReach, 2 * shadowReach);
+    QImage alpha((whole * ratio).toSize(), QImage::Format_Alpha8);
+    alpha.fill(0);
+    QPainter painter(&alpha);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(ratio, ratio);
+    painter.translate(shadowReach, shadowReach);
+    painter.fillPath(notchPath(pill), QColor(0, 0, 0, static_cast<int>(255 * shadowOpacity)));
+    painter.end();
+    blur(alpha, shadowSigma * ratio);
+    return alpha;
+}
+
+/// Black with `alpha`, whose middle column is drawn out until it is `width` pixels wide.
+QImage widened(const QImage& alpha, int width) {
+    width = std::max(width, alpha.width());
+    QImage image(width, alpha.height(), QImage::Format_ARGB32_Premultiplied);
+    const int leftEnd = alpha.width() / 2;
+    const int rightEnd = alpha.width() - leftEnd;
+    for (int y = 0; y < image.height(); ++y) {
+        const uchar* from = alpha.constScanLine(y);
+        auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+        const auto black = [](uchar opacity) { return static_cast<QRgb>(opacity) << 24; };
+        to = std::transform(from, from + leftEnd, to, black);
+        to = std::fill_n(to, width - alpha.width(), black(from[leftEnd]));
+        std::transform(from + leftEnd, from + leftEnd + rightEnd, to, black);
+    }
+    return image;
+}
+
+} // namespace
+
+PillShape::PillShape(QQuickItem* parent) : PainterItem(parent) {}
+
+void PillShape::setLift(double lift) {
+    if (lift == lift_)
+        return;
+    lift_ = lift;
+    if (lift_ <= 0)
+        shadow_ = QImage();
+    update();
+    Q_EMIT liftChanged();
+}
+
+QPainterPath PillShape::outline() const {
+    return notchPath(size());
+}
+
+QRectF PillShape::paintedRect() const {
+    if (lift_ <= 0)
+        return boundingRect();
+    return boundingRect().adjusted(-shadowReach, 0, shadowReach, shadowReach + shadowDrop);
+}
+
+void PillShape::paint(QPainter& painter) {
+    if (lift_ > 0)
+        paintShadow(painter);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawPath(outline());
+}
+
+void PillShape::paintShadow(QPainter& painter) {
+    const double ratio = pixelRatio();
+    if (shadow_.isNull() || shadowSize_ != size() || shadow_.devicePixelRatio() != ratio) {
+        shadow_ = widened(narrowShadow(size(), ratio),
+                          static_cast<int>(std::lround((width() + 2 * shadowReach) * ratio)));
+        shadow_.setDevicePixelRatio(ratio);
+        shadowSize_ = size();
+    }
+    painter.save();
+    painter.setOpacity(painter.opacity() * std::clamp(lift_, 0.0, 1.0));
+    painter.drawImage(QPointF(-shadowReach, shadowDrop * lift_ - shadowReach), shadow_);
+    painter.restore();
+}
+
+} // namespace brellowind

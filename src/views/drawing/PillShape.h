@@ -1,0 +1,40 @@
+#pragma once
+
+#include "views/drawing/PainterItem.h"
+
+#include <QImage>
+#include <QPainterPath>
+
+namespace brellowind {
+
+/// The black outline of the pill, and the shadow that it casts when it is lifted.
+class PillShape : public PainterItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double lift READ lift WRITE setLift NOTIFY liftChanged)
+
+public:
+    explicit PillShape(QQuickItem* parent = nullptr);
+
+    /// 0: no shadow. 1: the whole shadow. In between both its strength and its reach grow.
+    double lift() const { return lift_; }
+    void setLift(double lift);
+
+    /// The outline, in the item's coordinates.
+    QPainterPath outline() const;
+
+    void paint(QPainter& painter) override;
+    QRectF paintedRect() const override;
+
+Q_SIGNALS:
+    void liftChanged();
+
+private:
+    void paintShadow(QPainter& painter);
+
+    double lift_ = 0;
+    QImage shadow_; ///< of the present size; null while there is none
+    QSizeF shadowSize_;
+};
+
+} // namespace brellowind

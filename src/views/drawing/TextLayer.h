@@ -1,0 +1,55 @@
+#pragma once
+
+#include "foundation/Spring.h"
+
+#include <QColor>
+#include <QFont>
+#include <QImage>
+#include <QString>
+#include <QTextLayout>
+
+class QPainter;
+
+namespace brellowind {
+
+/// One line of text on its way in or out: laid out once, blurred and clear when it is away, sharp
+/// and opaque when it is there.
+class TextLayer {
+public:
+    /// `presence` is where it begins: 0 away, 1 there. A `maximumWidth` above 0 ends a wider line
+    /// in an ellipsis.
+    TextLayer(const QString& text, const QFont& font, double maximumWidth, double presence);
+
+    const QString& text() const { return text_; }
+    double width() const { return width_; }
+
+    void comeIn(double now) { presence_.retarget(1, now); }
+    void goAway(double now) { presence_.retarget(0, now); }
+
+    /// Shows the moment `now`. False once it has come to rest.
+    bool advance(double now);
+
+    /// At rest and away.
+    bool isGone() const { return shown_ <= 0 && resting_; }
+
+    /// Draws it with its middle at `centre` and its top at `top`. Only what lies between `left` and
+    /// `right` will be seen.
+    void paint(QPainter& painter, QColor color, double centre, double top, double left,
+               double right);
+
+    /// How far beyond the line's own rectangle it may draw.
+    static double overhang();
+
+private:
+    void paintSharp(QPainter& painter, QColor color, QPointF origin) const;
+    void paintBlurred(QPainter& painter, QColor color, QPointF origin, QRectF seen);
+
+    QString text_;
+    QTextLayout layout_;
+    double width_ = 0;
+    Spring presence_;
+    double shown_;
+    bool resting_ = true;
+};
+
+} // namespace brellowind

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "views/drawing/PainterItem.h"
+
+#include <QBasicTimer>
+
+namespace brellowind {
+
+/// The waveform symbol. While `active` a wave of full strength runs through its bars, one after the
+/// other, again and again; otherwise it stands still.
+class WaveformGlyph : public PainterItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
+
+public:
+    static constexpr int barCount = 5;
+
+    explicit WaveformGlyph(QQuickItem* parent = nullptr);
+
+    bool isActive() const { return active_; }
+    void setActive(bool active);
+
+    void paint(QPainter& painter) override;
+
+    /// The strength of the bar `index` when the wave stands at `phase`, 0 to 1, of its round.
+    static double strength(int index, double phase);
+
+Q_SIGNALS:
+    void activeChanged();
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
+private:
+    void follow();
+
+    bool active_ = false;
+    int step_ = 0;
+    QBasicTimer steps_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,61 @@
+#include "views/motion/FrameDriver.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace brellowind {
+
+FrameDriver& FrameDriver::shared() {
+    static FrameDriver driver;
+    return driver;
+}
+
+double FrameDriver::now() const {
+    if (frozen_ >= 0)
+        return frozen_;
+    if (frame_ >= 0)
+        return frame_;
+    const std::chrono::duration<double> time = std::chrono::steady_clock::now().time_since_epoch();
+    return time.count();
+}
+
+void FrameDriver::drive(Animated& animated) {
+    if (std::ranges::find(moving_, &animated) == moving_.end())
+        moving_.push_back(&animated);
+    if (frozen_ < 0 && state() != Running)
+        start();
+}
+
+void FrameDriver::forget(Animated& animated) {
+    std::ranges::replace(moving_, &animated, static_cast<Animated*>(nullptr));
+}
+
+void FrameDriver::freeze(double seconds) {
+    stop();
+    frozen_ = seconds;
+}
+
+void FrameDriver::step(double seconds) {
+    frozen_ += seconds;
+    advanceAll();
+}
+
+void FrameDriver::updateCurrentTime(int currentTime) {
+    Q_UNUSED(currentTime)
+    advanceAll();
+}
+
+void FrameDriver::advanceAll() {
+    frame_ = now();
+    for (std::size_t i = 0; i < moving_.size(); ++i) {
+        auto* animated = moving_[i];
+        if (animated && !animated->advance(frame_))
+            std::ranges::replace(moving_, animated, static_cast<Animated*>(nullptr));
+    }
+    std::erase(moving_, nullptr);
+    frame_ = -1;
+    if (moving_.empty() && state() == Running)
+        stop();
+}
+
+} // namespace brellowind

@@ -1,0 +1,55 @@
+import QtQuick
+import Brellowind.Views
+
+/** The cover, gliding between the thumbnail's place and the panel's. */
+Item {
+    id: root
+
+    required property NotchRootModel model
+    required property real expansion
+    required property Item pill
+
+    readonly property bool popsOut: model.coverHovered && !model.isArtExpanded
+
+    x: pill.x + Style.mix(Style.sidePadding, Style.panelSidePadding, expansion)
+    y: Style.mix(Style.topPadding, Style.panelTopPadding + Style.bandHeight + Style.panelSpacing, expansion)
+    width: Style.mix(Style.thumbnailWidth, Style.artworkSide, expansion)
+    height: Style.mix(Style.bandHeight, Style.artworkSide, expansion)
+
+    SpringValue {
+        id: pop
+
+        target: root.popsOut ? 1 : 0
+        spring: SpringValue.Hover
+    }
+
+    ArtworkImage {
+        anchors.fill: parent
+        image: root.model.coverImage
+        radius: Math.max(0, Style.mix(Style.thumbnailRadius, Style.artworkRadius, root.expansion))
+        scale: 1 + 0.18 * pop.value
+        rotation: -6 * pop.value
+    }
+
+    ArtworkCaption {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        coverSide: Math.max(parent.width, parent.height)
+        model: root.model
+        opacity: Math.min(1, Math.max(0, root.expansion))
+        visible: opacity > 0
+    }
+
+    MouseArea {
+        enabled: !root.model.isArtExpanded
+        anchors.fill: parent
+        hoverEnabled: true
+        Accessible.role: Accessible.Button
+        Accessible.name: qsTr("Show artwork")
+        Accessible.ignored: !enabled
+        Accessible.onPressAction: root.model.tapCover()
+
+        onContainsMouseChanged: root.model.hoverCover(containsMouse)
+        onClicked: root.model.tapCover()
+    }
+}

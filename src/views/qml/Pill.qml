@@ -1,0 +1,108 @@
+import QtQuick
+import Brellowind.Views
+
+/** The black pill and all that is in it, hanging from the middle of the top edge. */
+Item {
+    id: root
+
+    required property NotchRootModel model
+
+    readonly property real bottomPadding: Style.mix(Style.minimizedBottomPadding, Style.bottomPadding, motion.unfold)
+    readonly property real defaultHeight: Style.topPadding + Style.bandHeight + motion.unfold * (Style.spacing + line.implicitHeight) + motion.hover * (Style.spacing + Style.grabberPadding + Style.grabberHeight) + bottomPadding
+
+    transformOrigin: Item.Top
+    scale: (1 + 0.03 * motion.hover) * motion.pulse
+
+    PillMotion {
+        id: motion
+
+        model: root.model
+        naturalLineWidth: line.naturalWidth
+    }
+
+    PillShape {
+        id: shape
+
+        x: (root.width - width) / 2
+        width: Style.mix(motion.lineWidth + 2 * Style.sidePadding, Style.panelWidth, motion.expand)
+        height: Style.mix(root.defaultHeight, panel.height, motion.expand)
+        lift: motion.hover
+
+        onWidthChanged: root.model.sizeChanged(width, height)
+        onHeightChanged: root.model.sizeChanged(width, height)
+        Component.onCompleted: root.model.sizeChanged(width, height)
+    }
+
+    MouseArea {
+        anchors.fill: shape
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        Accessible.role: Accessible.Grouping
+        Accessible.name: root.model.currentLineText
+
+        onClicked: mouse => {
+            if (mouse.button === Qt.RightButton)
+                menu.popup(mapToGlobal(mouse.x, mouse.y));
+            else if (root.model.isArtExpanded)
+                root.model.tapArtwork();
+            else
+                root.model.tapBackground();
+        }
+    }
+
+    Item {
+        anchors.fill: shape
+        clip: true
+
+        LyricText {
+            id: line
+
+            objectName: "lyricLine"
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: Style.topPadding + Style.bandHeight + Style.spacing
+            text: root.model.currentLineText
+            present: !root.model.isMinimized
+            opacity: Math.max(0, 1 - motion.expand)
+            visible: opacity > 0
+            color: Style.text
+            font.pixelSize: 13
+            font.weight: Font.Medium
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+
+        ArtPanel {
+            id: panel
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            model: root.model
+            opacity: Math.min(1, Math.max(0, motion.expand))
+            visible: opacity > 0
+        }
+    }
+
+    FloatingArtwork {
+        model: root.model
+        expansion: motion.expand
+        pill: shape
+    }
+
+    Waveform {
+        x: shape.x + shape.width - width - Style.mix(Style.sidePadding, Style.panelSidePadding, motion.expand)
+        y: Style.mix(Style.topPadding, Style.panelTopPadding, motion.expand) + (Style.bandHeight - height) / 2
+        model: root.model
+    }
+
+    Grabber {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: shape.height - Style.mix(root.bottomPadding, Style.panelBottomPadding, motion.expand) - height
+        opacity: Math.min(1, Math.max(0, motion.hover, motion.expand))
+        visible: opacity > 0
+        model: root.model
+    }
+
+    PillMenu {
+        id: menu
+
+        model: root.model
+    }
+}
