@@ -1,0 +1,156 @@
+#include "platform/linux/ScreenLock.h"
+
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <functional>
+#include <utility>
+
+namespace brellowind::platform {
+namespace {
+
+struct Saver {
+    const char* interface; ///< also its bus name
+    const char* path;
+};
+
+constexpr Saver savers[] = {
+    {"org.freedesktop.ScreenSaver", "/org/freedesktop/ScreenSaver"},
+    {"org.gnome.ScreenSaver", "/org/gnome/ScreenSaver"},
+    {"org.cinnamon.ScreenSaver", "/org/cinnamon/ScreenSaver"},
+    {"org.mate.ScreenSaver", "/org/mate/ScreenSaver"},
+    {"org.xfce.ScreenSaver", "/org/xfce/ScreenSaver"},
+};
+
+const auto loginManager = QStringLiteral("org.freedesktop.login1");
+const auto sessionInterface = QStringLiteral("org.freedesktop.login1.Session");
+const auto propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+const auto lockedHint = QStringLiteral("LockedHint");
+
+QDBusMessage methodCall(const QString& service, const QString& path, const QString& interface,
+                        const char* method, const QVariantList& arguments = {}) {
+    auto message =
+        QDBusMessage::createMethodCall(service, path, interface, QString::fromLatin1(method));
+    message.setAutoStartService(false);
+    message.setArguments(arguments);
+    return message;
+}
+
+/// Calls `answered` with the answer unless it is an error or `owner` is gone by then.
+template <typename Value>
+void ask(const QDBusConnection& bus, const QDBusMessage& question, QObject* owner,
+         std::function<void(const Value&, const QDBusMessage&)> answered) {
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), owner);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, owner,
+                     [watcher, answered = std::move(answered)] {
+                         const QDBusPendingReply<Value> reply = *watcher;
+                         watcher->deleteLater();
+                         if (reply.isValid())
+                             answered(reply.value(), reply.reply());
+                     });
+}
+
+} // namespace
+
+ScreenLock::ScreenLock(QDBusConnection sessionBus, QDBusConnection systemBus)
+    : sessionBus_(std::move(sessionBus)), systemBus_(std::move(systemBus)) {
+    saverWatcher_.setConnection(sessionBus_);
+    saverWatcher_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(&saverWatcher_, &QDBusServiceWatcher::serviceUnregistered, this,
+            &ScreenLock::forgetSaver);
+    if (sessionBus_.isConnected())
+        askSavers();
+    if (systemBus_.isConnected())
+        findSession();
+}
+
+Subscription ScreenLock::onChange(Observers::Callback callback) {
+    return observers_->add(std::move(callback));
+}
+
+void ScreenLock::askSavers() {
+    for (const auto& [name, path] : savers) {
+        const auto interface = QString::fromLatin1(name);
+        sessionBus_.connect(QString(), QString(), interface, QStringLiteral("ActiveChanged"), this,
+                            SLOT(activeChanged(bool, QDBusMessage)));
+        ask<bool>(sessionBus_,
+                  methodCall(interface, QString::fromLatin1(path), interface, "GetActive"), this,
+                  [this](bool active, const QDBusMessage& reply) {
+                      setSaverActive(reply.service(), active);
+                  });
+    }
+}
+
+void ScreenLock::activeChanged(bool active, const QDBusMessage& message) {
+    setSaverActive(message.service(), active);
+}
+
+void ScreenLock::setSaverActive(const QString& saver, bool active) {
+    if (!active) {
+        forgetSaver(saver);
+        return;
+    }
+    saverWatcher_.addWatchedService(saver);
+    announcing([&] { activeSavers_.insert(saver); });
+}
+
+void ScreenLock::forgetSaver(const QString& saver) {
+    saverWatcher_.removeWatchedService(saver);
+    announcing([&] { activeSavers_.remove(saver); });
+}
+
+/// The session of this process, or the one that its user sits at; its signals come from its own
+/// path only, and that is known by its name.
+void ScreenLock::findSession() {
+    ask<QDBusVariant>(
+        systemBus_,
+        methodCall(loginManager, QStringLiteral("/org/freedesktop/login1/session/auto"),
+                   propertiesInterface, "Get", {sessionInterface, QStringLiteral("Id")}),
+        this, [this](const QDBusVariant& id, const QDBusMessage&) {
+            ask<QDBusObjectPath>(systemBus_,
+                                 methodCall(loginManager, QStringLiteral("/org/freedesktop/login1"),
+                                            QStringLiteral("org.freedesktop.login1.Manager"),
+                                            "GetSession", {id.variant()}),
+                                 this, [this](const QDBusObjectPath& session, const QDBusMessage&) {
+                                     followSession(session.path());
+                                 });
+        });
+}
+
+/// A `Lock` signal is only a request, and where nobody locks nobody unlocks either: what counts is
+/// the hint, which whoever locks the session sets.
+void ScreenLock::followSession(const QString& path) {
+    systemBus_.connect(loginManager, path, propertiesInterface, QStringLiteral("PropertiesChanged"),
+                       this, SLOT(sessionChanged(QString, QVariantMap)));
+    systemBus_.connect(loginManager, path, sessionInterface, QStringLiteral("Unlock"), this,
+                       SLOT(sessionUnlocked()));
+    ask<QDBusVariant>(
+        systemBus_,
+        methodCall(loginManager, path, propertiesInterface, "Get", {sessionInterface, lockedHint}),
+        this, [this](const QDBusVariant& locked, const QDBusMessage&) {
+            setSessionLocked(locked.variant().toBool());
+        });
+}
+
+void ScreenLock::sessionChanged(const QString& interface, const QVariantMap& changed) {
+    if (interface == sessionInterface && changed.contains(lockedHint))
+        setSessionLocked(changed.value(lockedHint).toBool());
+}
+
+void ScreenLock::sessionUnlocked() {
+    setSessionLocked(false);
+}
+
+void ScreenLock::setSessionLocked(bool locked) {
+    announcing([&] { sessionLocked_ = locked; });
+}
+
+template <typename Change>
+void ScreenLock::announcing(Change change) {
+    const bool before = isLocked();
+    change();
+    if (isLocked() != before)
+        observers_->notify();
+}
+
+} // namespace brellowind::platform

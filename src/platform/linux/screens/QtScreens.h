@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/MainLoop.h"
+#include "platform/Screens.h"
+#include "platform/linux/screens/ScreenCoordinates.h"
+
+#include <QList>
+#include <QObject>
+#include <memory>
+
+class QScreen;
+
+namespace brellowind::platform {
+
+/// The connected screens as Qt knows them, and their coordinates; the indices of both agree.
+struct ScreenArrangement {
+    QList<QScreen*> screens;
+    ScreenCoordinates coordinates;
+
+    /// At this moment. Empty while nothing but Qt's placeholder for a missing screen is there.
+    static ScreenArrangement current();
+};
+
+/// The screens of the Qt application, which must exist.
+class QtScreens final : public QObject, public Screens {
+public:
+    explicit QtScreens(MainLoop& mainLoop);
+
+    std::vector<Screen> screens() override;
+    std::optional<Screen> main() override;
+
+    /// Changes that come together are told once, on the next turn of the main loop.
+    Subscription onChange(Observers::Callback callback) override;
+
+private:
+    void follow(QScreen* screen);
+
+    std::shared_ptr<Observers> observers_ = std::make_shared<Observers>();
+    std::unique_ptr<NextTurn> announcement_;
+};
+
+} // namespace brellowind::platform

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QAbstractNativeEventFilter>
+#include <cstdint>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <type_traits>
+#include <xcb/xcb.h>
+
+namespace brellowind::platform {
+
+/// The answer of an X server; null when the request failed.
+template <typename Answer>
+struct FreeAnswer {
+    void operator()(Answer* answer) const { std::free(answer); }
+};
+template <typename Answer>
+using X11Answer = std::unique_ptr<Answer, FreeAnswer<Answer>>;
+
+/// The connection of the Qt application to its X server. Requests through it keep their order with
+/// Qt's own; its events reach an `X11EventObserver` before Qt handles them.
+class X11Connection {
+public:
+    /// REQUIRES: a `QGuiApplication` on the platform "xcb".
+    X11Connection();
+
+    xcb_connection_t* get() const { return connection_; }
+    xcb_window_t root() const { return root_; }
+    int screenNumber() const { return screenNumber_; }
+
+    /// Sends what is buffered.
+    void flush() const { xcb_flush(connection_); }
+
+    /// Whether a window was made by this program.
+    bool owns(xcb_window_t window) const;
+
+    xcb_atom_t atom(const char* name) const;
+
+    /// Sends a request and waits for its answer.
+    template <auto Request, auto Reply, typename... Arguments>
+    auto ask(Arguments... arguments) const {
+        auto* answer = Reply(connection_, Request(connection_, arguments...), nullptr);
+        return X11Answer<std::remove_pointer_t<decltype(answer)>>(answer);
+    }
+
+    /// Adds to the events of the root window that this program hears of.
+    void hearOfRoot(std::uint32_t events) const;
+
+private:
+    xcb_connection_t* connection_;
+    int screenNumber_;
+    xcb_window_t root_;
+};
+
+/// Hears of every event of the application's connection before Qt handles it.
+class X11EventObserver final : public QAbstractNativeEventFilter {
+public:
+    using Handler = std::function<void(const xcb_generic_event_t&)>;
+
+    explicit X11EventObserver(Handler handler);
+
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+
+private:
+    Handler handler_;
+};
+
+/// What kind of event it is, whether the server or another client sent it.
+inline int eventType(const xcb_generic_event_t& event) {
+    return event.response_type & 0x7f;
+}
+
+template <typename Event>
+const Event& eventAs(const xcb_generic_event_t& event) {
+    return reinterpret_cast<const Event&>(event);
+}
+
+} // namespace brellowind::platform

@@ -1,0 +1,112 @@
+#include "platform/linux/x11/X11OverlayWindow.h"
+
+#include "platform/linux/screens/QtScreens.h"
+
+#include <QPlatformSurfaceEvent>
+#include <QSurfaceFormat>
+#include <cmath>
+
+namespace brellowind::platform {
+namespace {
+
+int nearest(double coordinate) {
+    return static_cast<int>(std::floor(coordinate + 0.5));
+}
+
+QRect wholePoints(const Rect& rect) {
+    return {nearest(rect.x), nearest(rect.y), nearest(rect.width), nearest(rect.height)};
+}
+
+} // namespace
+
+X11OverlayWindow::Native::Native(const X11Connection& x11, const QWindow& window,
+                                 MainLoop& mainLoop)
+    : shape(x11, static_cast<xcb_window_t>(window.winId())), stayOnTop(x11, window, mainLoop) {}
+
+X11OverlayWindow::X11OverlayWindow(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock)
+    : window_(window), mainLoop_(mainLoop), screenLock_(screenLock),
+      compositingManager_(x11_, [this] { updateShape(); }),
+      screenSaver_(x11_, [this] { updateVisibility(); }),
+      lockChange_(screenLock.onChange([this] { updateVisibility(); })) {
+    window_.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
+                     Qt::BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus);
+    auto format = window_.requestedFormat();
+    format.setAlphaBufferSize(8);
+    window_.setFormat(format);
+    window_.installEventFilter(this);
+    connect(&window_, &QWindow::screenChanged, this, &X11OverlayWindow::updateShape);
+}
+
+void X11OverlayWindow::setFrame(const Rect& frame) {
+    const auto arrangement = ScreenArrangement::current();
+    const auto place = arrangement.coordinates.place(frame);
+    if (!place)
+        return;
+    window_.setScreen(arrangement.screens[static_cast<qsizetype>(place->screen)]);
+    window_.setGeometry(wholePoints(place->logical));
+    window_.requestUpdate();
+    updateShape();
+}
+
+void X11OverlayWindow::orderFrontRegardless() {
+    ordered_ = true;
+    updateVisibility();
+    if (native_)
+        native_->stayOnTop.raise();
+}
+
+void X11OverlayWindow::setIgnoresMouseEvents(bool ignores) {
+    if (ignoresMouseEvents_ == ignores)
+        return;
+    ignoresMouseEvents_ = ignores;
+    updateShape();
+}
+
+void X11OverlayWindow::setContentOutline(const QPainterPath& outline) {
+    outline_ = outline;
+    updateShape();
+}
+
+bool X11OverlayWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::PlatformSurface) {
+        const auto change = static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType();
+        if (change == QPlatformSurfaceEvent::SurfaceCreated)
+            adoptNativeWindow();
+        else
+            native_.reset();
+    } else if (event->type() == QEvent::Resize || event->type() == QEvent::Expose) {
+        updateShape(); // the scale may be another
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void X11OverlayWindow::adoptNativeWindow() {
+    native_.emplace(x11_, window_, mainLoop_);
+    forbidShadow();
+    updateShape();
+}
+
+/// Several compositing managers draw one around every window, unless they are asked not to.
+void X11OverlayWindow::forbidShadow() {
+    constexpr std::uint32_t none = 0;
+    xcb_change_property(x11_.get(), XCB_PROP_MODE_REPLACE,
+                        static_cast<xcb_window_t>(window_.winId()), x11_.atom("_COMPTON_SHADOW"),
+                        XCB_ATOM_CARDINAL, 32, 1, &none);
+}
+
+void X11OverlayWindow::updateShape() {
+    if (!native_)
+        return;
+    const auto region = outlineRegion(outline_, window_.devicePixelRatio());
+    native_->shape.setBounding(compositingManager_.isRunning() ? std::nullopt
+                                                               : std::optional(region));
+    native_->shape.setInput(ignoresMouseEvents_ ? PixelRegion() : region);
+}
+
+void X11OverlayWindow::updateVisibility() {
+    const bool visible = ordered_ && !screenLock_.isLocked() && !screenSaver_.isActive();
+    if (window_.isVisible() != visible)
+        window_.setVisible(visible);
+}
+
+} // namespace brellowind::platform

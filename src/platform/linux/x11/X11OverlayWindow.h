@@ -1,0 +1,69 @@
+#pragma once
+
+#include "platform/MainLoop.h"
+#include "platform/OverlayWindow.h"
+#include "platform/linux/ScreenLock.h"
+#include "platform/linux/x11/CompositingManager.h"
+#include "platform/linux/x11/StayOnTop.h"
+#include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11ScreenSaver.h"
+#include "platform/linux/x11/X11Shape.h"
+
+#include <QObject>
+#include <QPainterPath>
+#include <QWindow>
+#include <optional>
+
+namespace brellowind::platform {
+
+/// Makes a transparent window of Qt an overlay on an X server.
+///
+/// It bypasses the window manager, so that none places, focuses or lists it, and raises itself when
+/// another window covers it. It takes the pointer within its content's outline only, and without a
+/// compositing manager it exists within that outline only, since all else would be black. While the
+/// session is locked or the screen saver is active it is hidden.
+class X11OverlayWindow final : public QObject, public OverlayWindow {
+public:
+    /// Sets the flags of `window`, whose native window does not exist yet. All three outlive this.
+    X11OverlayWindow(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock);
+
+    /// Does nothing while there is no screen.
+    void setFrame(const Rect& frame) override;
+    void orderFrontRegardless() override;
+    void setIgnoresMouseEvents(bool ignores) override;
+
+    /// The outline of what the window shows, in points from its top left corner, y downward; it may
+    /// differ in every frame. Nothing at first.
+    void setContentOutline(const QPainterPath& outline);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// What is bound to the native window.
+    struct Native {
+        Native(const X11Connection& x11, const QWindow& window, MainLoop& mainLoop);
+
+        X11Shape shape;
+        StayOnTop stayOnTop;
+    };
+
+    void adoptNativeWindow();
+    void forbidShadow();
+    void updateShape();
+    void updateVisibility();
+
+    QWindow& window_;
+    MainLoop& mainLoop_;
+    ScreenLock& screenLock_;
+    X11Connection x11_;
+    CompositingManager compositingManager_;
+    X11ScreenSaver screenSaver_;
+    Subscription lockChange_;
+    std::optional<Native> native_;
+    QPainterPath outline_;
+    bool ignoresMouseEvents_ = true;
+    bool ordered_ = false; ///< in front, unless hidden for the time being
+};
+
+} // namespace brellowind::platform

@@ -1,0 +1,134 @@
+#include "platform/linux/x11/X11Pointer.h"
+
+#include "platform/linux/screens/QtScreens.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+#include <xcb/xinput.h>
+
+namespace brellowind::platform {
+namespace {
+
+class X11PointerMonitor final : public PointerMonitor {
+public:
+    explicit X11PointerMonitor(Subscription subscription)
+        : subscription_(std::move(subscription)) {}
+
+private:
+    Subscription subscription_;
+};
+
+/// Whether the program has a window that may stand in a frame of the window manager.
+bool hasManagedWindow() {
+    return std::ranges::any_of(QGuiApplication::topLevelWindows(), [](const QWindow* window) {
+        return window->isVisible() && !window->flags().testFlag(Qt::BypassWindowManagerHint);
+    });
+}
+
+/// The extension's number, or -1. Before 2.1 there are no raw events while another holds the
+/// pointer.
+int xinputNumber(const X11Connection& x11) {
+    const auto* extension = xcb_get_extension_data(x11.get(), &xcb_input_id);
+    if (!extension || !extension->present)
+        return -1;
+    const auto version = x11.ask<xcb_input_xi_query_version, xcb_input_xi_query_version_reply>(
+        std::uint16_t(XCB_INPUT_MAJOR_VERSION), std::uint16_t(XCB_INPUT_MINOR_VERSION));
+    const bool recent = version && std::pair(version->major_version, version->minor_version) >=
+                                       std::pair<std::uint16_t, std::uint16_t>(2, 1);
+    return recent ? extension->major_opcode : -1;
+}
+
+void selectRawMotion(const X11Connection& x11, bool selected) {
+    const struct {
+        xcb_input_event_mask_t head;
+        std::uint32_t mask;
+    } selection{{XCB_INPUT_DEVICE_ALL_MASTER, 1},
+                selected ? std::uint32_t(XCB_INPUT_XI_EVENT_MASK_RAW_MOTION) : 0};
+    xcb_input_xi_select_events(x11.get(), x11.root(), 1, &selection.head);
+    x11.flush();
+}
+
+} // namespace
+
+X11Pointer::X11Pointer(MainLoop& mainLoop)
+    : xinput_(xinputNumber(x11_)), nextTurn_(mainLoop.onNextTurn([this] { tellMovement(); })),
+      observer_([this](const xcb_generic_event_t& event) { handle(event); }) {
+    if (xinput_ < 0)
+        return;
+    selectRawMotion(x11_, true);
+    qGuiApp->installEventFilter(this);
+}
+
+X11Pointer::~X11Pointer() {
+    if (xinput_ >= 0)
+        selectRawMotion(x11_, false);
+}
+
+std::optional<Point> X11Pointer::location() {
+    const auto position = query(x11_.root());
+    if (!position || !position->same_screen)
+        return std::nullopt;
+    return ScreenArrangement::current().coordinates.desktopPoint(position->root_x,
+                                                                 position->root_y);
+}
+
+std::unique_ptr<PointerMonitor> X11Pointer::addGlobalMonitor(Handler handler) {
+    return monitor(*global_, std::move(handler));
+}
+
+std::unique_ptr<PointerMonitor> X11Pointer::addLocalMonitor(Handler handler) {
+    return monitor(*local_, std::move(handler));
+}
+
+std::unique_ptr<PointerMonitor> X11Pointer::monitor(Observers& observers, Handler handler) const {
+    if (xinput_ < 0)
+        return nullptr;
+    return std::make_unique<X11PointerMonitor>(observers.add(std::move(handler)));
+}
+
+void X11Pointer::handle(const xcb_generic_event_t& event) {
+    if (eventType(event) != XCB_GE_GENERIC)
+        return;
+    const auto& generic = eventAs<xcb_ge_generic_event_t>(event);
+    if (generic.extension != xinput_ || generic.event_type != XCB_INPUT_RAW_MOTION)
+        return;
+    moved_ = true;
+    nextTurn_->request();
+}
+
+/// What a window is about to be told of a movement, the monitors hear first.
+bool X11Pointer::eventFilter(QObject* watched, QEvent* event) {
+    if (moved_ && (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter))
+        tellMovement();
+    return QObject::eventFilter(watched, event);
+}
+
+void X11Pointer::tellMovement() {
+    if (!std::exchange(moved_, false))
+        return;
+    if (isOverOwnWindow(query(x11_.root())))
+        local_->notify();
+    else
+        global_->notify();
+}
+
+X11Pointer::Position X11Pointer::query(xcb_window_t within) const {
+    return x11_.ask<xcb_query_pointer, xcb_query_pointer_reply>(within);
+}
+
+bool X11Pointer::isOverOwnWindow(Position position) const {
+    const bool lookIntoFrames = hasManagedWindow();
+    while (position && position->child != XCB_WINDOW_NONE) {
+        if (x11_.owns(position->child))
+            return true;
+        if (!lookIntoFrames)
+            return false;
+        position = query(position->child);
+    }
+    return false;
+}
+
+} // namespace brellowind::platform

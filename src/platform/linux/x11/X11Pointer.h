@@ -1,0 +1,46 @@
+#pragma once
+
+#include "foundation/Observers.h"
+#include "platform/MainLoop.h"
+#include "platform/Pointer.h"
+#include "platform/linux/x11/X11Connection.h"
+
+#include <QObject>
+#include <memory>
+
+namespace brellowind::platform {
+
+/// The pointer of an X server. Its movements are told by the server, wherever it moves and whoever
+/// holds it (XInput 2.1 raw events); nothing happens while it rests. Several movements that have
+/// come by the time of the next turn of the main loop count as one.
+class X11Pointer final : public QObject, public Pointer {
+public:
+    explicit X11Pointer(MainLoop& mainLoop);
+    ~X11Pointer() override;
+
+    std::optional<Point> location() override;
+    std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) override;
+    std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    using Position = X11Answer<xcb_query_pointer_reply_t>;
+
+    void handle(const xcb_generic_event_t& event);
+    void tellMovement();
+    Position query(xcb_window_t within) const;
+    bool isOverOwnWindow(Position position) const;
+    std::unique_ptr<PointerMonitor> monitor(Observers& observers, Handler handler) const;
+
+    X11Connection x11_;
+    int xinput_ = -1; ///< the extension's number; -1 when it is absent or too old
+    bool moved_ = false;
+    std::shared_ptr<Observers> global_ = std::make_shared<Observers>();
+    std::shared_ptr<Observers> local_ = std::make_shared<Observers>();
+    std::unique_ptr<NextTurn> nextTurn_;
+    X11EventObserver observer_;
+};
+
+} // namespace brellowind::platform

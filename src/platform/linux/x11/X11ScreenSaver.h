@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/linux/x11/X11Connection.h"
+
+#include <functional>
+
+namespace brellowind::platform {
+
+/// The screen saver of the X server itself.
+class X11ScreenSaver {
+public:
+    /// Calls `onChange` after each change of `isActive`.
+    X11ScreenSaver(const X11Connection& x11, std::function<void()> onChange);
+
+    bool isActive() const { return active_; }
+
+private:
+    void handle(const xcb_generic_event_t& event);
+
+    std::function<void()> onChange_;
+    int notify_ = -1;
+    bool active_ = false;
+    X11EventObserver observer_;
+};
+
+} // namespace brellowind::platform
