@@ -291,8 +291,9 @@ TEST(NotchRootViewLifetime, EndsWithAllItsTimers) {
     test::TestMachine machine;
     test::FakeSpotify spotify(machine);
     {
-        NotchRootView view;
-        view.appear();
+        const auto view =
+            NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
+        view->appear();
         machine.mainLoop.advance(100ms);
         machine.http.answer(0, HttpResponse{404, ""});
     }

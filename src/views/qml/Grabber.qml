@@ -17,11 +17,10 @@ Item {
         spring: SpringValue.Hover
     }
 
-    Rectangle {
+    Capsule {
         y: Style.grabberPadding
         width: parent.width
         height: Style.grabberHeight
-        radius: height / 2
         color: Qt.rgba(1, 1, 1, highlight.value)
     }
 

@@ -23,6 +23,8 @@ Item {
     PillShape {
         id: shape
 
+        objectName: "pill"
+
         x: (root.width - width) / 2
         width: Style.mix(motion.lineWidth + 2 * Style.sidePadding, Style.panelWidth, motion.expand)
         height: Style.mix(root.defaultHeight, panel.height, motion.expand)
@@ -81,18 +83,21 @@ Item {
     }
 
     FloatingArtwork {
+        objectName: "artwork"
         model: root.model
         expansion: motion.expand
         pill: shape
     }
 
     Waveform {
+        objectName: "waveform"
         x: shape.x + shape.width - width - Style.mix(Style.sidePadding, Style.panelSidePadding, motion.expand)
         y: Style.mix(Style.topPadding, Style.panelTopPadding, motion.expand) + (Style.bandHeight - height) / 2
         model: root.model
     }
 
     Grabber {
+        objectName: "grabber"
         anchors.horizontalCenter: parent.horizontalCenter
         y: shape.height - Style.mix(root.bottomPadding, Style.panelBottomPadding, motion.expand) - height
         opacity: Math.min(1, Math.max(0, motion.hover, motion.expand))
@@ -102,6 +107,8 @@ Item {
 
     PillMenu {
         id: menu
+
+        objectName: "menu"
 
         model: root.model
     }
