@@ -6,7 +6,7 @@
 namespace brellowind {
 
 /// The cover, filling its rectangle with round corners; a dark grey while there is none.
-class ArtworkImage : public PainterItem {
+class ArtworkImage : public brellowind::PainterItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)

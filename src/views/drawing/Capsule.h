@@ -7,7 +7,7 @@
 namespace brellowind {
 
 /// A filled rectangle whose short sides are half circles.
-class Capsule : public PainterItem {
+class Capsule : public brellowind::PainterItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)

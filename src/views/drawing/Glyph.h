@@ -8,7 +8,7 @@
 namespace brellowind {
 
 /// A symbol of one colour, scaled to fit and centred.
-class Glyph : public PainterItem {
+class Glyph : public brellowind::PainterItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY kindChanged REQUIRED)

@@ -12,7 +12,7 @@ namespace brellowind {
 
 /// One line of text in any script, as wide as it is and never cut. When its text changes, the old
 /// line blurs and fades away while the new one sharpens and fades in, both about the same middle.
-class LyricText : public PainterItem, private Animated {
+class LyricText : public brellowind::PainterItem, private Animated {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)

@@ -8,7 +8,7 @@
 namespace brellowind {
 
 /// The black outline of the pill, and the shadow that it casts when it is lifted.
-class PillShape : public PainterItem {
+class PillShape : public brellowind::PainterItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double lift READ lift WRITE setLift NOTIFY liftChanged)

@@ -8,7 +8,7 @@ namespace brellowind {
 
 /// What lies behind it, blurred and dimmed: here always a cover that fills the square of side
 /// `coverSide`, at whose bottom edge this lies. Its bottom corners are round, its top corners not.
-class VisualEffectBlur : public PainterItem {
+class VisualEffectBlur : public brellowind::PainterItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)

@@ -8,7 +8,7 @@ namespace brellowind {
 
 /// The waveform symbol. While `active` a wave of full strength runs through its bars, one after the
 /// other, again and again; otherwise it stands still.
-class WaveformGlyph : public PainterItem {
+class WaveformGlyph : public brellowind::PainterItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
