@@ -3,8 +3,15 @@
 #include "platform/qt/QtHttpClient.h"
 
 #include <QFile>
-#include <QTimer>
+#include <QRandomGenerator>
+#include <arpa/inet.h>
+#include <atomic>
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
 
 namespace brellowind::platform {
 namespace {
@@ -62,6 +69,23 @@ protected:
 TEST_F(QtHttpClientLimit, ABodyOfExactlyTheLimitPasses) {
     const QByteArray body(limit, 'x');
     bytes = httpResponse(contentLength(limit), body);
+    expectPasses(body);
+}
+
+TEST_F(QtHttpClientLimit, ABodyOfExactlyTheLimitInChunksPasses) {
+    const QByteArray body(limit, 'x');
+    bytes = httpResponse("Transfer-Encoding: chunked\r\n",
+                         QByteArray::number(limit, 16) + "\r\n" + body + "\r\n0\r\n\r\n");
+    expectPasses(body);
+}
+
+TEST_F(QtHttpClientLimit, ABodyOfExactlyTheLimitThatHardlyShrinksPassesCompressed) {
+    QByteArray body(limit, '\0');
+    QRandomGenerator generator(1);
+    generator.fillRange(reinterpret_cast<quint32*>(body.data()), limit / 4);
+    const QByteArray packed = qCompress(body).mid(4);
+    ASSERT_GT(packed.size(), limit / 2);
+    bytes = httpResponse("Content-Encoding: deflate\r\n" + contentLength(packed.size()), packed);
     expectPasses(body);
 }
 
@@ -168,6 +192,67 @@ TEST_F(QtHttpClientLimit, ABodyWithoutEndFailsWithoutReadingAhead) {
     };
     expectFailsAndCloses();
     EXPECT_LT(sent, 10 * limit);
+}
+
+/// Answers one request with far more than anybody wants, as fast as it is taken, until nothing has
+/// been taken for a while.
+class Flood {
+public:
+    static constexpr qint64 size = 256 << 20;
+
+    Flood() {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof address;
+        EXPECT_EQ(::bind(listener_, reinterpret_cast<sockaddr*>(&address), length), 0);
+        EXPECT_EQ(::listen(listener_, 1), 0);
+        EXPECT_EQ(::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &length), 0);
+        port_ = ntohs(address.sin_port);
+        thread_ = std::thread([this] { pour(); });
+    }
+    ~Flood() { ::close(listener_); }
+
+    QString url() const { return QStringLiteral("http://127.0.0.1:%1/").arg(port_); }
+    bool hasBegun() const { return begun_; }
+
+    /// Blocks. How much of it was taken.
+    qint64 taken() {
+        thread_.join();
+        return taken_;
+    }
+
+private:
+    void pour() {
+        const int connection = ::accept(listener_, nullptr, nullptr);
+        const timeval patience{.tv_sec = 1, .tv_usec = 0};
+        ::setsockopt(connection, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
+        const QByteArray head = httpResponse(contentLength(size));
+        ::send(connection, head.constData(), static_cast<std::size_t>(head.size()), MSG_NOSIGNAL);
+        begun_ = true;
+        const std::vector<char> piece(1 << 20, 'x');
+        while (taken_ < size) {
+            const auto count = ::send(connection, piece.data(), piece.size(), MSG_NOSIGNAL);
+            if (count <= 0)
+                break;
+            taken_ += count;
+        }
+        ::close(connection);
+    }
+
+    int listener_ = ::socket(AF_INET, SOCK_STREAM, 0);
+    int port_ = 0;
+    std::atomic<bool> begun_ = false;
+    qint64 taken_ = 0;
+    std::thread thread_;
+};
+
+TEST_F(QtHttpClientLimit, ABodyThatComesWhileTheProgramIsBusyWaitsOnTheNetwork) {
+    Flood flood;
+    Download download(client, flood.url());
+    ASSERT_TRUE(waitUntil([&] { return flood.hasBegun(); }));
+    EXPECT_LT(flood.taken(), Flood::size / 4); // the program's loop stands still meanwhile
+    EXPECT_TRUE(download.fails());
 }
 
 } // namespace

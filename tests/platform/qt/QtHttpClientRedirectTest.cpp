@@ -165,6 +165,17 @@ TEST_F(QtHttpClientRedirect, ACertificateThatNobodyTrustsIsATransportErrorAndNot
     EXPECT_TRUE(secure.exchanges.empty());
 }
 
+TEST_F(QtHttpClientRedirect, ALargeBodyArrivesWholeOverTls) {
+    const TrustedCertificate trust(tls());
+    const QByteArray body(static_cast<qsizetype>(Download::limit), 'x');
+    const LoopbackServer secure([&](const Exchange& exchange) { exchange.respond(200, body); },
+                                tls());
+    Download download(client, secure.origin());
+    const auto response = download.response();
+    ASSERT_TRUE(response.has_value());
+    EXPECT_TRUE(response->body == body.toStdString());
+}
+
 TEST_F(QtHttpClientRedirect, ACertificateForAnotherNameIsATransportError) {
     const TrustedCertificate trust(tls());
     Signpost secure(tls());
