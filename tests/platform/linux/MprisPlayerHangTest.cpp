@@ -2,6 +2,9 @@
 
 #include "session/EventLoop.h"
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 namespace brellowind::platform {
@@ -12,6 +15,29 @@ using test::waitUntil;
 using testing::HasSubstr;
 using testing::Optional;
 
+/// What a bus that starts now knows: how to start the player, which leaves a mark.
+class StartablePlayer {
+protected:
+    StartablePlayer() {
+        const QString services = folder_.filePath(QStringLiteral("dbus-1/services"));
+        EXPECT_TRUE(QDir().mkpath(services));
+        QFile file(services + QStringLiteral("/player.service"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("[D-BUS Service]\nName=org.mpris.MediaPlayer2.spotify\n"
+                   "Exec=/bin/sh -c \"touch '" +
+                   mark_.toLocal8Bit() + "'; exit 1\"\n");
+        qputenv("XDG_DATA_HOME", folder_.path().toLocal8Bit());
+    }
+    ~StartablePlayer() { qputenv("XDG_DATA_HOME", before_); }
+
+    bool wasStarted() const { return QFile::exists(mark_); }
+
+private:
+    QTemporaryDir folder_;
+    QString mark_ = folder_.filePath(QStringLiteral("mark"));
+    QByteArray before_ = qgetenv("XDG_DATA_HOME");
+};
+
 class MprisPlayerHang : public MprisSession {
 protected:
     /// Reads until `record` comes back.
@@ -19,6 +45,30 @@ protected:
         return waitUntil([&] { return reads.execute(readOut).text == record; });
     }
 };
+
+class MprisPlayerThatCanBeStarted : StartablePlayer, public MprisPlayerHang {
+protected:
+    using StartablePlayer::wasStarted;
+};
+
+TEST_F(MprisPlayerThatCanBeStarted, IsNotStartedByReadingsNorAfterItsDeath) {
+    auto reads = reader();
+    EXPECT_THAT(reads.execute(readOut).text, Optional(std::string()));
+    PlayerProcess player(bus.connection());
+    player.hang();
+    ASSERT_TRUE(reads.execute(readOut).error.has_value());
+    player.kill();
+    EXPECT_THAT(reads.execute(readOut).text, Optional(std::string()));
+    test::runFor(std::chrono::milliseconds(300));
+    EXPECT_FALSE(wasStarted());
+}
+
+TEST_F(MprisPlayerThatCanBeStarted, IsStartedByOtherPeoplesCalls) {
+    bus.connection().call(
+        QDBusMessage::createMethodCall(QStringLiteral("org.mpris.MediaPlayer2.spotify"),
+                                       QStringLiteral("/"), QString(), QStringLiteral("Ping")));
+    EXPECT_TRUE(waitUntil([&] { return wasStarted(); })); // or else the test above could not fail
+}
 
 TEST_F(MprisPlayerHang, CostsOneWaitAndThenEveryExecutionFailsAtOnce) {
     PlayerProcess player(bus.connection());
