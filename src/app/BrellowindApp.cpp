@@ -13,6 +13,7 @@
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"
 #include "platform/qt/QtLinkOpener.h"
+#include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/SystemClock.h"
 #include "playback/SpotifyBridge.h"
@@ -62,6 +63,7 @@ struct BrellowindApp::Machine {
     platform::StderrLog log;
     platform::QtHttpClient http;
     platform::QtImageDecoder images{largestArtworkPoints};
+    platform::QtLocalFiles files;
     platform::MprisPlayer player{QDBusConnection::sessionBus(), mprisVocabulary()};
     platform::QtScreens screens{mainLoop};
     platform::X11Pointer pointer{mainLoop};
@@ -76,6 +78,7 @@ struct BrellowindApp::Machine {
                                    .log = log,
                                    .http = http,
                                    .images = images,
+                                   .files = files,
                                    .scripting = player,
                                    .runningApplications = player,
                                    .screens = screens,
