@@ -94,9 +94,11 @@ void SettingsWindow::build() {
 
 void SettingsWindow::closed() {
     content_->model.setShown(false);
-    // The window is still busy with going; it goes on the next turn.
-    release_ = platform::services().mainLoop.scheduleOnce(std::chrono::milliseconds(0),
-                                                          [this] { content_.reset(); });
+    // The window is still busy with going; it is given back on the next turn.
+    release_ = platform::services().mainLoop.scheduleOnce(std::chrono::milliseconds(0), [this] {
+        content_.reset();
+        release_.reset();
+    });
 }
 
 } // namespace brellowind

@@ -36,7 +36,9 @@ Item {
 
         PlainText {
             anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(implicitWidth, root.width - 2 * Style.margin)
             text: root.model.legalNotice
+            elide: Text.ElideRight
             color: Style.secondaryText
             font.pixelSize: Style.captionSize
         }

@@ -5,6 +5,7 @@ Rectangle {
     required property bool shown
     property int outset: 3
 
+    z: 1
     anchors.fill: parent
     anchors.margins: -outset
     visible: shown

@@ -1,27 +1,39 @@
 import QtQuick
-import QtQuick.Controls.Basic
 
 /** What can be pressed, with the pointer, Space or Enter, and shows when the keyboard is on it. */
-AbstractButton {
+Item {
     id: root
 
+    property string text
     property real radius: Style.buttonRadius
     property Item ringed: root
     property int ringOutset: 3
+    readonly property bool down: tap.pressed
+    readonly property bool hovered: hover.hovered
 
-    implicitWidth: Math.ceil(implicitContentWidth + leftPadding + rightPadding)
-    implicitHeight: Math.ceil(implicitContentHeight + topPadding + bottomPadding)
-    focusPolicy: Qt.StrongFocus
-    padding: 0
-    font.pixelSize: Style.buttonSize
+    signal clicked
+
+    activeFocusOnTab: true
     Accessible.role: Accessible.Button
     Accessible.name: text
-    Keys.onReturnPressed: event => event.isAutoRepeat || click()
-    Keys.onEnterPressed: event => event.isAutoRepeat || click()
+    Accessible.focusable: true
+    Accessible.onPressAction: clicked()
+    Keys.onSpacePressed: event => event.isAutoRepeat || clicked()
+    Keys.onReturnPressed: event => event.isAutoRepeat || clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat || clicked()
 
+    TapHandler {
+        id: tap
+
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: root.clicked()
+    }
+    HoverHandler {
+        id: hover
+    }
     FocusRing {
         parent: root.ringed
-        shown: root.visualFocus
+        shown: root.activeFocus
         outset: root.ringOutset
         radius: root.radius + outset
     }

@@ -4,24 +4,26 @@ import QtQuick
 Pressable {
     id: root
 
-    horizontalPadding: 12
-    verticalPadding: 8
-    font.weight: Font.DemiBold
+    implicitWidth: Math.ceil(label.implicitWidth) + 2 * label.x
+    implicitHeight: Math.ceil(label.implicitHeight) + 2 * label.y
     opacity: highlight.level
 
-    contentItem: Text {
-        text: root.text
-        textFormat: Text.PlainText
-        font: root.font
-        color: Style.buttonText
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-    }
-    background: Rectangle {
-        radius: Style.buttonRadius
+    Rectangle {
+        anchors.fill: parent
+        radius: root.radius
         color: root.down ? Style.buttonPressed : Style.button
     }
+    Text {
+        id: label
 
+        x: 12
+        y: 8
+        text: root.text
+        textFormat: Text.PlainText
+        color: Style.buttonText
+        font.pixelSize: Style.buttonSize
+        font.weight: Font.DemiBold
+    }
     HoverHighlight {
         id: highlight
     }

@@ -11,19 +11,18 @@ Pressable {
 
     width: 76
     height: 52
-    focusPolicy: selected ? Qt.StrongFocus : Qt.ClickFocus
+    activeFocusOnTab: selected
     ringOutset: 0
-    font.pixelSize: Style.captionSize
     Accessible.role: Accessible.PageTab
     Accessible.selectable: true
     Accessible.selected: selected
 
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         radius: root.radius
         color: root.down ? Style.buttonPressed : Style.button
         visible: root.selected || root.down
     }
-
     Symbol {
         x: (parent.width - width) / 2
         y: 7
@@ -37,6 +36,6 @@ Pressable {
         text: root.text
         textFormat: Text.PlainText
         color: root.ink
-        font: root.font
+        font.pixelSize: Style.captionSize
     }
 }

@@ -4,15 +4,18 @@ import QtQuick
 Pressable {
     id: root
 
+    implicitWidth: Math.ceil(label.implicitWidth)
+    implicitHeight: Math.ceil(label.implicitHeight)
     radius: 3
-    font.pixelSize: Style.captionSize
-    font.underline: hovered
     Accessible.role: Accessible.Link
 
-    contentItem: Text {
+    Text {
+        id: label
+
         text: root.text
         textFormat: Text.PlainText
-        font: root.font
         color: root.down ? Style.text : Style.secondaryText
+        font.pixelSize: Style.captionSize
+        font.underline: root.hovered
     }
 }
