@@ -63,6 +63,16 @@ TEST_F(SettingsKeyboardTest, LeftAndRightGoFromTabToTab) {
     EXPECT_EQ(focused(), "General");
 }
 
+TEST_F(SettingsKeyboardTest, FollowsTheRouterFromTabToTab) {
+    open();
+    tabTo("General");
+    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    turn();
+    EXPECT_EQ(focused(), "About");
+    EXPECT_TRUE(hasFocusRing(item("aboutTab")));
+    EXPECT_FALSE(hasFocusRing(item("generalTab")));
+}
+
 TEST_F(SettingsKeyboardTest, SpaceAndEnterPress) {
     open();
     tabTo("Quit Brellowind");

@@ -30,36 +30,8 @@ Item {
             onClicked: root.model.openSocialProfile()
         }
     }
-    Column {
-        anchors { bottom: parent.bottom; bottomMargin: Style.margin; horizontalCenter: parent.horizontalCenter }
-        spacing: 6
-
-        PlainText {
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(implicitWidth, root.width - 2 * Style.margin)
-            text: root.model.legalNotice
-            elide: Text.ElideRight
-            color: Style.secondaryText
-            font.pixelSize: Style.captionSize
-        }
-        Row {
-            anchors.horizontalCenter: parent.horizontalCenter
-            spacing: 6
-
-            TextLink {
-                text: "Privacy Policy"
-                onClicked: root.model.openPrivacyPolicy()
-            }
-            PlainText {
-                text: "·"
-                color: Style.secondaryText
-                font.pixelSize: Style.captionSize
-                Accessible.ignored: true
-            }
-            TextLink {
-                text: "Terms of Use"
-                onClicked: root.model.openTerms()
-            }
-        }
+    LegalFoot {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Style.margin }
+        model: root.model
     }
 }

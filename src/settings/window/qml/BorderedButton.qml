@@ -8,6 +8,7 @@ Pressable {
 
     implicitWidth: Math.ceil(label.implicitWidth) + 2 * label.x
     implicitHeight: Math.ceil(label.implicitHeight) + 2 * label.y
+    cursorShape: Qt.PointingHandCursor
     Accessible.role: Accessible.Link
 
     Rectangle {

@@ -10,6 +10,7 @@ Item {
     property int ringOutset: 3
     readonly property bool down: tap.pressed
     readonly property bool hovered: hover.hovered
+    property alias cursorShape: hover.cursorShape
 
     signal clicked
 

@@ -11,6 +11,7 @@ Pressable {
 
     width: 76
     height: 52
+    focus: selected
     activeFocusOnTab: selected
     ringOutset: 0
     Accessible.role: Accessible.PageTab

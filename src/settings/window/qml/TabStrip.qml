@@ -2,7 +2,7 @@ import QtQuick
 import Brellowind.Settings
 
 /** The tabs of the window. Left and right go from one to the other. */
-Item {
+FocusScope {
     id: root
 
     required property SettingsModel model
@@ -24,10 +24,7 @@ Item {
             symbol: "gearshape"
             selected: root.model.tab === SettingsModel.General
             onClicked: root.model.selectTab(SettingsModel.General)
-            Keys.onRightPressed: {
-                about.forceActiveFocus(Qt.TabFocusReason);
-                about.clicked();
-            }
+            Keys.onRightPressed: about.clicked()
         }
         TabItem {
             id: about
@@ -37,10 +34,7 @@ Item {
             symbol: "info.circle"
             selected: root.model.tab === SettingsModel.About
             onClicked: root.model.selectTab(SettingsModel.About)
-            Keys.onLeftPressed: {
-                general.forceActiveFocus(Qt.TabFocusReason);
-                general.clicked();
-            }
+            Keys.onLeftPressed: general.clicked()
         }
     }
 }

@@ -7,6 +7,7 @@ Pressable {
     implicitWidth: Math.ceil(label.implicitWidth)
     implicitHeight: Math.ceil(label.implicitHeight)
     radius: 3
+    cursorShape: Qt.PointingHandCursor
     Accessible.role: Accessible.Link
 
     Text {
