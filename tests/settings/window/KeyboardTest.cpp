@@ -164,5 +164,17 @@ TEST_F(SettingsKeyboardTest, ScreenReadersCanPress) {
     EXPECT_TRUE(item("aboutPage")->isVisible());
 }
 
+TEST_F(SettingsKeyboardTest, ScreenReadersCannotPressWhatIsDisabled) {
+    open();
+    auto* button = pressable(QStringLiteral("Quit Brellowind"));
+    auto* actions = accessible(button)->actionInterface();
+    button->setEnabled(false);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(machine.application.terminations, 0);
+    button->setEnabled(true);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(machine.application.terminations, 1);
+}
+
 } // namespace
 } // namespace brellowind

@@ -18,7 +18,7 @@ Item {
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.focusable: true
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: enabled && clicked()
     Keys.onSpacePressed: event => event.isAutoRepeat || clicked()
     Keys.onReturnPressed: event => event.isAutoRepeat || clicked()
     Keys.onEnterPressed: event => event.isAutoRepeat || clicked()

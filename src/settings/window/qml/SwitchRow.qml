@@ -13,7 +13,7 @@ Pressable {
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: on
-    Accessible.onToggleAction: clicked()
+    Accessible.onToggleAction: enabled && clicked()
 
     PlainText {
         anchors { left: parent.left; leftMargin: Style.inset; verticalCenter: parent.verticalCenter }
