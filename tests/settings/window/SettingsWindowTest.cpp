@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QQmlEngine>
+#include <QTest>
 
 namespace brellowind {
 namespace {
@@ -98,12 +99,11 @@ TEST_F(SettingsWindowTest, OpeningItAgainBringsItBackToTheFront) {
     QWindow other;
     other.show();
     other.requestActivate();
-    QCoreApplication::processEvents();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
     ASSERT_FALSE(window().isActive());
     window().setWindowStates(Qt::WindowMinimized);
     settings.open();
-    turn();
-    EXPECT_TRUE(window().isActive());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
     EXPECT_FALSE(window().windowStates() & Qt::WindowMinimized);
 }
 
