@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/linux/ScreenLock.h"
+#include "platform/linux/x11/X11OverlayWindow.h"
+#include "platform/qt/QtMainLoop.h"
+#include "session/Desktop.h"
+#include "session/EventLoop.h"
+#include "session/OtherProgram.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRasterWindow>
+#include <gtest/gtest.h>
+
+namespace brellowind::test {
+
+/// A window that draws its outline in green and nothing around it.
+class GreenWindow : public QRasterWindow {
+public:
+    QPainterPath outline;
+    int presses = 0;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(QRect(QPoint(), size()), Qt::transparent);
+        painter.fillPath(outline, Qt::green);
+    }
+
+    void mousePressEvent(QMouseEvent*) override { ++presses; }
+};
+
+/// An overlay of 400 × 300 points at (440, 0) from the top left of the screen, whose content is a
+/// rectangle of 200 × 60 at the middle of its top edge.
+class PillOnX11 : public testing::Test {
+protected:
+    static constexpr std::uint32_t green = 0x00ff00;
+    static constexpr std::uint32_t red = 0xff0000;
+
+    const QRect windowPixels{440, 0, 400, 300};
+    const QRect pillInWindow{100, 0, 200, 60};
+    const QPoint onPill{640, 30};
+    const QPoint besidePill{500, 30};
+
+    void show() {
+        overlay.setIgnoresMouseEvents(false);
+        overlay.setFrame({440, 500, 400, 300});
+        setOutline(pillInWindow);
+        overlay.orderFrontRegardless();
+        ASSERT_TRUE(waitUntil([this] { return isShown(); }));
+    }
+
+    void setOutline(const QRect& pill) {
+        QPainterPath path;
+        path.addRect(pill);
+        window.outline = path;
+        overlay.setContentOutline(path);
+        window.update();
+    }
+
+    xcb_window_t id() const { return static_cast<xcb_window_t>(window.winId()); }
+    bool isShown() { return window.handle() && other.isViewable(id()); }
+
+    QRegion input() { return other.shape(id(), XCB_SHAPE_SK_INPUT); }
+    QRegion bounding() { return other.shape(id(), XCB_SHAPE_SK_BOUNDING); }
+
+    platform::QtMainLoop mainLoop;
+    SessionBus bus;
+    platform::ScreenLock lock{bus.connection(), bus.connection()};
+    GreenWindow window;
+    platform::X11OverlayWindow overlay{window, mainLoop, lock};
+    OtherProgram other;
+};
+
+} // namespace brellowind::test

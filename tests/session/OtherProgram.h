@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QRect>
+#include <QRegion>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <vector>
+#include <xcb/shape.h>
+#include <xcb/xcb.h>
+
+namespace brellowind::test {
+
+/// Another client of the X server, with windows of its own, and the user's hand on the mouse.
+class OtherProgram {
+public:
+    enum class Kind { managed, bypassing };
+
+    OtherProgram();
+    OtherProgram(const OtherProgram&) = delete;
+    OtherProgram& operator=(const OtherProgram&) = delete;
+    ~OtherProgram();
+
+    /// Shows a window of one colour, and returns when it is there.
+    xcb_window_t open(const QRect& frame, Kind kind, std::uint32_t colour = 0xff0000);
+    void close(xcb_window_t window);
+    void raise(xcb_window_t window);
+    void makeFullScreen(xcb_window_t window);
+
+    void movePointer(QPoint to);
+    void click(QPoint at);
+
+    /// How often `window` has been clicked.
+    int clicks(xcb_window_t window);
+
+    void setScreenSaverActive(bool active);
+
+    xcb_window_t root() const { return root_; }
+    std::optional<QRect> frame(xcb_window_t window);
+    bool isViewable(xcb_window_t window);
+    bool bypassesWindowManager(xcb_window_t window);
+    QRegion shape(xcb_window_t window, xcb_shape_kind_t kind);
+
+    /// The windows that the root holds, the topmost last.
+    std::vector<xcb_window_t> stack();
+
+    /// The window that the root holds and `window` is or is in.
+    xcb_window_t topLevel(xcb_window_t window);
+    bool isAbove(xcb_window_t upper, xcb_window_t lower);
+
+    /// The colour that the screen shows.
+    std::uint32_t pixel(QPoint at);
+
+    xcb_atom_t atom(const char* name);
+    xcb_connection_t* connection() { return connection_; }
+
+private:
+    void sync();
+    void drainEvents();
+
+    xcb_connection_t* connection_;
+    xcb_screen_t* screen_;
+    xcb_window_t root_;
+    std::map<xcb_window_t, int> clicks_;
+};
+
+} // namespace brellowind::test
