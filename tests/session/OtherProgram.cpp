@@ -85,6 +85,15 @@ void OtherProgram::click(QPoint at) {
     sync();
 }
 
+void OtherProgram::grabPointer(xcb_window_t window) {
+    const auto grab = owned(xcb_grab_pointer_reply(
+        connection_,
+        xcb_grab_pointer(connection_, 0, window, XCB_EVENT_MASK_POINTER_MOTION, XCB_GRAB_MODE_ASYNC,
+                         XCB_GRAB_MODE_ASYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME),
+        nullptr));
+    EXPECT_TRUE(grab && grab->status == XCB_GRAB_STATUS_SUCCESS);
+}
+
 int OtherProgram::clicks(xcb_window_t window) {
     sync();
     drainEvents();
@@ -167,6 +176,21 @@ std::uint32_t OtherProgram::pixel(QPoint at) {
     if (image)
         std::memcpy(&colour, xcb_get_image_data(image.get()), sizeof colour);
     return colour & 0xffffff;
+}
+
+xcb_window_t OtherProgram::selectionOwner(const char* selection) {
+    const auto owner = owned(xcb_get_selection_owner_reply(
+        connection_, xcb_get_selection_owner(connection_, atom(selection)), nullptr));
+    return owner ? owner->owner : xcb_window_t(XCB_WINDOW_NONE);
+}
+
+xcb_window_t OtherProgram::rootProperty(const char* name) {
+    const auto property = owned(xcb_get_property_reply(
+        connection_, xcb_get_property(connection_, 0, root_, atom(name), XCB_ATOM_WINDOW, 0, 1),
+        nullptr));
+    if (!property || xcb_get_property_value_length(property.get()) < int(sizeof(xcb_window_t)))
+        return XCB_WINDOW_NONE;
+    return *static_cast<const xcb_window_t*>(xcb_get_property_value(property.get()));
 }
 
 xcb_atom_t OtherProgram::atom(const char* name) {

@@ -30,6 +30,9 @@ public:
     void movePointer(QPoint to);
     void click(QPoint at);
 
+    /// From now on `window` alone gets what the pointer does.
+    void grabPointer(xcb_window_t window);
+
     /// How often `window` has been clicked.
     int clicks(xcb_window_t window);
 
@@ -38,6 +41,7 @@ public:
     xcb_window_t root() const { return root_; }
     std::optional<QRect> frame(xcb_window_t window);
     bool isViewable(xcb_window_t window);
+    bool exists(xcb_window_t window) { return frame(window).has_value(); }
     bool bypassesWindowManager(xcb_window_t window);
     QRegion shape(xcb_window_t window, xcb_shape_kind_t kind);
 
@@ -50,6 +54,12 @@ public:
 
     /// The colour that the screen shows.
     std::uint32_t pixel(QPoint at);
+
+    /// The owner of a selection, or 0.
+    xcb_window_t selectionOwner(const char* selection);
+
+    /// The first window that a property of the root names, or 0.
+    xcb_window_t rootProperty(const char* name);
 
     xcb_atom_t atom(const char* name);
     xcb_connection_t* connection() { return connection_; }

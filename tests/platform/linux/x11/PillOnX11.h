@@ -5,11 +5,13 @@
 #include "platform/qt/QtMainLoop.h"
 #include "session/Desktop.h"
 #include "session/EventLoop.h"
+#include "session/Managers.h"
 #include "session/OtherProgram.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRasterWindow>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace brellowind::test {
@@ -18,6 +20,7 @@ namespace brellowind::test {
 class GreenWindow : public QRasterWindow {
 public:
     QPainterPath outline;
+    std::function<void()> onPointer = [] {}; ///< entered or moved
     int presses = 0;
 
 protected:
@@ -29,6 +32,12 @@ protected:
     }
 
     void mousePressEvent(QMouseEvent*) override { ++presses; }
+
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::Enter || event->type() == QEvent::MouseMove)
+            onPointer();
+        return QRasterWindow::event(event);
+    }
 };
 
 /// An overlay of 400 × 300 points at (440, 0) from the top left of the screen, whose content is a
