@@ -10,7 +10,7 @@ namespace brellowind::test {
 /// A window manager that runs while this lives. Fails the running test when it does not start.
 class WindowManager {
 public:
-    explicit WindowManager(OtherProgram& witness);
+    WindowManager();
 
 private:
     QTemporaryDir home_;

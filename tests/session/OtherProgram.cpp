@@ -23,6 +23,8 @@ OtherProgram::OtherProgram() : connection_(xcb_connect(nullptr, nullptr)) {
     EXPECT_EQ(xcb_connection_has_error(connection_), 0);
     screen_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
     root_ = screen_->root;
+    shapeNotify_ = static_cast<std::uint8_t>(
+        xcb_get_extension_data(connection_, &xcb_shape_id)->first_event + XCB_SHAPE_NOTIFY);
 }
 
 OtherProgram::~OtherProgram() {
@@ -53,6 +55,12 @@ void OtherProgram::close(xcb_window_t window) {
 void OtherProgram::raise(xcb_window_t window) {
     const std::uint32_t above = XCB_STACK_MODE_ABOVE;
     xcb_configure_window(connection_, window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+    sync();
+}
+
+void OtherProgram::move(xcb_window_t window, QPoint to) {
+    const std::int32_t position[] = {to.x(), to.y()};
+    xcb_configure_window(connection_, window, XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, position);
     sync();
 }
 
@@ -98,6 +106,30 @@ int OtherProgram::clicks(xcb_window_t window) {
     sync();
     drainEvents();
     return clicks_[window];
+}
+
+int OtherProgram::structureEvents(xcb_window_t window) {
+    if (!structureEvents_.contains(window)) {
+        const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+        xcb_change_window_attributes(connection_, window, XCB_CW_EVENT_MASK, &mask);
+    }
+    sync();
+    drainEvents();
+    return structureEvents_[window];
+}
+
+int OtherProgram::shapeEvents(xcb_window_t window) {
+    if (!shapeEvents_.contains(window))
+        xcb_shape_select_input(connection_, window, 1);
+    sync();
+    drainEvents();
+    return shapeEvents_[window];
+}
+
+xcb_window_t OtherProgram::focus() {
+    const auto focus =
+        owned(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+    return focus->focus;
 }
 
 void OtherProgram::setScreenSaverActive(bool active) {
@@ -184,15 +216,6 @@ xcb_window_t OtherProgram::selectionOwner(const char* selection) {
     return owner ? owner->owner : xcb_window_t(XCB_WINDOW_NONE);
 }
 
-xcb_window_t OtherProgram::rootProperty(const char* name) {
-    const auto property = owned(xcb_get_property_reply(
-        connection_, xcb_get_property(connection_, 0, root_, atom(name), XCB_ATOM_WINDOW, 0, 1),
-        nullptr));
-    if (!property || xcb_get_property_value_length(property.get()) < int(sizeof(xcb_window_t)))
-        return XCB_WINDOW_NONE;
-    return *static_cast<const xcb_window_t*>(xcb_get_property_value(property.get()));
-}
-
 xcb_atom_t OtherProgram::atom(const char* name) {
     const auto length = static_cast<std::uint16_t>(std::strlen(name));
     return owned(xcb_intern_atom_reply(connection_, xcb_intern_atom(connection_, 0, length, name),
@@ -206,8 +229,14 @@ void OtherProgram::sync() {
 
 void OtherProgram::drainEvents() {
     while (const auto event = owned(xcb_poll_for_event(connection_))) {
-        if ((event->response_type & 0x7f) == XCB_BUTTON_PRESS)
+        const int type = event->response_type & 0x7f;
+        if (type == XCB_BUTTON_PRESS)
             ++clicks_[reinterpret_cast<const xcb_button_press_event_t&>(*event).event];
+        else if (type == shapeNotify_)
+            ++shapeEvents_[reinterpret_cast<const xcb_shape_notify_event_t&>(*event)
+                               .affected_window];
+        else if (type == XCB_MAP_NOTIFY || type == XCB_UNMAP_NOTIFY || type == XCB_CONFIGURE_NOTIFY)
+            ++structureEvents_[reinterpret_cast<const xcb_map_notify_event_t&>(*event).event];
     }
 }
 

@@ -25,6 +25,7 @@ public:
     xcb_window_t open(const QRect& frame, Kind kind, std::uint32_t colour = 0xff0000);
     void close(xcb_window_t window);
     void raise(xcb_window_t window);
+    void move(xcb_window_t window, QPoint to);
     void makeFullScreen(xcb_window_t window);
 
     void movePointer(QPoint to);
@@ -36,12 +37,18 @@ public:
     /// How often `window` has been clicked.
     int clicks(xcb_window_t window);
 
+    /// How often a window has been mapped, unmapped, moved, resized or restacked, and how often its
+    /// shape has been set, since the first such question about it.
+    int structureEvents(xcb_window_t window);
+    int shapeEvents(xcb_window_t window);
+
     void setScreenSaverActive(bool active);
 
-    xcb_window_t root() const { return root_; }
+    /// The window with the keyboard focus.
+    xcb_window_t focus();
+
     std::optional<QRect> frame(xcb_window_t window);
     bool isViewable(xcb_window_t window);
-    bool exists(xcb_window_t window) { return frame(window).has_value(); }
     bool bypassesWindowManager(xcb_window_t window);
     QRegion shape(xcb_window_t window, xcb_shape_kind_t kind);
 
@@ -58,20 +65,18 @@ public:
     /// The owner of a selection, or 0.
     xcb_window_t selectionOwner(const char* selection);
 
-    /// The first window that a property of the root names, or 0.
-    xcb_window_t rootProperty(const char* name);
-
-    xcb_atom_t atom(const char* name);
-    xcb_connection_t* connection() { return connection_; }
-
 private:
+    xcb_atom_t atom(const char* name);
     void sync();
     void drainEvents();
 
     xcb_connection_t* connection_;
     xcb_screen_t* screen_;
     xcb_window_t root_;
+    std::uint8_t shapeNotify_;
     std::map<xcb_window_t, int> clicks_;
+    std::map<xcb_window_t, int> structureEvents_;
+    std::map<xcb_window_t, int> shapeEvents_;
 };
 
 } // namespace brellowind::test

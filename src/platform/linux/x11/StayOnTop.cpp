@@ -44,6 +44,8 @@ void StayOnTop::handle(const xcb_generic_event_t& event) {
         switch (eventType(event)) {
         case XCB_MAP_NOTIFY:
             return eventAs<xcb_map_notify_event_t>(event).event == x11_.root();
+        case XCB_UNMAP_NOTIFY: // it may have been a shield
+            return eventAs<xcb_unmap_notify_event_t>(event).event == x11_.root();
         case XCB_CONFIGURE_NOTIFY:
             return eventAs<xcb_configure_notify_event_t>(event).event == x11_.root();
         case XCB_CIRCULATE_NOTIFY:

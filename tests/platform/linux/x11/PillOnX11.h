@@ -8,9 +8,11 @@
 #include "session/Managers.h"
 #include "session/OtherProgram.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRasterWindow>
+#include <QScreen>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -58,6 +60,13 @@ protected:
         setOutline(pillInWindow);
         overlay.orderFrontRegardless();
         ASSERT_TRUE(waitUntil([this] { return isShown(); }));
+    }
+
+    /// Another program's window under the shown pill and what is beside it.
+    xcb_window_t openBeneath() {
+        const auto beneath = other.open({0, 0, 1280, 400}, OtherProgram::Kind::bypassing);
+        EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), beneath); }));
+        return beneath;
     }
 
     void setOutline(const QRect& pill) {

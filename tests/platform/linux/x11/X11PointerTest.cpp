@@ -52,8 +52,7 @@ TEST_F(X11Pointer, TellsOfMovementsOverThePillLocallyBeforeThePillHears) {
     window.onPointer = [&] { heardBefore = local; };
     other.movePointer(onPill);
     EXPECT_TRUE(waitUntil([&] { return heardBefore >= 0; }));
-    EXPECT_EQ(heardBefore, 1);
-    EXPECT_EQ(local, 1);
+    EXPECT_GE(heardBefore, 1);
     EXPECT_EQ(global, 0);
     EXPECT_EQ(pointer.location(), (Point{640.5, 769.5}));
 }
@@ -111,7 +110,7 @@ TEST_F(X11Pointer, LetsAHandlerRemoveItsOwnMonitor) {
 }
 
 TEST_F(X11Pointer, TellsOfMovementsOverAWindowInAFrameLocally) {
-    const WindowManager windowManager(other);
+    const WindowManager windowManager;
     QRasterWindow settings;
     settings.setGeometry(100, 300, 300, 200);
     settings.show();
