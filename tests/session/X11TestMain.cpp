@@ -4,6 +4,10 @@
 #include <QGuiApplication>
 #include <gtest/gtest.h>
 
+#ifndef BRELLOWIND_TEST_SCALES
+#define BRELLOWIND_TEST_SCALES "" // each monitor's, as in "LEFT=1,RIGHT=2"
+#endif
+
 /// A test program that is a client of an X server of its own.
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
@@ -16,6 +20,7 @@ int main(int argc, char** argv) {
     qputenv("DISPLAY", server.display().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "xcb");
     qunsetenv("QT_SCALE_FACTOR");
+    qputenv("QT_SCREEN_SCALE_FACTORS", QByteArray(BRELLOWIND_TEST_SCALES).replace(',', ';'));
     const QGuiApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
