@@ -34,9 +34,18 @@ StayOnTop::StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& 
 }
 
 void StayOnTop::raise() {
-    constexpr std::uint32_t above = XCB_STACK_MODE_ABOVE;
-    xcb_configure_window(x11_.get(), window_, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+    const auto above = windowsAbove();
+    putOnTop(window_);
+    for (const auto window : above) {
+        if (x11_.owns(window))
+            putOnTop(window);
+    }
     x11_.flush();
+}
+
+void StayOnTop::putOnTop(xcb_window_t window) {
+    constexpr std::uint32_t above = XCB_STACK_MODE_ABOVE;
+    xcb_configure_window(x11_.get(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
 }
 
 void StayOnTop::handle(const xcb_generic_event_t& event) {

@@ -60,6 +60,12 @@ protected:
         setOutline(pillInWindow);
         overlay.orderFrontRegardless();
         ASSERT_TRUE(waitUntil([this] { return isShown(); }));
+        settle();
+    }
+
+    /// Returns when the server has done what this program has asked for so far.
+    void settle() {
+        platform::X11Connection().ask<xcb_get_input_focus, xcb_get_input_focus_reply>();
     }
 
     /// Another program's window under the shown pill and what is beside it.
@@ -80,8 +86,15 @@ protected:
     xcb_window_t id() const { return static_cast<xcb_window_t>(window.winId()); }
     bool isShown() { return window.handle() && other.isViewable(id()); }
 
-    QRegion input() { return other.shape(id(), XCB_SHAPE_SK_INPUT); }
-    QRegion bounding() { return other.shape(id(), XCB_SHAPE_SK_BOUNDING); }
+    QRegion input() {
+        settle();
+        return other.shape(id(), XCB_SHAPE_SK_INPUT);
+    }
+
+    QRegion bounding() {
+        settle();
+        return other.shape(id(), XCB_SHAPE_SK_BOUNDING);
+    }
 
     platform::QtMainLoop mainLoop;
     SessionBus bus;

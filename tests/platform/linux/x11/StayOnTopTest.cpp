@@ -46,6 +46,9 @@ TEST_F(StayOnTop, LeavesThisProgramsOwnWindowsAbove) {
     ASSERT_TRUE(waitUntil([&] { return other.isViewable(menuId); }));
     runFor(milliseconds(300));
     EXPECT_TRUE(other.isAbove(menuId, id()));
+    const auto rival = other.open({300, 0, 600, 200}, Kind::bypassing);
+    EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), rival); }));
+    EXPECT_TRUE(other.isAbove(menuId, id()));
 }
 
 TEST_F(StayOnTop, IsAboveAFullScreenWindowOfAWindowManager) {

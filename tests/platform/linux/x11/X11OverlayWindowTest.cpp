@@ -60,6 +60,7 @@ TEST_F(X11OverlayWindow, LetsClicksOnThePillThroughWhileItIgnoresThem) {
     other.click(onPill);
     EXPECT_EQ(other.clicks(beneath), 1);
     overlay.setIgnoresMouseEvents(false);
+    settle();
     other.click(onPill);
     EXPECT_TRUE(waitUntil([this] { return window.presses == 1; }));
     EXPECT_EQ(other.clicks(beneath), 1);

@@ -67,6 +67,7 @@ TEST_F(X11Pointer, TellsOfMovementsOverTheWindowBesideThePillGlobally) {
 TEST_F(X11Pointer, TellsOfMovementsOverAClickThroughPillGlobally) {
     show();
     overlay.setIgnoresMouseEvents(true);
+    settle();
     other.movePointer(onPill);
     EXPECT_TRUE(waitUntil([this] { return global == 1; }));
     EXPECT_EQ(local, 0);
