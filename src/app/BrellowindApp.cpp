@@ -5,7 +5,9 @@
 #include "platform/Services.h"
 #include "platform/linux/MprisPlayer.h"
 #include "platform/linux/ScreenLock.h"
+#include "platform/linux/SingleInstance.h"
 #include "platform/linux/StderrLog.h"
+#include "platform/linux/UnixSignals.h"
 #include "platform/linux/XdgLoginItem.h"
 #include "platform/linux/screens/QtScreens.h"
 #include "platform/linux/x11/X11Pointer.h"
@@ -17,9 +19,11 @@
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/SystemClock.h"
 #include "playback/SpotifyBridge.h"
+#include "settings/window/SettingsWindow.h"
+#include "views/NotchRootView.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
+#include <QGuiApplication>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <QStandardPaths>
@@ -35,6 +39,12 @@ platform::XdgLoginItem makeLoginItem() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return {folder.toStdString(), QCoreApplication::applicationFilePath().toStdString(),
             qEnvironmentVariable("PATH").toStdString()};
+}
+
+/// The display that this process shows its windows on.
+QString displayName() {
+    const bool onWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    return qEnvironmentVariable(onWayland ? "WAYLAND_DISPLAY" : "DISPLAY");
 }
 
 platform::MprisVocabulary mprisVocabulary() {
@@ -87,12 +97,21 @@ struct BrellowindApp::Machine {
                                    .links = links,
                                    .loginItem = loginItem,
                                    .constants = constants}};
-    AppDelegate delegate{screenLock, [] {}};
+    platform::UnixSignals signals{[this] { application.terminate(); }};
+    SettingsWindow settings;
+    AppDelegate delegate{screenLock, [this] { settings.open(); }};
+    platform::SingleInstance instance{QDBusConnection::sessionBus(), displayName(),
+                                      [this] { delegate.rootView().openSettings(); }};
 };
 
 void BrellowindApp::prepare() {
     // A pill is too small to need a graphics card, and takes a third of the memory without one.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+bool BrellowindApp::claimDisplay() {
+    return machine_->instance.claim();
 }
 
 BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)
