@@ -187,7 +187,7 @@ TEST_F(SettingsWindowTest, CanBeOpenedAgainInTheTurnInWhichItClosed) {
     turn();
     ASSERT_NE(settings.window(), nullptr);
     EXPECT_TRUE(window().isVisible());
-    EXPECT_EQ(machine.http.requests.size(), 2U);
+    ASSERT_EQ(machine.http.requests.size(), 2U);
     EXPECT_FALSE(machine.http.requests[1]->aborted);
 }
 
