@@ -40,6 +40,8 @@ protected:
                                    .clock = machine.clock,
                                    .log = machine.log,
                                    .http = machine.http,
+                                   .images = machine.images,
+                                   .files = machine.files,
                                    .scripting = machine.scripting,
                                    .runningApplications = machine.runningApplications,
                                    .screens = machine.screens,
