@@ -176,7 +176,9 @@ std::vector<xcb_window_t> OtherProgram::stack() {
     const auto tree =
         owned(xcb_query_tree_reply(connection_, xcb_query_tree(connection_, root_), nullptr));
     const auto* first = xcb_query_tree_children(tree.get());
-    return {first, first + xcb_query_tree_children_length(tree.get())};
+    std::vector<xcb_window_t> shown(first, first + xcb_query_tree_children_length(tree.get()));
+    std::erase_if(shown, [this](xcb_window_t window) { return !isViewable(window); });
+    return shown;
 }
 
 xcb_window_t OtherProgram::topLevel(xcb_window_t window) {

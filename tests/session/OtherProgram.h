@@ -52,7 +52,7 @@ public:
     bool bypassesWindowManager(xcb_window_t window);
     QRegion shape(xcb_window_t window, xcb_shape_kind_t kind);
 
-    /// The windows that the root holds, the topmost last.
+    /// The windows that the root holds and shows, the topmost last.
     std::vector<xcb_window_t> stack();
 
     /// The window that the root holds and `window` is or is in.

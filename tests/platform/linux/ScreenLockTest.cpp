@@ -4,6 +4,7 @@
 #include "session/Desktop.h"
 #include "session/EventLoop.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <gtest/gtest.h>
 #include <optional>
@@ -52,6 +53,8 @@ protected:
     void watch() {
         lock.emplace(bus.connection(), bus.connection());
         subscription = lock->onChange([this] { ++changes; });
+        // Once the bus has answered this, it knows whom to tell of what.
+        bus.connection().interface()->isServiceRegistered(QStringLiteral("any.name"));
     }
 
     bool becomes(bool locked) {

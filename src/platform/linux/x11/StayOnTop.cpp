@@ -37,7 +37,7 @@ void StayOnTop::raise() {
     const auto above = windowsAbove();
     putOnTop(window_);
     for (const auto window : above) {
-        if (x11_.owns(window))
+        if (x11_.owns(window) && viewable(window))
             putOnTop(window);
     }
     x11_.flush();
