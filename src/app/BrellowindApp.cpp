@@ -41,12 +41,6 @@ platform::XdgLoginItem makeLoginItem() {
             qEnvironmentVariable("PATH").toStdString()};
 }
 
-/// The display that this process shows its windows on.
-QString displayName() {
-    const bool onWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-    return qEnvironmentVariable(onWayland ? "WAYLAND_DISPLAY" : "DISPLAY");
-}
-
 platform::MprisVocabulary mprisVocabulary() {
     platform::MprisVocabulary vocabulary{
         .bundleIdentifier = std::string(SpotifyBridge::bundleIdentifier),
@@ -100,11 +94,15 @@ struct BrellowindApp::Machine {
     platform::UnixSignals signals{[this] { application.terminate(); }};
     SettingsWindow settings;
     AppDelegate delegate{screenLock, [this] { settings.open(); }};
-    platform::SingleInstance instance{QDBusConnection::sessionBus(), displayName(),
+    platform::SingleInstance instance{QDBusConnection::sessionBus(),
+                                      qEnvironmentVariable("DISPLAY"),
                                       [this] { delegate.rootView().openSettings(); }};
 };
 
 void BrellowindApp::prepare() {
+    // The pill's window is an X11 window; on a Wayland session it comes through XWayland.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
     // A pill is too small to need a graphics card, and takes a third of the memory without one.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication::setQuitOnLastWindowClosed(false);
