@@ -78,7 +78,7 @@ QList<double> PillObserver::MenuEntry(const QString& text) const {
     const auto* menu = openMenu();
     if (!menu)
         return {};
-    for (const auto* item : menu->contentItem()->findChildren<QQuickItem*>())
+    for (const auto* item : menu->findChildren<QQuickItem*>())
         if (item->property("menu").isValid() && item->property("text") == text)
             return rectangle(item);
     return {};
