@@ -13,7 +13,8 @@ namespace brellowind::demo {
 namespace {
 
 constexpr std::chrono::milliseconds motion{900}; ///< after which the pill is at rest
-constexpr int pictureHeight = 200;
+constexpr int pillPictureHeight = 120;
+constexpr int panelPictureHeight = 480;
 
 } // namespace
 
@@ -50,8 +51,9 @@ void Recorder::redrawn() {
 
 void Recorder::takePicture() {
     const QRect frame = app_.window().geometry();
-    const QPixmap picture =
-        app_.window().screen()->grabWindow(0, frame.x(), frame.y(), frame.width(), pictureHeight);
+    const bool panel = app_.rootView().form().isArtExpanded;
+    const QPixmap picture = app_.window().screen()->grabWindow(
+        0, frame.x(), frame.y(), frame.width(), panel ? panelPictureHeight : pillPictureHeight);
     QString name = QString::fromStdString(shown_).toLower().simplified().replace(u' ', u'-');
     name.removeIf(
         [](QChar c) { return c != u'-' && !(c.isLetterOrNumber() && c.unicode() < 128); });

@@ -4,6 +4,7 @@
 #include "app/CompiledConstants.h"
 #include "companion/Companion.h"
 #include "service/DemoSong.h"
+#include "views/NotchRootView.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
@@ -23,6 +24,10 @@ const auto picturesOption = QStringLiteral("pictures");
 
 /// Long enough for the pill without music to be seen.
 constexpr std::chrono::milliseconds silence{1500};
+
+/// When, in the song, the artwork panel is seen.
+constexpr std::chrono::milliseconds artworkOpens{16000};
+constexpr std::chrono::milliseconds artworkCloses{22500};
 
 int complain(const char* message) {
     std::fprintf(stderr, "brellowind-demo: %s\n", message);
@@ -87,6 +92,14 @@ int main(int argc, char** argv) {
     });
     if (seconds > 0)
         QTimer::singleShot(std::chrono::seconds(seconds), &application, &QGuiApplication::quit);
+    if (backdrop) { // nobody is there to press anything
+        const auto press = [&](std::chrono::milliseconds songTime, auto what) {
+            QTimer::singleShot(silence + songTime, &application,
+                               [&app, what] { (app.rootView().*what)(); });
+        };
+        press(artworkOpens, &NotchRootView::tapCover);
+        press(artworkCloses, &NotchRootView::tapArtwork);
+    }
     const int status = QGuiApplication::exec();
     if (recorder.failed())
         return complain("a picture could not be saved");
