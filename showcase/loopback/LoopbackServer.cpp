@@ -1,7 +1,8 @@
 #include "loopback/LoopbackServer.h"
 
+#include <QSslConfiguration>
+#include <QSslServer>
 #include <QUrl>
-#include <memory>
 #include <utility>
 
 namespace brellowind::demo {
@@ -21,6 +22,12 @@ Exchange parse(const QByteArray& head, QTcpSocket* connection) {
             exchange.headers.append({line.left(colon).toLower(), line.mid(colon + 1).trimmed()});
     }
     return exchange;
+}
+
+std::unique_ptr<QTcpServer> tlsServer(const QSslConfiguration& tls) {
+    auto server = std::make_unique<QSslServer>();
+    server->setSslConfiguration(tls);
+    return server;
 }
 
 } // namespace
@@ -60,18 +67,26 @@ void Exchange::drop() const {
         connection->abort();
 }
 
-LoopbackServer::LoopbackServer(Handler handler_) : handler(std::move(handler_)) {
-    connect(&server_, &QTcpServer::newConnection, this, [this] {
-        while (auto* connection = server_.nextPendingConnection())
+LoopbackServer::LoopbackServer(Handler handler_)
+    : LoopbackServer(std::move(handler_), "http", std::make_unique<QTcpServer>()) {}
+
+LoopbackServer::LoopbackServer(Handler handler_, const QSslConfiguration& tls)
+    : LoopbackServer(std::move(handler_), "https", tlsServer(tls)) {}
+
+LoopbackServer::LoopbackServer(Handler handler_, const char* scheme,
+                               std::unique_ptr<QTcpServer> server)
+    : handler(std::move(handler_)), scheme_(QLatin1String(scheme)), server_(std::move(server)) {
+    connect(server_.get(), &QTcpServer::pendingConnectionAvailable, this, [this] {
+        while (auto* connection = server_->nextPendingConnection())
             accept(connection);
     });
-    server_.listen(QHostAddress::LocalHost);
+    server_->listen(QHostAddress::LocalHost);
 }
 
 QString LoopbackServer::origin() const {
-    if (!server_.isListening())
+    if (!server_->isListening())
         return {};
-    return QStringLiteral("http://127.0.0.1:%1").arg(server_.serverPort());
+    return QStringLiteral("%1://127.0.0.1:%2").arg(scheme_).arg(server_->serverPort());
 }
 
 void LoopbackServer::accept(QTcpSocket* connection) {

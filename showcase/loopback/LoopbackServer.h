@@ -7,6 +7,9 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <functional>
+#include <memory>
+
+class QSslConfiguration;
 
 namespace brellowind::demo {
 
@@ -42,15 +45,21 @@ public:
 
     explicit LoopbackServer(Handler handler);
 
+    /// Serves over TLS, with the certificate and key in `tls`.
+    LoopbackServer(Handler handler, const QSslConfiguration& tls);
+
     /// Such as "http://127.0.0.1:4711"; empty when no port could be had.
     QString origin() const;
 
     Handler handler;
 
 private:
+    LoopbackServer(Handler handler, const char* scheme, std::unique_ptr<QTcpServer> server);
+
     void accept(QTcpSocket* connection);
 
-    QTcpServer server_;
+    QString scheme_;
+    std::unique_ptr<QTcpServer> server_;
 };
 
 } // namespace brellowind::demo

@@ -69,11 +69,22 @@ QDBusMessage DemoPlayer::answerProperties(const QDBusMessage& message) {
     const QVariantMap properties =
         interface == playerInterface ? playerProperties() : applicationProperties();
     if (message.member() == QStringLiteral("GetAll"))
-        return message.createReply(QVariant(properties));
+        return answerGetAll(message, properties);
     const QVariant value = properties.value(message.arguments().value(1).toString());
     if (message.member() == QStringLiteral("Get") && value.isValid())
         return message.createReply(QVariant::fromValue(QDBusVariant(value)));
     return unknown(message);
+}
+
+QDBusMessage DemoPlayer::answerGetAll(const QDBusMessage& message,
+                                      const QVariantMap& properties) const {
+    if (manner_ == QStringLiteral("error"))
+        return message.createErrorReply(QDBusError::Failed, QStringLiteral("as the test says"));
+    if (manner_ == QStringLiteral("text"))
+        return message.createReply(QStringLiteral("no properties"));
+    if (manner_ == QStringLiteral("nothing"))
+        return message.createReply();
+    return message.createReply(QVariant(properties));
 }
 
 QDBusMessage DemoPlayer::answerPlayer(const QDBusMessage& message) {
@@ -97,6 +108,8 @@ QDBusMessage DemoPlayer::answerControl(const QDBusMessage& message) {
         setStatus(message.arguments().value(0).toString());
     else if (member == QStringLiteral("SetProperties"))
         fixedProperties_ = mapArgument(message);
+    else if (member == QStringLiteral("SetAnswer"))
+        manner_ = message.arguments().value(0).toString();
     else if (member == QStringLiteral("Requests"))
         return message.createReply(requests_);
     else if (member == QStringLiteral("Leave"))

@@ -13,6 +13,7 @@
 /// - `SetPosition(x microseconds)`, `SetStatus(s status)`: "Playing", "Paused" or "Stopped"
 /// - `SetProperties(a{sv} properties)`: answers `GetAll` with exactly these from now on; with none,
 ///   tells the truth again
+/// - `SetAnswer(s manner)`: answers `GetAll` with an "error", a "text", "nothing", or else truly
 /// - `Requests() -> u`: how many calls of the MPRIS interfaces and `GetAll` it has answered
 /// - `Leave()`: ends the process
 class DemoPlayer : public QDBusVirtualObject {
@@ -30,6 +31,7 @@ public:
 
 private:
     QDBusMessage answerProperties(const QDBusMessage& message);
+    QDBusMessage answerGetAll(const QDBusMessage& message, const QVariantMap& properties) const;
     QDBusMessage answerPlayer(const QDBusMessage& message);
     QDBusMessage answerControl(const QDBusMessage& message);
 
@@ -41,6 +43,7 @@ private:
 
     QVariantMap metadata_;
     QVariantMap fixedProperties_;
+    QString manner_; ///< of answering `GetAll`
     QString status_ = QStringLiteral("Stopped");
     qint64 startUs_ = 0; ///< the position when `sinceStart_` began
     QElapsedTimer sinceStart_;

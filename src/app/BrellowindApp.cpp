@@ -5,7 +5,9 @@
 #include "platform/Services.h"
 #include "platform/linux/MprisPlayer.h"
 #include "platform/linux/ScreenLock.h"
+#include "platform/linux/SingleInstance.h"
 #include "platform/linux/StderrLog.h"
+#include "platform/linux/UnixSignals.h"
 #include "platform/linux/XdgLoginItem.h"
 #include "platform/linux/screens/QtScreens.h"
 #include "platform/linux/x11/X11Pointer.h"
@@ -13,12 +15,15 @@
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"
 #include "platform/qt/QtLinkOpener.h"
+#include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/SystemClock.h"
 #include "playback/SpotifyBridge.h"
+#include "settings/window/SettingsWindow.h"
+#include "views/NotchRootView.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
+#include <QGuiApplication>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <QStandardPaths>
@@ -62,6 +67,7 @@ struct BrellowindApp::Machine {
     platform::StderrLog log;
     platform::QtHttpClient http;
     platform::QtImageDecoder images{largestArtworkPoints};
+    platform::QtLocalFiles files;
     platform::MprisPlayer player{QDBusConnection::sessionBus(), mprisVocabulary()};
     platform::QtScreens screens{mainLoop};
     platform::X11Pointer pointer{mainLoop};
@@ -76,6 +82,7 @@ struct BrellowindApp::Machine {
                                    .log = log,
                                    .http = http,
                                    .images = images,
+                                   .files = files,
                                    .scripting = player,
                                    .runningApplications = player,
                                    .screens = screens,
@@ -84,12 +91,25 @@ struct BrellowindApp::Machine {
                                    .links = links,
                                    .loginItem = loginItem,
                                    .constants = constants}};
-    AppDelegate delegate{screenLock, [] {}};
+    platform::UnixSignals signals{[this] { application.terminate(); }};
+    SettingsWindow settings;
+    AppDelegate delegate{screenLock, [this] { settings.open(); }};
+    platform::SingleInstance instance{QDBusConnection::sessionBus(),
+                                      qEnvironmentVariable("DISPLAY"),
+                                      [this] { delegate.rootView().openSettings(); }};
 };
 
 void BrellowindApp::prepare() {
+    // The pill's window is an X11 window; on a Wayland session it comes through XWayland.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
     // A pill is too small to need a graphics card, and takes a third of the memory without one.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+bool BrellowindApp::claimDisplay() {
+    return machine_->instance.claim();
 }
 
 BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)

@@ -22,6 +22,10 @@ public:
     BrellowindApp& operator=(const BrellowindApp&) = delete;
     ~BrellowindApp();
 
+    /// False when this program runs already for this user on this display: that one has been asked
+    /// to show its settings window, and this one should end.
+    bool claimDisplay();
+
     /// Creates the notch window and shows it. Called once.
     void launch();
 

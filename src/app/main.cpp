@@ -9,6 +9,8 @@ int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
     brellowind::BrellowindApp app(brellowind::compiledConstants());
+    if (!app.claimDisplay())
+        return 0;
     app.launch();
     return QGuiApplication::exec();
 }

@@ -33,7 +33,8 @@ struct HttpResponse {
     std::string body;
 };
 
-/// No answer arrived: no connection, time-out, cancellation, an unsafe redirect, a body too long.
+/// No answer arrived: no connection, time-out, cancellation, a redirect that is unsafe or leads
+/// nowhere, a body too long or cut off.
 struct TransportError {
     std::string description;
 };

@@ -13,7 +13,7 @@ public:
 };
 
 /// Work that is wanted once before the main loop rests, however often it is asked for.
-/// Destroying it withdraws it.
+/// Destroying it withdraws it; its handler may destroy it.
 class NextTurn {
 public:
     virtual ~NextTurn() = default;

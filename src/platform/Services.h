@@ -5,6 +5,7 @@
 #include "platform/HttpClient.h"
 #include "platform/Images.h"
 #include "platform/LinkOpener.h"
+#include "platform/LocalFiles.h"
 #include "platform/Log.h"
 #include "platform/LoginItem.h"
 #include "platform/MainLoop.h"
@@ -29,6 +30,7 @@ struct Services {
     Log& log;
     HttpClient& http;
     ImageDecoder& images;
+    LocalFiles& files;
     Scripting& scripting;
     RunningApplications& runningApplications;
     Screens& screens;

@@ -19,16 +19,22 @@ void Artwork::load(const std::optional<std::string>& url) {
 }
 
 Task<void> Artwork::fetchInto(std::weak_ptr<Artwork> weakArtwork, std::string url) {
+    const auto bytes = co_await fetchBytes(std::move(url));
+    const auto artwork = weakArtwork.lock();
+    if (!bytes || !artwork)
+        co_return;
+    if (auto decoded = platform::services().images.decode(*bytes))
+        artwork->image.set(std::move(decoded));
+}
+
+Task<std::optional<std::string>> Artwork::fetchBytes(std::string url) {
+    if (url.starts_with("file:"))
+        co_return platform::services().files.read(url, maximumBytes);
     platform::HttpRequest request{
         .url = std::move(url), .headers = {}, .maximumBodyBytes = maximumBytes};
-    const auto result = co_await platform::fetch(std::move(request));
-    const auto* response = std::get_if<platform::HttpResponse>(&result);
-    if (!response)
-        co_return;
-    auto decoded = platform::services().images.decode(response->body);
-    const auto artwork = weakArtwork.lock();
-    if (decoded && artwork)
-        artwork->image.set(std::move(decoded));
+    auto result = co_await platform::fetch(std::move(request));
+    auto* response = std::get_if<platform::HttpResponse>(&result);
+    co_return response ? std::optional(std::move(response->body)) : std::nullopt;
 }
 
 } // namespace brellowind

@@ -19,9 +19,9 @@ public:
 
     static std::shared_ptr<Artwork> create();
 
-    /// Fetches the image at `url` and shows it once it is there; until then, and for good when it
-    /// cannot be had, the present one stays. Without a valid location there is no image at once. Of
-    /// overlapping loads the one that ends last counts.
+    /// Fetches the image at `url`, over HTTP or from a file, and shows it once it is there; until
+    /// then, and for good when it cannot be had, the present one stays. Without a valid location
+    /// there is no image at once. Of overlapping loads the one that ends last counts.
     void load(const std::optional<std::string>& url);
 
     Published<std::shared_ptr<const platform::Image>, Artwork> image{nullptr}; ///< null: none
@@ -30,6 +30,7 @@ private:
     Artwork() = default;
 
     static Task<void> fetchInto(std::weak_ptr<Artwork> artwork, std::string url);
+    static Task<std::optional<std::string>> fetchBytes(std::string url);
 };
 
 } // namespace brellowind

@@ -1,5 +1,7 @@
 #include "session/Desktop.h"
 
+#include "session/EventLoop.h"
+
 #include <gtest/gtest.h>
 
 namespace brellowind::test {
@@ -15,6 +17,11 @@ SessionBus::SessionBus()
 
 SessionBus::~SessionBus() {
     QDBusConnection::disconnectFromBus(connectionName_);
+}
+
+void SessionBus::end() {
+    daemon_.end();
+    EXPECT_TRUE(waitUntil([this] { return !connection().isConnected(); }));
 }
 
 XServer::XServer(const QString& screen)

@@ -22,6 +22,9 @@ public:
     /// This process's own connection to it.
     QDBusConnection connection() const { return QDBusConnection(connectionName_); }
 
+    /// Ends the bus under everybody who is connected to it.
+    void end();
+
 private:
     demo::Companion daemon_;
     QString address_;

@@ -46,6 +46,12 @@ void PlayerProcess::recover() {
     EXPECT_EQ(::kill(static_cast<pid_t>(process_->processId()), SIGCONT), 0);
 }
 
+void PlayerProcess::kill() {
+    EXPECT_EQ(::kill(static_cast<pid_t>(process_->processId()), SIGKILL), 0);
+    EXPECT_TRUE(
+        waitUntil([this] { return !bus_.interface()->isServiceRegistered(name_).value(); }));
+}
+
 QDBusMessage PlayerProcess::call(const char* method, const QVariantList& arguments) {
     auto message = QDBusMessage::createMethodCall(name_, QStringLiteral("/org/mpris/MediaPlayer2"),
                                                   QStringLiteral("org.brellowind.DemoPlayer"),

@@ -26,6 +26,7 @@ public:
     }
     void setStatus(const char* status) { call("SetStatus", {QString::fromLatin1(status)}); }
     void setProperties(const QVariantMap& properties) { call("SetProperties", {properties}); }
+    void setAnswer(const char* manner) { call("SetAnswer", {QString::fromLatin1(manner)}); }
     unsigned requests() { return call("Requests", {}).arguments().value(0).toUInt(); }
 
     /// Ends the player as its user would.
@@ -34,6 +35,9 @@ public:
     /// Stops the process so that it answers nothing, and lets it go on.
     void hang();
     void recover();
+
+    /// Ends the process without a word, even a stopped one.
+    void kill();
 
 private:
     QDBusMessage call(const char* method, const QVariantList& arguments);

@@ -62,6 +62,7 @@ TestMachine::TestMachine()
               .log = log,
               .http = http,
               .images = images,
+              .files = files,
               .scripting = scripting,
               .runningApplications = runningApplications,
               .screens = screens,

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <list>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -141,6 +142,19 @@ public:
     }
 };
 
+/// Holds the files that a test puts there, by their locations.
+class FakeLocalFiles final : public platform::LocalFiles {
+public:
+    std::optional<std::string> read(std::string_view url, std::size_t maximumBytes) override {
+        const auto file = contents.find(std::string(url));
+        if (file == contents.end() || file->second.size() > maximumBytes)
+            return std::nullopt;
+        return file->second;
+    }
+
+    std::map<std::string, std::string> contents;
+};
+
 /// The whole machine of one test, installed for as long as it lives.
 class TestMachine {
 public:
@@ -152,6 +166,7 @@ public:
     FakeLog log;
     FakeHttpClient http;
     FakeImageDecoder images;
+    FakeLocalFiles files;
     FakeScripting scripting;
     FakeRunningApplications runningApplications;
     FakeScreens screens; ///< none at first

@@ -3,11 +3,9 @@
 #include "platform/linux/MprisRecord.h"
 
 #include <QDBusArgument>
-#include <QDBusConnectionInterface>
 #include <QDBusError>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
-#include <algorithm>
 #include <utility>
 
 namespace brellowind::platform {
@@ -22,8 +20,15 @@ ScriptOutcome failure(const QString& description) {
     return {.text = std::nullopt, .error = description.toStdString()};
 }
 
-ScriptOutcome failure(const QDBusMessage& error) {
-    return failure(error.errorName() + QLatin1String(": ") + error.errorMessage());
+ScriptOutcome failure(const QDBusError& error) {
+    return failure(error.name() + QLatin1String(": ") + error.message());
+}
+
+/// A call that never starts a player: one that has just quit stays away.
+QDBusMessage playerCall(const QString& player, const QString& interface, const QString& method) {
+    auto request = QDBusMessage::createMethodCall(player, objectPath, interface, method);
+    request.setAutoStartService(false);
+    return request;
 }
 
 bool isTimeout(const QDBusMessage& reply) {
@@ -40,24 +45,32 @@ MprisPlayer::MprisPlayer(QDBusConnection bus, MprisVocabulary vocabulary)
 MprisPlayer::~MprisPlayer() = default;
 
 ScriptOutcome MprisPlayer::execute(std::string_view source) {
-    if (source == vocabulary_.readOutScript)
-        return readOut();
-    if (source == vocabulary_.playPauseScript)
-        return playPause();
-    return {};
+    const bool reads = source == vocabulary_.readOutScript;
+    if (!reads && source != vocabulary_.playPauseScript)
+        return {};
+    const auto names = namesOnBus();
+    if (!names.isValid())
+        return failure(names.error());
+    const QStringList players = playersAmong(names);
+    if (!players.isEmpty())
+        return reads ? readOut(players.first()) : playPause(players.first());
+    return reads ? ScriptOutcome{.text = std::string(), .error = std::nullopt}
+                 : failure(QStringLiteral("the player is not running"));
 }
 
 std::vector<std::optional<std::string>> MprisPlayer::bundleIdentifiers() {
-    return {static_cast<std::size_t>(runningPlayers().size()), vocabulary_.bundleIdentifier};
+    return {static_cast<std::size_t>(playersAmong(namesOnBus()).size()),
+            vocabulary_.bundleIdentifier};
 }
 
-QStringList MprisPlayer::runningPlayers() const {
-    auto request = QDBusMessage::createMethodCall(
+QDBusReply<QStringList> MprisPlayer::namesOnBus() const {
+    const auto request = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ListNames"));
-    const auto reply = bus_.call(request, QDBus::Block, static_cast<int>(patience.count()));
-    const QStringList names = reply.arguments().value(0).toStringList();
+    return bus_.call(request, QDBus::Block, static_cast<int>(patience.count()));
+}
 
+QStringList MprisPlayer::playersAmong(const QStringList& names) const {
     QStringList plain;
     QStringList instances;
     for (const auto& player : vocabulary_.players) {
@@ -69,33 +82,27 @@ QStringList MprisPlayer::runningPlayers() const {
                 instances.append(candidate);
         }
     }
+    instances.sort(); // the bus gives them in any order, and not always in the same
     return plain + instances;
 }
 
-ScriptOutcome MprisPlayer::readOut() {
-    const QStringList players = runningPlayers();
-    if (players.isEmpty())
-        return {.text = std::string(), .error = std::nullopt};
-    auto request = QDBusMessage::createMethodCall(players.first(), objectPath,
-                                                  QStringLiteral("org.freedesktop.DBus.Properties"),
-                                                  QStringLiteral("GetAll"));
+ScriptOutcome MprisPlayer::readOut(const QString& player) {
+    auto request = playerCall(player, QStringLiteral("org.freedesktop.DBus.Properties"),
+                              QStringLiteral("GetAll"));
     request << QString(playerInterface);
     const auto reply = call(request);
     if (reply.type() == QDBusMessage::ErrorMessage)
-        return failure(reply);
+        return failure(QDBusError(reply));
     if (reply.signature() != QLatin1String("a{sv}"))
         return failure(QStringLiteral("the player's answer is of the wrong type"));
     const auto properties = qdbus_cast<QVariantMap>(reply.arguments().constFirst());
     return {.text = mprisRecord(properties), .error = std::nullopt};
 }
 
-ScriptOutcome MprisPlayer::playPause() {
-    const QStringList players = runningPlayers();
-    if (players.isEmpty())
-        return failure(QStringLiteral("the player is not running"));
-    const auto reply = call(QDBusMessage::createMethodCall(
-        players.first(), objectPath, playerInterface, QStringLiteral("PlayPause")));
-    return reply.type() == QDBusMessage::ErrorMessage ? failure(reply) : ScriptOutcome{};
+ScriptOutcome MprisPlayer::playPause(const QString& player) {
+    const auto reply = call(playerCall(player, playerInterface, QStringLiteral("PlayPause")));
+    return reply.type() == QDBusMessage::ErrorMessage ? failure(QDBusError(reply))
+                                                      : ScriptOutcome{};
 }
 
 QDBusMessage MprisPlayer::call(const QDBusMessage& request) {
@@ -109,8 +116,8 @@ QDBusMessage MprisPlayer::call(const QDBusMessage& request) {
 
 /// Sends one ping and lets readings fail until it is answered, or known never to be.
 void MprisPlayer::awaitRecovery(const QString& player) {
-    const auto ping = QDBusMessage::createMethodCall(
-        player, objectPath, QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+    const auto ping =
+        playerCall(player, QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
     recovery_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(ping));
     QObject::connect(recovery_.get(), &QDBusPendingCallWatcher::finished, recovery_.get(),
                      [this, player](QDBusPendingCallWatcher* watcher) {

@@ -5,6 +5,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusReply>
 #include <QStringList>
 #include <chrono>
 #include <memory>
@@ -29,7 +30,8 @@ struct MprisVocabulary {
 /// one `Properties.GetAll`, the play/pause script by `PlayPause`.
 ///
 /// A player that does not answer costs one wait of `patience`; from then on every execution fails
-/// at once until the player answers again.
+/// at once until the player answers again. A bus that is gone makes every execution fail, and no
+/// application run: a session does not outlive its bus, so there is no way back.
 class MprisPlayer final : public Scripting, public RunningApplications {
 public:
     static constexpr std::chrono::milliseconds patience{200};
@@ -41,11 +43,14 @@ public:
     std::vector<std::optional<std::string>> bundleIdentifiers() override;
 
 private:
-    ScriptOutcome readOut();
-    ScriptOutcome playPause();
+    ScriptOutcome readOut(const QString& player);
+    ScriptOutcome playPause(const QString& player);
 
-    /// The bus names that count, the plain ones first.
-    QStringList runningPlayers() const;
+    QDBusReply<QStringList> namesOnBus() const;
+
+    /// Of `names` those that count, the plain ones first.
+    QStringList playersAmong(const QStringList& names) const;
+
     QDBusMessage call(const QDBusMessage& request);
     void awaitRecovery(const QString& player);
 

@@ -22,6 +22,7 @@ constexpr Saver savers[] = {
     {"org.xfce.ScreenSaver", "/org/xfce/ScreenSaver"},
 };
 
+const auto bus = QStringLiteral("org.freedesktop.DBus");
 const auto loginManager = QStringLiteral("org.freedesktop.login1");
 const auto sessionInterface = QStringLiteral("org.freedesktop.login1.Session");
 const auto propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
@@ -38,9 +39,9 @@ QDBusMessage methodCall(const QString& service, const QString& path, const QStri
 
 /// Calls `answered` with the answer unless it is an error or `owner` is gone by then.
 template <typename Value>
-void ask(const QDBusConnection& bus, const QDBusMessage& question, QObject* owner,
+void ask(const QDBusConnection& connection, const QDBusMessage& question, QObject* owner,
          std::function<void(const Value&, const QDBusMessage&)> answered) {
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), owner);
+    auto* watcher = new QDBusPendingCallWatcher(connection.asyncCall(question), owner);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, owner,
                      [watcher, answered = std::move(answered)] {
                          const QDBusPendingReply<Value> reply = *watcher;
@@ -90,8 +91,22 @@ void ScreenLock::setSaverActive(const QString& saver, bool active) {
         forgetSaver(saver);
         return;
     }
-    saverWatcher_.addWatchedService(saver);
+    watchSaver(saver);
     announcing([&] { activeSavers_.insert(saver); });
+}
+
+/// It may be gone already by the time that the bus tells of its end.
+void ScreenLock::watchSaver(const QString& saver) {
+    if (activeSavers_.contains(saver))
+        return;
+    saverWatcher_.addWatchedService(saver);
+    ask<bool>(
+        sessionBus_,
+        methodCall(bus, QStringLiteral("/org/freedesktop/DBus"), bus, "NameHasOwner", {saver}),
+        this, [this, saver](bool lives, const QDBusMessage&) {
+            if (!lives)
+                forgetSaver(saver);
+        });
 }
 
 void ScreenLock::forgetSaver(const QString& saver) {

@@ -29,6 +29,7 @@ public:
 private:
     void askSavers();
     void setSaverActive(const QString& saver, bool active);
+    void watchSaver(const QString& saver);
     void forgetSaver(const QString& saver);
 
     void findSession();

@@ -1,15 +1,21 @@
 #include "platform/qt/QtHttpClient.h"
 
+#include <QBasicTimer>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QPointer>
 #include <QTimerEvent>
 #include <QUrl>
+#include <array>
 #include <utility>
 
 namespace brellowind::platform {
 namespace {
 
-/// Whether the server's answer arrived whole, whatever its status: of Qt's errors only those that
+/// Of a body that comes faster than it is taken, so much waits in memory; the rest on the network.
+constexpr qint64 readAhead = 1 << 20;
+
+/// Whether the server answered, whatever its status: of Qt's errors only those that
 /// name a status of 400 or more do not mean that the transfer itself failed.
 bool isAnswer(int status, QNetworkReply::NetworkError error) {
     if (error == QNetworkReply::NoError)
@@ -22,41 +28,61 @@ public:
     QtTransfer(QNetworkReply* reply, const HttpRequest& request, HttpClient::Completion completion)
         : reply_(reply), completion_(std::move(completion)),
           maximumBodyBytes_(request.maximumBodyBytes) {
-        connect(reply, &QNetworkReply::readyRead, this, &QtTransfer::readBody);
+        connect(reply, &QNetworkReply::readyRead, this, &QtTransfer::read);
         connect(reply, &QNetworkReply::finished, this, &QtTransfer::finish);
-        startTimer(request.timeout);
+        reply->setReadBufferSize(readAhead);
+        timeout_.start(static_cast<int>(request.timeout.count()), this);
     }
 
     ~QtTransfer() override { releaseReply(); }
 
 protected:
-    void timerEvent(QTimerEvent* event) override {
-        killTimer(event->timerId());
+    void timerEvent(QTimerEvent* /*event*/) override {
         complete(TransportError{"the transfer timed out"});
     }
 
 private:
-    void readBody() {
-        const QByteArray chunk = reply_->readAll();
-        if (static_cast<std::size_t>(chunk.size()) > maximumBodyBytes_ - body_.size())
+    void read() {
+        if (!readBody())
             complete(TransportError{"the body is too long"});
-        else
-            body_.append(chunk.constData(), static_cast<std::size_t>(chunk.size()));
     }
 
     void finish() {
-        readBody();
-        if (!completion_)
-            return;
         const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        if (isAnswer(status, reply_->error()))
+        if (!readBody())
+            complete(TransportError{"the body is too long"});
+        else if (isAnswer(status, reply_->error()) && isWhole())
             complete(HttpResponse{status, std::move(body_)});
         else
             complete(TransportError{reply_->errorString().toStdString()});
     }
 
+    /// Of an error page Qt may report only the status, also when the page was cut off. The length
+    /// of a compressed body is not known here; one without a body may name a length.
+    bool isWhole() const {
+        const auto length = reply_->header(QNetworkRequest::ContentLengthHeader);
+        return reply_->error() == QNetworkReply::NoError || !length.isValid() ||
+               body_.size() >= length.toULongLong();
+    }
+
+    /// Takes what has arrived. False when that is more than is wanted. Piece by piece, because a
+    /// compressed body may unpack to any size.
+    bool readBody() {
+        std::array<char, 16384> piece;
+        for (;;) {
+            const qint64 count = reply_->read(piece.data(), piece.size());
+            if (count <= 0)
+                return true;
+            const auto size = static_cast<std::size_t>(count);
+            if (size > maximumBodyBytes_ - body_.size())
+                return false;
+            body_.append(piece.data(), size);
+        }
+    }
+
     /// The completion may destroy this transfer.
     void complete(HttpResult result) {
+        timeout_.stop();
         releaseReply();
         const auto completion = std::exchange(completion_, nullptr);
         completion(std::move(result));
@@ -65,20 +91,29 @@ private:
     void releaseReply() {
         if (!reply_)
             return;
-        auto* reply = std::exchange(reply_, nullptr);
+        const auto reply = std::exchange(reply_, nullptr);
         reply->disconnect(this);
         reply->abort();
         reply->deleteLater();
     }
 
-    QNetworkReply* reply_;
+    QPointer<QNetworkReply> reply_; ///< null once the transfer or the whole client has ended
+    QBasicTimer timeout_;
     HttpClient::Completion completion_;
     std::size_t maximumBodyBytes_;
     std::string body_;
 };
 
+/// An address of another kind becomes one that cannot be fetched: Qt would also read files.
+QUrl webAddress(const std::string& text) {
+    const auto url = QUrl::fromEncoded(QByteArray::fromStdString(text));
+    const bool isWeb =
+        url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+    return isWeb ? url : QUrl();
+}
+
 QNetworkRequest networkRequest(const HttpRequest& request) {
-    QNetworkRequest network(QUrl::fromEncoded(QByteArray::fromStdString(request.url)));
+    QNetworkRequest network(webAddress(request.url));
     network.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::NoLessSafeRedirectPolicy);
     network.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);

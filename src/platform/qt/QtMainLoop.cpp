@@ -32,24 +32,31 @@ private:
     int id_;
 };
 
-/// Runs just before the loop rests; `awake` covers loops that are driven without resting.
+/// Runs just before the loop rests; `awake` covers loops that are driven without resting. A request
+/// may come when the loop has already decided to rest, so each one keeps it awake for a turn.
 class QtNextTurn final : public QObject, public NextTurn {
 public:
-    explicit QtNextTurn(MainLoop::Handler handler) : handler_(std::move(handler)) {
+    explicit QtNextTurn(MainLoop::Handler handler)
+        : handler_(std::make_shared<MainLoop::Handler>(std::move(handler))) {
         const auto* dispatcher = QAbstractEventDispatcher::instance();
         connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &QtNextTurn::run);
         connect(dispatcher, &QAbstractEventDispatcher::awake, this, &QtNextTurn::run);
     }
 
-    void request() override { requested_ = true; }
+    void request() override {
+        if (!std::exchange(requested_, true))
+            QAbstractEventDispatcher::instance()->wakeUp();
+    }
 
 private:
     void run() {
-        if (std::exchange(requested_, false))
-            handler_();
+        if (!std::exchange(requested_, false))
+            return;
+        const auto handler = handler_; // it may destroy this
+        (*handler)();
     }
 
-    MainLoop::Handler handler_;
+    std::shared_ptr<MainLoop::Handler> handler_;
     bool requested_ = false;
 };
 

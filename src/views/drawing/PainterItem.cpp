@@ -25,7 +25,9 @@ public:
         if (!painter)
             return;
         const QRegion* clip = state->clipRegion();
-        if (clip && !clip->isEmpty())
+        if (clip && clip->isEmpty())
+            return; // clipped away altogether
+        if (clip)
             painter->setClipRegion(*clip, Qt::ReplaceClip); // in pixels: before the transformation
         painter->setTransform(matrix()->toTransform());
         painter->setOpacity(inheritedOpacity());

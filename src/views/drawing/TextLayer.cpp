@@ -57,7 +57,8 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double maximumWidth
     QTextLine only = layout_.createLine();
     if (only.isValid()) {
         only.setLineWidth(1e6);
-        only.setPosition({0, 0});
+        // Another script's font may be higher: all stand on the same line all the same.
+        only.setPosition({0, QFontMetricsF(font).ascent() - only.ascent()});
         width_ = only.naturalTextWidth();
         // Text from right to left would stand at the far end of that line.
         only.setLineWidth(width_);
@@ -101,7 +102,7 @@ void TextLayer::paintBlurred(QPainter& painter, QColor color, QPointF origin, QR
     const double ratio = painter.device()->devicePixelRatioF();
     const double sigma = strongestSigma * (1 - std::clamp(shown_, 0.0, 1.0));
     const double reach = std::ceil(blurReach(sigma));
-    const QRectF line = QRectF(origin, QSizeF(width_, layout_.boundingRect().height()));
+    const QRectF line = layout_.boundingRect().translated(origin);
     const QRectF drawn = line.adjusted(-reach, -reach, reach, reach);
     const double left = std::max(drawn.left(), seen.left() - reach);
     const double right = std::min(drawn.right(), seen.right() + reach);

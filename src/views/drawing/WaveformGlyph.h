@@ -21,6 +21,9 @@ public:
     bool isActive() const { return active_; }
     void setActive(bool active);
 
+    /// Where in its round the wave stands, in steps of a tenth of a second; it goes on from there.
+    void setStep(int step);
+
     void paint(QPainter& painter) override;
 
     /// The strength of the bar `index` when the wave stands at `phase`, 0 to 1, of its round.

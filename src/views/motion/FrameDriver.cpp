@@ -28,6 +28,8 @@ void FrameDriver::drive(Animated& animated) {
 
 void FrameDriver::forget(Animated& animated) {
     std::ranges::replace(moving_, &animated, static_cast<Animated*>(nullptr));
+    if (frame_ < 0)
+        rest();
 }
 
 void FrameDriver::freeze(double seconds) {
@@ -59,8 +61,13 @@ void FrameDriver::advanceAll() {
         if (animated && !animated->advance(frame_))
             std::ranges::replace(moving_, animated, static_cast<Animated*>(nullptr));
     }
-    std::erase(moving_, nullptr);
     frame_ = -1;
+    rest();
+}
+
+/// Drops those that need no more frames, and stops when none is left.
+void FrameDriver::rest() {
+    std::erase(moving_, nullptr);
     if (moving_.empty() && state() == Running)
         stop();
 }

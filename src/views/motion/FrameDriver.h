@@ -47,6 +47,7 @@ private:
     FrameDriver() = default;
 
     void advanceAll();
+    void rest();
 
     std::vector<Animated*> moving_;
     double frame_ = -1;  ///< below 0: no frame is being made

@@ -13,8 +13,8 @@ Item {
 
     x: pill.x + Style.mix(Style.sidePadding, Style.panelSidePadding, expansion)
     y: Style.mix(Style.topPadding, Style.panelTopPadding + Style.bandHeight + Style.panelSpacing, expansion)
-    width: Style.mix(Style.thumbnailWidth, Style.artworkSide, expansion)
-    height: Style.mix(Style.bandHeight, Style.artworkSide, expansion)
+    width: Style.swell(Style.thumbnailWidth, Style.artworkSide, expansion)
+    height: Style.swell(Style.bandHeight, Style.artworkSide, expansion)
 
     SpringValue {
         id: pop
@@ -31,12 +31,15 @@ Item {
         rotation: -6 * pop.value
     }
 
+    // Laid out once for the whole artwork, with which it grows.
     ArtworkCaption {
         anchors.bottom: parent.bottom
-        width: parent.width
-        coverSide: Math.max(parent.width, parent.height)
+        width: Style.artworkSide
+        coverSide: Style.artworkSide
+        transformOrigin: Item.BottomLeft
+        scale: parent.width / Style.artworkSide
         model: root.model
-        opacity: Math.min(1, Math.max(0, root.expansion))
+        opacity: Math.min(1, Math.max(0, 2 * root.expansion - 1))
         visible: opacity > 0
     }
 

@@ -27,7 +27,7 @@ Item {
 
         x: (root.width - width) / 2
         width: Style.mix(motion.lineWidth + 2 * Style.sidePadding, Style.panelWidth, motion.expand)
-        height: Style.mix(root.defaultHeight, panel.height, motion.expand)
+        height: Style.swell(root.defaultHeight, panel.height, motion.expand)
         lift: motion.hover
 
         onWidthChanged: root.model.sizeChanged(width, height)
@@ -57,8 +57,12 @@ Item {
         }
     }
 
+    // Just within the pill's sides, which stand beside its flaring top corners, and its bottom.
     Item {
         anchors.fill: shape
+        anchors.leftMargin: Style.flare + 1
+        anchors.rightMargin: Style.flare + 1
+        anchors.bottomMargin: 1
         clip: true
 
         LyricText {
@@ -69,7 +73,7 @@ Item {
             y: Style.topPadding + Style.bandHeight + Style.spacing
             text: root.model.currentLineText
             present: !root.model.isMinimized
-            opacity: Math.max(0, 1 - motion.expand)
+            opacity: Math.max(0, 1 - 2.5 * motion.expand) // gone before the artwork reaches it
             visible: opacity > 0
             color: Style.text
             font.pixelSize: 13

@@ -6,6 +6,7 @@ import QtQuick
 QtObject {
     readonly property color text: Qt.rgba(0.96, 0.96, 0.96, 1)
 
+    readonly property real flare: 8
     readonly property real bandHeight: 20
     readonly property real spacing: 8
     readonly property real sidePadding: 20
@@ -31,5 +32,10 @@ QtObject {
     /** Between a and b by a fraction that may overshoot. */
     function mix(a: real, b: real, fraction: real): real {
         return a + (b - a) * fraction;
+    }
+
+    /** Between small and large. Below small it overshoots by a part of small, not of the way. */
+    function swell(small: real, large: real, fraction: real): real {
+        return fraction < 0 ? small * (1 + 2 * fraction) : mix(small, large, fraction);
     }
 }

@@ -1,14 +1,40 @@
 #include "PillObserver.h"
 
 #include <QDBusConnection>
+#include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QVariant>
 
 namespace brellowind::test {
+namespace {
+
+QList<double> numbers(const QRectF& rect) {
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+QList<double> rectangle(const QQuickItem* item) {
+    return item ? numbers(item->mapRectToScene(item->boundingRect())) : QList<double>();
+}
+
+/// The bus knows no absent value, nor QML's own types.
+QDBusVariant property(const QObject* object, const QString& name) {
+    const QVariant value = object ? object->property(name.toUtf8().constData()) : QVariant();
+    return QDBusVariant(value.isValid() ? value : QVariant(QString()));
+}
+
+const QQuickWindow* openMenu() {
+    for (const auto* window : QGuiApplication::allWindows())
+        if (window->objectName() == QStringLiteral("menu") && window->isVisible())
+            return qobject_cast<const QQuickWindow*>(window);
+    return nullptr;
+}
+
+} // namespace
 
 PillObserver::PillObserver(const QQuickWindow& window)
-    : line_(window.contentItem()->findChild<QObject*>(QStringLiteral("lyricLine"))) {
+    : window_(window),
+      line_(window.contentItem()->findChild<QObject*>(QStringLiteral("lyricLine"))) {
     if (line_)
         connect(line_, SIGNAL(textChanged(QString)), this, SIGNAL(TextChanged(QString)));
 }
@@ -23,6 +49,43 @@ bool PillObserver::listen() {
 
 QString PillObserver::Text() const {
     return line_->property("text").toString();
+}
+
+QDBusVariant PillObserver::Form(const QString& property) const {
+    const auto* root = window_.contentItem()->childItems().value(0);
+    const auto* model = root ? root->property("model").value<QObject*>() : nullptr;
+    return test::property(model, property);
+}
+
+QDBusVariant PillObserver::Property(const QString& item, const QString& property) const {
+    return test::property(this->item(item), property);
+}
+
+QList<double> PillObserver::Rectangle(const QString& item) const {
+    return rectangle(this->item(item));
+}
+
+uint PillObserver::Window() const {
+    return static_cast<uint>(window_.winId());
+}
+
+uint PillObserver::Menu() const {
+    const auto* menu = openMenu();
+    return menu ? static_cast<uint>(menu->winId()) : 0;
+}
+
+QList<double> PillObserver::MenuEntry(const QString& text) const {
+    const auto* menu = openMenu();
+    if (!menu)
+        return {};
+    for (const auto* item : menu->findChildren<QQuickItem*>())
+        if (item->property("menu").isValid() && item->property("text") == text)
+            return rectangle(item);
+    return {};
+}
+
+const QQuickItem* PillObserver::item(const QString& name) const {
+    return window_.contentItem()->findChild<QQuickItem*>(name);
 }
 
 } // namespace brellowind::test

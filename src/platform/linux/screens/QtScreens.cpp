@@ -10,7 +10,8 @@
 namespace brellowind::platform {
 namespace {
 
-/// What Qt shows when there is no screen.
+/// What Qt shows when there is no screen. On an X server without any it shows the last screen on,
+/// not to be told from that of a server that knows no monitors.
 bool isPlaceholder(const QScreen& screen) {
     return screen.name().isEmpty() || screen.size().isEmpty();
 }

@@ -29,11 +29,16 @@ struct Span {
 
 using Row = std::vector<Span>;
 
+/// Qt makes lines of curves that are off by up to half a unit: these units are finer than pixels.
+constexpr double unitsPerPixel = 8;
+
 std::vector<Edge> edges(const QPainterPath& outline, double scale) {
     std::vector<Edge> all;
-    for (const auto& polygon : outline.toSubpathPolygons(QTransform::fromScale(scale, scale))) {
+    const double units = scale * unitsPerPixel;
+    for (const auto& polygon : outline.toSubpathPolygons(QTransform::fromScale(units, units))) {
         for (qsizetype i = 0; i < polygon.size(); ++i)
-            all.push_back({polygon[i], polygon[(i + 1) % polygon.size()]});
+            all.push_back(
+                {polygon[i] / unitsPerPixel, polygon[(i + 1) % polygon.size()] / unitsPerPixel});
     }
     return all;
 }

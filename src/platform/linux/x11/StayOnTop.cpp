@@ -34,9 +34,18 @@ StayOnTop::StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& 
 }
 
 void StayOnTop::raise() {
-    constexpr std::uint32_t above = XCB_STACK_MODE_ABOVE;
-    xcb_configure_window(x11_.get(), window_, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+    const auto above = windowsAbove();
+    putOnTop(window_);
+    for (const auto window : above) {
+        if (x11_.owns(window) && viewable(window))
+            putOnTop(window);
+    }
     x11_.flush();
+}
+
+void StayOnTop::putOnTop(xcb_window_t window) {
+    constexpr std::uint32_t above = XCB_STACK_MODE_ABOVE;
+    xcb_configure_window(x11_.get(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
 }
 
 void StayOnTop::handle(const xcb_generic_event_t& event) {
@@ -44,6 +53,8 @@ void StayOnTop::handle(const xcb_generic_event_t& event) {
         switch (eventType(event)) {
         case XCB_MAP_NOTIFY:
             return eventAs<xcb_map_notify_event_t>(event).event == x11_.root();
+        case XCB_UNMAP_NOTIFY: // it may have been a shield
+            return eventAs<xcb_unmap_notify_event_t>(event).event == x11_.root();
         case XCB_CONFIGURE_NOTIFY:
             return eventAs<xcb_configure_notify_event_t>(event).event == x11_.root();
         case XCB_CIRCULATE_NOTIFY:

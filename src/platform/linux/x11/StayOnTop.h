@@ -20,6 +20,7 @@ public:
     /// The native window of `window` exists and outlives this.
     StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& mainLoop);
 
+    /// Above all but the windows of this program that are above it now, such as its menu.
     void raise();
 
 private:
@@ -27,6 +28,7 @@ private:
 
     void handle(const xcb_generic_event_t& event);
     void check();
+    void putOnTop(xcb_window_t window);
 
     bool mustRaise() const;
     std::vector<xcb_window_t> windowsAbove() const;

@@ -1,0 +1,52 @@
+#include "platform/linux/SingleInstance.h"
+
+#include <QDBusMessage>
+#include <utility>
+
+namespace brellowind::platform {
+namespace {
+
+constexpr int patienceMs = 2000;
+
+const QLatin1String interfaceName("org.brellowind.Brellowind");
+const QLatin1String objectPath("/org/brellowind/Brellowind");
+
+/// `text` as an element of a bus name.
+QString nameElement(const QString& text) {
+    QString element = QStringLiteral("display");
+    for (const char byte : text.toUtf8())
+        element += (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') ||
+                           (byte >= 'a' && byte <= 'z')
+                       ? QString(QLatin1Char(byte))
+                       : QStringLiteral("_%1").arg(static_cast<unsigned char>(byte), 2, 16,
+                                                   QLatin1Char('0'));
+    return element;
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(QDBusConnection bus, const QString& display,
+                               std::function<void()> onSecondStart)
+    : bus_(std::move(bus)), name_(interfaceName + u'.' + nameElement(display)),
+      onSecondStart_(std::move(onSecondStart)) {}
+
+SingleInstance::~SingleInstance() {
+    bus_.unregisterService(name_);
+    bus_.unregisterObject(objectPath);
+}
+
+bool SingleInstance::claim() {
+    bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
+    if (!bus_.isConnected() || bus_.registerService(name_))
+        return true;
+    bus_.call(QDBusMessage::createMethodCall(name_, objectPath, interfaceName,
+                                             QStringLiteral("Open")),
+              QDBus::Block, patienceMs);
+    return false;
+}
+
+void SingleInstance::Open() {
+    onSecondStart_();
+}
+
+} // namespace brellowind::platform

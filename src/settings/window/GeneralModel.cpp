@@ -1,0 +1,78 @@
+#include "settings/window/GeneralModel.h"
+
+#include "platform/Services.h"
+#include "settings/UpdateChecker.h"
+#include "settings/window/Text.h"
+
+#include <utility>
+
+namespace brellowind {
+namespace {
+
+UpdateCard publishedCard() {
+    return updateCard(UpdateChecker::shared().state.get(), UpdateChecker::currentVersion());
+}
+
+} // namespace
+
+GeneralModel::GeneralModel()
+    : launchAtLogin_(settings_.launchAtLogin.get()), card_(publishedCard()),
+      nextTurn_(platform::services().mainLoop.onNextTurn([this] { refresh(); })) {
+    const auto refreshNextTurn = [this] { nextTurn_->request(); };
+    subscriptions_.push_back(settings_.launchAtLogin.observe(refreshNextTurn));
+    subscriptions_.push_back(UpdateChecker::shared().state.observe(refreshNextTurn));
+}
+
+void GeneralModel::refresh() {
+    const auto shown = std::exchange(card_, publishedCard());
+    const bool shownLaunchAtLogin = std::exchange(launchAtLogin_, settings_.launchAtLogin.get());
+
+    if (shownLaunchAtLogin != launchAtLogin_)
+        Q_EMIT launchAtLoginChanged();
+    if (shown.icon != card_.icon)
+        Q_EMIT cardIconChanged();
+    if (shown.color != card_.color)
+        Q_EMIT cardColorChanged();
+    if (shown.tintOpacity != card_.tintOpacity)
+        Q_EMIT cardTintOpacityChanged();
+    if (shown.title != card_.title)
+        Q_EMIT cardTitleChanged();
+    if (shown.buttonLabel != card_.buttonLabel)
+        Q_EMIT cardButtonChanged();
+    if (shown.buttonEnabled() != card_.buttonEnabled())
+        Q_EMIT cardButtonEnabledChanged();
+    if (shown.versionText != card_.versionText)
+        Q_EMIT cardVersionChanged();
+}
+
+QString GeneralModel::cardIcon() const {
+    return toQString(card_.icon);
+}
+
+GeneralModel::CardColor GeneralModel::cardColor() const {
+    switch (card_.color) {
+    case UpdateCard::Color::yellow:
+        return Yellow;
+    case UpdateCard::Color::teal:
+        return Teal;
+    case UpdateCard::Color::red:
+        return Red;
+    case UpdateCard::Color::green:
+        break;
+    }
+    return Green;
+}
+
+QString GeneralModel::cardTitle() const {
+    return toQString(card_.title);
+}
+
+QString GeneralModel::cardButton() const {
+    return toQString(card_.buttonLabel);
+}
+
+QString GeneralModel::cardVersion() const {
+    return toQString(card_.versionText);
+}
+
+} // namespace brellowind

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "foundation/Observers.h"
+#include "platform/MainLoop.h"
+#include "settings/GeneralSettings.h"
+#include "settings/UpdateCard.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+#include <memory>
+#include <vector>
+
+namespace brellowind {
+
+/// What QML draws the General tab from, its update card included. It follows the switch and the
+/// update checker a turn of the main loop later; a property notifies only when it really differs.
+class GeneralModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the settings window")
+    Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged FINAL)
+    Q_PROPERTY(QString cardIcon READ cardIcon NOTIFY cardIconChanged FINAL)
+    Q_PROPERTY(CardColor cardColor READ cardColor NOTIFY cardColorChanged FINAL)
+    Q_PROPERTY(double cardTintOpacity READ cardTintOpacity NOTIFY cardTintOpacityChanged FINAL)
+    Q_PROPERTY(QString cardTitle READ cardTitle NOTIFY cardTitleChanged FINAL)
+    Q_PROPERTY(QString cardButton READ cardButton NOTIFY cardButtonChanged FINAL)
+    Q_PROPERTY(bool cardButtonEnabled READ cardButtonEnabled NOTIFY cardButtonEnabledChanged FINAL)
+    Q_PROPERTY(QString cardVersion READ cardVersion NOTIFY cardVersionChanged FINAL)
+
+public:
+    enum CardColor { Yellow, Teal, Red, Green };
+    Q_ENUM(CardColor)
+
+    GeneralModel();
+
+    /// The tab is shown: each time, an update check starts.
+    void appear() { settings_.appear(); }
+
+    /// The tab is hidden or closed: the check of its appearance is cancelled.
+    void disappear() { settings_.disappear(); }
+
+    /// Shows what is published now, without waiting for the next turn.
+    void refresh();
+
+    bool launchAtLogin() const { return launchAtLogin_; }
+    QString cardIcon() const; ///< a symbol's name; empty: a progress indicator stands there
+    CardColor cardColor() const;
+    double cardTintOpacity() const { return card_.tintOpacity; }
+    QString cardTitle() const;
+    QString cardButton() const;
+    bool cardButtonEnabled() const { return card_.buttonEnabled(); }
+    QString cardVersion() const;
+
+    Q_INVOKABLE void setLaunchAtLogin(bool enabled) { settings_.setLaunchAtLogin(enabled); }
+    Q_INVOKABLE void pressUpdateButton() { settings_.pressUpdateButton(); }
+    Q_INVOKABLE void sendFeedback() const { settings_.sendFeedback(); }
+    Q_INVOKABLE void quit() { settings_.quit(); }
+
+Q_SIGNALS:
+    void launchAtLoginChanged();
+    void cardIconChanged();
+    void cardColorChanged();
+    void cardTintOpacityChanged();
+    void cardTitleChanged();
+    void cardButtonChanged();
+    void cardButtonEnabledChanged();
+    void cardVersionChanged();
+
+private:
+    GeneralSettings settings_;
+    bool launchAtLogin_;
+    UpdateCard card_;
+    std::unique_ptr<platform::NextTurn> nextTurn_;
+    std::vector<Subscription> subscriptions_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "foundation/Observers.h"
+#include "platform/MainLoop.h"
+#include "settings/SettingsRouter.h"
+#include "settings/window/AboutModel.h"
+#include "settings/window/GeneralModel.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+#include <memory>
+
+namespace brellowind {
+
+/// What QML draws the settings window from. It shows the router's tab and writes back what the
+/// user picks, and tells the General tab when it appears and disappears.
+class SettingsModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the settings window")
+    Q_PROPERTY(Tab tab READ tab NOTIFY tabChanged FINAL)
+    Q_PROPERTY(brellowind::GeneralModel* general READ general CONSTANT FINAL)
+    Q_PROPERTY(brellowind::AboutModel* about READ about CONSTANT FINAL)
+
+public:
+    enum Tab { General, About };
+    Q_ENUM(Tab)
+
+    SettingsModel();
+    ~SettingsModel() override;
+
+    /// Whether the window can be seen, and with it the tab that is selected.
+    void setShown(bool shown);
+
+    /// Shows what is published now, without waiting for the next turn.
+    void refresh();
+
+    Tab tab() const { return tab_; }
+    GeneralModel* general() { return &general_; }
+    AboutModel* about() { return &about_; }
+
+    Q_INVOKABLE void selectTab(brellowind::SettingsModel::Tab tab);
+
+Q_SIGNALS:
+    void tabChanged();
+
+private:
+    void updateAppearance();
+
+    GeneralModel general_;
+    AboutModel about_;
+    Tab tab_;
+    bool shown_ = false;
+    bool generalAppears_ = false;
+    std::unique_ptr<platform::NextTurn> nextTurn_;
+    Subscription selectedTab_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,104 @@
+#include "settings/window/SettingsWindow.h"
+
+#include "platform/Services.h"
+#include "settings/AppInfo.h"
+#include "settings/window/SettingsModel.h"
+#include "settings/window/Text.h"
+
+#include <QColor>
+#include <QQuickItem>
+#include <QQuickView>
+#include <cmath>
+#include <functional>
+#include <utility>
+
+void qml_register_types_Brellowind_Settings();
+
+namespace brellowind {
+namespace {
+
+/// The window is as large as what it shows, and nobody can pull it larger or smaller.
+void fitToContent(QQuickView& view) {
+    const auto* root = view.rootObject();
+    const QSize size(static_cast<int>(std::ceil(root->width())),
+                     static_cast<int>(std::ceil(root->height())));
+    view.setMinimumSize({});
+    view.setMaximumSize(size);
+    view.setMinimumSize(size);
+    view.resize(size);
+}
+
+/// Says when it went from the screen.
+class View final : public QQuickView {
+public:
+    explicit View(std::function<void()> hidden) : hidden_(std::move(hidden)) {}
+
+protected:
+    void hideEvent(QHideEvent* event) override {
+        QQuickView::hideEvent(event);
+        hidden_();
+    }
+
+private:
+    std::function<void()> hidden_;
+};
+
+} // namespace
+
+/// Destroyed from the bottom up: what draws goes before what it draws from.
+struct SettingsWindow::Content {
+    explicit Content(std::function<void()> hidden) : view(std::move(hidden)) {}
+
+    SettingsModel model;
+    View view;
+};
+
+SettingsWindow::SettingsWindow() = default;
+
+SettingsWindow::~SettingsWindow() = default;
+
+void SettingsWindow::open() {
+    release_.reset();
+    if (!content_)
+        build();
+    auto& [model, view] = *content_;
+    model.refresh();
+    model.setShown(true);
+    view.setWindowStates(view.windowStates() & ~Qt::WindowMinimized);
+    view.show();
+    view.raise();
+    view.requestActivate();
+}
+
+QQuickWindow* SettingsWindow::window() const {
+    return content_ ? &content_->view : nullptr;
+}
+
+void SettingsWindow::build() {
+    qml_register_types_Brellowind_Settings();
+    content_ = std::make_unique<Content>([this] { closed(); });
+    auto& [model, view] = *content_;
+    view.setTitle(toQString(AppInfo::name));
+    view.setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                  Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+    view.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}});
+    view.setSource(QUrl(QStringLiteral("qrc:/Brellowind/Settings/SettingsView.qml")));
+
+    auto* root = view.rootObject();
+    view.setColor(root->property("color").value<QColor>());
+    const auto fit = [&view = view] { fitToContent(view); };
+    QObject::connect(root, &QQuickItem::widthChanged, &view, fit);
+    QObject::connect(root, &QQuickItem::heightChanged, &view, fit);
+    fit();
+}
+
+void SettingsWindow::closed() {
+    content_->model.setShown(false);
+    // The window is still busy with going; it is given back on the next turn.
+    release_ = platform::services().mainLoop.scheduleOnce(std::chrono::milliseconds(0), [this] {
+        content_.reset();
+        release_.reset();
+    });
+}
+
+} // namespace brellowind

@@ -1,0 +1,37 @@
+import QtQuick
+import Brellowind.Settings
+
+/** What the program is, and where to read more of it. */
+Item {
+    id: root
+
+    required property AboutModel model
+
+    implicitHeight: Style.pageHeight
+
+    AboutCard {
+        id: card
+
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Style.margin }
+        model: root.model
+    }
+    Row {
+        anchors { top: card.bottom; topMargin: Style.inset; horizontalCenter: parent.horizontalCenter }
+        spacing: 12
+
+        BorderedButton {
+            objectName: "websiteButton"
+            text: "Visit our website"
+            prominent: true
+            onClicked: root.model.openWebsite()
+        }
+        BorderedButton {
+            text: "Follow on X"
+            onClicked: root.model.openSocialProfile()
+        }
+    }
+    LegalFoot {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Style.margin }
+        model: root.model
+    }
+}

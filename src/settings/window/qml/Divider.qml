@@ -1,0 +1,7 @@
+import QtQuick
+
+/** A hairline between what stands above and below. */
+Rectangle {
+    implicitHeight: 1
+    color: Style.hairline
+}

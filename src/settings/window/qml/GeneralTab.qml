@@ -1,0 +1,52 @@
+import QtQuick
+import Brellowind.Settings
+
+/** Updates, launch at login, feedback and the end of the program. */
+Item {
+    id: root
+
+    required property GeneralModel model
+
+    implicitHeight: Math.max(Style.pageHeight, column.height + 2 * Style.margin)
+
+    Column {
+        id: column
+
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Style.margin }
+        spacing: Style.inset
+
+        UpdateCard {
+            objectName: "updateCard"
+            width: parent.width
+            model: root.model
+        }
+        FormSection {
+            width: parent.width
+
+            SwitchRow {
+                objectName: "launchAtLogin"
+                text: "Launch at Login"
+                on: root.model.launchAtLogin
+                onClicked: root.model.setLaunchAtLogin(!on)
+            }
+        }
+        FormSection {
+            width: parent.width
+
+            FormRow {
+                label: "Support"
+                action: "Send Feedback"
+                onPressed: root.model.sendFeedback()
+            }
+            Divider {
+                x: Style.inset
+                width: parent.width - 2 * x
+            }
+            FormRow {
+                label: "Quit"
+                action: "Quit Brellowind"
+                onPressed: root.model.quit()
+            }
+        }
+    }
+}

@@ -1,0 +1,41 @@
+import QtQuick
+
+/** What can be pressed, with the pointer, Space or Enter, and shows when the keyboard is on it. */
+Item {
+    id: root
+
+    property string text
+    property real radius: Style.buttonRadius
+    property Item ringed: root
+    property int ringOutset: 3
+    readonly property bool down: tap.pressed
+    readonly property bool hovered: hover.hovered
+    property alias cursorShape: hover.cursorShape
+
+    signal clicked
+
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.focusable: true
+    Accessible.onPressAction: enabled && clicked()
+    Keys.onSpacePressed: event => event.isAutoRepeat || clicked()
+    Keys.onReturnPressed: event => event.isAutoRepeat || clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat || clicked()
+
+    TapHandler {
+        id: tap
+
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: root.clicked()
+    }
+    HoverHandler {
+        id: hover
+    }
+    FocusRing {
+        parent: root.ringed
+        shown: root.activeFocus
+        outset: root.ringOutset
+        radius: root.radius + outset
+    }
+}

@@ -1,0 +1,42 @@
+import QtQuick
+import Brellowind.Settings
+
+/** One tab: its symbol above its name. The keyboard stops at the selected one. */
+Pressable {
+    id: root
+
+    required property string symbol
+    required property bool selected
+    readonly property color ink: selected || hovered ? Style.text : Style.secondaryText
+
+    width: 76
+    height: 52
+    focus: selected
+    activeFocusOnTab: selected
+    ringOutset: 0
+    Accessible.role: Accessible.PageTab
+    Accessible.selectable: true
+    Accessible.selected: selected
+
+    Rectangle {
+        anchors.fill: parent
+        radius: root.radius
+        color: root.down ? Style.buttonPressed : Style.button
+        visible: root.selected || root.down
+    }
+    Symbol {
+        x: (parent.width - width) / 2
+        y: 7
+        width: 20
+        height: 20
+        name: root.symbol
+        color: root.ink
+    }
+    Text {
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: 6 }
+        text: root.text
+        textFormat: Text.PlainText
+        color: root.ink
+        font.pixelSize: Style.captionSize
+    }
+}

@@ -1,0 +1,40 @@
+import QtQuick
+import Brellowind.Settings
+
+/** The tabs of the window. Left and right go from one to the other. */
+FocusScope {
+    id: root
+
+    required property SettingsModel model
+
+    implicitHeight: row.height + 16
+    Accessible.role: Accessible.PageTabList
+
+    Row {
+        id: row
+
+        anchors.centerIn: parent
+        spacing: 4
+
+        TabItem {
+            id: general
+
+            objectName: "generalTab"
+            text: "General"
+            symbol: "gearshape"
+            selected: root.model.tab === SettingsModel.General
+            onClicked: root.model.selectTab(SettingsModel.General)
+            Keys.onRightPressed: about.clicked()
+        }
+        TabItem {
+            id: about
+
+            objectName: "aboutTab"
+            text: "About"
+            symbol: "info.circle"
+            selected: root.model.tab === SettingsModel.About
+            onClicked: root.model.selectTab(SettingsModel.About)
+            Keys.onLeftPressed: general.clicked()
+        }
+    }
+}

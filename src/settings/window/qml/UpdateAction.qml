@@ -1,0 +1,28 @@
+import QtQuick
+import Brellowind.Settings
+
+/** The lower row of the update card: which version, and what can be done about it. */
+Item {
+    id: root
+
+    required property GeneralModel model
+
+    implicitHeight: button.height
+
+    PlainText {
+        objectName: "versionText"
+        anchors { left: parent.left; right: button.left; rightMargin: 12; verticalCenter: parent.verticalCenter }
+        text: root.model.cardVersion
+        color: Style.secondaryText
+        elide: Text.ElideRight
+    }
+    SoftButton {
+        id: button
+
+        objectName: "updateButton"
+        anchors.right: parent.right
+        enabled: root.model.cardButtonEnabled
+        text: root.model.cardButton
+        onClicked: root.model.pressUpdateButton()
+    }
+}

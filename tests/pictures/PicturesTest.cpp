@@ -1,0 +1,231 @@
+#include "pictures/Comparison.h"
+#include "pictures/PillStage.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace brellowind::test {
+namespace {
+
+/// One look of the pill, how it comes about and what is seen of it.
+struct Look {
+    const char* name;
+    std::function<QImage(PillStage&)> picture;
+
+    friend void PrintTo(const Look& look, std::ostream* out) { *out << look.name; }
+};
+
+std::function<QImage(PillStage&)> line(const char* text) {
+    return [text](PillStage& stage) {
+        stage.sing(QString::fromUtf8(text));
+        return stage.pill();
+    };
+}
+
+const auto shortLine = QStringLiteral("Hold the light, hold it low");
+const auto longLine =
+    QStringLiteral("Now the kettle keeps the tempo, now the rain has learned the tune");
+
+QImage minimised(PillStage& stage) {
+    stage.sing(shortLine);
+    stage.view().tapBackground();
+    stage.rest();
+    return stage.pill();
+}
+
+QImage paused(PillStage& stage) {
+    stage.sing(shortLine);
+    stage.setPlaying(false);
+    stage.rest();
+    stage.view().tapBackground();
+    stage.rest();
+    return stage.pill();
+}
+
+QImage hovered(PillStage& stage) {
+    stage.sing(shortLine);
+    stage.setPointerInside(true);
+    stage.view().hoverCover(true);
+    stage.view().hoverWaveform(true);
+    stage.view().hoverGrabber(true);
+    stage.rest();
+    return stage.pill();
+}
+
+QImage hoveredMinimised(PillStage& stage) {
+    stage.sing(shortLine);
+    stage.view().tapBackground();
+    stage.setPointerInside(true);
+    stage.rest();
+    return stage.pill();
+}
+
+QImage loading(PillStage& stage) {
+    stage.holdLyrics();
+    stage.sing(shortLine);
+    return stage.pill();
+}
+
+QImage note(PillStage& stage) {
+    stage.play(QStringLiteral("Song"), QStringLiteral("Artist"), QStringLiteral("[00:59.00]later"),
+               true);
+    stage.rest();
+    return stage.pill();
+}
+
+QImage noMusic(PillStage& stage) {
+    return stage.pill();
+}
+
+QImage artworkPanel(PillStage& stage, bool withCover) {
+    stage.sing(shortLine, withCover);
+    stage.view().tapCover();
+    stage.setPointerInside(true);
+    stage.rest();
+    return stage.pill();
+}
+
+QImage longLineInPanel(PillStage& stage) {
+    stage.sing(longLine);
+    stage.view().tapCover();
+    stage.rest();
+    return stage.pill();
+}
+
+const Look looks[] = {
+    {"no-music", noMusic},
+    {"default", line("Hold the light, hold it low")},
+    {"hovered", hovered},
+    {"minimised", minimised},
+    {"minimised-hovered", hoveredMinimised},
+    {"paused", paused},
+    {"loading", loading},
+    {"note", note},
+    {"wide-line", line("Now the kettle keeps the tempo, now the rain has learned the tune")},
+    {"line-wider-than-the-window",
+     line("and somebody left a saucer on the windowsill for the moon, and the moon came down to "
+          "drink, and the cat looked on, and nobody in the whole of the street said a word")},
+    {"arabic", line("ارفع الضوء عاليا في آخر الطريق")},
+    {"hebrew", line("תחזיק את האור נמוך, 7 רחובות מכאן")},
+    {"chinese-japanese-korean", line("夜に駆ける 明日へ 把灯举起来 불을 낮게 들어")},
+    {"devanagari", line("रोशनी को थामो, धीरे धीरे चलो")},
+    {"emoji", line("Hold the light 🏮 hold it low 👩‍🚀🌙")},
+    {"combining-marks", line("Z̲a̲l̲g̲o̲ l̃ı̇g̃h̃t̃, Việt Nam, e\xCC\x81t\xC3\xA9")},
+    {"artwork", [](PillStage& stage) { return artworkPanel(stage, true); }},
+    {"artwork-placeholder", [](PillStage& stage) { return artworkPanel(stage, false); }},
+    {"artwork-wide-line", longLineInPanel},
+    {"menu", [](PillStage& stage) { return stage.menu(QStringLiteral("Check for Updates…")); }},
+};
+
+class Pictures : public testing::TestWithParam<Look> {};
+
+TEST_P(Pictures, LookAsTheyAreKept) {
+    const int scale = static_cast<int>(QGuiApplication::primaryScreen()->devicePixelRatio());
+    const QString name =
+        QStringLiteral("%1@%2x.png").arg(QString::fromLatin1(GetParam().name)).arg(scale);
+    PillStage stage;
+    QImage actual = GetParam().picture(stage);
+    actual.setDevicePixelRatio(1);
+    ASSERT_FALSE(actual.isNull());
+    const QDir kept(QStringLiteral(BRELLOWIND_KEPT_PICTURES));
+    if (qEnvironmentVariableIsSet("BRELLOWIND_RENEW_PICTURES")) {
+        ASSERT_TRUE(actual.save(kept.filePath(name)));
+        return;
+    }
+    const auto difference = compare(actual, QImage(kept.filePath(name)));
+    if (agree(difference))
+        return;
+    QDir().mkpath(QStringLiteral(BRELLOWIND_DIFFERING_PICTURES));
+    const QDir differing(QStringLiteral(BRELLOWIND_DIFFERING_PICTURES));
+    const QString shown = differing.filePath(name);
+    const QString compared = differing.filePath(QStringLiteral("difference-") + name);
+    actual.save(shown);
+    difference.image.save(compared);
+    ADD_FAILURE() << 100 * difference.fraction << " % of the pixels differ from "
+                  << qPrintable(kept.filePath(name)) << "\n  now: " << qPrintable(shown)
+                  << "\n  difference: " << qPrintable(compared);
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, Pictures, testing::ValuesIn(looks), [](const auto& parameter) {
+    std::string name = parameter.param.name;
+    std::erase(name, '-');
+    return name;
+});
+
+struct Motion {
+    const char* name;
+    std::function<void(PillStage&)> begin;
+
+    friend void PrintTo(const Motion& motion, std::ostream* out) { *out << motion.name; }
+};
+
+class Motions : public testing::TestWithParam<Motion> {};
+
+/// Of 255: the renderer rounds the last hair of an edge into the next pixel.
+constexpr int invisible = 2;
+
+/// How wide the pill's top corners flare, beside which its sides stand.
+constexpr double flare = 8;
+
+/// How far from the desktop without a pill any pixel is that does not belong to the pill.
+int strongestStepAround(const QImage& window, const QImage& desktop, const QRectF& pill) {
+    const double scale = desktop.devicePixelRatio();
+    const auto pixels = [scale](const QRectF& rect) {
+        return QRectF(rect.topLeft() * scale, rect.size() * scale).toAlignedRect();
+    };
+    const QRect body = pixels(pill.adjusted(flare, 0, -flare, 0));
+    const QRect top = pixels(QRectF(pill.x(), 0, pill.width(), 1.1 * flare));
+    int strongest = 0;
+    for (int y = 0; y < desktop.height(); ++y) {
+        for (int x = 0; x < desktop.width(); ++x)
+            if (!body.contains(x, y) && !top.contains(x, y))
+                strongest =
+                    std::max(strongest, colourDistance(window.pixel(x, y), desktop.pixel(x, y)));
+    }
+    return strongest;
+}
+
+TEST_P(Motions, DrawInsideThePillAloneInEveryFrame) {
+    PillStage stage;
+    stage.sing(shortLine);
+    const QImage desktop = stage.desktop();
+    GetParam().begin(stage);
+    for (int frame = 0; frame < 40; ++frame) {
+        ASSERT_LE(strongestStepAround(stage.window(), desktop, stage.pillRect()), invisible)
+            << "frame " << frame;
+        stage.step();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Beginnings, Motions,
+    testing::Values(Motion{"Expand", [](PillStage& stage) { stage.view().tapCover(); }},
+                    Motion{"Close",
+                           [](PillStage& stage) {
+                               stage.view().tapCover();
+                               stage.rest();
+                               stage.window();
+                               stage.view().tapArtwork();
+                           }},
+                    Motion{"Minimise", [](PillStage& stage) { stage.view().tapBackground(); }},
+                    Motion{"LineChange",
+                           [](PillStage& stage) {
+                               stage.play(QStringLiteral("Song"), QStringLiteral("Artist"),
+                                          QStringLiteral("[00:00.00]") + longLine, true);
+                           }},
+                    Motion{"Pulse", [](PillStage& stage) { stage.setPlaying(false); }}),
+    [](const auto& parameter) { return std::string(parameter.param.name); });
+
+} // namespace
+} // namespace brellowind::test
+
+int main(int argc, char** argv) {
+    brellowind::test::prepareForPictures();
+    const QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

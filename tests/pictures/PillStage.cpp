@@ -1,0 +1,210 @@
+#include "pictures/PillStage.h"
+
+#include "app/BrellowindApp.h"
+#include "backdrop/Desktop.h"
+#include "platform/Services.h"
+#include "service/DemoSong.h"
+#include "views/drawing/WaveformGlyph.h"
+#include "views/motion/FrameDriver.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QQuickItem>
+#include <QQuickPaintedItem>
+
+namespace brellowind::test {
+namespace {
+
+constexpr int framesPerSecond = 60;
+constexpr int framesToRest = 198; ///< the wave then stands in the middle of the waveform symbol
+constexpr int waveformStepsPerSecond = 10;
+constexpr int largestArtworkPoints = 320;
+constexpr double screenWidth = 1512;
+constexpr double screenHeight = 982;
+
+class DesktopItem final : public QQuickPaintedItem {
+public:
+    explicit DesktopItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
+        setZ(-1);
+        setSize(parent->size());
+    }
+
+    void paint(QPainter* painter) override { demo::paintDesktop(*painter, size()); }
+};
+
+platform::Services withImages(TestMachine& machine, platform::ImageDecoder& images) {
+    return {.mainLoop = machine.mainLoop,
+            .tasks = machine.tasks,
+            .clock = machine.clock,
+            .log = machine.log,
+            .http = machine.http,
+            .images = images,
+            .scripting = machine.scripting,
+            .runningApplications = machine.runningApplications,
+            .screens = machine.screens,
+            .pointer = machine.pointer,
+            .application = machine.application,
+            .links = machine.links,
+            .loginItem = machine.loginItem,
+            .constants = machine.constants};
+}
+
+/// What the service answers with for lyrics in the LRC format.
+std::string answer(const QString& lrc) {
+    if (lrc.isEmpty())
+        return "{}";
+    return QJsonDocument(QJsonObject{{QStringLiteral("syncedLyrics"), lrc}}).toJson().toStdString();
+}
+
+/// The software renderer does not say at which scale it drew.
+QImage grabbed(QQuickWindow& window) {
+    QImage image = window.grabWindow().convertToFormat(QImage::Format_RGB32);
+    image.setDevicePixelRatio(window.effectiveDevicePixelRatio());
+    return image;
+}
+
+} // namespace
+
+void prepareForPictures() {
+    qputenv("FONTCONFIG_FILE", BRELLOWIND_PICTURE_FONTS);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    BrellowindApp::prepare();
+}
+
+PillStage::PillStage()
+    : images_(largestArtworkPoints), scope_(withImages(machine_, images_)),
+      root_(NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}})) {
+    FrameDriver::shared().freeze(0);
+    const platform::Screen screen{.frame = {0, 0, screenWidth, screenHeight}};
+    machine_.screens.connected = {screen};
+    machine_.screens.mainScreen = screen;
+    spotify_.quit();
+    content_ = std::make_unique<NotchQuickView>(root_);
+    content_->resize(640, NotchMetrics::windowHeight);
+    content_->rootObject()->setSize(content_->size());
+    content_->contentItem()->setSize(content_->size());
+    new DesktopItem(content_->contentItem());
+    root_->appear();
+    rest();
+}
+
+PillStage::~PillStage() = default;
+
+void PillStage::play(const QString& title, const QString& artist, const QString& lrc,
+                     bool withCover) {
+    lyrics_ = answer(lrc);
+    songFrames_ = 0;
+    spotify_.playSong(title.toStdString());
+    spotify_.artist = artist.toStdString();
+    spotify_.artwork = withCover ? "https://covers.example/cover.png" : "";
+    spotify_.state = "playing";
+    spotify_.launch();
+}
+
+void PillStage::sing(const QString& line, bool withCover) {
+    play(QStringLiteral("Paper Lanterns"), QStringLiteral("The Windowsill Quartet"),
+         QStringLiteral("[00:00.00]") + line, withCover);
+    rest();
+}
+
+void PillStage::setPlaying(bool plays) {
+    if (plays != root_->nowPlaying().isPlaying.get())
+        root_->tapWaveform();
+    runTurns();
+}
+
+void PillStage::setPointerInside(bool inside) {
+    const Point above{screenWidth / 2, screenHeight - 4};
+    machine_.pointer.moveOutsideWindows(inside ? above : Point{0, 0});
+    runTurns();
+}
+
+void PillStage::step() {
+    const auto at = [](int frame) {
+        return std::chrono::milliseconds(frame * 1000 / framesPerSecond);
+    };
+    machine_.mainLoop.advance(at(frames_ + 1) - at(frames_));
+    ++frames_;
+    if (spotify_.state == "playing")
+        spotify_.position = std::to_string(songFrames_++ / double(framesPerSecond));
+    runTurns();
+    for (auto* glyph : content_->contentItem()->findChildren<WaveformGlyph*>())
+        if (glyph->isActive())
+            glyph->setStep(frames_ * waveformStepsPerSecond / framesPerSecond);
+    FrameDriver::shared().step(1.0 / framesPerSecond);
+}
+
+void PillStage::rest() {
+    for (int i = 0; i < framesToRest; ++i)
+        step();
+}
+
+QImage PillStage::window() {
+    return grabbed(*content_);
+}
+
+QImage PillStage::desktop() const {
+    const double scale = content_->effectiveDevicePixelRatio();
+    QImage image(content_->size() * scale, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    QPainter painter(&image);
+    demo::paintDesktop(painter, content_->size());
+    return image;
+}
+
+QImage PillStage::pill() {
+    return cropped(window(), pillRect().adjusted(-16, 0, 16, 28));
+}
+
+QImage PillStage::menu(const QString& hovered) {
+    auto* menu = content_->contentItem()->findChild<QQuickWindow*>(QStringLiteral("menu"));
+    QMetaObject::invokeMethod(menu, "popup", Q_ARG(QPointF, QPointF(100, 100)));
+    QCoreApplication::processEvents(); // the window takes its size
+    for (auto* entry : menu->findChildren<QQuickItem*>()) {
+        if (entry->property("text") != hovered || !entry->property("menu").isValid())
+            continue;
+        const QPointF middle = entry->mapToScene(entry->boundingRect().center());
+        QMouseEvent move(QEvent::MouseMove, middle, menu->mapToGlobal(middle), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(menu, &move);
+    }
+    const QImage picture = grabbed(*menu);
+    menu->close();
+    return picture;
+}
+
+QRectF PillStage::pillRect() const {
+    const auto* pill = content_->contentItem()->findChild<QQuickItem*>(QStringLiteral("pill"));
+    return pill->mapRectToScene(pill->boundingRect());
+}
+
+void PillStage::runTurns() {
+    machine_.mainLoop.runTurns();
+    answerRequests();
+    machine_.mainLoop.runTurns();
+}
+
+void PillStage::answerRequests() {
+    static const auto song = demo::DemoSong::load(QStringLiteral(BRELLOWIND_DEMO_SONG));
+    for (; answered_ < machine_.http.requests.size(); ++answered_) {
+        const bool forLyrics =
+            machine_.http.requests[answered_]->request.url.find("/api/get") != std::string::npos;
+        if (!forLyrics)
+            machine_.http.answer(answered_, platform::HttpResponse{200, song->cover.toStdString()});
+        else if (answersLyrics_)
+            machine_.http.answer(answered_, platform::HttpResponse{200, lyrics_});
+    }
+}
+
+QImage cropped(const QImage& window, const QRectF& rect) {
+    const double scale = window.devicePixelRatio();
+    const QRect pixels = QRectF(rect.topLeft() * scale, rect.size() * scale).toAlignedRect();
+    QImage part = window.copy(pixels & window.rect());
+    part.setDevicePixelRatio(scale);
+    return part;
+}
+
+} // namespace brellowind::test

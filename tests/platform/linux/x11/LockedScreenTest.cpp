@@ -1,0 +1,73 @@
+#include "platform/linux/x11/PillOnX11.h"
+
+#include <QDBusMessage>
+
+namespace brellowind::test {
+namespace {
+
+class LockedScreen : public PillOnX11 {
+protected:
+    void announce(bool active) {
+        auto signal = QDBusMessage::createSignal(QStringLiteral("/org/gnome/ScreenSaver"),
+                                                 QStringLiteral("org.gnome.ScreenSaver"),
+                                                 QStringLiteral("ActiveChanged"));
+        signal << active;
+        EXPECT_TRUE(bus.connection().send(signal));
+    }
+};
+
+TEST_F(LockedScreen, HidesThePillWhileTheServersScreenSaverIsActive) {
+    show();
+    other.setScreenSaverActive(true);
+    EXPECT_TRUE(waitUntil([this] { return !isShown(); }));
+    other.setScreenSaverActive(false);
+    EXPECT_TRUE(waitUntil([this] { return isShown(); }));
+    EXPECT_EQ(other.frame(id()), windowPixels);
+    EXPECT_EQ(input(), QRegion(pillInWindow));
+}
+
+TEST_F(LockedScreen, HidesThePillWhileTheDesktopsScreenSaverIsActive) {
+    show();
+    announce(true);
+    EXPECT_TRUE(waitUntil([this] { return !isShown(); }));
+    announce(false);
+    EXPECT_TRUE(waitUntil([this] { return isShown(); }));
+    EXPECT_EQ(other.stack().back(), id());
+}
+
+TEST_F(LockedScreen, HidesThePillUntilBothAreInactive) {
+    show();
+    announce(true);
+    other.setScreenSaverActive(true);
+    ASSERT_TRUE(waitUntil([this] { return !isShown(); }));
+    announce(false);
+    ASSERT_TRUE(waitUntil([this] { return !lock.isLocked(); }));
+    EXPECT_FALSE(isShown());
+    other.setScreenSaverActive(false);
+    EXPECT_TRUE(waitUntil([this] { return isShown(); }));
+}
+
+TEST_F(LockedScreen, ShowsNoPillThatIsOrderedInFrontMeanwhile) {
+    announce(true);
+    ASSERT_TRUE(waitUntil([this] { return lock.isLocked(); }));
+    overlay.setFrame({440, 500, 400, 300});
+    setOutline(pillInWindow);
+    overlay.orderFrontRegardless();
+    runFor(std::chrono::milliseconds(200));
+    EXPECT_FALSE(isShown());
+    announce(false);
+    EXPECT_TRUE(waitUntil([this] { return isShown(); }));
+}
+
+TEST_F(LockedScreen, ShowsNoPillThatWasNeverOrderedInFront) {
+    window.create();
+    announce(true);
+    ASSERT_TRUE(waitUntil([this] { return lock.isLocked(); }));
+    announce(false);
+    ASSERT_TRUE(waitUntil([this] { return !lock.isLocked(); }));
+    runFor(std::chrono::milliseconds(100));
+    EXPECT_FALSE(isShown());
+}
+
+} // namespace
+} // namespace brellowind::test

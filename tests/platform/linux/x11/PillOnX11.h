@@ -1,0 +1,107 @@
+#pragma once
+
+#include "platform/linux/ScreenLock.h"
+#include "platform/linux/x11/X11OverlayWindow.h"
+#include "platform/qt/QtMainLoop.h"
+#include "session/Desktop.h"
+#include "session/EventLoop.h"
+#include "session/Managers.h"
+#include "session/OtherProgram.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRasterWindow>
+#include <QScreen>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace brellowind::test {
+
+/// A window that draws its outline in green and nothing around it.
+class GreenWindow : public QRasterWindow {
+public:
+    QPainterPath outline;
+    std::function<void()> onPointer = [] {}; ///< entered or moved
+    int presses = 0;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(QRect(QPoint(), size()), Qt::transparent);
+        painter.fillPath(outline, Qt::green);
+    }
+
+    void mousePressEvent(QMouseEvent*) override { ++presses; }
+
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::Enter || event->type() == QEvent::MouseMove)
+            onPointer();
+        return QRasterWindow::event(event);
+    }
+};
+
+/// An overlay of 400 × 300 points at (440, 0) from the top left of the screen, whose content is a
+/// rectangle of 200 × 60 at the middle of its top edge.
+class PillOnX11 : public testing::Test {
+protected:
+    static constexpr std::uint32_t green = 0x00ff00;
+    static constexpr std::uint32_t red = 0xff0000;
+
+    const QRect windowPixels{440, 0, 400, 300};
+    const QRect pillInWindow{100, 0, 200, 60};
+    const QPoint onPill{640, 30};
+    const QPoint besidePill{500, 30};
+
+    void show() {
+        overlay.setIgnoresMouseEvents(false);
+        overlay.setFrame({440, 500, 400, 300});
+        setOutline(pillInWindow);
+        overlay.orderFrontRegardless();
+        ASSERT_TRUE(waitUntil([this] { return isShown(); }));
+        settle();
+    }
+
+    /// Returns when the server has done what this program has asked for so far.
+    void settle() {
+        platform::X11Connection().ask<xcb_get_input_focus, xcb_get_input_focus_reply>();
+    }
+
+    /// Another program's window under the shown pill and what is beside it.
+    xcb_window_t openBeneath() {
+        const auto beneath = other.open({0, 0, 1280, 400}, OtherProgram::Kind::bypassing);
+        EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), beneath); }));
+        return beneath;
+    }
+
+    void setOutline(const QRect& pill) {
+        QPainterPath path;
+        path.addRect(pill);
+        window.outline = path;
+        overlay.setContentOutline(path);
+        window.update();
+    }
+
+    xcb_window_t id() const { return static_cast<xcb_window_t>(window.winId()); }
+    bool isShown() { return window.handle() && other.isViewable(id()); }
+
+    QRegion input() {
+        settle();
+        return other.shape(id(), XCB_SHAPE_SK_INPUT);
+    }
+
+    QRegion bounding() {
+        settle();
+        return other.shape(id(), XCB_SHAPE_SK_BOUNDING);
+    }
+
+    platform::QtMainLoop mainLoop;
+    SessionBus bus;
+    platform::ScreenLock lock{bus.connection(), bus.connection()};
+    GreenWindow window;
+    platform::X11OverlayWindow overlay{window, mainLoop, lock};
+    OtherProgram other;
+};
+
+} // namespace brellowind::test

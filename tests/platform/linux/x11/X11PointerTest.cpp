@@ -1,0 +1,128 @@
+#include "platform/linux/x11/X11Pointer.h"
+
+#include "platform/linux/x11/PillOnX11.h"
+#include "support/PrintGeometry.h"
+
+namespace brellowind::test {
+namespace {
+
+class X11Pointer : public PillOnX11 {
+protected:
+    void SetUp() override {
+        other.movePointer({1000, 700});
+        ASSERT_TRUE(waitUntil([this] { return global + local > 0; }));
+        global = local = 0;
+    }
+
+    platform::X11Pointer pointer{mainLoop};
+    int global = 0;
+    int local = 0;
+    std::unique_ptr<platform::PointerMonitor> globalMonitor =
+        pointer.addGlobalMonitor([this] { ++global; });
+    std::unique_ptr<platform::PointerMonitor> localMonitor =
+        pointer.addLocalMonitor([this] { ++local; });
+};
+
+TEST_F(X11Pointer, IsAtTheMiddleOfItsPixelInDesktopCoordinates) {
+    other.movePointer({10, 20});
+    EXPECT_EQ(pointer.location(), (Point{10.5, 779.5}));
+    other.movePointer({1279, 799});
+    EXPECT_EQ(pointer.location(), (Point{1279.5, 0.5}));
+}
+
+TEST_F(X11Pointer, TellsOfMovementsOverNothing) {
+    other.movePointer({1010, 700});
+    EXPECT_TRUE(waitUntil([this] { return global == 1; }));
+    other.movePointer({1011, 700});
+    EXPECT_TRUE(waitUntil([this] { return global == 2; }));
+    EXPECT_EQ(local, 0);
+}
+
+TEST_F(X11Pointer, TellsOfMovementsOverAWindowThatKeepsThemToItself) {
+    const auto grabbing = other.open({900, 500, 300, 300}, OtherProgram::Kind::bypassing);
+    other.grabPointer(grabbing);
+    other.movePointer({1010, 700});
+    EXPECT_TRUE(waitUntil([this] { return global == 1; }));
+    EXPECT_EQ(local, 0);
+}
+
+TEST_F(X11Pointer, TellsOfMovementsOverThePillLocallyBeforeThePillHears) {
+    show();
+    int heardBefore = -1;
+    window.onPointer = [&] { heardBefore = local; };
+    other.movePointer(onPill);
+    EXPECT_TRUE(waitUntil([&] { return heardBefore >= 0; }));
+    EXPECT_GE(heardBefore, 1);
+    EXPECT_EQ(global, 0);
+    EXPECT_EQ(pointer.location(), (Point{640.5, 769.5}));
+}
+
+TEST_F(X11Pointer, TellsOfMovementsOverTheWindowBesideThePillGlobally) {
+    show();
+    other.movePointer(besidePill);
+    EXPECT_TRUE(waitUntil([this] { return global == 1; }));
+    EXPECT_EQ(local, 0);
+}
+
+TEST_F(X11Pointer, TellsOfMovementsOverAClickThroughPillGlobally) {
+    show();
+    overlay.setIgnoresMouseEvents(true);
+    settle();
+    other.movePointer(onPill);
+    EXPECT_TRUE(waitUntil([this] { return global == 1; }));
+    EXPECT_EQ(local, 0);
+}
+
+TEST_F(X11Pointer, TellsOfAHundredMovementsThatComeTogetherAFewTimesAtMost) {
+    for (int x = 100; x < 200; ++x)
+        other.movePointer({x, 700});
+    EXPECT_TRUE(waitUntil([this] { return global > 0; }));
+    runFor(std::chrono::milliseconds(50));
+    EXPECT_LT(global, 10);
+    EXPECT_EQ(pointer.location(), (Point{199.5, 99.5}));
+}
+
+TEST_F(X11Pointer, IsSilentWhileItRests) {
+    runFor(std::chrono::milliseconds(300));
+    EXPECT_EQ(global + local, 0);
+}
+
+TEST_F(X11Pointer, TellsNobodyWhoHasLeft) {
+    globalMonitor.reset();
+    int still = 0;
+    const auto stays = pointer.addGlobalMonitor([&] { ++still; });
+    other.movePointer({1010, 700});
+    EXPECT_TRUE(waitUntil([&] { return still == 1; }));
+    EXPECT_EQ(global, 0);
+}
+
+TEST_F(X11Pointer, LetsAHandlerRemoveItsOwnMonitor) {
+    int calls = 0;
+    std::unique_ptr<platform::PointerMonitor> once;
+    once = pointer.addGlobalMonitor([&] {
+        ++calls;
+        once.reset();
+    });
+    other.movePointer({1010, 700});
+    EXPECT_TRUE(waitUntil([this] { return global == 1; }));
+    other.movePointer({1020, 700});
+    EXPECT_TRUE(waitUntil([this] { return global == 2; }));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(X11Pointer, TellsOfMovementsOverAWindowInAFrameLocally) {
+    const WindowManager windowManager;
+    QRasterWindow settings;
+    settings.setGeometry(100, 300, 300, 200);
+    settings.show();
+    const auto id = static_cast<xcb_window_t>(settings.winId());
+    ASSERT_TRUE(waitUntil([&] { return other.topLevel(id) != id && other.isViewable(id); }));
+    runFor(std::chrono::milliseconds(0));
+    global = local = 0;
+    other.movePointer(other.frame(id)->center());
+    EXPECT_TRUE(waitUntil([this] { return local == 1; }));
+    EXPECT_EQ(global, 0);
+}
+
+} // namespace
+} // namespace brellowind::test

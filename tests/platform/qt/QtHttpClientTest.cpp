@@ -1,0 +1,217 @@
+#include "platform/qt/QtHttpClient.h"
+
+#include "loopback/LoopbackServer.h"
+#include "platform/qt/Download.h"
+
+#include <QDir>
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace brellowind::platform {
+namespace {
+
+using demo::Exchange;
+using demo::LoopbackServer;
+using test::Download;
+using test::waitUntil;
+
+/// The client and a server that keeps each request it read.
+class QtHttpClientTest : public testing::Test {
+protected:
+    QString url(const char* target) const { return server.origin() + QLatin1String(target); }
+
+    std::vector<Exchange> exchanges;
+    LoopbackServer::Handler answer = [](const Exchange& exchange) { exchange.respond(200, "{}"); };
+    LoopbackServer server{[this](const Exchange& exchange) {
+        exchanges.push_back(exchange);
+        answer(exchange);
+    }};
+    QtHttpClient client;
+};
+
+TEST_F(QtHttpClientTest, SendsTheBytesOfTheURLUnchanged) {
+    const QByteArray query =
+        "a=1%2B1%20%26%20%23%25%3B%3D%22%3F%2F&b=Gr%C3%B6%C3%9Fe%20%E6%97%A5&c=x+y&d=(!*'),;:@/?";
+    Download download(client, server.origin() + QStringLiteral("/api/get%2Fthis?") +
+                                  QString::fromLatin1(query));
+    ASSERT_TRUE(download.response().has_value());
+    ASSERT_EQ(exchanges.size(), 1U);
+    EXPECT_EQ(exchanges[0].path, "/api/get%2Fthis");
+    EXPECT_EQ(exchanges[0].query, query);
+}
+
+TEST_F(QtHttpClientTest, SendsEveryByteOfAQueryValueSoThatFormsDecodeItBack) {
+    for (int byte = 0; byte < 256; ++byte) {
+        const QByteArray escaped = '%' + QByteArray(1, static_cast<char>(byte)).toHex().toUpper();
+        Download download(client,
+                          server.origin() + QStringLiteral("/?a=") + QString::fromLatin1(escaped));
+        ASSERT_TRUE(download.response().has_value()) << escaped.constData();
+        QByteArray value = exchanges.back().query.mid(2);
+        EXPECT_FALSE(value.contains('+')) << escaped.constData();
+        EXPECT_EQ(QByteArray::fromPercentEncoding(value), QByteArray(1, static_cast<char>(byte)))
+            << escaped.constData();
+    }
+}
+
+TEST_F(QtHttpClientTest, SendsTheHeadersGivenOnceAndNoTraceOfThePerson) {
+    auto request = Download::request(url("/"));
+    request.headers = {{"User-Agent", "Brellowind v0.1 (https://brellowind.example)"},
+                       {"X-Other", "value"}};
+    Download download(client, request);
+    ASSERT_TRUE(download.response().has_value());
+    QList<QByteArray> names;
+    for (const auto& [name, value] : exchanges[0].headers)
+        names.append(name);
+    EXPECT_EQ(names.count("user-agent"), 1);
+    EXPECT_EQ(exchanges[0].header("user-agent"), "Brellowind v0.1 (https://brellowind.example)");
+    EXPECT_EQ(exchanges[0].header("x-other"), "value");
+    EXPECT_FALSE(names.contains("referer"));
+    EXPECT_FALSE(names.contains("cookie"));
+    EXPECT_FALSE(names.contains("authorization"));
+}
+
+TEST_F(QtHttpClientTest, SendsNoCookieBack) {
+    answer = [](const Exchange& exchange) {
+        exchange.send(test::httpResponse("Set-Cookie: a=b; Path=/\r\nContent-Length: 0\r\n"));
+    };
+    for (int i = 0; i < 2; ++i) {
+        Download download(client, url("/"));
+        ASSERT_TRUE(download.response().has_value());
+    }
+    ASSERT_EQ(exchanges.size(), 2U);
+    EXPECT_TRUE(exchanges[1].header("cookie").isNull());
+}
+
+class QtHttpClientStatus : public QtHttpClientTest, public testing::WithParamInterface<int> {};
+
+TEST_P(QtHttpClientStatus, ArrivesWithTheBody) {
+    answer = [](const Exchange& exchange) { exchange.respond(GetParam(), "the body"); };
+    Download download(client, url("/"));
+    const auto response = download.response();
+    ASSERT_TRUE(response.has_value());
+    EXPECT_EQ(response->status, GetParam());
+    EXPECT_EQ(response->body, "the body");
+    EXPECT_EQ(exchanges.size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Codes, QtHttpClientStatus,
+                         testing::Values(200, 201, 206, 300, 400, 401, 403, 404, 405, 409, 410, 418,
+                                         429, 451, 500, 501, 502, 503, 504, 511, 599));
+
+class QtHttpClientRedirectStatus : public QtHttpClientTest,
+                                   public testing::WithParamInterface<int> {};
+
+TEST_P(QtHttpClientRedirectStatus, WithoutALocationIsATransportError) {
+    answer = [](const Exchange& exchange) { exchange.respond(GetParam(), "the body"); };
+    Download download(client, url("/"));
+    EXPECT_TRUE(download.fails());
+    EXPECT_EQ(exchanges.size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Codes, QtHttpClientRedirectStatus,
+                         testing::Values(301, 302, 303, 305, 307, 308));
+
+TEST_F(QtHttpClientTest, AnAnswerMayHaveNoBody) {
+    for (const char* status : {"204 No Content", "304 Not Modified"}) {
+        answer = [status](const Exchange& exchange) {
+            exchange.send(QByteArray("HTTP/1.1 ") + status + "\r\n\r\n");
+        };
+        Download download(client, url("/"));
+        const auto response = download.response();
+        ASSERT_TRUE(response.has_value()) << status;
+        EXPECT_EQ(response->status, QByteArray(status).left(3).toInt());
+        EXPECT_EQ(response->body, "");
+    }
+}
+
+TEST_F(QtHttpClientTest, JoinsAChunkedBody) {
+    answer = [](const Exchange& exchange) {
+        exchange.send(test::httpResponse("Transfer-Encoding: chunked\r\n",
+                                         "3\r\none\r\n4\r\n two\r\n0\r\n\r\n"));
+    };
+    Download download(client, url("/"));
+    const auto response = download.response();
+    ASSERT_TRUE(response.has_value());
+    EXPECT_EQ(response->body, "one two");
+}
+
+TEST_F(QtHttpClientTest, UnpacksACompressedBody) {
+    const QByteArray text(100000, 'x');
+    const QByteArray packed = qCompress(text).mid(4);
+    answer = [packed](const Exchange& exchange) {
+        exchange.send(test::httpResponse("Content-Encoding: deflate\r\nContent-Length: " +
+                                             QByteArray::number(packed.size()) + "\r\n",
+                                         packed));
+    };
+    Download download(client, url("/"));
+    const auto response = download.response();
+    ASSERT_TRUE(response.has_value());
+    EXPECT_EQ(response->body, text.toStdString());
+}
+
+TEST_F(QtHttpClientTest, UnpacksAnErrorPageThatIsShorterThanItsPackedForm) {
+    const QByteArray packed = qCompress("{}").mid(4);
+    answer = [packed](const Exchange& exchange) {
+        exchange.send("HTTP/1.1 500 Error\r\nContent-Encoding: deflate\r\nContent-Length: " +
+                      QByteArray::number(packed.size()) + "\r\n\r\n" + packed);
+    };
+    Download download(client, url("/"));
+    const auto response = download.response();
+    ASSERT_TRUE(response.has_value());
+    EXPECT_EQ(response->status, 500);
+    EXPECT_EQ(response->body, "{}");
+}
+
+TEST_F(QtHttpClientTest, KeepsBytesThatAreNoText) {
+    QByteArray bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes.append(static_cast<char>(byte));
+    answer = [bytes](const Exchange& exchange) { exchange.respond(200, bytes, "image/png"); };
+    Download download(client, url("/"));
+    ASSERT_TRUE(download.response().has_value());
+    EXPECT_EQ(download.response()->body, bytes.toStdString());
+}
+
+TEST_F(QtHttpClientTest, AnswersEachOfManyTransfersAtOnce) {
+    answer = [](const Exchange& exchange) { exchange.respond(200, exchange.path); };
+    std::vector<std::unique_ptr<Download>> downloads;
+    for (int i = 0; i < 20; ++i)
+        downloads.push_back(std::make_unique<Download>(client, url("/") + QString::number(i)));
+    for (int i = 0; i < 20; ++i) {
+        const auto response = downloads[static_cast<std::size_t>(i)]->response();
+        ASSERT_TRUE(response.has_value());
+        EXPECT_EQ(response->body, "/" + std::to_string(i));
+    }
+}
+
+/// The sockets and files that this process holds open.
+qsizetype openDescriptors() {
+    return QDir(QStringLiteral("/proc/self/fd"))
+        .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
+        .size();
+}
+
+TEST_F(QtHttpClientTest, ManyTransfersInARowLeaveNoSocketBehind) {
+    const auto fetchOnce = [this] {
+        Download download(client, url("/"));
+        return download.response().has_value();
+    };
+    const auto isQuiet = [this] {
+        return waitUntil([this] {
+            return std::ranges::all_of(
+                exchanges, [](const Exchange& exchange) { return exchange.connection.isNull(); });
+        });
+    };
+    for (int i = 0; i < 5; ++i)
+        ASSERT_TRUE(fetchOnce());
+    ASSERT_TRUE(isQuiet());
+    const auto before = openDescriptors();
+    for (int i = 0; i < 200; ++i)
+        ASSERT_TRUE(fetchOnce());
+    ASSERT_TRUE(isQuiet());
+    EXPECT_LE(openDescriptors(), before + 6); // the client keeps at most six for the host
+}
+
+} // namespace
+} // namespace brellowind::platform

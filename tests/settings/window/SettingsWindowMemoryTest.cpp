@@ -1,0 +1,86 @@
+#include "platform/qt/QtMainLoop.h"
+#include "settings/UpdateChecker.h"
+#include "settings/window/SettingsWindow.h"
+#include "support/TestMachine.h"
+
+#include <QQuickWindow>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+namespace brellowind {
+namespace {
+
+/// The machine of a test, but with Qt's own main loop.
+class SettingsWindowOnQtsLoop : public testing::Test {
+protected:
+    void openAndClose() {
+        open();
+        close();
+    }
+
+    void open() {
+        settings.open();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(settings.window()));
+        ASSERT_TRUE(QTest::qWaitFor(
+            [] { return UpdateChecker::shared().state.get() == UpdateState::checking(); }));
+    }
+
+    void close() {
+        QTest::keyClick(settings.window(), Qt::Key_Escape);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !settings.window(); }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return tasks.running() == 0; }));
+    }
+
+    test::TestMachine machine;
+    platform::QtMainLoop mainLoop;
+    TaskRunner tasks{mainLoop};
+    platform::ServicesScope scope{{.mainLoop = mainLoop,
+                                   .tasks = tasks,
+                                   .clock = machine.clock,
+                                   .log = machine.log,
+                                   .http = machine.http,
+                                   .images = machine.images,
+                                   .files = machine.files,
+                                   .scripting = machine.scripting,
+                                   .runningApplications = machine.runningApplications,
+                                   .screens = machine.screens,
+                                   .pointer = machine.pointer,
+                                   .application = machine.application,
+                                   .links = machine.links,
+                                   .loginItem = machine.loginItem,
+                                   .constants = machine.constants}};
+    SettingsWindow settings;
+};
+
+TEST_F(SettingsWindowOnQtsLoop, OpensAndClosesAgainAndAgain) {
+    for (int time = 1; time <= 3; ++time) {
+        openAndClose();
+        ASSERT_EQ(machine.http.requests.size(), static_cast<std::size_t>(time));
+        EXPECT_TRUE(machine.http.requests.back()->aborted);
+    }
+}
+
+/// Bytes on the heap. 0 where the allocator does not count, as under a sanitizer.
+std::size_t heap() {
+    return mallinfo2().uordblks + mallinfo2().hblkhd;
+}
+
+TEST_F(SettingsWindowOnQtsLoop, ClosingGivesTheMemoryBack) {
+    if (heap() == 0)
+        GTEST_SKIP() << "nobody counts the heap here";
+    openAndClose(); // what Qt keeps for good, such as fonts and compiled types
+    openAndClose();
+    const std::size_t closed = heap();
+    open();
+    const std::size_t opened = heap();
+    close();
+    ASSERT_GT(opened, closed + 200'000);
+    EXPECT_LT(heap(), closed + (opened - closed) / 10);
+    for (int time = 0; time < 10; ++time)
+        openAndClose();
+    EXPECT_LT(heap(), closed + (opened - closed) / 5);
+}
+
+} // namespace
+} // namespace brellowind
