@@ -70,9 +70,22 @@ TEST_F(NotchRootViewArtwork, IsAtMostSixteenMebibytes) {
 }
 
 TEST_F(NotchRootViewArtwork, MayLieInALocalFile) {
-    play("Next", "file:///covers/next.png");
-    ASSERT_EQ(fetches().size(), 2U);
-    EXPECT_EQ(fetch(1).url, "file:///covers/next.png");
+    const std::string file = "file:///covers/next.png";
+    view.machine.files.contents[file] = "image of Next";
+    play("Next", file);
+    EXPECT_EQ(shown(), "image of Next");
+    EXPECT_EQ(fetches().size(), 1U) << "that of the song before";
+}
+
+TEST_F(NotchRootViewArtwork, IsKeptWhenTheFileOfTheNextIsMissingOrTooLong) {
+    answer(0, HttpResponse{200, "image of Song"});
+    play("Next", "file:///covers/missing.png");
+    EXPECT_EQ(shown(), "image of Song");
+    std::string longFile = "image";
+    longFile.resize(16 * 1024 * 1024 + 1);
+    view.machine.files.contents["file:///covers/long.png"] = std::move(longFile);
+    play("Last", "file:///covers/long.png");
+    EXPECT_EQ(shown(), "image of Song");
 }
 
 TEST_F(NotchRootViewArtwork, IsRedrawnWhenItArrives) {
