@@ -42,6 +42,7 @@ platform::Services withImages(TestMachine& machine, platform::ImageDecoder& imag
             .log = machine.log,
             .http = machine.http,
             .images = images,
+            .files = machine.files,
             .scripting = machine.scripting,
             .runningApplications = machine.runningApplications,
             .screens = machine.screens,
