@@ -43,6 +43,13 @@ QImage narrowShadow(QSizeF size, double ratio) {
     return alpha;
 }
 
+/// A shadow so wide that nobody sees its ends: a line without end casts none without end.
+double widestShadow(const QPainter& painter) {
+    const auto* device = painter.device();
+    const double seen = device->width() / device->devicePixelRatioF();
+    return 2 * std::ceil(seen / 2 + shadowReach + topRadius + bottomRadius);
+}
+
 /// Black with `alpha`, whose middle column is drawn out until it is `width` pixels wide.
 QImage widened(const QImage& alpha, int width) {
     width = std::max(width, alpha.width());
@@ -94,15 +101,18 @@ void PillShape::paint(QPainter& painter) {
 
 void PillShape::paintShadow(QPainter& painter) {
     const double ratio = pixelRatio();
-    if (shadow_.isNull() || shadowSize_ != size() || shadow_.devicePixelRatio() != ratio) {
-        shadow_ = widened(narrowShadow(size(), ratio),
-                          static_cast<int>(std::lround((width() + 2 * shadowReach) * ratio)));
+    const QSizeF cast(std::min(width(), widestShadow(painter)), height());
+    if (shadow_.isNull() || shadowSize_ != cast || shadow_.devicePixelRatio() != ratio) {
+        shadow_ = widened(narrowShadow(cast, ratio),
+                          static_cast<int>(std::lround((cast.width() + 2 * shadowReach) * ratio)));
         shadow_.setDevicePixelRatio(ratio);
-        shadowSize_ = size();
+        shadowSize_ = cast;
     }
     painter.save();
     painter.setOpacity(painter.opacity() * std::clamp(lift_, 0.0, 1.0));
-    painter.drawImage(QPointF(-shadowReach, shadowDrop * lift_ - shadowReach), shadow_);
+    painter.drawImage(
+        QPointF((width() - cast.width()) / 2 - shadowReach, shadowDrop * lift_ - shadowReach),
+        shadow_);
     painter.restore();
 }
 

@@ -33,8 +33,8 @@ private:
     void paintShadow(QPainter& painter);
 
     double lift_ = 0;
-    QImage shadow_; ///< of the present size; null while there is none
-    QSizeF shadowSize_;
+    QImage shadow_;     ///< null while there is none
+    QSizeF shadowSize_; ///< of the pill that casts it; no wider than anybody sees
 };
 
 } // namespace brellowind

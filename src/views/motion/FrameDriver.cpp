@@ -42,9 +42,16 @@ void FrameDriver::step(double seconds) {
     advanceAll();
 }
 
+void FrameDriver::thaw() {
+    frozen_ = -1;
+    if (!moving_.empty())
+        start();
+}
+
 void FrameDriver::updateCurrentTime(int currentTime) {
-    Q_UNUSED(currentTime)
-    advanceAll();
+    // At 0 it comes from within `start`, when what is asked for has not been said to the end.
+    if (currentTime > 0)
+        advanceAll();
 }
 
 void FrameDriver::advanceAll() {

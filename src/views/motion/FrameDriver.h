@@ -37,6 +37,9 @@ public:
     void freeze(double seconds);
     void step(double seconds);
 
+    /// Lets the clock run again. For when nothing moves: the two clocks tell different times.
+    void thaw();
+
 protected:
     void updateCurrentTime(int currentTime) override;
 

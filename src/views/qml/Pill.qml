@@ -36,18 +36,24 @@ Item {
     }
 
     MouseArea {
+        function tap(): void {
+            if (root.model.isArtExpanded)
+                root.model.tapArtwork();
+            else
+                root.model.tapBackground();
+        }
+
         anchors.fill: shape
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         Accessible.role: Accessible.Grouping
         Accessible.name: root.model.currentLineText
+        Accessible.onPressAction: tap()
 
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton)
                 menu.popup(mapToGlobal(mouse.x, mouse.y));
-            else if (root.model.isArtExpanded)
-                root.model.tapArtwork();
             else
-                root.model.tapBackground();
+                tap();
         }
     }
 

@@ -19,6 +19,10 @@ Window {
     flags: Qt.Popup | Qt.FramelessWindowHint | Qt.NoDropShadowWindowHint
     color: "transparent"
 
+    PopupGrab {
+        window: root
+    }
+
     Rectangle {
         anchors.fill: parent
         radius: 10

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "support/FakeOverlayWindow.h"
+#include "support/FakeSpotify.h"
+#include "views/NotchRootView.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace brellowind::test {
+
+/// The answer of the lyrics service that carries `lrc`, which is written as in a JSON text.
+inline platform::HttpResponse synced(const std::string& lrc) {
+    return {200, R"({"syncedLyrics":")" + lrc + R"("})"};
+}
+
+/// A view on a laptop with a notch, with a player that is paused in a song. The pointer is nowhere.
+struct View {
+    static constexpr Rect screenFrame{0, 0, 1512, 982};
+    static constexpr Point overThePill{756, 970};
+    static constexpr Point elsewhere{300, 300};
+
+    View() {
+        const platform::Screen laptop{.frame = screenFrame, .topSafeAreaInset = 32};
+        machine.screens.connected = {laptop};
+        machine.screens.mainScreen = laptop;
+    }
+
+    TestMachine machine;
+    FakeSpotify spotify{machine};
+    FakeOverlayWindow window;
+    int settingsOpenings = 0;
+    std::function<void()> onSettingsOpening = [] {};
+    std::shared_ptr<NotchRootView> root = NotchRootView::create({
+        .window = [this] { return &window; },
+        .openSettings =
+            [this] {
+                ++settingsOpenings;
+                onSettingsOpening();
+            },
+    });
+    NotchRootView& view = *root;
+
+    void advance(std::chrono::milliseconds duration) { machine.mainLoop.advance(duration); }
+    void runTurns() { machine.mainLoop.runTurns(); }
+    std::string text() const { return std::string(view.currentLineText()); }
+    const NotchRootView::Form& form() const { return view.form(); }
+    LyricsState::Case lyricsCase() const { return view.lyrics().state->which(); }
+    std::size_t requests() const { return machine.http.requests.size(); }
+
+    void movePointer(Point to) {
+        machine.pointer.moveOutsideWindows(to);
+        runTurns();
+    }
+
+    /// Shows the view.
+    void appear() {
+        view.appear();
+        runTurns();
+    }
+
+    /// Shows the view while Spotify plays, and lets the service answer.
+    void appearAnswered(platform::HttpResult answer) {
+        appear();
+        machine.http.answer(0, std::move(answer));
+        runTurns();
+    }
+
+    /// The player begins, or goes on, to play; the next reading finds out.
+    void resume() {
+        spotify.state = "playing";
+        advance(std::chrono::seconds(1));
+    }
+
+    /// The player pauses; the next reading finds out.
+    void pause() {
+        spotify.state = "paused";
+        advance(std::chrono::seconds(1));
+    }
+};
+
+} // namespace brellowind::test

@@ -1,0 +1,132 @@
+#include "views/qml/Stage.h"
+
+#include <QAccessible>
+#include <QQuickWindow>
+#include <functional>
+
+namespace brellowind {
+namespace {
+
+class PillAccessibility : public test::Stage {
+protected:
+    PillAccessibility() { QAccessible::setActive(true); }
+
+    /// The first piece that `matches`, as assistive programs find it from the window on.
+    static QAccessibleInterface* find(QAccessibleInterface* from,
+                                      const std::function<bool(QAccessibleInterface*)>& matches) {
+        if (!from || from->state().invisible)
+            return nullptr;
+        if (matches(from))
+            return from;
+        for (int i = 0; i < from->childCount(); ++i)
+            if (auto* found = find(from->child(i), matches))
+                return found;
+        return nullptr;
+    }
+
+    QAccessibleInterface* named(const char* name, QAccessible::Role role) {
+        return find(QAccessible::queryAccessibleInterface(&window), [&](auto* piece) {
+            return piece->role() == role &&
+                   piece->text(QAccessible::Name) == QString::fromUtf8(name);
+        });
+    }
+
+    QAccessibleInterface* button(const char* name) { return named(name, QAccessible::Button); }
+
+    void press(QAccessibleInterface* piece) {
+        ASSERT_NE(piece, nullptr);
+        auto* actions = piece->actionInterface();
+        ASSERT_NE(actions, nullptr);
+        ASSERT_TRUE(actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
+        actions->doAction(QAccessibleActionInterface::pressAction());
+        settle();
+    }
+};
+
+TEST_F(PillAccessibility, LetsTheCurrentLineBeRead) {
+    machine.spotify.position = "5";
+    machine.appearAnswered(test::synced("[00:01.00]the line being sung"));
+    settle();
+    EXPECT_NE(named("the line being sung", QAccessible::StaticText), nullptr);
+    EXPECT_NE(named("the line being sung", QAccessible::Grouping), nullptr) << "the pill";
+    machine.view.tapCover();
+    settle();
+    EXPECT_NE(named("the line being sung", QAccessible::StaticText), nullptr) << "in the panel";
+}
+
+TEST_F(PillAccessibility, LetsThePillBePressed) {
+    machine.appear();
+    settle();
+    press(named("Loading lyrics…", QAccessible::Grouping));
+    EXPECT_TRUE(form().isMinimized);
+    press(named("Loading lyrics…", QAccessible::Grouping));
+    EXPECT_FALSE(form().isMinimized);
+    machine.view.tapCover();
+    settle();
+    press(named("Loading lyrics…", QAccessible::Grouping));
+    EXPECT_FALSE(form().isArtExpanded);
+    EXPECT_FALSE(form().isMinimized);
+}
+
+TEST_F(PillAccessibility, LetsTheIndicatorBePressedForWhatItDoes) {
+    machine.appear();
+    settle();
+    press(button("Play"));
+    EXPECT_EQ(machine.spotify.toggles(), 1U);
+    EXPECT_EQ(button("Play"), nullptr);
+    press(button("Pause"));
+    EXPECT_EQ(machine.spotify.toggles(), 2U);
+}
+
+TEST_F(PillAccessibility, LetsTheCoverBePressedWhileItIsAThumbnail) {
+    machine.appear();
+    settle();
+    press(button("Show artwork"));
+    EXPECT_TRUE(form().isArtExpanded);
+    EXPECT_EQ(button("Show artwork"), nullptr);
+}
+
+TEST_F(PillAccessibility, LetsTheGrabberBePressedForWhatItDoes) {
+    machine.appear();
+    machine.movePointer(test::View::overThePill);
+    settle();
+    press(button("Hide lyrics"));
+    EXPECT_TRUE(form().isMinimized);
+    press(button("Show lyrics"));
+    EXPECT_FALSE(form().isMinimized);
+    machine.view.tapCover();
+    settle();
+    press(button("Close artwork"));
+    EXPECT_FALSE(form().isArtExpanded);
+}
+
+TEST_F(PillAccessibility, OffersNoGrabberThatIsNotThere) {
+    machine.appear();
+    settle();
+    EXPECT_EQ(button("Hide lyrics"), nullptr);
+}
+
+TEST_F(PillAccessibility, LetsTheMenuBeReadAndPressed) {
+    machine.appear();
+    click(middle(pill()), Qt::RightButton);
+    auto* menu = window.rootObject()->findChild<QQuickWindow*>(QStringLiteral("menu"));
+    ASSERT_TRUE(menu && menu->isVisible());
+    auto* root = QAccessible::queryAccessibleInterface(menu);
+    QStringList entries;
+    find(root, [&](QAccessibleInterface* piece) {
+        if (piece->role() == QAccessible::MenuItem)
+            entries.push_back(piece->text(QAccessible::Name));
+        return false;
+    });
+    EXPECT_EQ(entries,
+              (QStringList{QStringLiteral("Open Settings"), QString::fromUtf8("Check for Updates…"),
+                           QStringLiteral("Quit Brellowind")}));
+    press(find(root, [](auto* piece) {
+        return piece->text(QAccessible::Name) == QStringLiteral("Quit Brellowind");
+    }));
+    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_FALSE(menu->isVisible());
+}
+
+} // namespace
+} // namespace brellowind

@@ -1,0 +1,334 @@
+#include "support/PrintGeometry.h"
+#include "views/drawing/ArtworkImage.h"
+#include "views/drawing/Capsule.h"
+#include "views/drawing/LyricText.h"
+#include "views/drawing/PillShape.h"
+#include "views/qml/Stage.h"
+
+#include <QFontMetricsF>
+#include <cmath>
+
+namespace brellowind {
+namespace {
+
+constexpr double bandHeight = 20;
+
+class PillLayout : public test::Stage {
+protected:
+    double lineHeight() const { return item("lyricLine")->implicitHeight(); }
+
+    double naturalWidth() const {
+        return dynamic_cast<LyricText*>(item("lyricLine"))->naturalWidth();
+    }
+
+    double pillScale() const { return pill()->parentItem()->scale(); }
+
+    Size pillSize() const { return {pill()->width(), pill()->height()}; }
+
+    /// Nothing plays, so that the line is short.
+    void appearIdle() {
+        machine.spotify.quit();
+        machine.appear();
+        settle();
+    }
+
+    /// The pill shows `title`.
+    void appearWith(const std::string& title) {
+        machine.spotify.title = title;
+        machine.appearAnswered(platform::HttpResponse{404, ""});
+        settle();
+    }
+
+    void liftPill() {
+        machine.movePointer(test::View::overThePill);
+        settle();
+    }
+};
+
+TEST_F(PillLayout, OfAShortLineIsTheDefaultPill) {
+    appearIdle();
+    EXPECT_EQ(pillSize(), (Size{272, 5 + bandHeight + 8 + lineHeight() + 12}));
+    EXPECT_EQ(layout(pill()).x(), (windowWidth - 272) / 2);
+    EXPECT_EQ(layout(pill()).y(), 0);
+    EXPECT_EQ(pillScale(), 1);
+}
+
+TEST_F(PillLayout, OfALineHasTheHeightOfItsFont) {
+    appearIdle();
+    QFont font;
+    font.setPixelSize(13);
+    font.setWeight(QFont::Medium);
+    EXPECT_EQ(lineHeight(), std::ceil(QFontMetricsF(font).height()));
+    EXPECT_EQ(layout(item("lyricLine")).y(), 5 + bandHeight + 8);
+    EXPECT_NEAR(layout(item("lyricLine")).center().x(), windowWidth / 2.0, 0.5);
+}
+
+TEST_F(PillLayout, OfALongLineIsFortyPointsWiderThanIt) {
+    appearWith("A line of the song that is far too long for the narrow pill");
+    ASSERT_GT(naturalWidth(), 232);
+    EXPECT_EQ(pillSize().width, 2 * std::ceil(naturalWidth() / 2) + 40);
+    EXPECT_EQ(std::fmod(pillSize().width, 2), 0);
+}
+
+TEST_F(PillLayout, OfALineWiderThanTheWindowStaysInTheMiddle) {
+    appearWith(std::string(200, 'H'));
+    ASSERT_GT(naturalWidth(), windowWidth);
+    EXPECT_EQ(pillSize().width, 2 * std::ceil(naturalWidth() / 2) + 40);
+    EXPECT_EQ(layout(pill()).center().x(), windowWidth / 2.0);
+    const QImage image = window.grabWindow();
+    ASSERT_FALSE(image.isNull());
+    int left = 0;
+    int right = 0;
+    const int width = image.width();
+    for (int y = 0; y < pillSize().height; ++y)
+        for (int x = 0; x < width / 4; ++x) {
+            left += qGray(image.pixel(x, y)) > 100;
+            right += qGray(image.pixel(width - 1 - x, y)) > 100;
+        }
+    EXPECT_GT(left, 100) << "the line goes on to the window's edges";
+    EXPECT_NEAR(left, right, 0.2 * left);
+}
+
+TEST_F(PillLayout, OfAnEndlessLineIsStillDrawn) {
+    appearWith(std::string(100'000, 'H'));
+    liftPill();
+    EXPECT_GT(pillSize().width, 500'000);
+    const QImage image = window.grabWindow();
+    EXPECT_EQ(image.size(), QSize(windowWidth, windowHeight) * window.devicePixelRatio());
+    EXPECT_EQ(qAlpha(image.pixel(2, 15)), 255) << "black from edge to edge";
+    machine.view.tapBackground();
+    step(0);
+    step(0.05);
+    EXPECT_FALSE(window.grabWindow().isNull());
+}
+
+TEST_F(PillLayout, OfTheMinimizedPillIsTheBandAlone) {
+    appearWith("A line of the song that is far too long for the narrow pill");
+    machine.view.tapBackground();
+    settle();
+    EXPECT_EQ(pillSize(), (Size{272, 5 + bandHeight + 8}));
+}
+
+TEST_F(PillLayout, OfAHoveredPillMakesRoomForTheGrabberAndLiftsIt) {
+    appearIdle();
+    EXPECT_FALSE(grabber()->isVisible());
+    const double before = pillSize().height;
+    liftPill();
+    EXPECT_EQ(pillSize(), (Size{272, before + 8 + 7}));
+    EXPECT_DOUBLE_EQ(pillScale(), 1.03);
+    EXPECT_TRUE(grabber()->isVisible());
+    EXPECT_EQ(grabber()->opacity(), 1);
+    EXPECT_EQ(layout(grabber()), QRectF(windowWidth / 2.0 - 18, before + 8 - 12, 36, 7));
+    EXPECT_EQ(dynamic_cast<PillShape*>(pill())->lift(), 1);
+    machine.movePointer(test::View::elsewhere);
+    settle();
+    EXPECT_EQ(pillSize(), (Size{272, before}));
+    EXPECT_EQ(pillScale(), 1);
+    EXPECT_FALSE(grabber()->isVisible());
+    EXPECT_EQ(dynamic_cast<PillShape*>(pill())->lift(), 0);
+}
+
+TEST_F(PillLayout, OfAHoveredMinimizedPillIsTheBandAndTheGrabber) {
+    appearIdle();
+    machine.view.tapBackground();
+    liftPill();
+    EXPECT_EQ(pillSize(), (Size{272, 5 + bandHeight + 8 + 7 + 8}));
+}
+
+TEST_F(PillLayout, GrowsFromTheMiddleOfTheTopEdge) {
+    appearIdle();
+    liftPill();
+    const QRectF seen = pill()->mapRectToScene(pill()->boundingRect());
+    EXPECT_NEAR(seen.y(), 0, 1e-9);
+    EXPECT_NEAR(seen.center().x(), windowWidth / 2.0, 1e-9);
+    EXPECT_NEAR(seen.width(), 272 * 1.03, 1e-9);
+}
+
+TEST_F(PillLayout, OfAPulseIsSixHundredthsLarger) {
+    machine.appear();
+    machine.view.tapWaveform();
+    settle();
+    ASSERT_TRUE(form().playPulse);
+    EXPECT_DOUBLE_EQ(pillScale(), 1.06);
+    liftPill();
+    EXPECT_NEAR(pillScale(), 1.0918, 1e-12);
+    machine.advance(std::chrono::milliseconds(100));
+    settle();
+    EXPECT_DOUBLE_EQ(pillScale(), 1.03);
+}
+
+TEST_F(PillLayout, PutsThumbnailAndIndicatorAtTheEndsOfTheBand) {
+    appearIdle();
+    const double left = layout(pill()).left();
+    const double right = layout(pill()).right();
+    EXPECT_EQ(layout(artwork()), QRectF(left + 20, 5, 19, 20));
+    EXPECT_EQ(layout(waveform()), QRectF(right - 20 - 16, 7, 16, 16));
+}
+
+TEST_F(PillLayout, KeepsTheBandWhenThePillIsMinimized) {
+    appearIdle();
+    const QRectF thumbnail = layout(artwork());
+    const QRectF indicator = layout(waveform());
+    machine.view.tapBackground();
+    settle();
+    EXPECT_EQ(layout(artwork()), thumbnail);
+    EXPECT_EQ(layout(waveform()), indicator);
+}
+
+TEST_F(PillLayout, OfTheArtworkPanelHoldsTheWholeArtwork) {
+    appearIdle();
+    machine.view.tapCover();
+    settle();
+    auto* line = item("panelLine");
+    const double height = 6 + bandHeight + 10 + 320 + 10 + line->implicitHeight() + 10 + 7 + 10;
+    EXPECT_EQ(pillSize(), (Size{352, height}));
+    const double left = (windowWidth - 352) / 2.0;
+    EXPECT_EQ(layout(pill()).x(), left);
+    EXPECT_EQ(layout(artwork()), QRectF(left + 16, 36, 320, 320));
+    EXPECT_EQ(layout(waveform()), QRectF(left + 352 - 16 - 16, 8, 16, 16));
+    EXPECT_EQ(layout(line).y(), 6 + bandHeight + 10 + 320 + 10);
+    EXPECT_EQ(layout(grabber()), QRectF(windowWidth / 2.0 - 18, height - 10 - 7, 36, 7));
+    EXPECT_TRUE(grabber()->isVisible()) << "also while the pointer is elsewhere";
+    EXPECT_FALSE(item("lyricLine")->isVisible());
+}
+
+TEST_F(PillLayout, OfTheArtworkPanelIsTheSameForEveryLineAndWhileMinimized) {
+    appearWith("A line of the song that is far too long for the narrow pill");
+    machine.view.tapCover();
+    settle();
+    const Size before = pillSize();
+    EXPECT_EQ(before.width, 352);
+    machine.view.tapBackground(); // as a pause does
+    settle();
+    ASSERT_TRUE(form().isMinimized && form().isArtExpanded);
+    EXPECT_EQ(pillSize(), before);
+    EXPECT_EQ(layout(artwork()).height(), 320);
+    machine.view.tapArtwork();
+    settle();
+    EXPECT_EQ(pillSize(), (Size{272, 33}));
+}
+
+TEST_F(PillLayout, RoundsTheThumbnailByFourAndTheArtworkByEighteen) {
+    appearIdle();
+    auto* image = dynamic_cast<ArtworkImage*>(below(artwork(), "ArtworkImage"));
+    ASSERT_NE(image, nullptr);
+    EXPECT_EQ(image->radius(), 4);
+    machine.view.tapCover();
+    settle();
+    EXPECT_EQ(image->radius(), 18);
+}
+
+TEST_F(PillLayout, PopsAHoveredThumbnailOutButNeverTheArtwork) {
+    appearIdle();
+    auto* image = below(artwork(), "ArtworkImage");
+    machine.view.hoverCover(true);
+    settle();
+    EXPECT_DOUBLE_EQ(image->scale(), 1.18);
+    EXPECT_DOUBLE_EQ(image->rotation(), -6);
+    machine.view.tapCover();
+    settle();
+    EXPECT_EQ(image->scale(), 1);
+    EXPECT_EQ(image->rotation(), 0);
+    machine.view.hoverCover(false);
+    machine.view.hoverCover(true);
+    settle();
+    EXPECT_EQ(image->scale(), 1);
+}
+
+TEST_F(PillLayout, ShowsTheCaptionInThePanelAlone) {
+    appearWith("Title of the song");
+    auto* caption = below(artwork(), "ArtworkCaption");
+    ASSERT_NE(caption, nullptr);
+    EXPECT_FALSE(caption->isVisible());
+    machine.view.tapCover();
+    settle();
+    EXPECT_TRUE(caption->isVisible());
+    EXPECT_EQ(caption->opacity(), 1);
+    EXPECT_EQ(layout(caption).bottom(), layout(artwork()).bottom());
+    EXPECT_EQ(caption->width(), 320);
+    QStringList texts;
+    for (auto* text : below(caption, "Column")->childItems())
+        if (text->property("text").isValid())
+            texts.push_back(text->property("text").toString());
+    EXPECT_EQ(texts, (QStringList{QStringLiteral("Artist"), QStringLiteral("Title of the song")}));
+}
+
+TEST_F(PillLayout, ShowsTheIndicatorAsThePlayerStands) {
+    machine.appear();
+    settle();
+    auto* glyph = below(waveform(), "WaveformGlyph");
+    auto* button = below(waveform(), "Glyph");
+    ASSERT_TRUE(glyph && button);
+    EXPECT_DOUBLE_EQ(glyph->opacity(), 0.4);
+    EXPECT_FALSE(glyph->property("active").toBool());
+    EXPECT_FALSE(button->isVisible());
+    machine.resume();
+    settle();
+    EXPECT_DOUBLE_EQ(glyph->opacity(), 0.9);
+    EXPECT_TRUE(glyph->property("active").toBool());
+}
+
+TEST_F(PillLayout, ShowsThePlayButtonUnderThePointer) {
+    machine.appear();
+    machine.view.hoverWaveform(true);
+    settle();
+    auto* glyph = below(waveform(), "WaveformGlyph");
+    auto* button = below(waveform(), "Glyph");
+    EXPECT_FALSE(glyph->isVisible());
+    EXPECT_DOUBLE_EQ(button->opacity(), 0.8);
+    EXPECT_EQ(button->size(), QSizeF(10, 16));
+    EXPECT_DOUBLE_EQ(button->x(), 3 - 0.2);
+    EXPECT_EQ(button->property("kind").toInt(), 0) << "play";
+    machine.view.tapWaveform();
+    settle();
+    EXPECT_EQ(button->property("kind").toInt(), 1) << "pause";
+}
+
+TEST_F(PillLayout, BrightensAHoveredGrabber) {
+    machine.appear();
+    liftPill();
+    auto* capsule = dynamic_cast<Capsule*>(below(grabber(), "Capsule"));
+    ASSERT_NE(capsule, nullptr);
+    EXPECT_EQ(capsule->size(), QSizeF(36, 5));
+    EXPECT_EQ(capsule->y(), 2);
+    EXPECT_NEAR(capsule->color().alphaF(), 0.15, 0.002);
+    machine.view.hoverGrabber(true);
+    settle();
+    EXPECT_NEAR(capsule->color().alphaF(), 0.25, 0.002);
+}
+
+TEST_F(PillLayout, IsWhatTheHoverMonitorKnowsInEveryFrameOfAMorph) {
+    appearWith("A line of the song that is far too long for the narrow pill");
+    const auto edgesAgree = [this] {
+        const Rect hovered =
+            hoverRectangle(test::View::screenFrame, {pill()->width(), pill()->height()});
+        machine.movePointer({hovered.minX(), hovered.minY()});
+        const bool corner = form().hovered;
+        machine.movePointer({hovered.minX() - 0.01, hovered.minY()});
+        const bool beside = form().hovered;
+        machine.movePointer({hovered.minX(), hovered.minY() - 0.01});
+        return corner && !beside && !form().hovered;
+    };
+    const std::function<void()> changes[] = {
+        [&] { machine.view.tapBackground(); },
+        [&] { machine.view.tapCover(); },
+        [&] { machine.view.tapArtwork(); },
+        [&] {
+            machine.spotify.playSong("Short");
+            machine.advance(std::chrono::seconds(1));
+        },
+    };
+    for (const auto& change : changes) {
+        change();
+        step(0);
+        for (int frame = 0; frame < 40; ++frame) {
+            EXPECT_TRUE(edgesAgree()) << frame;
+            step(0.016);
+        }
+        settle();
+        EXPECT_TRUE(edgesAgree());
+    }
+}
+
+} // namespace
+} // namespace brellowind

@@ -1,0 +1,180 @@
+#include "views/qml/Stage.h"
+
+#include "settings/SettingsRouter.h"
+
+#include <QQuickWindow>
+
+namespace brellowind {
+namespace {
+
+class PillMenu : public test::Stage {
+protected:
+    PillMenu() { machine.appear(); }
+
+    QQuickWindow* menu() const {
+        return window.rootObject()->findChild<QQuickWindow*>(QStringLiteral("menu"));
+    }
+
+    void open(QPoint at) {
+        click(at, Qt::RightButton);
+        EXPECT_TRUE(menu()->isVisible());
+    }
+    void open() { open(middle(pill())); }
+
+    std::vector<QQuickItem*> entries() const {
+        std::vector<QQuickItem*> found;
+        collect(menu()->contentItem(), found);
+        return found;
+    }
+
+    QStringList texts() const {
+        QStringList result;
+        for (auto* entry : entries())
+            result.push_back(entry->property("text").toString());
+        return result;
+    }
+
+    void choose(std::size_t index) {
+        open();
+        QTest::mouseClick(menu(), Qt::LeftButton, {}, middle(entries().at(index)));
+        machine.runTurns();
+    }
+
+private:
+    static void collect(QQuickItem* item, std::vector<QQuickItem*>& found) {
+        if (QByteArray(item->metaObject()->className()).startsWith("PillMenuEntry"))
+            found.push_back(item);
+        for (auto* child : item->childItems())
+            collect(child, found);
+    }
+};
+
+TEST_F(PillMenu, IsClosedAtFirst) {
+    ASSERT_NE(menu(), nullptr);
+    EXPECT_FALSE(menu()->isVisible());
+}
+
+TEST_F(PillMenu, OpensOnASecondaryClickAnywhereOnThePill) {
+    for (auto* piece : {pill(), artwork(), waveform()}) {
+        const auto before = form();
+        open(middle(piece));
+        EXPECT_EQ(form(), before) << "and nothing else happens";
+        menu()->close();
+    }
+    machine.movePointer(test::View::overThePill);
+    settle();
+    open(middle(grabber()));
+    EXPECT_EQ(machine.spotify.toggles(), 0U);
+}
+
+TEST_F(PillMenu, OpensInTheArtworkPanelAndWhileMinimized) {
+    click(artwork());
+    settle();
+    open(middle(artwork()));
+    menu()->close();
+    click(artwork());
+    click(onWindow(pill(), {130, 12}));
+    settle();
+    ASSERT_TRUE(form().isMinimized);
+    open();
+}
+
+TEST_F(PillMenu, OpensWhereThePointerIs) {
+    const QPoint at = onWindow(pill(), {150, 40});
+    open(at);
+    EXPECT_EQ(menu()->position(), window.mapToGlobal(at));
+}
+
+TEST_F(PillMenu, HasItsEntriesInOrder) {
+    open();
+    EXPECT_EQ(texts(),
+              (QStringList{QStringLiteral("Open Settings"), QString::fromUtf8("Check for Updates…"),
+                           QStringLiteral("Quit Brellowind")}));
+}
+
+TEST_F(PillMenu, OpensTheSettings) {
+    choose(0);
+    EXPECT_EQ(machine.settingsOpenings, 1);
+    EXPECT_EQ(machine.machine.application.activations, 1);
+    EXPECT_FALSE(menu()->isVisible());
+}
+
+TEST_F(PillMenu, ChecksForUpdates) {
+    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    const auto before = machine.requests();
+    choose(1);
+    EXPECT_EQ(machine.settingsOpenings, 1);
+    EXPECT_EQ(SettingsRouter::shared().selectedTab.get(), SettingsTab::general);
+    EXPECT_EQ(machine.requests(), before + 1);
+    EXPECT_FALSE(menu()->isVisible());
+}
+
+TEST_F(PillMenu, Quits) {
+    choose(2);
+    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_EQ(machine.settingsOpenings, 0);
+}
+
+TEST_F(PillMenu, ClosesOnEscapeAndDoesNothing) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_Escape);
+    EXPECT_FALSE(menu()->isVisible());
+    EXPECT_EQ(machine.settingsOpenings, 0);
+}
+
+TEST_F(PillMenu, ClosesOnAPressBesideIt) {
+    for (const QPointF beside : {QPointF(-40, 20), QPointF(20, -1), QPointF(20, 400)}) {
+        open();
+        // A popup hears of every press while it is open, in its own coordinates.
+        QMouseEvent press(QEvent::MouseButtonPress, beside, menu()->mapToGlobal(beside),
+                          Qt::LeftButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(menu(), &press);
+        EXPECT_FALSE(menu()->isVisible()) << beside.x() << ", " << beside.y();
+    }
+}
+
+TEST_F(PillMenu, StaysOpenOnOtherKeys) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_A);
+    EXPECT_TRUE(menu()->isVisible());
+}
+
+TEST_F(PillMenu, LetsThePillBeTappedAgainOnceItIsClosed) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_Escape);
+    click(onWindow(pill(), {100, 12}));
+    EXPECT_TRUE(form().isMinimized);
+}
+
+TEST_F(PillMenu, ClosesOnAClickOnThePill) {
+    open(onWindow(pill(), {150, 40}));
+    const auto before = form();
+    click(onWindow(pill(), {60, 12}));
+    EXPECT_FALSE(menu()->isVisible());
+    EXPECT_EQ(form(), before) << "the click that closes a menu does nothing else";
+}
+
+TEST_F(PillMenu, StaysOpenWhenThePointerLeavesThePill) {
+    machine.movePointer(test::View::overThePill);
+    open();
+    machine.movePointer(test::View::elsewhere);
+    settle();
+    EXPECT_TRUE(menu()->isVisible());
+}
+
+TEST_F(PillMenu, StaysOpenOnAClickOnItsRim) {
+    open();
+    QTest::mouseClick(menu(), Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_TRUE(menu()->isVisible());
+}
+
+TEST_F(PillMenu, CanBeOpenedAgain) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_Escape);
+    const QPoint at = onWindow(pill(), {120, 30});
+    open(at);
+    EXPECT_EQ(menu()->position(), window.mapToGlobal(at));
+}
+
+} // namespace
+} // namespace brellowind

@@ -1,0 +1,76 @@
+#include "views/qml/Stage.h"
+
+#include <QGuiApplication>
+
+namespace brellowind::test {
+
+Stage::Stage() {
+    FrameDriver::shared().freeze(100);
+    window.resize(windowWidth, windowHeight);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    hover(QPoint(5, windowHeight - 5));
+    settle();
+}
+
+Stage::~Stage() {
+    settle();
+    FrameDriver::shared().thaw();
+}
+
+void Stage::settle() {
+    for (int i = 0; i < 3; ++i) {
+        step(0);
+        step(10);
+    }
+}
+
+void Stage::step(double seconds) {
+    machine.runTurns();
+    FrameDriver::shared().step(seconds);
+    QCoreApplication::processEvents();
+    machine.runTurns();
+}
+
+QQuickItem* Stage::item(const char* name) const {
+    auto* found = window.rootObject()->findChild<QQuickItem*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+
+QQuickItem* Stage::below(QQuickItem* parent, const char* type) {
+    for (auto* child : parent->childItems()) {
+        const QByteArray name = child->metaObject()->className();
+        if (name == type || name.startsWith(QByteArray(type) + "_QML") ||
+            name == QByteArray("brellowind::") + type || name == QByteArray("QQuick") + type)
+            return child;
+        if (auto* found = below(child, type))
+            return found;
+    }
+    return nullptr;
+}
+
+QRectF Stage::layout(QQuickItem* laidOut) const {
+    auto* root = pill()->parentItem();
+    return {laidOut->mapToItem(root, QPointF(0, 0)), laidOut->size()};
+}
+
+QPoint Stage::onWindow(QQuickItem* of, QPointF point) {
+    return of->mapToScene(point).toPoint();
+}
+
+QPoint Stage::middle(QQuickItem* of) {
+    return onWindow(of, of->boundingRect().center());
+}
+
+void Stage::click(QPoint at, Qt::MouseButton button) {
+    QTest::mouseClick(&window, button, {}, at);
+    machine.runTurns();
+}
+
+void Stage::hover(QPoint at) {
+    QTest::mouseMove(&window, at);
+    machine.runTurns();
+}
+
+} // namespace brellowind::test

@@ -1,0 +1,164 @@
+#include "views/drawing/PillShape.h"
+#include "views/qt/Painting.h"
+
+#include <QPainter>
+#include <gtest/gtest.h>
+
+namespace brellowind {
+namespace {
+
+/// Where the pill stands in the pictures, with room for its shadow.
+constexpr QPointF origin(60, 0);
+constexpr QSize room(400, 140);
+
+QImage paintedPill(PillShape& pill) {
+    return test::painted(pill, room, origin);
+}
+
+TEST(PillShape, HasTheOutlineOfTheNotch) {
+    PillShape pill;
+    pill.setSize({280, 59});
+    QPainterPath expected;
+    expected.moveTo(0, 0);
+    expected.quadTo(8, 0, 8, 8);
+    expected.lineTo(8, 47);
+    expected.quadTo(8, 59, 20, 59);
+    expected.lineTo(260, 59);
+    expected.quadTo(272, 59, 272, 47);
+    expected.lineTo(272, 8);
+    expected.quadTo(272, 0, 280, 0);
+    expected.closeSubpath();
+    EXPECT_EQ(pill.outline(), expected);
+}
+
+TEST(PillShape, IsOpaqueBlackAndAllThereIsAtRest) {
+    PillShape pill;
+    pill.setSize({280, 59});
+    const QImage image = paintedPill(pill);
+    EXPECT_EQ(test::inkRect(image), QRect(60, 0, 280, 59));
+    EXPECT_EQ(image.pixelColor(200, 30), QColor(Qt::black));
+    EXPECT_EQ(qAlpha(image.pixel(67, 30)), 0) << "beside the left side";
+    EXPECT_EQ(qAlpha(image.pixel(68, 30)), 255);
+    EXPECT_EQ(qAlpha(image.pixel(331, 30)), 255);
+    EXPECT_EQ(qAlpha(image.pixel(332, 30)), 0) << "beside the right side";
+}
+
+TEST(PillShape, PaintsBeyondItsRectangleOnlyWhileItIsLifted) {
+    PillShape pill;
+    pill.setSize({280, 59});
+    const QRectF rect(0, 0, 280, 59);
+    EXPECT_EQ(pill.paintedRect(), rect);
+    for (const double lift : {0.01, 0.5, 1.0, 1.05}) {
+        pill.setLift(lift);
+        EXPECT_LT(pill.paintedRect().left(), 0);
+        EXPECT_GT(pill.paintedRect().right(), 280);
+        EXPECT_GT(pill.paintedRect().bottom(), 59);
+        const QRect drawn = test::inkRect(test::painted(pill, {600, 240}, {160, 0}));
+        EXPECT_TRUE(pill.paintedRect()
+                        .translated(160, 0)
+                        .toAlignedRect()
+                        .adjusted(0, 0, 0, 1) // an overshoot lowers the faint end a little more
+                        .contains(drawn))
+            << lift;
+    }
+    pill.setLift(0);
+    EXPECT_EQ(pill.paintedRect(), rect);
+    pill.setLift(-0.02);
+    EXPECT_EQ(pill.paintedRect(), rect);
+}
+
+TEST(PillShape, CastsAShadowBelowItWhileItIsLifted) {
+    PillShape pill;
+    pill.setSize({280, 59});
+    pill.setLift(1);
+    const QImage image = paintedPill(pill);
+    const int below = qAlpha(image.pixel(200, 62));
+    EXPECT_GT(below, 50);
+    EXPECT_LT(below, 128) << "of black at one half";
+    EXPECT_LT(qAlpha(image.pixel(200, 90)), below);
+    EXPECT_GT(qAlpha(image.pixel(200, 80)), qAlpha(image.pixel(200, 95)));
+    for (int x = 0; x < 200; ++x)
+        ASSERT_NEAR(qAlpha(image.pixel(x, 65)), qAlpha(image.pixel(399 - x, 65)), 1) << x;
+}
+
+TEST(PillShape, CastsAStrongerShadowTheHigherItIsLifted) {
+    PillShape pill;
+    pill.setSize({280, 59});
+    double last = test::ink(paintedPill(pill));
+    for (const double lift : {0.25, 0.5, 0.75, 1.0}) {
+        pill.setLift(lift);
+        const double now = test::ink(paintedPill(pill));
+        EXPECT_GT(now, last + 100) << lift;
+        last = now;
+    }
+}
+
+TEST(PillShape, LooksAsBeforeWhenItIsBackAtRest) {
+    PillShape pill;
+    pill.setSize({280, 59});
+    const QImage before = paintedPill(pill);
+    pill.setLift(1);
+    EXPECT_NE(paintedPill(pill), before);
+    pill.setLift(0);
+    EXPECT_EQ(paintedPill(pill), before);
+}
+
+TEST(PillShape, CastsTheShadowOfItsPresentSize) {
+    PillShape pill;
+    pill.setSize({200, 40});
+    pill.setLift(1);
+    paintedPill(pill);
+    pill.setSize({280, 59});
+    PillShape fresh;
+    fresh.setSize({280, 59});
+    fresh.setLift(1);
+    EXPECT_EQ(paintedPill(pill), paintedPill(fresh));
+}
+
+TEST(PillShape, CastsAShadowWithoutSeamsHoweverWideItIs) {
+    PillShape pill;
+    pill.setSize({900, 59});
+    pill.setLift(1);
+    const QImage image = test::painted(pill, {1020, 140}, origin);
+    for (int x = 200; x < 820; ++x)
+        ASSERT_EQ(image.pixel(x, 65), image.pixel(200, 65)) << x;
+}
+
+TEST(PillShape, OfAnEndlessLineCastsNoEndlessShadow) {
+    PillShape pill;
+    pill.setSize({700'000, 59});
+    pill.setLift(1);
+    test::ImageRecorder window({640, 540});
+    QPainter painter(&window);
+    painter.translate(320 - 350'000, 0);
+    pill.paint(painter);
+    painter.end();
+    EXPECT_GT(window.largestImage(), 0);
+    EXPECT_LT(window.largestImage(), 1024 * 1024);
+}
+
+TEST(PillShape, WiderThanTheWindowCastsTheSameShadowInIt) {
+    PillShape wide;
+    wide.setSize({3000, 59});
+    wide.setLift(1);
+    PillShape endless;
+    endless.setSize({700'000, 59});
+    endless.setLift(1);
+    const QSize window(640, 140);
+    const QImage expected = test::painted(wide, window, {320 - 1500, 0});
+    EXPECT_GT(qAlpha(expected.pixel(0, 62)), 50);
+    EXPECT_EQ(test::painted(endless, window, {320 - 350'000, 0}), expected);
+}
+
+TEST(PillShape, TellsOfRealChangesOnly) {
+    PillShape pill;
+    int changes = 0;
+    QObject::connect(&pill, &PillShape::liftChanged, [&] { ++changes; });
+    pill.setLift(0);
+    pill.setLift(0.5);
+    pill.setLift(0.5);
+    EXPECT_EQ(changes, 1);
+}
+
+} // namespace
+} // namespace brellowind

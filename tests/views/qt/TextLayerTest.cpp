@@ -1,0 +1,164 @@
+#include "views/drawing/TextLayer.h"
+#include "views/qt/Painting.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <gtest/gtest.h>
+
+namespace brellowind {
+namespace {
+
+QFont font() {
+    QFont font;
+    font.setPixelSize(13);
+    return font;
+}
+
+double height() {
+    return QFontMetricsF(font()).height();
+}
+
+TextLayer layer(const QString& text, double presence = 1, double maximumWidth = 0) {
+    return {text, font(), maximumWidth, presence};
+}
+
+constexpr QSize room(400, 80);
+
+/// Draws `layer` about the middle of a clear image.
+QImage paintedLayer(TextLayer& layer) {
+    return test::painted(room, [&](QPainter& painter) {
+        layer.paint(painter, Qt::white, 200, 30, 0, room.width());
+    });
+}
+
+TEST(TextLayer, IsAsWideAsItsText) {
+    for (const char16_t* text :
+         {u"one", u"A line of a song", u"夜に駆ける", u"שלום עולם", u"नमस्ते"}) {
+        const QString line = QString::fromUtf16(text);
+        EXPECT_NEAR(layer(line).width(), QFontMetricsF(font()).horizontalAdvance(line), 1)
+            << qPrintable(line);
+        EXPECT_GT(layer(line).width(), 10);
+    }
+}
+
+TEST(TextLayer, OfNoTextHasNoWidthAndDrawsNothing) {
+    TextLayer empty = layer(QString());
+    EXPECT_EQ(empty.width(), 0);
+    EXPECT_TRUE(test::inkRect(paintedLayer(empty)).isEmpty());
+}
+
+TEST(TextLayer, DrawsItsTextAboutTheMiddle) {
+    for (const char16_t* text : {u"HHHHHH", u"שששששש", u"HHH\u05E9\u05E9\u05E9"}) {
+        TextLayer line = layer(QString::fromUtf16(text));
+        const QRect ink = test::inkRect(paintedLayer(line));
+        ASSERT_FALSE(ink.isEmpty());
+        EXPECT_NEAR(QRectF(ink).center().x(), 200, 2.5) << qPrintable(line.text());
+        EXPECT_NEAR(ink.width(), line.width(), 4);
+        EXPECT_GE(ink.top(), 30);
+        EXPECT_LE(ink.bottom(), 30 + height());
+    }
+}
+
+TEST(TextLayer, DrawsControlCharactersAndLineBreaksAsSpacesInOneLine) {
+    for (const char16_t* text : {u"H\nH", u"H\rH", u"H\tH", u"H\u2028H", u"H\u2029H", u"H\u0085H",
+                                 u"H\vH", u"H\u0001H", u"H\u007FH"}) {
+        TextLayer line = layer(QString::fromUtf16(text));
+        TextLayer spaced = layer(QStringLiteral("H H"));
+        EXPECT_DOUBLE_EQ(line.width(), spaced.width());
+        EXPECT_EQ(paintedLayer(line), paintedLayer(spaced));
+        EXPECT_EQ(line.text(), QString::fromUtf16(text)) << "it still goes by its own text";
+    }
+}
+
+TEST(TextLayer, IsSharpWhereverItsMiddleFalls) {
+    const auto at = [](double centre) {
+        TextLayer line = layer(QStringLiteral("HHHHHH"));
+        return test::painted(room, [&](QPainter& painter) {
+            line.paint(painter, Qt::white, centre, 30, 0, room.width());
+        });
+    };
+    const QImage reference = at(200);
+    const QRect ink = test::inkRect(reference);
+    for (const double shift : {0.2, 0.4, 0.6, 0.8}) {
+        const QImage shifted = at(200 + shift);
+        EXPECT_EQ(shifted.copy(test::inkRect(shifted)), reference.copy(ink)) << shift;
+    }
+}
+
+TEST(TextLayer, EndsInAnEllipsisWhereItMayNotGoOn) {
+    const QString text = QStringLiteral("A line that is much wider than its place");
+    TextLayer cut = layer(text, 1, 100);
+    EXPECT_LE(cut.width(), 100.5);
+    EXPECT_GT(cut.width(), 60);
+    EXPECT_EQ(cut.text(), text);
+    EXPECT_NEAR(layer(text, 1, 1000).width(), layer(text).width(), 1e-6);
+}
+
+TEST(TextLayer, ComesInFromNothingAndEndsAsIfItHadAlwaysBeenThere) {
+    TextLayer coming = layer(QStringLiteral("HHHHHH"), 0);
+    EXPECT_TRUE(test::inkRect(paintedLayer(coming)).isEmpty());
+    EXPECT_TRUE(coming.isGone());
+    coming.comeIn(10);
+    double last = 0;
+    for (const double time : {10.03, 10.06, 10.09}) {
+        EXPECT_TRUE(coming.advance(time));
+        EXPECT_FALSE(coming.isGone());
+        const double ink = test::ink(paintedLayer(coming));
+        EXPECT_GT(ink, last);
+        last = ink;
+    }
+    EXPECT_FALSE(coming.advance(20));
+    TextLayer there = layer(QStringLiteral("HHHHHH"));
+    EXPECT_EQ(paintedLayer(coming), paintedLayer(there));
+}
+
+TEST(TextLayer, IsBlurredOnItsWay) {
+    TextLayer there = layer(QStringLiteral("HHHHHH"));
+    TextLayer going = layer(QStringLiteral("HHHHHH"));
+    going.goAway(10);
+    going.advance(10.1);
+    const QRect sharp = test::inkRect(paintedLayer(there));
+    const QRect soft = test::inkRect(paintedLayer(going));
+    EXPECT_LT(soft.left(), sharp.left());
+    EXPECT_GT(soft.right(), sharp.right());
+    const int overhang = static_cast<int>(TextLayer::overhang());
+    EXPECT_TRUE(sharp.adjusted(-overhang, -overhang, overhang, overhang).contains(soft));
+}
+
+TEST(TextLayer, GoesAwayToNothing) {
+    TextLayer going = layer(QStringLiteral("HHHHHH"));
+    EXPECT_FALSE(going.isGone());
+    going.goAway(10);
+    EXPECT_TRUE(going.advance(10.1));
+    EXPECT_FALSE(going.isGone());
+    EXPECT_FALSE(going.advance(20));
+    EXPECT_TRUE(going.isGone());
+    EXPECT_TRUE(test::inkRect(paintedLayer(going)).isEmpty());
+}
+
+TEST(TextLayer, DrawsNoMoreThanWillBeSeenOfALineOnItsWay) {
+    TextLayer line = layer(QString(100'000, u'H'), 1);
+    ASSERT_GT(line.width(), 500'000);
+    line.goAway(10);
+    line.advance(10.1);
+    test::ImageRecorder window({640, 540});
+    QPainter painter(&window);
+    line.paint(painter, Qt::white, 320, 33, 0, 640);
+    painter.end();
+    EXPECT_GT(window.largestImage(), 640 * 10);
+    EXPECT_LT(window.largestImage(), 700 * 100);
+}
+
+TEST(TextLayer, DrawsNoImageOutsideWhatWillBeSeen) {
+    TextLayer line = layer(QStringLiteral("HHHHHH"), 1);
+    line.goAway(10);
+    line.advance(10.1);
+    test::ImageRecorder window({640, 540});
+    QPainter painter(&window);
+    line.paint(painter, Qt::white, 2000, 33, 0, 640);
+    painter.end();
+    EXPECT_EQ(window.largestImage(), 0);
+}
+
+} // namespace
+} // namespace brellowind

@@ -1,0 +1,133 @@
+#include "views/drawing/WaveformGlyph.h"
+#include "views/qt/Painting.h"
+
+#include <QAbstractEventDispatcher>
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace brellowind {
+namespace {
+
+constexpr int bars = WaveformGlyph::barCount;
+
+int strongest(double phase) {
+    int best = 0;
+    for (int i = 1; i < bars; ++i)
+        if (WaveformGlyph::strength(i, phase) > WaveformGlyph::strength(best, phase))
+            best = i;
+    return best;
+}
+
+bool ticks(WaveformGlyph& glyph) {
+    return !QAbstractEventDispatcher::instance()->registeredTimers(&glyph).isEmpty();
+}
+
+QImage paintedGlyph(WaveformGlyph& glyph) {
+    glyph.setSize({16, 16});
+    return test::painted(glyph, {16, 16}, {}, 4);
+}
+
+/// The opacity in the middle of each bar.
+std::vector<int> opacities(const QImage& image) {
+    std::vector<int> result;
+    for (int i = 0; i < bars; ++i)
+        result.push_back(qAlpha(image.pixel(8 + i * 12, image.height() / 2)));
+    return result;
+}
+
+TEST(WaveformStrength, IsNeverGoneAndNeverTooMuch) {
+    for (int i = 0; i < bars; ++i)
+        for (double phase = 0; phase <= 1; phase += 0.01) {
+            EXPECT_GE(WaveformGlyph::strength(i, phase), 0.3);
+            EXPECT_LE(WaveformGlyph::strength(i, phase), 1);
+        }
+}
+
+TEST(WaveformStrength, RunsThroughTheBarsOneAfterTheOther) {
+    std::vector<int> order;
+    for (double phase = 0; phase <= 1; phase += 0.001)
+        if (WaveformGlyph::strength(strongest(phase), phase) > 0.99 &&
+            (order.empty() || order.back() != strongest(phase)))
+            order.push_back(strongest(phase));
+    EXPECT_EQ(order, (std::vector<int>{0, 1, 2, 3, 4}));
+}
+
+TEST(WaveformStrength, EndsARoundAsItBegins) {
+    for (int i = 0; i < bars; ++i)
+        EXPECT_DOUBLE_EQ(WaveformGlyph::strength(i, 0), WaveformGlyph::strength(i, 1));
+}
+
+TEST(WaveformStrength, NeverJumps) {
+    for (int i = 0; i < bars; ++i)
+        for (double phase = 0; phase < 1; phase += 0.001)
+            EXPECT_NEAR(WaveformGlyph::strength(i, phase),
+                        WaveformGlyph::strength(i, phase + 0.001), 0.01);
+}
+
+TEST(WaveformGlyph, StandsStillAndEvenWhileItIsNotActive) {
+    WaveformGlyph glyph;
+    EXPECT_FALSE(glyph.isActive());
+    EXPECT_FALSE(ticks(glyph));
+    EXPECT_EQ(opacities(paintedGlyph(glyph)), std::vector<int>(bars, 255));
+}
+
+TEST(WaveformGlyph, TicksOnlyWhileItIsActiveAndVisible) {
+    WaveformGlyph glyph;
+    glyph.setActive(true);
+    EXPECT_TRUE(ticks(glyph));
+    glyph.setVisible(false);
+    EXPECT_FALSE(ticks(glyph));
+    glyph.setActive(false);
+    glyph.setVisible(true);
+    EXPECT_FALSE(ticks(glyph));
+    glyph.setVisible(false);
+    glyph.setActive(true);
+    EXPECT_FALSE(ticks(glyph));
+    glyph.setVisible(true);
+    EXPECT_TRUE(ticks(glyph));
+    glyph.setActive(false);
+    EXPECT_FALSE(ticks(glyph));
+}
+
+TEST(WaveformGlyph, HidesWithItsParent) {
+    QQuickItem parent;
+    WaveformGlyph glyph(&parent);
+    glyph.setActive(true);
+    parent.setVisible(false);
+    EXPECT_FALSE(ticks(glyph));
+}
+
+TEST(WaveformGlyph, ShowsTheWaveWhileItIsActive) {
+    WaveformGlyph glyph;
+    glyph.setActive(true);
+    std::set<std::vector<int>> looks;
+    for (int i = 0; i < 15; ++i) {
+        looks.insert(opacities(paintedGlyph(glyph)));
+        const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(&glyph);
+        ASSERT_EQ(timers.size(), 1);
+        QTimerEvent tick(timers[0].timerId);
+        QCoreApplication::sendEvent(&glyph, &tick);
+    }
+    EXPECT_GT(looks.size(), 8U);
+    EXPECT_TRUE(looks.contains(opacities(paintedGlyph(glyph)))) << "a round later it begins anew";
+}
+
+TEST(WaveformGlyph, StandsInTheMiddleOfItsRectangle) {
+    WaveformGlyph glyph;
+    glyph.setSize({16, 16});
+    EXPECT_EQ(test::inkRect(test::painted(glyph, {40, 40}, {10, 10})), QRect(11, 10, 14, 16));
+}
+
+TEST(WaveformGlyph, TellsOfRealChangesOnly) {
+    WaveformGlyph glyph;
+    int changes = 0;
+    QObject::connect(&glyph, &WaveformGlyph::activeChanged, [&] { ++changes; });
+    glyph.setActive(false);
+    glyph.setActive(true);
+    glyph.setActive(true);
+    EXPECT_EQ(changes, 1);
+}
+
+} // namespace
+} // namespace brellowind
