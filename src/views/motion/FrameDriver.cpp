@@ -28,6 +28,8 @@ void FrameDriver::drive(Animated& animated) {
 
 void FrameDriver::forget(Animated& animated) {
     std::ranges::replace(moving_, &animated, static_cast<Animated*>(nullptr));
+    if (frame_ < 0)
+        restIfNothingMoves();
 }
 
 void FrameDriver::freeze(double seconds) {
@@ -52,8 +54,12 @@ void FrameDriver::advanceAll() {
         if (animated && !animated->advance(frame_))
             std::ranges::replace(moving_, animated, static_cast<Animated*>(nullptr));
     }
-    std::erase(moving_, nullptr);
     frame_ = -1;
+    restIfNothingMoves();
+}
+
+void FrameDriver::restIfNothingMoves() {
+    std::erase(moving_, nullptr);
     if (moving_.empty() && state() == Running)
         stop();
 }

@@ -44,6 +44,7 @@ private:
     FrameDriver() = default;
 
     void advanceAll();
+    void restIfNothingMoves();
 
     std::vector<Animated*> moving_;
     double frame_ = -1;  ///< below 0: no frame is being made
