@@ -28,6 +28,9 @@ public:
     void setProperties(const QVariantMap& properties) { call("SetProperties", {properties}); }
     unsigned requests() { return call("Requests", {}).arguments().value(0).toUInt(); }
 
+    /// What the player is told to be, or has been made to be: "Playing" or "Paused".
+    QString status();
+
     /// Ends the player as its user would.
     void quit();
 
