@@ -29,6 +29,12 @@ QString Companion::readLine() {
     return QString::fromUtf8(process_.readLine()).trimmed();
 }
 
+int Companion::finish() {
+    if (!process_.waitForFinished(patienceMs) && isRunning())
+        return -1;
+    return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+}
+
 int Companion::end() {
     process_.waitForStarted(patienceMs);
     process_.terminate();

@@ -22,6 +22,9 @@ public:
     bool isRunning() const { return process_.state() != QProcess::NotRunning; }
     qint64 processId() const { return process_.processId(); }
 
+    /// Waits until it ends by itself. The exit status, or -1 when it crashed or takes too long.
+    int finish();
+
     /// Asks it to end and waits for that. The exit status, or -1 when it had to be killed.
     int end();
 

@@ -4,6 +4,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusReply>
+#include <QDBusVariant>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <utility>
@@ -30,6 +31,17 @@ QVariantMap PlayerProcess::metadata(const QString& title, const QString& artist,
         {QStringLiteral("xesam:artist"), QStringList{artist}},
         {QStringLiteral("xesam:album"), album},
     };
+}
+
+QString PlayerProcess::status() {
+    auto message = QDBusMessage::createMethodCall(name_, QStringLiteral("/org/mpris/MediaPlayer2"),
+                                                  QStringLiteral("org.freedesktop.DBus.Properties"),
+                                                  QStringLiteral("Get"));
+    message.setArguments(
+        {QStringLiteral("org.mpris.MediaPlayer2.Player"), QStringLiteral("PlaybackStatus")});
+    const QDBusReply<QDBusVariant> reply = bus_.call(message);
+    EXPECT_TRUE(reply.isValid()) << qPrintable(reply.error().message());
+    return reply.value().variant().toString();
 }
 
 void PlayerProcess::quit() {

@@ -29,6 +29,9 @@ public:
     void setAnswer(const char* manner) { call("SetAnswer", {QString::fromLatin1(manner)}); }
     unsigned requests() { return call("Requests", {}).arguments().value(0).toUInt(); }
 
+    /// What the player is told to be, or has been made to be: "Playing" or "Paused".
+    QString status();
+
     /// Ends the player as its user would.
     void quit();
 

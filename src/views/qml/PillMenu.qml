@@ -2,7 +2,7 @@ import QtQuick
 import Brellowind.Views
 
 /** The context menu of the pill, a small window of its own. */
-Window {
+MenuWindow {
     id: root
 
     required property NotchRootModel model
@@ -16,16 +16,10 @@ Window {
 
     width: entries.width + 2 * entries.x
     height: entries.height + 2 * entries.y
-    flags: Qt.Popup | Qt.FramelessWindowHint | Qt.NoDropShadowWindowHint
-    color: "transparent"
-
-    PopupGrab {
-        window: root
-    }
 
     Rectangle {
         anchors.fill: parent
-        radius: 10
+        radius: root.radius
         color: Qt.rgba(0.11, 0.11, 0.12, 1)
         border.color: Qt.rgba(1, 1, 1, 0.12)
         Accessible.role: Accessible.PopupMenu

@@ -5,7 +5,7 @@ import Brellowind.Views
 Rectangle {
     id: root
 
-    required property Window menu
+    required property MenuWindow menu
     required property string text
 
     signal triggered

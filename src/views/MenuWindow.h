@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QQuickWindow>
+#include <QtQml/qqmlregistration.h>
+
+namespace brellowind {
+
+/// A window that pops up over all others. While it is shown every click and key is its own, and it
+/// closes on Escape and on a press beside it; that press does nothing else. Its corners are round,
+/// also where nothing makes windows transparent.
+class MenuWindow : public QQuickWindow {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double radius READ radius CONSTANT)
+
+public:
+    explicit MenuWindow(QWindow* parent = nullptr);
+
+    double radius() const { return 10; }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void exposeEvent(QExposeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    bool isDismissedBy(const QObject* receiver, const QEvent* event) const;
+    void hold(bool held);
+
+    bool held_ = false;
+};
+
+} // namespace brellowind

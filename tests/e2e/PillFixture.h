@@ -1,0 +1,54 @@
+#pragma once
+
+#include "e2e/ObservedProgram.h"
+#include "loopback/LoopbackServer.h"
+#include "session/Desktop.h"
+#include "session/EventLoop.h"
+#include "session/PlayerProcess.h"
+#include "session/x11/Managers.h"
+#include "session/x11/Person.h"
+#include "session/x11/PlainWindow.h"
+#include "session/x11/XClient.h"
+
+#include <gtest/gtest.h>
+#include <optional>
+
+namespace brellowind::test {
+
+/// The pill on a desktop with a window manager, and a person with a pointer.
+class PillOnDesktop : public testing::Test {
+protected:
+    /// `screen` such as "1440x900x24"; `scale` pixels are one point.
+    explicit PillOnDesktop(const QString& screen = QStringLiteral("1440x900x24"), int scale = 1);
+
+    /// The program is started by the test, once the desktop is as the test wants it.
+    ObservedProgram& start();
+
+    /// Starts the program with a player that sings "line", and waits until the pill rests.
+    ObservedProgram& startSinging();
+
+    /// The middle of one of the pill's items on the screen, in pixels.
+    QPoint middleOf(const char* item);
+
+    /// Moves the pointer into the pill and waits until the pill is lifted.
+    void enterPill();
+
+    /// Moves the pointer far away and waits until the pill is back.
+    void leavePill();
+
+    /// The window beneath the pill, which covers the whole screen.
+    PlainWindow& below();
+
+    int scale;
+    QSize screenSize;
+    Desktop desktop;
+    XClient x{desktop.xServer.display()};
+    Person person{x};
+    WindowManager windowManager{desktop, x};
+    demo::LoopbackServer service;
+    std::optional<PlayerProcess> player;
+    std::optional<PlainWindow> below_;
+    std::optional<ObservedProgram> program;
+};
+
+} // namespace brellowind::test

@@ -1,0 +1,134 @@
+#include "e2e/PillFixture.h"
+
+namespace brellowind::test {
+namespace {
+
+class PillWindow : public PillOnDesktop {
+protected:
+    using PillOnDesktop::PillOnDesktop;
+
+    bool isAbove(xcb_window_t window, xcb_window_t other) {
+        const auto stack = x.stack();
+        return stack.indexOf(x.frameOf(window)) > stack.indexOf(x.frameOf(other));
+    }
+};
+
+TEST_F(PillWindow, HangsFromTheMiddleOfTheTopEdge) {
+    start();
+    EXPECT_EQ(x.geometry(program->window()), QRect(400, 0, 640, 540));
+}
+
+TEST_F(PillWindow, BelongsToNoWindowManagerAndTakesNoFocus) {
+    const PlainWindow other(desktop.xServer.display(), {100, 600, 200, 100},
+                            PlainWindow::Kind::managed);
+    ASSERT_TRUE(waitUntil([&] { return x.focus() == other.id(); }));
+    startSinging();
+    EXPECT_TRUE(x.overridesRedirect(program->window()));
+    const auto listed = x.property(x.root(), "_NET_CLIENT_LIST");
+    EXPECT_TRUE(listed.contains(other.id()));
+    EXPECT_FALSE(listed.contains(program->window()));
+    enterPill();
+    person.press();
+    EXPECT_TRUE(program->becomes("isMinimized"));
+    EXPECT_EQ(x.focus(), other.id());
+}
+
+TEST_F(PillWindow, StandsAboveAFullScreenWindowThatWasThereBefore) {
+    below();
+    start();
+    EXPECT_TRUE(waitUntil([&] { return isAbove(program->window(), below().id()); }));
+}
+
+TEST_F(PillWindow, ComesBackAboveAFullScreenWindowThatComesLater) {
+    start();
+    below();
+    EXPECT_TRUE(waitUntil([&] { return isAbove(program->window(), below().id()); }));
+}
+
+TEST_F(PillWindow, ComesBackAboveAWindowThatBypassesTheWindowManager) {
+    start();
+    const PlainWindow panel(desktop.xServer.display(), {0, 0, 1440, 30},
+                            PlainWindow::Kind::unmanaged);
+    EXPECT_TRUE(waitUntil([&] { return isAbove(program->window(), panel.id()); }));
+}
+
+TEST_F(PillWindow, IsNotShownWhileTheScreenSaverIsActive) {
+    start();
+    xcb_force_screen_saver(x.get(), XCB_SCREEN_SAVER_ACTIVE);
+    x.finish();
+    EXPECT_TRUE(waitUntil([&] { return !x.isViewable(program->window()); }));
+    xcb_force_screen_saver(x.get(), XCB_SCREEN_SAVER_RESET);
+    x.finish();
+    EXPECT_TRUE(waitUntil([&] { return x.isViewable(program->window()); }));
+    EXPECT_EQ(x.geometry(program->window()), QRect(400, 0, 640, 540));
+}
+
+TEST_F(PillWindow, ShowsWhatLiesBesideThePillWithoutACompositingManager) {
+    const QColor desktopColour = x.pixel({450, 300});
+    startSinging();
+    const QRectF pill = program->rectangle("pill");
+    const QPoint inside(700, 3);
+    EXPECT_TRUE(waitUntil([&] { return x.pixel(inside) == Qt::black; }));
+    below();
+    const QPoint beside(400 + int(pill.left()) - 20, 20);
+    EXPECT_TRUE(waitUntil([&] { return x.pixel(beside) == PlainWindow::colour(); }))
+        << qPrintable(x.pixel(beside).name()) << ", before " << qPrintable(desktopColour.name());
+    EXPECT_EQ(x.pixel(inside), QColor(Qt::black));
+}
+
+class PillWindowOnANarrowScreen : public PillWindow {
+protected:
+    PillWindowOnANarrowScreen() : PillWindow(QStringLiteral("600x800x24")) {}
+};
+
+TEST_F(PillWindowOnANarrowScreen, IsAsWideAsTheScreen) {
+    start();
+    EXPECT_EQ(x.geometry(program->window()), QRect(0, 0, 600, 540));
+}
+
+class PillWindowAtScaleTwo : public PillWindow {
+protected:
+    PillWindowAtScaleTwo() : PillWindow(QStringLiteral("2880x1800x24"), 2) {}
+};
+
+TEST_F(PillWindowAtScaleTwo, HasTwiceAsManyPixels) {
+    start();
+    EXPECT_EQ(x.geometry(program->window()), QRect(800, 0, 1280, 1080));
+}
+
+TEST_F(PillWindowAtScaleTwo, FeelsThePointerAtTheSamePoints) {
+    startSinging();
+    enterPill();
+    person.pressAt(middleOf("artwork"));
+    EXPECT_TRUE(program->becomes("isArtExpanded"));
+}
+
+class PillWindowUnderACompositor : public PillWindow {
+protected:
+    Compositor compositor{desktop, x};
+};
+
+TEST_F(PillWindowUnderACompositor, IsTransparentBesideThePill) {
+    below();
+    startSinging();
+    const QRectF pill = program->rectangle("pill");
+    EXPECT_TRUE(waitUntil([&] { return x.pixel({700, 3}) == Qt::black; }));
+    const QPoint beside(400 + int(pill.left()) - 20, 20);
+    EXPECT_TRUE(waitUntil([&] { return x.pixel(beside) == PlainWindow::colour(); }))
+        << qPrintable(x.pixel(beside).name());
+}
+
+TEST_F(PillWindowUnderACompositor, CastsAShadowWhileItIsLifted) {
+    below();
+    startSinging();
+    enterPill();
+    const QRectF pill = program->rectangle("pill");
+    const QPoint beneath(720, int(pill.bottom()) + 6);
+    EXPECT_TRUE(waitUntil([&] {
+        const QColor colour = x.pixel(beneath);
+        return colour.blue() > 0 && colour.blue() < PlainWindow::colour().blue();
+    })) << qPrintable(x.pixel(beneath).name());
+}
+
+} // namespace
+} // namespace brellowind::test

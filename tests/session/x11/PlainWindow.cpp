@@ -1,0 +1,41 @@
+#include "session/x11/PlainWindow.h"
+
+#include "session/EventLoop.h"
+
+#include <gtest/gtest.h>
+
+namespace brellowind::test {
+
+PlainWindow::PlainWindow(const QString& display, QRect geometry, Kind kind)
+    : client_(display), id_(xcb_generate_id(client_.get())) {
+    const std::uint32_t values[] = {colour().rgb() & 0xffffff, kind == Kind::unmanaged,
+                                    XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_STRUCTURE_NOTIFY};
+    xcb_create_window(
+        client_.get(), XCB_COPY_FROM_PARENT, id_, client_.root(),
+        static_cast<std::int16_t>(geometry.x()), static_cast<std::int16_t>(geometry.y()),
+        static_cast<std::uint16_t>(geometry.width()), static_cast<std::uint16_t>(geometry.height()),
+        0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+        XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+    if (kind == Kind::fullScreen) {
+        const auto fullScreen = client_.atom("_NET_WM_STATE_FULLSCREEN");
+        xcb_change_property(client_.get(), XCB_PROP_MODE_REPLACE, id_,
+                            client_.atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 1, &fullScreen);
+    }
+    EXPECT_TRUE(waitUntil([this] {
+        xcb_map_window(client_.get(),
+                       id_); // a window manager that has just come may miss the first
+        return client_.isViewable(id_);
+    }));
+}
+
+int PlainWindow::presses() {
+    client_.finish();
+    int count = 0;
+    while (auto* event = xcb_poll_for_event(client_.get())) {
+        count += (event->response_type & 0x7f) == XCB_BUTTON_PRESS;
+        std::free(event);
+    }
+    return count;
+}
+
+} // namespace brellowind::test
