@@ -28,7 +28,7 @@ XServer::XServer(const QString& screen)
     : server_(QStringLiteral("Xvfb"),
               {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                QStringLiteral("0"), screen, QStringLiteral("-dpi"), QStringLiteral("96"),
-               QStringLiteral("-nolisten"), QStringLiteral("tcp")}),
+               QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")}),
       display_(QStringLiteral(":") + server_.readLine()) {
     EXPECT_GT(display_.size(), 1) << "the X server did not start";
 }
