@@ -35,24 +35,6 @@ public:
     void paint(QPainter* painter) override { demo::paintDesktop(*painter, size()); }
 };
 
-platform::Services withImages(TestMachine& machine, platform::ImageDecoder& images) {
-    return {.mainLoop = machine.mainLoop,
-            .tasks = machine.tasks,
-            .clock = machine.clock,
-            .log = machine.log,
-            .http = machine.http,
-            .images = images,
-            .files = machine.files,
-            .scripting = machine.scripting,
-            .runningApplications = machine.runningApplications,
-            .screens = machine.screens,
-            .pointer = machine.pointer,
-            .application = machine.application,
-            .links = machine.links,
-            .loginItem = machine.loginItem,
-            .constants = machine.constants};
-}
-
 /// What the service answers with for lyrics in the LRC format.
 std::string answer(const QString& lrc) {
     if (lrc.isEmpty())
@@ -76,7 +58,7 @@ void prepareForPictures() {
 }
 
 PillStage::PillStage()
-    : images_(largestArtworkPoints), scope_(withImages(machine_, images_)),
+    : images_(largestArtworkPoints), scope_(machine_.with(images_)),
       root_(NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}})) {
     FrameDriver::shared().freeze(0);
     const platform::Screen screen{.frame = {0, 0, screenWidth, screenHeight}};

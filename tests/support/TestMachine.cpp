@@ -56,20 +56,33 @@ TestMachine::TestMachine()
                 .feedbackEmail = "feedback@brellowind.example",
                 .updateFeedURL = "https://brellowind.example/latest.json",
                 .legalNotice = "© brellowind.example"},
-      scope_({.mainLoop = mainLoop,
-              .tasks = tasks,
-              .clock = clock,
-              .log = log,
-              .http = http,
-              .images = images,
-              .files = files,
-              .scripting = scripting,
-              .runningApplications = runningApplications,
-              .screens = screens,
-              .pointer = pointer,
-              .application = application,
-              .links = links,
-              .loginItem = loginItem,
-              .constants = constants}) {}
+      scope_(services(mainLoop, tasks, images)) {}
+
+platform::Services TestMachine::with(platform::MainLoop& otherLoop, TaskRunner& otherTasks) {
+    return services(otherLoop, otherTasks, images);
+}
+
+platform::Services TestMachine::with(platform::ImageDecoder& otherImages) {
+    return services(mainLoop, tasks, otherImages);
+}
+
+platform::Services TestMachine::services(platform::MainLoop& anyLoop, TaskRunner& anyTasks,
+                                         platform::ImageDecoder& anyImages) {
+    return {.mainLoop = anyLoop,
+            .tasks = anyTasks,
+            .clock = clock,
+            .log = log,
+            .http = http,
+            .images = anyImages,
+            .files = files,
+            .scripting = scripting,
+            .runningApplications = runningApplications,
+            .screens = screens,
+            .pointer = pointer,
+            .application = application,
+            .links = links,
+            .loginItem = loginItem,
+            .constants = constants};
+}
 
 } // namespace brellowind::test

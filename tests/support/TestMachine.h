@@ -176,7 +176,15 @@ public:
     FakeLoginItem loginItem;
     platform::ProductConstants constants;
 
+    /// The services of this machine with another main loop and its tasks, or with another decoder,
+    /// for a scope of the test's own.
+    platform::Services with(platform::MainLoop& otherLoop, TaskRunner& otherTasks);
+    platform::Services with(platform::ImageDecoder& otherImages);
+
 private:
+    platform::Services services(platform::MainLoop& anyLoop, TaskRunner& anyTasks,
+                                platform::ImageDecoder& anyImages);
+
     platform::ServicesScope scope_;
 };
 

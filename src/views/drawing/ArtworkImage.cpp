@@ -4,12 +4,6 @@
 #include <algorithm>
 
 namespace brellowind {
-namespace {
-
-const QColor placeholder = QColor::fromRgbF(0.11F, 0.11F, 0.11F);
-
-} // namespace
-
 ArtworkImage::ArtworkImage(QQuickItem* parent) : PainterItem(parent) {}
 
 void ArtworkImage::setImage(const QImage& image) {
@@ -32,7 +26,7 @@ void ArtworkImage::setRadius(double radius) {
 void ArtworkImage::paint(QPainter& painter) {
     const QRectF square = fillingSquare(size());
     painter.setPen(Qt::NoPen);
-    painter.setBrush(cover_.isNull() ? QBrush(placeholder)
+    painter.setBrush(cover_.isNull() ? QBrush(coverPlaceholder)
                                      : cover_.brush(square, square.width() * pixelRatio()));
     painter.drawRoundedRect(boundingRect(), radius_, radius_);
 }

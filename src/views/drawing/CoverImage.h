@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QBrush>
+#include <QColor>
 #include <QImage>
 #include <QRectF>
 #include <vector>
 
 namespace brellowind {
+
+/// What is seen where a cover is missing.
+inline const QColor coverPlaceholder = QColor::fromRgbF(0.11F, 0.11F, 0.11F);
 
 /// A square image that is drawn at many sizes: it keeps copies of itself, each half as large as the
 /// one before, so that a thumbnail is as smooth as the whole.

@@ -16,7 +16,6 @@ constexpr double sigma = 0.05 * blurredSide;
 /// The dark, slightly see-through material of overlays.
 const QColor material(28, 28, 30, 105);
 const QColor dimming(0, 0, 0, 51); ///< black at 0.2
-const QColor placeholder = QColor::fromRgbF(0.11F, 0.11F, 0.11F);
 
 QImage blurredCover(const QImage& image) {
     if (image.isNull())
@@ -71,7 +70,8 @@ void VisualEffectBlur::paint(QPainter& painter) {
     shape.arcTo(rect.left(), rect.bottom() - 2 * radius_, 2 * radius_, 2 * radius_, 270, -90);
     shape.closeSubpath();
     const QRectF cover(0, rect.bottom() - coverSide_, coverSide_, coverSide_);
-    painter.fillPath(shape, blurred_.isNull() ? QBrush(placeholder) : imageBrush(blurred_, cover));
+    painter.fillPath(shape,
+                     blurred_.isNull() ? QBrush(coverPlaceholder) : imageBrush(blurred_, cover));
     painter.fillPath(shape, material);
     painter.fillPath(shape, dimming);
 }

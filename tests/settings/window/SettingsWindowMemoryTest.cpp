@@ -35,21 +35,7 @@ protected:
     test::TestMachine machine;
     platform::QtMainLoop mainLoop;
     TaskRunner tasks{mainLoop};
-    platform::ServicesScope scope{{.mainLoop = mainLoop,
-                                   .tasks = tasks,
-                                   .clock = machine.clock,
-                                   .log = machine.log,
-                                   .http = machine.http,
-                                   .images = machine.images,
-                                   .files = machine.files,
-                                   .scripting = machine.scripting,
-                                   .runningApplications = machine.runningApplications,
-                                   .screens = machine.screens,
-                                   .pointer = machine.pointer,
-                                   .application = machine.application,
-                                   .links = machine.links,
-                                   .loginItem = machine.loginItem,
-                                   .constants = machine.constants}};
+    platform::ServicesScope scope{machine.with(mainLoop, tasks)};
     SettingsWindow settings;
 };
 
