@@ -8,6 +8,8 @@ int main(int argc, char** argv) {
     brellowind::BrellowindApp::prepare();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
+    // The desktop finds the icon of the settings window through it.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.brellowind.Brellowind"));
     brellowind::BrellowindApp app(brellowind::compiledConstants());
     if (!app.claimDisplay())
         return 0;

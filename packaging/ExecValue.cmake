@@ -1,0 +1,15 @@
+# How a desktop entry starts the program in `folder`: a desktop finds bare names in the usual folders
+# only; elsewhere its entry needs the whole path.
+function(brellowind_exec_value folder result)
+  set(value brellowind)
+  if(NOT folder MATCHES "^/usr(/local)?/bin$")
+    set(value "${folder}/brellowind")
+    if(value MATCHES "[]\"`$\\%=;\t\r\n[]") # brackets hold CMake's lists together
+      message(FATAL_ERROR " a desktop entry cannot name a program in ${folder}") # the space: one line
+    endif()
+    if(value MATCHES "[^A-Za-z0-9/._+-]")
+      set(value "\"${value}\"")
+    endif()
+  endif()
+  set(${result} "${value}" PARENT_SCOPE)
+endfunction()
