@@ -32,6 +32,9 @@
 namespace brellowind {
 namespace {
 
+constexpr auto platformVariable = "QT_QPA_PLATFORM";
+bool chosePlatform = false;
+
 /// The side of the enlarged artwork.
 constexpr int largestArtworkPoints = 320;
 
@@ -101,8 +104,10 @@ struct BrellowindApp::Machine {
 
 void BrellowindApp::prepare() {
     // The pill's window is an X11 window; on a Wayland session it comes through XWayland.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    if (!qEnvironmentVariableIsSet(platformVariable)) {
+        qputenv(platformVariable, "xcb");
+        chosePlatform = true;
+    }
     // A pill is too small to need a graphics card, and takes a third of the memory without one.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -113,7 +118,10 @@ bool BrellowindApp::claimDisplay() {
 }
 
 BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)
-    : machine_(std::make_unique<Machine>(constants)) {}
+    : machine_(std::make_unique<Machine>(constants)) {
+    if (chosePlatform)
+        qunsetenv(platformVariable); // not for the programs that open links
+}
 
 BrellowindApp::~BrellowindApp() = default;
 

@@ -129,7 +129,7 @@ TEST_F(MprisPlayerHang, EndsWhenThePlayerIsKilledAndStartedAgain) {
     EXPECT_TRUE(readsAgain(reads, "")); // nobody plays
     player = std::make_unique<PlayerProcess>(bus.connection());
     player->setTrack(song("Again"));
-    EXPECT_THAT(reads.execute(readOut).text, Optional(recordOf("Again")));
+    EXPECT_TRUE(readsAgain(reads, recordOf("Again")));
 }
 
 TEST_F(MprisPlayerHang, EndsWhenThePlayerIsReplacedBeforeAnybodyLooks) {
