@@ -11,8 +11,11 @@ constexpr int patienceMs = 10000;
 } // namespace
 
 Companion::Companion(const QString& program, const QStringList& arguments,
-                     const QProcessEnvironment& environment) {
-    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+                     const QProcessEnvironment& environment, const QString& errorFile) {
+    if (errorFile.isEmpty())
+        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    else
+        process_.setStandardErrorFile(errorFile, QIODevice::Append);
     process_.setProcessEnvironment(environment);
     process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     process_.start(program, arguments);

@@ -10,8 +10,10 @@ namespace brellowind::demo {
 /// A process that lives no longer than this one, whatever ends it.
 class Companion {
 public:
+    /// Its standard error goes to the file at `errorFile`; without one, where this process's goes.
     Companion(const QString& program, const QStringList& arguments,
-              const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
+              const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment(),
+              const QString& errorFile = {});
     Companion(const Companion&) = delete;
     Companion& operator=(const Companion&) = delete;
     ~Companion();

@@ -2,13 +2,17 @@
 
 #include "session/EventLoop.h"
 
-#include <QDBusArgument>
-#include <QDBusConnection>
 #include <QElapsedTimer>
+#include <QFile>
+#include <cstdio>
 #include <gtest/gtest.h>
 
 namespace brellowind::test {
 namespace {
+
+const auto programFile = QStringLiteral(BRELLOWIND_OBSERVED_PROGRAM);
+const auto pillPath = QStringLiteral("/pill");
+const auto pillInterface = QStringLiteral("org.brellowind.Pill");
 
 constexpr std::chrono::milliseconds stillness{250}; ///< longer than any spring stands at its turn
 
@@ -17,20 +21,43 @@ QProcessEnvironment joined(QProcessEnvironment environment, const QProcessEnviro
     return environment;
 }
 
+/// The name of a file that is there from now on.
+QString nameOf(QTemporaryFile& file) {
+    EXPECT_TRUE(file.open());
+    return file.fileName();
+}
+
 } // namespace
 
-ObservedProgram::ObservedProgram(const Desktop& desktop, const QString& lyricsOrigin,
+ObservedProgram::ObservedProgram(const Desktop& desktop, const QString& origin,
                                  const QProcessEnvironment& more)
-    : bus_(desktop.bus.connection()),
-      process_(QStringLiteral(BRELLOWIND_OBSERVED_PROGRAM), {lyricsOrigin},
-               joined(desktop.environment(), more)) {
-    EXPECT_TRUE(bus_.connect(QString(), QStringLiteral("/pill"),
-                             QStringLiteral("org.brellowind.Pill"), QStringLiteral("TextChanged"),
-                             this, SLOT(textChanged(QString))));
+    : arguments_{origin}, environment_(joined(desktop.environment(), more)),
+      pill_(desktop.bus.connection(), pillPath, pillInterface), settings_(desktop.bus.connection()),
+      process_(programFile, arguments_, environment_, nameOf(errorFile_)) {
+    auto bus = desktop.bus.connection();
+    EXPECT_TRUE(bus.connect(QString(), pillPath, pillInterface, QStringLiteral("TextChanged"), this,
+                            SLOT(textChanged(QString))));
     EXPECT_EQ(process_.readLine(), QStringLiteral("ready"));
-    const QString first = ask("Text").toString();
+    const QString first = pill_.ask("Text").toString();
     if (texts_.isEmpty())
         texts_.append(first);
+}
+
+ObservedProgram::~ObservedProgram() {
+    process_.end();
+    for (const QString& line : errors())
+        std::fprintf(stderr, "%s\n", qPrintable(line));
+}
+
+int ObservedProgram::startAgain() {
+    demo::Companion again(programFile, arguments_, environment_, errorFile_.fileName());
+    return again.finish();
+}
+
+QStringList ObservedProgram::errors() const {
+    QFile file(errorFile_.fileName());
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
 }
 
 bool ObservedProgram::shows(const QString& text) {
@@ -57,22 +84,10 @@ void ObservedProgram::textChanged(const QString& text) {
     texts_.append(text);
 }
 
-QVariant ObservedProgram::ask(const char* method, const QVariantList& arguments) {
-    auto question = QDBusMessage::createMethodCall(
-        QStringLiteral("org.brellowind.Observed"), QStringLiteral("/pill"),
-        QStringLiteral("org.brellowind.Pill"), QString::fromLatin1(method));
-    question.setArguments(arguments);
-    const auto reply = bus_.call(question);
-    EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage) << qPrintable(reply.errorMessage());
-    const QVariant answer = reply.arguments().value(0);
-    return answer.userType() == qMetaTypeId<QDBusVariant>() ? answer.value<QDBusVariant>().variant()
-                                                            : answer;
-}
-
 QRectF ObservedProgram::rect(const char* method, const QString& argument) {
-    const auto numbers = qdbus_cast<QList<double>>(ask(method, {argument}));
-    EXPECT_EQ(numbers.size(), 4) << method << " of " << qPrintable(argument);
-    return numbers.size() == 4 ? QRectF(numbers[0], numbers[1], numbers[2], numbers[3]) : QRectF();
+    const auto found = pill_.rectangle(method, {argument});
+    EXPECT_TRUE(found) << method << " of " << qPrintable(argument);
+    return found.value_or(QRectF());
 }
 
 } // namespace brellowind::test

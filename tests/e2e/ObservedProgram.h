@@ -1,12 +1,14 @@
 #pragma once
 
 #include "companion/Companion.h"
+#include "e2e/ObservedSettings.h"
+#include "e2e/Observer.h"
 #include "session/Desktop.h"
 
-#include <QDBusMessage>
 #include <QObject>
 #include <QRectF>
 #include <QStringList>
+#include <QTemporaryFile>
 #include <QVariant>
 
 namespace brellowind::test {
@@ -16,10 +18,13 @@ class ObservedProgram : public QObject {
     Q_OBJECT
 
 public:
-    /// Runs it on `desktop` with the lyrics service at `lyricsOrigin` and with `more` in its
-    /// environment. Fails the running test when no pill appears.
-    ObservedProgram(const Desktop& desktop, const QString& lyricsOrigin,
+    /// Runs it on `desktop` with `more` in its environment. The service at `origin` has the lyrics
+    /// for it, and as "/latest.json" the release feed. Fails the running test when no pill appears.
+    ObservedProgram(const Desktop& desktop, const QString& origin,
                     const QProcessEnvironment& more = {});
+
+    /// What it wrote to its standard error goes to that of the test.
+    ~ObservedProgram() override;
 
     /// The text that the pill's line shows at this moment.
     QString text() const { return texts_.isEmpty() ? QString() : texts_.constLast(); }
@@ -34,14 +39,14 @@ public:
     bool shows(const QString& text);
 
     /// What the pill is drawn from, such as "isMinimized".
-    bool is(const char* form) { return ask("Form", {latin1(form)}).toBool(); }
+    bool is(const char* form) { return pill_.ask("Form", {latin1(form)}).toBool(); }
 
     /// Waits until that is `value`.
     bool becomes(const char* form, bool value = true);
 
     /// A property of one of the pill's items.
     QVariant property(const char* item, const char* name) {
-        return ask("Property", {latin1(item), latin1(name)});
+        return pill_.ask("Property", {latin1(item), latin1(name)});
     }
 
     /// Where an item is drawn in the window, in points.
@@ -56,24 +61,36 @@ public:
     bool comesToRest();
 
     /// The native window, and that of the context menu, which is 0 while it is closed.
-    quint32 window() { return ask("Window").toUInt(); }
-    quint32 menu() { return ask("Menu").toUInt(); }
+    quint32 window() { return pill_.ask("Window").toUInt(); }
+    quint32 menu() { return pill_.ask("Menu").toUInt(); }
 
     /// Where an entry of the context menu is in the menu's window, in points.
     QRectF menuEntry(const char* text) { return rect("MenuEntry", QString::fromUtf8(text)); }
 
+    const ObservedSettings& settings() const { return settings_; }
+
     demo::Companion& process() { return process_; }
+
+    /// Starts it a second time, in the same way, and waits until that start has ended. Its exit
+    /// status, or -1 when it does not end.
+    int startAgain();
+
+    /// The lines that it and its second starts have written to their standard error.
+    QStringList errors() const;
 
 private:
     static QString latin1(const char* text) { return QString::fromLatin1(text); }
 
     Q_SLOT void textChanged(const QString& text);
 
-    /// Asks the observer within the program; fails the running test without an answer.
-    QVariant ask(const char* method, const QVariantList& arguments = {});
+    /// Fails the running test when there is no such thing.
     QRectF rect(const char* method, const QString& argument);
 
-    QDBusConnection bus_;
+    QTemporaryFile errorFile_;
+    QStringList arguments_;
+    QProcessEnvironment environment_;
+    Observer pill_;
+    ObservedSettings settings_;
     demo::Companion process_;
     QStringList texts_;
 };

@@ -15,13 +15,12 @@ QSize size(const QString& screen) {
 PillOnDesktop::PillOnDesktop(const QString& screen, int scale_)
     : scale(scale_), screenSize(size(screen)), desktop(screen),
       service([](const demo::Exchange& exchange) { exchange.respond(200, lyrics); }) {
+    environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(scale));
     person.pointAt({2, screenSize.height() - 2});
 }
 
 ObservedProgram& PillOnDesktop::start() {
-    QProcessEnvironment more;
-    more.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(scale));
-    auto& started = program.emplace(desktop, service.origin(), more);
+    auto& started = program.emplace(desktop, service.origin(), environment);
     EXPECT_TRUE(waitUntil([&] { return x.isViewable(started.window()); }));
     return started;
 }
@@ -52,6 +51,25 @@ void PillOnDesktop::leavePill() {
     person.pointAt({2, screenSize.height() - 2});
     EXPECT_TRUE(program->becomes("hovered", false));
     EXPECT_TRUE(program->comesToRest());
+}
+
+QPoint PillOnDesktop::openMenu() {
+    enterPill();
+    const QPoint place = middleOf("pill");
+    person.pressAt(place, Person::secondary);
+    EXPECT_TRUE(waitUntil([&] { return program->menu() != 0; }));
+    EXPECT_TRUE(waitUntil([&] { return x.isViewable(program->menu()); }));
+    return place;
+}
+
+QPoint PillOnDesktop::middleOfEntry(const char* text) {
+    const QPointF middle = program->menuEntry(text).center() * scale;
+    return x.geometry(program->menu()).topLeft() + middle.toPoint();
+}
+
+void PillOnDesktop::choose(const char* entry) {
+    openMenu();
+    person.pressAt(middleOfEntry(entry));
 }
 
 PlainWindow& PillOnDesktop::below() {

@@ -36,6 +36,16 @@ protected:
     /// Moves the pointer far away and waits until the pill is back.
     void leavePill();
 
+    /// Presses the secondary button in the middle of the pill, and gives that place once the
+    /// context menu is open.
+    QPoint openMenu();
+
+    /// The middle of an entry of the open context menu on the screen, in pixels.
+    QPoint middleOfEntry(const char* text);
+
+    /// Opens the context menu and presses an entry of it.
+    void choose(const char* entry);
+
     /// The window beneath the pill, which covers the whole screen.
     PlainWindow& below();
 
@@ -46,6 +56,7 @@ protected:
     Person person{x};
     WindowManager windowManager{desktop, x};
     demo::LoopbackServer service;
+    QProcessEnvironment environment; ///< what the program gets beside the desktop's
     std::optional<PlayerProcess> player;
     std::optional<PlainWindow> below_;
     std::optional<ObservedProgram> program;

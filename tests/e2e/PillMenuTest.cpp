@@ -5,35 +5,21 @@ namespace {
 
 class PillMenu : public PillOnDesktop {
 protected:
-    /// Presses the secondary button in the middle of the pill, and gives that place.
-    QPoint open() {
-        enterPill();
-        const QPoint place = middleOf("pill");
-        person.pressAt(place, Person::secondary);
-        EXPECT_TRUE(waitUntil([&] { return program->menu() != 0; }));
-        EXPECT_TRUE(waitUntil([&] { return x.isViewable(program->menu()); }));
-        return place;
-    }
-
     bool closes() {
         return waitUntil([&] { return program->menu() == 0; });
-    }
-
-    QPoint middleOfEntry(const char* text) {
-        return x.geometry(program->menu()).topLeft() + program->menuEntry(text).center().toPoint();
     }
 };
 
 TEST_F(PillMenu, OpensWhereThePointerIs) {
     startSinging();
-    const QPoint place = open();
+    const QPoint place = openMenu();
     EXPECT_EQ(x.geometry(program->menu()).topLeft(), place);
     EXPECT_FALSE(program->is("isMinimized")) << "a secondary press is no tap";
 }
 
 TEST_F(PillMenu, StaysWhenThePointerLeavesThePillForIt) {
     startSinging();
-    open();
+    openMenu();
     person.pointAt(middleOfEntry("Quit Brellowind"));
     EXPECT_TRUE(program->becomes("hovered", false));
     EXPECT_NE(program->menu(), 0U);
@@ -41,7 +27,7 @@ TEST_F(PillMenu, StaysWhenThePointerLeavesThePillForIt) {
 
 TEST_F(PillMenu, ClosesOnAPressElsewhere) {
     startSinging();
-    open();
+    openMenu();
     person.pressAt({100, 700});
     EXPECT_TRUE(closes());
     EXPECT_TRUE(program->process().isRunning());
@@ -49,7 +35,7 @@ TEST_F(PillMenu, ClosesOnAPressElsewhere) {
 
 TEST_F(PillMenu, ClosesOnTheEscapeKey) {
     startSinging();
-    open();
+    openMenu();
     person.pressEscape();
     EXPECT_TRUE(closes());
 }
@@ -57,7 +43,7 @@ TEST_F(PillMenu, ClosesOnTheEscapeKey) {
 TEST_F(PillMenu, HasRoundCornersWithoutACompositingManager) {
     startSinging();
     below();
-    const QPoint place = open();
+    const QPoint place = openMenu();
     EXPECT_TRUE(waitUntil([&] { return x.pixel(place + QPoint(20, 2)).value() < 60; }));
     EXPECT_TRUE(waitUntil([&] {
         const QPoint corner = x.geometry(program->menu()).bottomLeft();
@@ -67,7 +53,7 @@ TEST_F(PillMenu, HasRoundCornersWithoutACompositingManager) {
 
 TEST_F(PillMenu, ClosesWhenAnEntryIsChosen) {
     startSinging();
-    open();
+    openMenu();
     person.pressAt(middleOfEntry("Open Settings"));
     EXPECT_TRUE(closes());
     EXPECT_TRUE(program->process().isRunning());
@@ -75,7 +61,7 @@ TEST_F(PillMenu, ClosesWhenAnEntryIsChosen) {
 
 TEST_F(PillMenu, QuitEndsTheProgramWithoutAFault) {
     startSinging();
-    open();
+    openMenu();
     person.pressAt(middleOfEntry("Quit Brellowind"));
     EXPECT_EQ(program->process().finish(), 0);
 }

@@ -1,24 +1,33 @@
 #include "PillObserver.h"
+#include "SettingsObserver.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
 
 #include <QGuiApplication>
 #include <cstdio>
+#include <string>
 
 int main(int argc, char** argv) {
-    brellowind::BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
     if (argc != 2) {
-        std::fprintf(stderr, "usage: brellowind-observed LYRICS-ORIGIN\n");
+        std::fprintf(stderr, "usage: brellowind-observed ORIGIN\n");
         return 2;
     }
+    const std::string origin = argv[1];
+    argc = 1;
+    brellowind::BrellowindApp::prepare();
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
     auto constants = brellowind::compiledConstants();
-    constants.lyricsOrigin = argv[1];
+    constants.lyricsOrigin = origin;
+    constants.updateFeedURL = origin + "/latest.json";
     brellowind::BrellowindApp app(constants);
+    if (!app.claimDisplay())
+        return 0;
     app.launch();
     brellowind::test::PillObserver observer(app.window());
-    if (!observer.listen()) {
-        std::fprintf(stderr, "brellowind-observed: the pill cannot be observed\n");
+    brellowind::test::SettingsObserver settingsObserver;
+    if (!settingsObserver.listen() || !observer.listen()) {
+        std::fprintf(stderr, "brellowind-observed: the program cannot be observed\n");
         return 1;
     }
     std::printf("ready\n");
