@@ -64,13 +64,17 @@ class Bench:
             result["requestsPerSecond"] = ((player.requests() - asked)
                                            / sum(r["seconds"] for r in rounds))
             result["playing"] |= best(rounds, "program")
+            service.lyrics = "[00:01.00]one"
+            player.play("Between lines", "Singer", 3600, service.origin + "/cover/1")
+            time.sleep(4)
+            rounds += (between := [self.round([program.pid], [floor.pid]) for _ in range(2)])
+            result["betweenLines"] = best(between, "program")
             player.pause()
             time.sleep(3)
             rounds += (paused := [self.round([program.pid], [floor.pid]) for _ in range(2)])
             result["paused"] = best(paused, "program")
             result["window"] |= best(rounds, "floor")
             program.ask("hide waveform")
-            service.lyrics = "[00:01.00]one"
             player.play("Still", "Singer", 3600)
             player.call("SetPosition", dbus.Int64(100_000_000))
             time.sleep(4)
