@@ -110,6 +110,11 @@ void BrellowindApp::prepare() {
     }
     // A pill is too small to need a graphics card, and takes a third of the memory without one.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    // A frame is drawn in the turn that asks for it: waiting would wake the processor once more.
+    qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    // And sent to the X server at once: of memory shared with the server every frame would have to
+    // ask whether it is free, which wakes both and costs more than sending the few pixels.
+    qputenv("QT_XCB_NO_MITSHM", "1");
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 

@@ -1,16 +1,17 @@
 #include "foundation/SharedText.h"
 
 #include <algorithm>
+#include <new>
 
 namespace brellowind {
 
-SharedText::SharedText(std::string_view text)
-    : buffer_(copyBytes(text)), slice_(buffer_.get(), text.size()) {}
+SharedBytes::SharedBytes(std::string_view bytes)
+    : block_(new (::operator new(sizeof(Block) + bytes.size())) Block{1}) {
+    std::ranges::copy(bytes, reinterpret_cast<char*>(block_ + 1));
+}
 
-SharedText::Buffer SharedText::copyBytes(std::string_view text) {
-    auto buffer = std::make_shared_for_overwrite<char[]>(text.size());
-    std::ranges::copy(text, buffer.get());
-    return buffer;
+void SharedBytes::release() {
+    ::operator delete(block_);
 }
 
 } // namespace brellowind

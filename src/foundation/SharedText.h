@@ -1,11 +1,48 @@
 #pragma once
 
-#include <memory>
+#include <cstddef>
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace brellowind {
+
+/// Immutable bytes that all copies of a handle own together.
+///
+/// The copies stay on one thread: counting them atomically would cost more than all else that is
+/// done for a line of lyrics.
+class SharedBytes {
+public:
+    SharedBytes() = default;
+    explicit SharedBytes(std::string_view bytes);
+    SharedBytes(const SharedBytes& other) : block_(other.block_) {
+        if (block_)
+            ++block_->owners;
+    }
+    SharedBytes(SharedBytes&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
+    SharedBytes& operator=(SharedBytes other) noexcept {
+        std::swap(block_, other.block_);
+        return *this;
+    }
+    ~SharedBytes() {
+        if (block_ && --block_->owners == 0)
+            release();
+    }
+
+    /// The first byte; null for a handle of nothing.
+    const char* get() const { return block_ ? reinterpret_cast<const char*>(block_ + 1) : nullptr; }
+
+private:
+    struct Block {
+        std::size_t owners;
+        // The bytes follow.
+    };
+
+    void release();
+
+    Block* block_ = nullptr;
+};
 
 /// An immutable UTF-8 text whose copies share its bytes, as may other texts cut from one buffer.
 ///
@@ -13,18 +50,15 @@ namespace brellowind {
 /// with the file and not with what it repeats.
 class SharedText {
 public:
-    using Buffer = std::shared_ptr<const char[]>;
-
     SharedText() = default;
 
     /// Copies `text` into a buffer of its own.
-    explicit SharedText(std::string_view text);
+    explicit SharedText(std::string_view text)
+        : buffer_(text), slice_(buffer_.get(), text.size()) {}
 
     /// Shares `buffer`; `slice` must lie inside it.
-    SharedText(Buffer buffer, std::string_view slice) : buffer_(std::move(buffer)), slice_(slice) {}
-
-    /// A buffer that holds the bytes of `text`, for several texts to share.
-    static Buffer copyBytes(std::string_view text);
+    SharedText(SharedBytes buffer, std::string_view slice)
+        : buffer_(std::move(buffer)), slice_(slice) {}
 
     /// Valid for as long as this text or a copy of it lives.
     std::string_view view() const { return slice_; }
@@ -45,7 +79,7 @@ public:
     }
 
 private:
-    Buffer buffer_;
+    SharedBytes buffer_;
     std::string_view slice_;
 };
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <optional>
 #include <unicode/uchar.h>
 
 namespace brellowind::LRCParser {
@@ -16,9 +15,12 @@ struct Digits {
     int value = 0; ///< 0 when any digit is foreign
 };
 
+/// What was read of one time tag; without an end there was none.
 struct Tag {
-    double time; ///< seconds
-    const char* end;
+    double time = 0; ///< seconds
+    const char* end = nullptr;
+
+    explicit operator bool() const { return end != nullptr; }
 };
 
 struct TimedText {
@@ -69,40 +71,63 @@ bool take(const char*& position, const char* end, char wanted) {
     return true;
 }
 
+double seconds(int minutes, int seconds, double fraction) {
+    return minutes * 60 + seconds + fraction;
+}
+
+/// Reads the form that nearly all tags have, [mm:ss.ff] in ASCII digits, without a branch on the
+/// way: there the time goes that a text takes.
+Tag readUsualTag(const char* open, const char* end) {
+    constexpr std::ptrdiff_t length = 10;
+    if (end - open < length)
+        return {};
+    const auto digit = [open](int i) { return static_cast<unsigned char>(open[i] - '0'); };
+    const auto pair = [digit](int i) { return digit(i) * 10 + digit(i + 1); };
+    bool fits = (open[3] == ':') & (open[6] == '.') & (open[9] == ']');
+    for (const int i : {1, 2, 4, 5, 7, 8})
+        fits &= digit(i) <= 9;
+    if (!fits)
+        return {};
+    return {seconds(pair(1), pair(4), pair(7) / 100.0), open + length};
+}
+
 /// Reads one tag, [minutes:seconds] or [minutes:seconds.fraction], at the bracket `open` points to.
-std::optional<Tag> readTag(const char* open, const char* end) {
+Tag readTag(const char* open, const char* end) {
+    if (const auto tag = readUsualTag(open, end))
+        return tag;
     const char* position = open + 1;
-    const auto minutes = takeDigits(position, end, 2);
-    if (minutes.count == 0 || !take(position, end, ':'))
-        return std::nullopt;
-    const auto seconds = takeDigits(position, end, 2);
-    if (seconds.count == 0)
-        return std::nullopt;
+    const auto minute = takeDigits(position, end, 2);
+    if (minute.count == 0 || !take(position, end, ':'))
+        return {};
+    const auto second = takeDigits(position, end, 2);
+    if (second.count == 0)
+        return {};
     double fraction = 0;
     if (take(position, end, '.') || take(position, end, ':')) {
         constexpr double scale[] = {1, 10, 100, 1000};
         const auto digits = takeDigits(position, end, 3);
         if (digits.count == 0)
-            return std::nullopt;
+            return {};
         fraction = digits.value / scale[digits.count];
     }
     if (!take(position, end, ']'))
-        return std::nullopt;
-    return Tag{minutes.value * 60 + seconds.value + fraction, position};
+        return {};
+    return {seconds(minute.value, second.value, fraction), position};
 }
 
 const char* find(const char* position, const char* end, char wanted) {
-    const auto length = static_cast<std::size_t>(end - position);
-    const void* found = length ? std::memchr(position, wanted, length) : nullptr;
+    if (position == end || *position == wanted) // tags mostly stand side by side or begin a line
+        return position;
+    const void* found = std::memchr(position, wanted, static_cast<std::size_t>(end - position));
     return found ? static_cast<const char*>(found) : end;
 }
 
 /// The first tag that opens at or after `position`.
-std::optional<Tag> nextTag(const char* position, const char* end) {
+Tag nextTag(const char* position, const char* end) {
     for (auto open = find(position, end, '['); open != end; open = find(open + 1, end, '['))
         if (const auto tag = readTag(open, end))
             return tag;
-    return std::nullopt;
+    return {};
 }
 
 /// The line feed that ends the piece `position` is in. One that follows a carriage return ends
@@ -121,31 +146,42 @@ bool isSpace(char32_t character) {
     return u_charType(static_cast<UChar32>(character)) == U_SPACE_SEPARATOR;
 }
 
+/// How many bytes the space takes that `takeCharacter` takes from `text`; 0 when it is none.
+template <char32_t (&takeCharacter)(std::string_view&)>
+std::size_t spaceAt(char outermost, std::string_view text) {
+    if (isAscii(outermost))
+        return isSpace(static_cast<char32_t>(outermost)) ? 1 : 0;
+    auto rest = text;
+    return isSpace(takeCharacter(rest)) ? text.size() - rest.size() : 0;
+}
+
 std::string_view trimmed(std::string_view text) {
-    for (auto rest = text; !rest.empty() && isSpace(utf8::takeFirst(rest));)
-        text = rest;
-    for (auto rest = text; !rest.empty() && isSpace(utf8::takeLast(rest));)
-        text = rest;
+    std::size_t space = 0;
+    while (!text.empty() && (space = spaceAt<utf8::takeFirst>(text.front(), text)) > 0)
+        text.remove_prefix(space);
+    while (!text.empty() && (space = spaceAt<utf8::takeLast>(text.back(), text)) > 0)
+        text.remove_suffix(space);
     return text;
 }
 
 /// Every tag of `text` with the text of its piece, in order of position.
 std::vector<TimedText> readPieces(std::string_view text) {
+    constexpr std::size_t usualLine = 32; ///< bytes; a text with shorter ones makes the list grow
     std::vector<TimedText> found;
+    found.reserve(text.size() / usualLine);
     const char* const end = text.data() + text.size();
-    auto tag = nextTag(text.data(), end);
-    while (tag) {
+    for (auto tag = nextTag(text.data(), end); tag;) {
         const std::size_t firstOfPiece = found.size();
-        const char* const pieceEnd = endOfPiece(tag->end, end);
+        const char* const pieceEnd = endOfPiece(tag.end, end);
         const char* lyric = nullptr;
-        for (auto next = tag; next; next = nextTag(lyric, pieceEnd)) {
-            found.push_back({next->time, {}});
-            lyric = next->end;
+        for (; tag; tag = nextTag(lyric, pieceEnd)) {
+            found.push_back({tag.time, {}});
+            lyric = tag.end;
         }
         const auto words = trimmed({lyric, pieceEnd});
         for (std::size_t i = firstOfPiece; i < found.size(); ++i)
             found[i].text = words;
-        tag = nextTag(pieceEnd, end);
+        tag = nextTag(pieceEnd == end ? end : pieceEnd + 1, end);
     }
     return found;
 }
@@ -153,20 +189,16 @@ std::vector<TimedText> readPieces(std::string_view text) {
 } // namespace
 
 std::vector<LyricLine> parse(std::string_view text) {
-    auto pieces = readPieces(text);
+    std::vector<LyricLine> lines;
+    if (!nextTag(text.data(), text.data() + text.size()))
+        return lines;
+    const SharedBytes copy(text); // which the words of all lines are slices of
+    auto pieces = readPieces({copy.get(), text.size()});
     if (!std::ranges::is_sorted(pieces, {}, &TimedText::time))
         std::ranges::stable_sort(pieces, {}, &TimedText::time);
-
-    std::vector<LyricLine> lines;
-    if (pieces.empty())
-        return lines;
     lines.reserve(pieces.size());
-    const auto buffer = SharedText::copyBytes(text);
-    for (const auto& piece : pieces) {
-        const auto offset = piece.text.data() - text.data();
-        lines.emplace_back(piece.time, SharedText(buffer, std::string_view(buffer.get() + offset,
-                                                                           piece.text.size())));
-    }
+    for (const auto& piece : pieces)
+        lines.emplace_back(piece.time, SharedText(copy, piece.text));
     return lines;
 }
 

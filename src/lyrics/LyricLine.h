@@ -4,6 +4,7 @@
 #include "foundation/UUID.h"
 
 #include <string_view>
+#include <utility>
 
 namespace brellowind {
 
@@ -11,8 +12,9 @@ namespace brellowind {
 ///
 /// Equality includes `id`: a line equals only itself and its copies.
 struct LyricLine {
-    LyricLine(double time, std::string_view text);
-    LyricLine(double time, SharedText text);
+    LyricLine(double time_, std::string_view text_) : LyricLine(time_, SharedText(text_)) {}
+    LyricLine(double time_, SharedText text_)
+        : id(UUID::random()), time(time_), text(std::move(text_)) {}
 
     bool operator==(const LyricLine&) const = default;
 

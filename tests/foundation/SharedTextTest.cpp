@@ -21,7 +21,7 @@ TEST(SharedText, CopiesShareTheBytes) {
 TEST(SharedText, OutlivesTheBufferHandleItWasCutFrom) {
     SharedText text;
     {
-        const auto buffer = SharedText::copyBytes("one two");
+        const SharedBytes buffer("one two");
         text = SharedText(buffer, std::string_view(buffer.get() + 4, 3));
     }
     EXPECT_EQ(text, "two");

@@ -14,7 +14,7 @@ class QtTimer final : public QObject, public Timer {
 public:
     QtTimer(std::chrono::milliseconds interval, Repeat repeat, MainLoop::Handler handler)
         : handler_(std::make_shared<MainLoop::Handler>(std::move(handler))), repeat_(repeat),
-          id_(startTimer(interval, Qt::PreciseTimer)) {}
+          id_(startTimer(interval, timerType(repeat))) {}
 
 protected:
     void timerEvent(QTimerEvent* event) override {
@@ -27,6 +27,12 @@ protected:
     }
 
 private:
+    /// What repeats need not be exact. Coarse timers come to fire together, at full twentieths of a
+    /// second, so that the processor is woken once for all of them.
+    static Qt::TimerType timerType(Repeat repeat) {
+        return repeat == Repeat::always ? Qt::CoarseTimer : Qt::PreciseTimer;
+    }
+
     std::shared_ptr<MainLoop::Handler> handler_;
     Repeat repeat_;
     int id_;

@@ -1,0 +1,93 @@
+#include "IcuParser.h"
+#include "Searching.h"
+#include "Stopwatch.h"
+#include "Texts.h"
+#include "foundation/SharedText.h"
+#include "lyrics/LRCParser.h"
+
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <thread>
+
+using namespace brellowind;
+using namespace brellowind::benchmarks;
+using nlohmann::json;
+
+namespace {
+
+/// The least that any parser of LRC texts must look at: every byte, for the bracket of a tag.
+std::size_t countBrackets(std::string_view text) {
+    std::size_t count = 0;
+    const char* const end = text.data() + text.size();
+    for (const char* at = text.data();
+         at != end &&
+         (at = static_cast<const char*>(std::memchr(at, '[', static_cast<std::size_t>(end - at))));
+         ++at)
+        ++count;
+    return count;
+}
+
+/// What a list of lines must take from the heap and fill whoever makes it: one buffer with the
+/// words, one array of lines.
+void allocateLines(std::string_view text, std::size_t count) {
+    struct Line {
+        std::uint64_t words[sizeof(LyricLine) / sizeof(std::uint64_t)];
+    };
+    const SharedBytes buffer(text);
+    std::vector<Line> lines(count);
+    keep(*buffer.get());
+    keep(*lines.data());
+}
+
+json parsing(const std::string& text, double seconds) {
+    const auto lines = LRCParser::parse(text).size();
+    if (parseWithIcu(text).size() != lines)
+        std::abort(); // they must do the same work
+    const auto times =
+        race({[&] { keep(LRCParser::parse(text)); }, [&] { keep(parseWithIcu(text)); },
+              [&] { keep(countBrackets(text)); }, [&] { allocateLines(text, lines); }},
+             seconds);
+    return {{"bytes", text.size()}, {"lines", lines},     {"parse", times[0]},
+            {"icu", times[1]},      {"memchr", times[2]}, {"allocations", times[3]}};
+}
+
+/// Seconds per byte at each size from 1 KB to 16 MB.
+json growth(const texts::Family& family) {
+    json sizes = json::array();
+    for (std::size_t bytes = 1024; bytes <= 16 << 20; bytes *= 4) {
+        const auto text = family.make(bytes);
+        const auto time = race({[&] { keep(LRCParser::parse(text)); }}, 0.15)[0];
+        sizes.push_back({{"bytes", text.size()}, {"perByte", time / static_cast<double>(bytes)}});
+    }
+    // The largest must be measured once more beside the one it is compared with.
+    const auto small = family.make(64 << 10);
+    const auto large = family.make(16 << 20);
+    const auto times =
+        race({[&] { keep(LRCParser::parse(small)); }, [&] { keep(LRCParser::parse(large)); }}, 0.5);
+    const double perByteSmall = times[0] / static_cast<double>(small.size());
+    const double perByteLarge = times[1] / static_cast<double>(large.size());
+    return {{"name", family.name}, {"sizes", sizes}, {"ratio", perByteLarge / perByteSmall}};
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc == 3 && std::string_view(argv[1]) == "--texts") { // for the parsers in other languages
+        const std::string folder = argv[2];
+        std::ofstream(folder + "/typical.lrc") << texts::typical();
+        std::ofstream(folder + "/large.lrc") << texts::large(1 << 20);
+        return 0;
+    }
+    std::thread([] {
+    }).join(); // the program has threads, so counting owners may cost what it does there
+    json result;
+    result["typical"] = parsing(texts::typical(), 1.5);
+    result["large"] = parsing(texts::large(1 << 20), 2.5);
+    result["search"] = searching();
+    result["tick"] = ticking();
+    for (const auto& family : texts::families())
+        result["growth"].push_back(growth(family));
+    std::printf("%s\n", result.dump(2).c_str());
+}

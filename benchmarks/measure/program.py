@@ -1,0 +1,237 @@
+"""The whole program: processor, wake-ups, memory, start, lateness and frames."""
+
+import json
+import os
+import random
+import statistics
+import subprocess
+import time
+
+import dbus
+
+from . import processes
+from .session import LyricsService, Player, Program, Session, tag
+
+
+def percentile(values, share):
+    ordered = sorted(values)
+    return ordered[min(len(ordered) - 1, int(share * len(ordered)))]
+
+
+def every(seconds, length=3600):
+    """Lyrics with a line each so many seconds."""
+    lines = (f"{tag(i * seconds)}Line {i} of the song, which goes on" for i in
+             range(int(length / seconds)))
+    return "\n".join(lines)
+
+
+class Bench:
+    def __init__(self, build, quick):
+        self.programs = {"player": f"{build}/showcase/player/brellowind-demo-player",
+                         "measured": f"{build}/benchmarks/program/brellowind-measured",
+                         "window": f"{build}/benchmarks/window/empty-window",
+                         "eye": f"{build}/benchmarks/eye/eye"}
+        self.seconds = 6 if quick else 20
+        self.tracks = 100 if quick else 1000
+        self.lines = 20 if quick else 200
+        self.starts = 3 if quick else 11
+
+    def measured(self, session, service, **environment):
+        return Program([self.programs["measured"], service.origin], session, **environment)
+
+    def window(self, session):
+        return Program([self.programs["window"]], session)
+
+    def side_by_side(self):
+        """The program, the floor and the player's share in the same session, taking turns."""
+        session, service = Session(), LyricsService()
+        service.lyrics = every(3)
+        player = Player(self.programs["player"], session)
+        result = {}
+        try:
+            floor = self.window(session)
+            time.sleep(2)
+            result["window"] = {"memory": processes.memory([floor.pid])}
+            floor.close()
+            program = self.measured(session, service)
+            player.play("Song", "Singer", 3600, service.origin + "/cover/1")
+            time.sleep(4)
+            result["playing"] = {"memory": processes.memory([program.pid])}
+            floor = self.window(session)
+            time.sleep(2)
+            asked = player.requests()
+            rounds = [self.round([program.pid], [floor.pid]) for _ in range(2)]
+            result["requestsPerSecond"] = ((player.requests() - asked)
+                                           / sum(r["seconds"] for r in rounds))
+            result["playing"] |= best(rounds, "program")
+            service.lyrics = "[00:01.00]one"
+            player.play("Between lines", "Singer", 3600, service.origin + "/cover/1")
+            time.sleep(4)
+            rounds += (between := [self.round([program.pid], [floor.pid]) for _ in range(2)])
+            result["betweenLines"] = best(between, "program")
+            player.pause()
+            time.sleep(3)
+            rounds += (paused := [self.round([program.pid], [floor.pid]) for _ in range(2)])
+            result["paused"] = best(paused, "program")
+            result["window"] |= best(rounds, "floor")
+            program.ask("hide waveform")
+            player.play("Still", "Singer", 3600)
+            player.call("SetPosition", dbus.Int64(100_000_000))
+            time.sleep(4)
+            before = json.loads(program.ask("counts"))
+            time.sleep(5)
+            after = json.loads(program.ask("counts"))
+            result["still"] = {key: after[key] - before[key] for key in after} | {"seconds": 5}
+            program.close()
+            floor.close()
+        finally:
+            player.close()
+            service.close()
+            session.close()
+        return result
+
+    def round(self, program, floor):
+        start = time.monotonic()
+        used = processes.processor_seconds(program), processes.wake_ups(program)
+        floor_used = processes.processor_seconds(floor), processes.wake_ups(floor)
+        time.sleep(self.seconds)
+        passed = time.monotonic() - start
+        return {"seconds": passed,
+                "program": [(processes.processor_seconds(program) - used[0]) / passed,
+                            (processes.wake_ups(program) - used[1]) / passed],
+                "floor": [(processes.processor_seconds(floor) - floor_used[0]) / passed,
+                          (processes.wake_ups(floor) - floor_used[1]) / passed]}
+
+    def start(self):
+        """Seconds from exec to the first frame, turn by turn."""
+        session, service = Session(), LyricsService()
+        times = {"program": [], "window": []}
+        try:
+            for _ in range(self.starts):
+                for name, start in (("window", lambda: self.window(session)),
+                                    ("program", lambda: self.measured(session, service))):
+                    program = start()
+                    times[name].append(program.seconds_to_first_frame)
+                    program.close()
+        finally:
+            service.close()
+            session.close()
+        return {name: statistics.median(values) for name, values in times.items()}
+
+    def memory(self):
+        """What the panel, the settings and many tracks leave behind."""
+        session, service = Session(), LyricsService()
+        service.lyrics = every(3)
+        player = Player(self.programs["player"], session)
+        result = {}
+        try:
+            program = self.measured(session, service)
+            look = lambda: processes.memory([program.pid])  # noqa: E731
+            player.play("Song", "Singer", 3600, service.origin + "/cover/1")
+            time.sleep(4)
+            result["playing"] = look()
+            program.ask("panel")
+            time.sleep(2)
+            result["panel"] = look()
+            program.ask("close panel")
+            time.sleep(1)
+            program.ask("settings")
+            time.sleep(2)
+            result["settingsOpen"] = look()
+            program.ask("close settings")
+            time.sleep(2)
+            result["settingsClosed"] = look()
+
+            def tracks(first, count):
+                # Each press of play/pause has the program ask the player at once.
+                for i in range(first, first + count):
+                    player.play(f"Song {i}", "Singer", 3600, f"{service.origin}/cover/{i}")
+                    program.ask("toggle")
+                    time.sleep(0.06)
+                time.sleep(3)
+                return look()
+
+            result["warm"] = tracks(0, self.tracks // 5)
+            result["tracks"] = tracks(self.tracks // 5, self.tracks)
+            result["trackCount"] = self.tracks
+            program.close()
+        finally:
+            player.close()
+            service.close()
+            session.close()
+        return result
+
+    def lateness(self):
+        """Milliseconds from the moment of a line in the player's position to its pixels."""
+        session, service = Session(), LyricsService()
+        chance = random.Random(5)
+        moments, text, at = [], [], 5.0
+        for i in range(self.lines):
+            at = round(at + 0.85 + 0.1 * chance.random(), 2)
+            moments.append(at)
+            text.append(f"{tag(at)}{'WHM'[i % 3] * 9} {'nuo'[i % 3] * 9} {i:03}")
+        service.lyrics = "\n".join(text)
+        player = Player(self.programs["player"], session)
+        try:
+            program = self.measured(session, service)
+            time.sleep(1)
+            x, y, width, height = json.loads(program.ask("line"))
+            area = [str(int(value)) for value in (x + width / 2 - 60, y + 2, 120, height - 4)]
+            eye = subprocess.Popen([self.programs["eye"], "watch", *area], text=True,
+                                   env=session.environment, stdout=subprocess.PIPE)
+            eye.stdout.readline()
+            player.play("Late", "Singer", 3600)
+            start = player.start_of_song()
+            time.sleep(moments[-1] + 1.5)
+            eye.terminate()
+            seen = [(int(line) - start) / 1e9 for line in eye.stdout.read().split()]
+            eye.wait()
+            program.close()
+        finally:
+            player.close()
+            service.close()
+            session.close()
+        late, early, missed = [], 0, 0
+        for moment in moments:
+            changes = [when for when in seen if moment - 0.1 <= when < moment + 0.5]
+            if not changes:
+                missed += 1
+            elif changes[0] < moment:
+                early += 1
+            else:
+                late.append((changes[0] - moment) * 1e3)
+        return {"lines": len(moments), "missed": missed, "early": early,
+                "median": statistics.median(late) if late else None,
+                "p99": percentile(late, 0.99) if late else None,
+                "longest": max(late, default=None)}
+
+    def frames(self):
+        """Processor milliseconds of a frame at scale 2 while the pill morphs and the line changes."""
+        session, service = Session("2880x1800x24"), LyricsService()
+        service.lyrics = every(1.5)
+        player = Player(self.programs["player"], session)
+        durations = []
+        try:
+            program = self.measured(session, service, QT_SCALE_FACTOR="2")
+            player.play("Song", "Singer", 3600, service.origin + "/cover/2")
+            time.sleep(4)
+            for _ in range(3 if self.lines < 100 else 10):
+                for command in ("panel", "close panel", "background", "background"):
+                    program.ask("start frames")
+                    program.ask(command)
+                    time.sleep(0.75)
+                    # The first one holds what was done since the last frame before the command.
+                    durations += json.loads(program.ask("frames"))[1:]
+            program.close()
+        finally:
+            player.close()
+            service.close()
+            session.close()
+        milliseconds = [1e3 * value for value in durations]
+        return {"frames": len(milliseconds), "median": statistics.median(milliseconds),
+                "p99": percentile(milliseconds, 0.99), "longest": max(milliseconds)}
+
+
+def best(rounds, who):
+    """The quietest of some rounds: what else the machine does only ever adds."""
+    return {"cpu": min(r[who][0] for r in rounds), "wakeUps": min(r[who][1] for r in rounds)}

@@ -1,0 +1,98 @@
+#include "Commands.h"
+
+#include "app/BrellowindApp.h"
+#include "views/NotchRootView.h"
+
+#include <QGuiApplication>
+#include <QMetaMethod>
+#include <QQuickItem>
+#include <array>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
+namespace brellowind::benchmarks {
+
+using nlohmann::json;
+
+Commands::Commands(BrellowindApp& app, FrameLog& frames)
+    : app_(app), frames_(frames), input_(STDIN_FILENO, QSocketNotifier::Read) {
+    connect(&input_, &QSocketNotifier::activated, this, &Commands::read);
+    watchModel();
+}
+
+void Commands::read() {
+    std::array<char, 64> bytes{};
+    const auto count = ::read(STDIN_FILENO, bytes.data(), bytes.size());
+    if (count <= 0) {
+        QGuiApplication::quit();
+        return;
+    }
+    std::string command(bytes.data(), static_cast<std::size_t>(count));
+    command.erase(command.find_last_not_of('\n') + 1);
+    std::printf("%s\n", answer(command).c_str());
+    std::fflush(stdout);
+}
+
+std::string Commands::answer(const std::string& command) {
+    auto& view = app_.rootView();
+    if (command == "panel")
+        view.tapCover();
+    else if (command == "close panel")
+        view.tapArtwork();
+    else if (command == "background")
+        view.tapBackground();
+    else if (command == "toggle")
+        view.tapWaveform();
+    else if (command == "hide waveform")
+        view.hoverWaveform(true);
+    else if (command == "settings")
+        view.openSettings();
+    else if (command == "close settings")
+        closeSettings();
+    else if (command == "start frames")
+        frames_.start();
+    else if (command == "frames")
+        return json(frames_.durations()).dump();
+    else if (command == "counts")
+        return json{{"frames", frames_.frames()}, {"changes", changes_}}.dump();
+    else if (command == "line")
+        return lineRect();
+    else if (command == "text")
+        return std::string(view.currentLineText());
+    else
+        return "unknown";
+    return "done";
+}
+
+/// Where the lyric line is on the screen, in pixels.
+std::string Commands::lineRect() const {
+    const auto* line =
+        app_.window().contentItem()->findChild<QQuickItem*>(QStringLiteral("lyricLine"));
+    const double scale = app_.window().effectiveDevicePixelRatio();
+    const QRectF rect = line->mapRectToScene(QRectF(0, 0, line->width(), line->height()));
+    const QPoint origin = app_.window().mapToGlobal(QPoint(0, 0));
+    return json{origin.x() + rect.x() * scale, origin.y() + rect.y() * scale, rect.width() * scale,
+                rect.height() * scale}
+        .dump();
+}
+
+void Commands::closeSettings() {
+    const auto windows = QGuiApplication::topLevelWindows();
+    for (auto* window : windows)
+        if (window != &app_.window() && window->isVisible())
+            window->close();
+}
+
+/// Counts every notification of the model that the pill is drawn from.
+void Commands::watchModel() {
+    auto* root = app_.window().contentItem()->childItems().constFirst();
+    auto* model = root->property("model").value<QObject*>();
+    const int slot = metaObject()->indexOfSlot("countChange()");
+    const auto* type = model->metaObject();
+    for (int i = type->methodOffset(); i < type->methodCount(); ++i)
+        if (type->method(i).methodType() == QMetaMethod::Signal)
+            connect(model, type->method(i), this, metaObject()->method(slot));
+}
+
+} // namespace brellowind::benchmarks

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QQuickWindow>
+#include <vector>
+
+namespace brellowind::benchmarks {
+
+/// What each frame of a window takes of the processor, in all threads of the program.
+class FrameLog : public QObject {
+    Q_OBJECT
+
+public:
+    /// Prints the moment of the first frame, in nanoseconds of the monotonic clock.
+    explicit FrameLog(QQuickWindow& window);
+
+    void start();
+
+    /// Seconds of processor time from each frame since `start` to the one after it.
+    const std::vector<double>& durations() const { return durations_; }
+
+    int frames() const { return frames_; }
+
+private:
+    void frame();
+
+    int frames_ = 0;
+    double last_ = 0;
+    std::vector<double> durations_;
+};
+
+} // namespace brellowind::benchmarks
