@@ -12,28 +12,32 @@ def _tasks(pid):
         return []
 
 
-def processor_seconds(pids):
-    total = 0
+def _usage(pids):
+    """Of each thread, nanoseconds on a processor and how often it has gone to rest."""
+    usage = {}
     for pid in pids:
         for task in _tasks(pid):
             try:
-                total += int((task / "schedstat").read_text().split()[0])
-            except OSError:
-                pass
-    return total / 1e9
-
-
-def wake_ups(pids):
-    """How often a thread of the processes has gone to rest, and so has been woken."""
-    total = 0
-    for pid in pids:
-        for task in _tasks(pid):
-            try:
+                used = int((task / "schedstat").read_text().split()[0])
                 status = (task / "status").read_text()
             except OSError:
-                continue
-            total += int(status.split("voluntary_ctxt_switches:")[1].split()[0])
-    return total
+                continue  # a thread that has just ended
+            usage[task] = used, int(status.split("voluntary_ctxt_switches:")[1].split()[0])
+    return usage
+
+
+class Load:
+    """The processor share of processes and their wake-ups per second since it was made."""
+
+    def __init__(self, pids):
+        self.pids, self.start, self.before = pids, time.monotonic(), _usage(pids)
+
+    def read(self):
+        passed = time.monotonic() - self.start
+        after = _usage(self.pids)
+        used, woken = (sum(now[i] - self.before.get(task, (0, 0))[i]
+                           for task, now in after.items()) for i in (0, 1))
+        return {"cpu": used / 1e9 / passed, "wakeUps": woken / passed}
 
 
 def memory(pids):
@@ -51,11 +55,9 @@ def memory(pids):
 
 def load(pids, seconds):
     """Processor share and wake-ups per second over the next `seconds`."""
-    start, used, woken = time.monotonic(), processor_seconds(pids), wake_ups(pids)
+    since = Load(pids)
     time.sleep(seconds)
-    passed = time.monotonic() - start
-    return {"cpu": (processor_seconds(pids) - used) / passed,
-            "wakeUps": (wake_ups(pids) - woken) / passed}
+    return since.read()
 
 
 def children_of_session(environment_mark):

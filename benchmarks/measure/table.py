@@ -66,9 +66,10 @@ def program_rows(results):
          0.97 <= side["requestsPerSecond"] <= 1.03),
     ]
     memory = results["memory"]
-    ratio = memory["playing"]["pss"] / floor["memory"]["pss"]
+    beside = playing["memory"]
+    ratio = beside["pss"] / floor["memory"]["pss"]
     rows.append(("memory while playing, PSS / private; the empty window has "
-                 + megabytes(floor["memory"]), f"{megabytes(memory['playing'])}: {ratio:.2f} times",
+                 + megabytes(floor["memory"]), f"{megabytes(beside)}: {ratio:.2f} times",
                  "1.25 times", ratio <= 1.25))
     if peer:
         part = memory["playing"]["pss"] / peer["memory"]["pss"]

@@ -3,6 +3,7 @@
 #include "lyrics/LrclibAPI.h"
 #include "platform/Services.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace brellowind {
@@ -40,19 +41,11 @@ Task<void> LyricsStore::fetchInto(std::weak_ptr<LyricsStore> weakStore, Track tr
 
 std::optional<std::size_t> LyricsStore::activeIndex(double seconds) const {
     const auto& all = lines();
-    std::optional<std::size_t> active;
-    std::size_t low = 0;
-    std::size_t end = all.size();
-    while (low < end) {
-        const std::size_t middle = low + (end - low) / 2;
-        if (all[middle].time <= seconds) {
-            active = middle;
-            low = middle + 1;
-        } else {
-            end = middle;
-        }
-    }
-    return active;
+    const auto next = std::ranges::partition_point(
+        all, [seconds](double time) { return time <= seconds; }, &LyricLine::time);
+    if (next == all.begin())
+        return std::nullopt;
+    return static_cast<std::size_t>(next - all.begin()) - 1;
 }
 
 } // namespace brellowind

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <type_traits>
 #include <vector>
 
 namespace brellowind {
@@ -26,22 +27,50 @@ std::array<int, passes> boxRadii(double sigma) {
     return radii;
 }
 
-/// One box filter over `count` samples that lie `stride` bytes apart.
-void boxFilter(uchar* samples, std::ptrdiff_t stride, int count, int radius,
-               std::vector<uchar>& line) {
-    for (int i = 0; i < count; ++i)
-        line[static_cast<std::size_t>(i)] = samples[i * stride];
-    const unsigned width = static_cast<unsigned>(2 * radius + 1);
-    const unsigned reciprocal = (1U << 24) / width;
-    unsigned sum = 0;
+/// One box filter over a row of `count` elements, which lie `stride` bytes apart and are each made
+/// of `width` samples: the pixels of a line, or whole lines. So a filter down the image reads it
+/// line by line, many samples at a time.
+template <typename Width>
+void boxFilter(const uchar* from, uchar* to, std::ptrdiff_t stride, int count, Width width,
+               int radius, unsigned* sums) {
+    const unsigned reciprocal = (1U << 24) / static_cast<unsigned>(2 * radius + 1);
+    std::fill_n(sums, int(width), 0U);
+    const auto add = [&](const uchar* element) {
+        for (int i = 0; i < width; ++i)
+            sums[i] += element[i];
+    };
     for (int i = 0; i < std::min(radius, count); ++i)
-        sum += line[static_cast<std::size_t>(i)];
+        add(from + i * stride);
     for (int i = 0; i < count; ++i) {
         if (i + radius < count)
-            sum += line[static_cast<std::size_t>(i + radius)];
-        samples[i * stride] = static_cast<uchar>((sum * reciprocal + (1U << 23)) >> 24);
-        if (i - radius >= 0)
-            sum -= line[static_cast<std::size_t>(i - radius)];
+            add(from + (i + radius) * stride);
+        uchar* const element = to + i * stride;
+        for (int k = 0; k < width; ++k)
+            element[k] = static_cast<uchar>((sums[k] * reciprocal + (1U << 23)) >> 24);
+        if (i - radius < 0)
+            continue;
+        const uchar* const left = from + (i - radius) * stride;
+        for (int k = 0; k < width; ++k)
+            sums[k] -= left[k];
+    }
+}
+
+template <int channels>
+void blurChannels(QImage& image, double sigma) {
+    const std::ptrdiff_t rowStride = image.bytesPerLine();
+    const int rowWidth = image.width() * channels;
+    uchar* const bits = image.bits();
+    std::vector<uchar> scratch(static_cast<std::size_t>(image.sizeInBytes()));
+    std::vector<unsigned> sums(static_cast<std::size_t>(rowWidth));
+    std::array<unsigned, channels> pixelSums;
+    constexpr std::integral_constant<int, channels> pixelWidth;
+    for (const int radius : boxRadii(sigma)) {
+        if (radius < 1)
+            continue;
+        for (int y = 0; y < image.height(); ++y)
+            boxFilter(bits + y * rowStride, scratch.data() + y * rowStride, channels, image.width(),
+                      pixelWidth, radius, pixelSums.data());
+        boxFilter(scratch.data(), bits, rowStride, image.height(), rowWidth, radius, sums.data());
     }
 }
 
@@ -50,20 +79,10 @@ void boxFilter(uchar* samples, std::ptrdiff_t stride, int count, int radius,
 void blur(QImage& image, double sigma) {
     if (!(sigma > 0) || image.isNull())
         return;
-    const int channels = image.depth() / 8;
-    const std::ptrdiff_t rowStride = image.bytesPerLine();
-    uchar* const bits = image.bits();
-    std::vector<uchar> line(static_cast<std::size_t>(std::max(image.width(), image.height())));
-    for (const int radius : boxRadii(sigma)) {
-        if (radius < 1)
-            continue;
-        for (int channel = 0; channel < channels; ++channel) {
-            for (int y = 0; y < image.height(); ++y)
-                boxFilter(bits + y * rowStride + channel, channels, image.width(), radius, line);
-            for (int x = 0; x < image.width(); ++x)
-                boxFilter(bits + x * channels + channel, rowStride, image.height(), radius, line);
-        }
-    }
+    if (image.depth() == 8)
+        blurChannels<1>(image, sigma);
+    else
+        blurChannels<4>(image, sigma);
 }
 
 double blurReach(double sigma) {

@@ -1,9 +1,16 @@
 #include "views/motion/FrameDriver.h"
 
+#include <QTimer>
 #include <algorithm>
 #include <chrono>
 
 namespace brellowind {
+namespace {
+
+/// A motion shows this early for the first time: Qt itself lets a whole frame pass before.
+constexpr std::chrono::milliseconds firstFrame{6};
+
+} // namespace
 
 FrameDriver& FrameDriver::shared() {
     static FrameDriver driver;
@@ -22,8 +29,13 @@ double FrameDriver::now() const {
 void FrameDriver::drive(Animated& animated) {
     if (std::ranges::find(moving_, &animated) == moving_.end())
         moving_.push_back(&animated);
-    if (frozen_ < 0 && state() != Running)
-        start();
+    if (frozen_ >= 0 || state() == Running)
+        return;
+    start();
+    QTimer::singleShot(firstFrame, Qt::PreciseTimer, this, [this] {
+        if (state() == Running)
+            advanceAll();
+    });
 }
 
 void FrameDriver::forget(Animated& animated) {
