@@ -17,6 +17,7 @@
 #include "platform/qt/QtLinkOpener.h"
 #include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
+#include "platform/qt/QtStartEnvironment.h"
 #include "platform/qt/SystemClock.h"
 #include "playback/SpotifyBridge.h"
 #include "settings/window/SettingsWindow.h"
@@ -31,9 +32,6 @@
 
 namespace brellowind {
 namespace {
-
-constexpr auto platformVariable = "QT_QPA_PLATFORM";
-bool chosePlatform = false;
 
 /// The side of the enlarged artwork.
 constexpr int largestArtworkPoints = 320;
@@ -103,18 +101,9 @@ struct BrellowindApp::Machine {
 };
 
 void BrellowindApp::prepare() {
-    // The pill's window is an X11 window; on a Wayland session it comes through XWayland.
-    if (!qEnvironmentVariableIsSet(platformVariable)) {
-        qputenv(platformVariable, "xcb");
-        chosePlatform = true;
-    }
+    platform::QtStartEnvironment::choose();
     // A pill is too small to need a graphics card, and takes a third of the memory without one.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    // A frame is drawn in the turn that asks for it: waiting would wake the processor once more.
-    qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
-    // And sent to the X server at once: of memory shared with the server every frame would have to
-    // ask whether it is free, which wakes both and costs more than sending the few pixels.
-    qputenv("QT_XCB_NO_MITSHM", "1");
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -123,10 +112,7 @@ bool BrellowindApp::claimDisplay() {
 }
 
 BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)
-    : machine_(std::make_unique<Machine>(constants)) {
-    if (chosePlatform)
-        qunsetenv(platformVariable); // not for the programs that open links
-}
+    : machine_(std::make_unique<Machine>(constants)) {}
 
 BrellowindApp::~BrellowindApp() = default;
 

@@ -1,0 +1,43 @@
+#include "platform/qt/QtStartEnvironment.h"
+
+#include <QByteArray>
+#include <array>
+
+namespace brellowind::platform::QtStartEnvironment {
+namespace {
+
+struct Choice {
+    const char* variable;
+    const char* value;
+    bool made = false;
+};
+
+std::array choices{
+    // The pill's window is an X11 window; on a Wayland session it comes through XWayland.
+    Choice{"QT_QPA_PLATFORM", "xcb"},
+    // A frame is drawn in the turn that asks for it: waiting would wake the processor once more.
+    Choice{"QT_QPA_UPDATE_IDLE_TIME", "0"},
+    // And sent to the X server at once: of memory shared with the server every frame would have to
+    // ask whether it is free, which wakes both and costs more than sending the few pixels.
+    Choice{"QT_XCB_NO_MITSHM", "1"},
+};
+
+} // namespace
+
+void choose() {
+    for (auto& choice : choices) {
+        choice.made = !qEnvironmentVariableIsSet(choice.variable);
+        if (choice.made)
+            qputenv(choice.variable, QByteArray(choice.value));
+    }
+}
+
+void takeBack() {
+    for (auto& choice : choices) {
+        if (choice.made)
+            qunsetenv(choice.variable);
+        choice.made = false;
+    }
+}
+
+} // namespace brellowind::platform::QtStartEnvironment
