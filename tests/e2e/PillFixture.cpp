@@ -54,6 +54,7 @@ void PillOnDesktop::leavePill() {
 }
 
 QPoint PillOnDesktop::openMenu() {
+    EXPECT_TRUE(program->comesToRest()); // it may only just have started
     enterPill();
     const QPoint place = middleOf("pill");
     person.pressAt(place, Person::secondary);

@@ -54,7 +54,7 @@ protected:
     Desktop desktop;
     XClient x{desktop.xServer.display()};
     Person person{x};
-    WindowManager windowManager{desktop, x};
+    WindowManager windowManager{x};
     demo::LoopbackServer service;
     QProcessEnvironment environment; ///< what the program gets beside the desktop's
     std::optional<PlayerProcess> player;

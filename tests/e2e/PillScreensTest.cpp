@@ -18,7 +18,7 @@ protected:
 
     const QString left = QStringLiteral("left");
     const QString right = QStringLiteral("right");
-    Monitors monitors{desktop};
+    Monitors monitors{desktop.xServer.display()};
 };
 
 TEST_F(PillScreens, HangsInTheMiddleOfThePrimaryOne) {

@@ -6,11 +6,6 @@ namespace {
 class PillWindow : public PillOnDesktop {
 protected:
     using PillOnDesktop::PillOnDesktop;
-
-    bool isAbove(xcb_window_t window, xcb_window_t other) {
-        const auto stack = x.stack();
-        return stack.indexOf(x.frameOf(window)) > stack.indexOf(x.frameOf(other));
-    }
 };
 
 TEST_F(PillWindow, HangsFromTheMiddleOfTheTopEdge) {
@@ -36,29 +31,27 @@ TEST_F(PillWindow, BelongsToNoWindowManagerAndTakesNoFocus) {
 TEST_F(PillWindow, StandsAboveAFullScreenWindowThatWasThereBefore) {
     below();
     start();
-    EXPECT_TRUE(waitUntil([&] { return isAbove(program->window(), below().id()); }));
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), below().id()); }));
 }
 
 TEST_F(PillWindow, ComesBackAboveAFullScreenWindowThatComesLater) {
     start();
     below();
-    EXPECT_TRUE(waitUntil([&] { return isAbove(program->window(), below().id()); }));
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), below().id()); }));
 }
 
 TEST_F(PillWindow, ComesBackAboveAWindowThatBypassesTheWindowManager) {
     start();
     const PlainWindow panel(desktop.xServer.display(), {0, 0, 1440, 30},
                             PlainWindow::Kind::unmanaged);
-    EXPECT_TRUE(waitUntil([&] { return isAbove(program->window(), panel.id()); }));
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), panel.id()); }));
 }
 
 TEST_F(PillWindow, IsNotShownWhileTheScreenSaverIsActive) {
     start();
-    xcb_force_screen_saver(x.get(), XCB_SCREEN_SAVER_ACTIVE);
-    x.finish();
+    x.setScreenSaverActive(true);
     EXPECT_TRUE(waitUntil([&] { return !x.isViewable(program->window()); }));
-    xcb_force_screen_saver(x.get(), XCB_SCREEN_SAVER_RESET);
-    x.finish();
+    x.setScreenSaverActive(false);
     EXPECT_TRUE(waitUntil([&] { return x.isViewable(program->window()); }));
     EXPECT_EQ(x.geometry(program->window()), QRect(400, 0, 640, 540));
 }
@@ -103,12 +96,12 @@ TEST_F(PillWindowAtScaleTwo, FeelsThePointerAtTheSamePoints) {
     EXPECT_TRUE(program->becomes("isArtExpanded"));
 }
 
-class PillWindowUnderACompositor : public PillWindow {
+class PillWindowUnderACompositingManager : public PillWindow {
 protected:
-    Compositor compositor{desktop, x};
+    CompositingManager compositingManager{x};
 };
 
-TEST_F(PillWindowUnderACompositor, IsTransparentBesideThePill) {
+TEST_F(PillWindowUnderACompositingManager, IsTransparentBesideThePill) {
     below();
     startSinging();
     const QRectF pill = program->rectangle("pill");
@@ -118,7 +111,7 @@ TEST_F(PillWindowUnderACompositor, IsTransparentBesideThePill) {
         << qPrintable(x.pixel(beside).name());
 }
 
-TEST_F(PillWindowUnderACompositor, CastsAShadowWhileItIsLifted) {
+TEST_F(PillWindowUnderACompositingManager, CastsAShadowWhileItIsLifted) {
     below();
     startSinging();
     enterPill();

@@ -1,26 +1,35 @@
 #pragma once
 
 #include "companion/Companion.h"
-#include "session/Desktop.h"
 #include "session/x11/XClient.h"
+
+#include <QTemporaryDir>
 
 namespace brellowind::test {
 
-/// A real window manager. It manages once this is made; fails the running test otherwise.
+/// A real window manager on the X server that `x` is a client of. It manages once this is made;
+/// fails the running test otherwise.
 class WindowManager {
 public:
-    WindowManager(const Desktop& desktop, const XClient& x);
+    explicit WindowManager(const XClient& x);
 
 private:
+    QTemporaryDir home_;
     demo::Companion process_;
 };
 
-/// A real compositing manager, at work once this is made; fails the running test otherwise.
-class Compositor {
+/// A real compositing manager on the X server that `x` is a client of, at work once this is made
+/// and gone once this is; fails the running test otherwise.
+class CompositingManager {
 public:
-    Compositor(const Desktop& desktop, const XClient& x);
+    explicit CompositingManager(const XClient& x);
+    CompositingManager(const CompositingManager&) = delete;
+    CompositingManager& operator=(const CompositingManager&) = delete;
+    ~CompositingManager();
 
 private:
+    const XClient& x_;
+    QTemporaryDir home_;
     demo::Companion process_;
 };
 

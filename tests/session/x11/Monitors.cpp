@@ -1,37 +1,74 @@
 #include "session/x11/Monitors.h"
 
-#include "companion/Companion.h"
-
+#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace brellowind::test {
 namespace {
 
-int millimetres(int pixels) {
-    return static_cast<int>(pixels * 25.4 / 96);
+const auto ownOutput = QStringLiteral("screen");
+
+/// As the command reads it: with the size in millimetres, at about 96 pixels an inch.
+QString geometry(const QRect& pixels) {
+    return QStringLiteral("%1/%2x%3/%4+%5+%6")
+        .arg(pixels.width())
+        .arg(pixels.width() / 4)
+        .arg(pixels.height())
+        .arg(pixels.height() / 4)
+        .arg(pixels.x())
+        .arg(pixels.y());
 }
 
 } // namespace
 
-void Monitors::add(const QString& name, QRect part, bool withOutput) {
-    const QString place = QStringLiteral("%1/%2x%3/%4+%5+%6")
-                              .arg(part.width())
-                              .arg(millimetres(part.width()))
-                              .arg(part.height())
-                              .arg(millimetres(part.height()))
-                              .arg(part.x())
-                              .arg(part.y());
-    arrange({QStringLiteral("--setmonitor"), name, place,
-             withOutput ? QStringLiteral("screen") : QStringLiteral("none")});
+Monitors::~Monitors() {
+    for (const auto& monitor : QStringList(added_))
+        remove(monitor);
+    if (reconfigured_)
+        resize(initialSize);
+}
+
+void Monitors::add(const QString& name, const QRect& pixels, bool primary) {
+    configure({QStringLiteral("--setmonitor"), (primary ? QStringLiteral("*") : QString()) + name,
+               geometry(pixels), added_.isEmpty() ? ownOutput : QStringLiteral("none")});
+    added_.append(name);
 }
 
 void Monitors::remove(const QString& name) {
-    arrange({QStringLiteral("--delmonitor"), name});
+    configure({QStringLiteral("--delmonitor"), name});
+    added_.removeAll(name);
 }
 
-void Monitors::arrange(const QStringList& arguments) {
-    demo::Companion xrandr(QStringLiteral("xrandr"), arguments, desktop_.environment());
-    EXPECT_EQ(xrandr.finish(), 0) << qPrintable(arguments.join(u' '));
+void Monitors::resize(QSize pixels) {
+    const QString width = QString::number(pixels.width());
+    const QString height = QString::number(pixels.height());
+    const QString mode = width + QLatin1Char('x') + height;
+    static QStringList added; // the server keeps them
+    const QString addition = display_ + QLatin1Char(' ') + mode;
+    if (pixels != initialSize && !added.contains(addition)) {
+        configure({QStringLiteral("--newmode"), mode, QStringLiteral("60"), width, width, width,
+                   width, height, height, height, height});
+        configure({QStringLiteral("--addmode"), ownOutput, mode});
+        added.append(addition);
+    }
+    configure({QStringLiteral("--output"), ownOutput, QStringLiteral("--mode"), mode});
+    reconfigured_ = true;
+}
+
+void Monitors::switchOff() {
+    // The X screen itself cannot be without a size.
+    configure({QStringLiteral("--fb"), QStringLiteral("640x480"), QStringLiteral("--output"),
+               ownOutput, QStringLiteral("--off")});
+    reconfigured_ = true;
+}
+
+void Monitors::configure(const QStringList& arguments) {
+    QProcess xrandr;
+    xrandr.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    xrandr.start(QStringLiteral("xrandr"),
+                 QStringList{QStringLiteral("-display"), display_} + arguments);
+    EXPECT_TRUE(xrandr.waitForFinished()) << qPrintable(arguments.join(QLatin1Char(' ')));
+    EXPECT_EQ(xrandr.exitCode(), 0) << qPrintable(arguments.join(QLatin1Char(' ')));
 }
 
 } // namespace brellowind::test

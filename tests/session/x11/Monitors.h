@@ -1,27 +1,37 @@
 #pragma once
 
-#include "session/Desktop.h"
-
 #include <QRect>
 #include <QStringList>
+#include <utility>
 
 namespace brellowind::test {
 
-/// The monitors that the screen of an X server is divided into, as a user arranges them.
+/// The monitors of an X server, as a user arranges them. When this goes, they are as they were.
 class Monitors {
 public:
-    explicit Monitors(const Desktop& desktop) : desktop_(desktop) {}
+    /// Of the server's own monitor, where a test changes that.
+    static constexpr QSize initialSize{1280, 800};
 
-    /// Adds a monitor at a part of the screen. The screen's one output belongs to `withOutput`.
-    void add(const QString& name, QRect part, bool withOutput);
+    explicit Monitors(QString display) : display_(std::move(display)) {}
+    Monitors(const Monitors&) = delete;
+    Monitors& operator=(const Monitors&) = delete;
+    ~Monitors();
 
-    /// Takes a monitor away.
+    /// Makes a part of the X screen a monitor, the first one in place of the server's own.
+    void add(const QString& name, const QRect& pixels, bool primary);
     void remove(const QString& name);
 
-private:
-    void arrange(const QStringList& arguments);
+    /// Gives the server's own monitor another size, not larger than the initial one.
+    void resize(QSize pixels);
 
-    const Desktop& desktop_;
+    void switchOff();
+
+private:
+    void configure(const QStringList& arguments);
+
+    QString display_;
+    QStringList added_;
+    bool reconfigured_ = false;
 };
 
 } // namespace brellowind::test

@@ -28,6 +28,27 @@ PlainWindow::PlainWindow(const QString& display, QRect geometry, Kind kind)
     }));
 }
 
+void PlainWindow::raise() {
+    const std::uint32_t above = XCB_STACK_MODE_ABOVE;
+    xcb_configure_window(client_.get(), id_, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+    client_.finish();
+}
+
+void PlainWindow::moveTo(QPoint place) {
+    const std::int32_t position[] = {place.x(), place.y()};
+    xcb_configure_window(client_.get(), id_, XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, position);
+    client_.finish();
+}
+
+void PlainWindow::grabPointer() {
+    const auto grab = client_.ask<xcb_grab_pointer, xcb_grab_pointer_reply>(
+        std::uint8_t(0), id_, std::uint16_t(XCB_EVENT_MASK_POINTER_MOTION),
+        std::uint8_t(XCB_GRAB_MODE_ASYNC), std::uint8_t(XCB_GRAB_MODE_ASYNC),
+        xcb_window_t(XCB_WINDOW_NONE), xcb_cursor_t(XCB_CURSOR_NONE),
+        xcb_timestamp_t(XCB_CURRENT_TIME));
+    EXPECT_TRUE(grab && grab->status == XCB_GRAB_STATUS_SUCCESS);
+}
+
 int PlainWindow::presses() {
     client_.finish();
     int count = 0;

@@ -20,7 +20,12 @@ public:
     static QColor colour() { return QColor::fromRgb(0x3366cc); }
 
     xcb_window_t id() const { return id_; }
-    const XClient& client() const { return client_; }
+
+    void raise();
+    void moveTo(QPoint place);
+
+    /// From now on it alone gets what the pointer does.
+    void grabPointer();
 
     /// How often a button of the pointer was pressed on it since this was last asked.
     int presses();

@@ -3,12 +3,14 @@
 #include <cstring>
 #include <gtest/gtest.h>
 #include <span>
+#include <utility>
 
 namespace brellowind::test {
 
-XClient::XClient(const QString& display)
-    : connection_(xcb_connect(display.toLatin1().constData(), nullptr)) {
-    EXPECT_EQ(xcb_connection_has_error(connection_), 0) << qPrintable(display);
+XClient::XClient(QString display)
+    : display_(std::move(display)),
+      connection_(xcb_connect(display_.toLatin1().constData(), nullptr)) {
+    EXPECT_EQ(xcb_connection_has_error(connection_), 0) << qPrintable(display_);
     screen_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
 }
 
@@ -48,7 +50,15 @@ QList<xcb_window_t> XClient::stack() const {
     if (!tree)
         return {};
     const auto* first = xcb_query_tree_children(tree.get());
-    return {first, first + xcb_query_tree_children_length(tree.get())};
+    QList<xcb_window_t> shown(first, first + xcb_query_tree_children_length(tree.get()));
+    shown.removeIf([this](xcb_window_t window) { return !isViewable(window); });
+    return shown;
+}
+
+bool XClient::isAbove(xcb_window_t upper, xcb_window_t lower) const {
+    const auto windows = stack();
+    const auto below = windows.indexOf(frameOf(lower));
+    return below >= 0 && windows.indexOf(frameOf(upper)) > below;
 }
 
 xcb_window_t XClient::frameOf(xcb_window_t window) const {
@@ -79,6 +89,19 @@ bool XClient::overridesRedirect(xcb_window_t window) const {
     return attributes && attributes->override_redirect != 0;
 }
 
+QRegion XClient::shape(xcb_window_t window, xcb_shape_kind_t kind) const {
+    const auto rectangles =
+        ask<xcb_shape_get_rectangles, xcb_shape_get_rectangles_reply>(window, kind);
+    if (!rectangles)
+        return {};
+    const auto* first = xcb_shape_get_rectangles_rectangles(rectangles.get());
+    const auto count = xcb_shape_get_rectangles_rectangles_length(rectangles.get());
+    QRegion region;
+    for (const auto& part : std::span(first, static_cast<std::size_t>(count)))
+        region += QRect(part.x, part.y, part.width, part.height);
+    return region;
+}
+
 xcb_window_t XClient::focus() const {
     const auto answer = ask<xcb_get_input_focus, xcb_get_input_focus_reply>();
     return answer ? answer->focus : xcb_window_t(XCB_WINDOW_NONE);
@@ -93,6 +116,11 @@ QColor XClient::pixel(QPoint place) const {
     quint32 colour = 0;
     std::memcpy(&colour, xcb_get_image_data(image.get()), sizeof colour);
     return QColor::fromRgb(colour);
+}
+
+void XClient::setScreenSaverActive(bool active) const {
+    xcb_force_screen_saver(connection_, active ? XCB_SCREEN_SAVER_ACTIVE : XCB_SCREEN_SAVER_RESET);
+    finish();
 }
 
 } // namespace brellowind::test

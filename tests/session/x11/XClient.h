@@ -3,11 +3,13 @@
 #include <QColor>
 #include <QList>
 #include <QRect>
+#include <QRegion>
 #include <QString>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <type_traits>
+#include <xcb/shape.h>
 #include <xcb/xcb.h>
 
 namespace brellowind::test {
@@ -16,11 +18,12 @@ namespace brellowind::test {
 /// pixels. Fails the running test when it cannot connect.
 class XClient {
 public:
-    explicit XClient(const QString& display);
+    explicit XClient(QString display);
     XClient(const XClient&) = delete;
     XClient& operator=(const XClient&) = delete;
     ~XClient();
 
+    QString display() const { return display_; }
     xcb_connection_t* get() const { return connection_; }
     xcb_window_t root() const { return screen_->root; }
     const xcb_screen_t& screen() const { return *screen_; }
@@ -44,17 +47,23 @@ public:
     /// Whether somebody owns a selection.
     bool isOwned(const char* selection) const;
 
-    /// The children of the root window, from bottom to top.
+    /// The children of the root window that are shown, from bottom to top.
     QList<xcb_window_t> stack() const;
+
+    /// Whether both windows are shown, `upper` above `lower`.
+    bool isAbove(xcb_window_t upper, xcb_window_t lower) const;
 
     /// The child of the root window that `window` is or stands in.
     xcb_window_t frameOf(xcb_window_t window) const;
 
-    /// Where a window is on the root window.
+    /// Where a window is on the root window; a null rectangle when there is no such window.
     QRect geometry(xcb_window_t window) const;
 
     bool isViewable(xcb_window_t window) const;
     bool overridesRedirect(xcb_window_t window) const;
+
+    /// The bounding or the input shape of a window.
+    QRegion shape(xcb_window_t window, xcb_shape_kind_t kind) const;
 
     /// The window that has the keyboard.
     xcb_window_t focus() const;
@@ -62,7 +71,10 @@ public:
     /// What is seen at a place.
     QColor pixel(QPoint place) const;
 
+    void setScreenSaverActive(bool active) const;
+
 private:
+    QString display_;
     xcb_connection_t* connection_;
     const xcb_screen_t* screen_ = nullptr;
 };

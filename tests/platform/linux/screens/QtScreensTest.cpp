@@ -2,7 +2,7 @@
 
 #include "platform/qt/QtMainLoop.h"
 #include "session/EventLoop.h"
-#include "session/Monitors.h"
+#include "session/x11/Monitors.h"
 #include "support/PrintGeometry.h"
 
 #include <QGuiApplication>
@@ -36,7 +36,7 @@ protected:
     platform::QtScreens screens{mainLoop};
     int changes = 0;
     Subscription subscription = screens.onChange([this] { ++changes; });
-    Monitors monitors;
+    Monitors monitors{qEnvironmentVariable("DISPLAY")};
 };
 
 TEST_F(QtScreens, AreOneThatIsTheMainOneToo) {

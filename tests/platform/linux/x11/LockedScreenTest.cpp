@@ -18,11 +18,11 @@ protected:
 
 TEST_F(LockedScreen, HidesThePillWhileTheServersScreenSaverIsActive) {
     show();
-    other.setScreenSaverActive(true);
+    x.setScreenSaverActive(true);
     EXPECT_TRUE(waitUntil([this] { return !isShown(); }));
-    other.setScreenSaverActive(false);
+    x.setScreenSaverActive(false);
     EXPECT_TRUE(waitUntil([this] { return isShown(); }));
-    EXPECT_EQ(other.frame(id()), windowPixels);
+    EXPECT_EQ(x.geometry(id()), windowPixels);
     EXPECT_EQ(input(), QRegion(pillInWindow));
 }
 
@@ -32,18 +32,18 @@ TEST_F(LockedScreen, HidesThePillWhileTheDesktopsScreenSaverIsActive) {
     EXPECT_TRUE(waitUntil([this] { return !isShown(); }));
     announce(false);
     EXPECT_TRUE(waitUntil([this] { return isShown(); }));
-    EXPECT_EQ(other.stack().back(), id());
+    EXPECT_EQ(x.stack().back(), id());
 }
 
 TEST_F(LockedScreen, HidesThePillUntilBothAreInactive) {
     show();
     announce(true);
-    other.setScreenSaverActive(true);
+    x.setScreenSaverActive(true);
     ASSERT_TRUE(waitUntil([this] { return !isShown(); }));
     announce(false);
     ASSERT_TRUE(waitUntil([this] { return !lock.isLocked(); }));
     EXPECT_FALSE(isShown());
-    other.setScreenSaverActive(false);
+    x.setScreenSaverActive(false);
     EXPECT_TRUE(waitUntil([this] { return isShown(); }));
 }
 

@@ -5,8 +5,9 @@
 #include "platform/qt/QtMainLoop.h"
 #include "session/Desktop.h"
 #include "session/EventLoop.h"
-#include "session/Managers.h"
-#include "session/OtherProgram.h"
+#include "session/x11/Managers.h"
+#include "session/x11/Person.h"
+#include "session/x11/PlainWindow.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -15,6 +16,7 @@
 #include <QScreen>
 #include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace brellowind::test {
 
@@ -46,9 +48,8 @@ protected:
 /// rectangle of 200 × 60 at the middle of its top edge.
 class PillOnX11 : public testing::Test {
 protected:
-    static constexpr std::uint32_t green = 0x00ff00;
-    static constexpr std::uint32_t red = 0xff0000;
-
+    const QString display = qEnvironmentVariable("DISPLAY");
+    const QColor green{Qt::green};
     const QRect windowPixels{440, 0, 400, 300};
     const QRect pillInWindow{100, 0, 200, 60};
     const QPoint onPill{640, 30};
@@ -69,9 +70,10 @@ protected:
     }
 
     /// Another program's window under the shown pill and what is beside it.
-    xcb_window_t openBeneath() {
-        const auto beneath = other.open({0, 0, 1280, 400}, OtherProgram::Kind::bypassing);
-        EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), beneath); }));
+    PlainWindow& openBeneath() {
+        auto& beneath =
+            beneath_.emplace(display, QRect(0, 0, 1280, 400), PlainWindow::Kind::unmanaged);
+        EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), beneath.id()); }));
         return beneath;
     }
 
@@ -84,16 +86,16 @@ protected:
     }
 
     xcb_window_t id() const { return static_cast<xcb_window_t>(window.winId()); }
-    bool isShown() { return window.handle() && other.isViewable(id()); }
+    bool isShown() { return window.handle() && x.isViewable(id()); }
 
     QRegion input() {
         settle();
-        return other.shape(id(), XCB_SHAPE_SK_INPUT);
+        return x.shape(id(), XCB_SHAPE_SK_INPUT);
     }
 
     QRegion bounding() {
         settle();
-        return other.shape(id(), XCB_SHAPE_SK_BOUNDING);
+        return x.shape(id(), XCB_SHAPE_SK_BOUNDING);
     }
 
     platform::QtMainLoop mainLoop;
@@ -101,7 +103,9 @@ protected:
     platform::ScreenLock lock{bus.connection(), bus.connection()};
     GreenWindow window;
     platform::X11OverlayWindow overlay{window, mainLoop, lock};
-    OtherProgram other;
+    XClient x{display};
+    Person person{x};
+    std::optional<PlainWindow> beneath_;
 };
 
 } // namespace brellowind::test

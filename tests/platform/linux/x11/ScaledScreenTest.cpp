@@ -2,7 +2,7 @@
 
 #include "platform/linux/screens/QtScreens.h"
 #include "platform/linux/x11/X11Pointer.h"
-#include "session/Monitors.h"
+#include "session/x11/Monitors.h"
 #include "support/PrintGeometry.h"
 
 namespace brellowind::test {
@@ -21,9 +21,9 @@ TEST_F(ScaledScreen, IsMeasuredInPoints) {
 }
 
 TEST_F(ScaledScreen, HasThePointerBetweenThePoints) {
-    other.movePointer({0, 0});
+    person.pointAt({0, 0});
     EXPECT_EQ(pointer.location(), (Point{0.25, 399.75}));
-    other.movePointer({1279, 799});
+    person.pointAt({1279, 799});
     EXPECT_EQ(pointer.location(), (Point{639.75, 0.25}));
 }
 
@@ -33,19 +33,19 @@ TEST_F(ScaledScreen, HasTheWindowAndItsShapeInPixels) {
     setOutline({100, 0, 200, 60});
     overlay.orderFrontRegardless();
     ASSERT_TRUE(waitUntil([this] { return isShown(); }));
-    EXPECT_EQ(other.frame(id()), QRect(240, 0, 800, 300));
+    EXPECT_EQ(x.geometry(id()), QRect(240, 0, 800, 300));
     EXPECT_EQ(input(), QRegion(200, 0, 400, 120));
     EXPECT_EQ(bounding(), QRegion(200, 0, 400, 120));
 }
 
 TEST_F(ScaledScreen, TakesTheWindowInBesideAScreenOfAnotherScale) {
-    Monitors monitors;
+    Monitors monitors(display);
     monitors.add(QStringLiteral("LEFT"), {0, 0, 480, 800}, true);
     monitors.add(QStringLiteral("RIGHT"), {480, 200, 800, 600}, false);
     ASSERT_TRUE(waitUntil([this] { return screens.screens().size() == 2; }));
     EXPECT_EQ(screens.screens()[0].frame, (Rect{0, 0, 480, 800}));
     EXPECT_EQ(screens.screens()[1].frame, (Rect{480, 300, 400, 300}));
-    other.movePointer({480, 200});
+    person.pointAt({480, 200});
     EXPECT_EQ(pointer.location(), (Point{480.25, 599.75}));
 
     overlay.setIgnoresMouseEvents(false);
@@ -53,11 +53,11 @@ TEST_F(ScaledScreen, TakesTheWindowInBesideAScreenOfAnotherScale) {
     overlay.setFrame({480, 450, 400, 150});
     overlay.orderFrontRegardless();
     EXPECT_TRUE(waitUntil([this] { return isShown(); }));
-    EXPECT_TRUE(waitUntil([this] { return other.frame(id()) == QRect(480, 200, 800, 300); }));
+    EXPECT_TRUE(waitUntil([this] { return x.geometry(id()) == QRect(480, 200, 800, 300); }));
     EXPECT_EQ(input(), QRegion(200, 0, 400, 120));
 
     overlay.setFrame({40, 650, 400, 150});
-    EXPECT_TRUE(waitUntil([this] { return other.frame(id()) == QRect(40, 0, 400, 150); }));
+    EXPECT_TRUE(waitUntil([this] { return x.geometry(id()) == QRect(40, 0, 400, 150); }));
     EXPECT_TRUE(waitUntil([this] { return input() == QRegion(100, 0, 200, 60); }));
 }
 

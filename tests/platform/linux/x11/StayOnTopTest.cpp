@@ -5,35 +5,35 @@
 namespace brellowind::test {
 namespace {
 
-using Kind = OtherProgram::Kind;
+using Kind = PlainWindow::Kind;
 using std::chrono::milliseconds;
 
 using StayOnTop = PillOnX11;
 
 TEST_F(StayOnTop, ComesBackAboveAWindowThatIsMappedOverIt) {
     show();
-    const auto rival = other.open({300, 0, 600, 200}, Kind::bypassing);
-    EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), rival); }));
+    const PlainWindow rival(display, {300, 0, 600, 200}, Kind::unmanaged);
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); }));
 }
 
 TEST_F(StayOnTop, ComesBackAboveAWindowThatIsRaisedOrMovedOverIt) {
-    const auto raised = other.open({300, 0, 600, 200}, Kind::bypassing);
+    PlainWindow raised(display, {300, 0, 600, 200}, Kind::unmanaged);
     show();
-    ASSERT_TRUE(other.isAbove(id(), raised));
-    other.raise(raised);
-    EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), raised); }));
-    const auto moved = other.open({0, 600, 600, 200}, Kind::bypassing);
+    ASSERT_TRUE(x.isAbove(id(), raised.id()));
+    raised.raise();
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), raised.id()); }));
+    PlainWindow moved(display, {0, 600, 600, 200}, Kind::unmanaged);
     runFor(milliseconds(100));
-    ASSERT_TRUE(other.isAbove(moved, id()));
-    other.move(moved, {300, 0});
-    EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), moved); }));
+    ASSERT_TRUE(x.isAbove(moved.id(), id()));
+    moved.moveTo({300, 0});
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), moved.id()); }));
 }
 
 TEST_F(StayOnTop, LeavesAWindowAboveThatDoesNotCoverIt) {
     show();
-    const auto rival = other.open({0, 400, 600, 200}, Kind::bypassing);
+    const PlainWindow rival(display, {0, 400, 600, 200}, Kind::unmanaged);
     runFor(milliseconds(300));
-    EXPECT_TRUE(other.isAbove(rival, id()));
+    EXPECT_TRUE(x.isAbove(rival.id(), id()));
 }
 
 TEST_F(StayOnTop, LeavesThisProgramsOwnWindowsAbove) {
@@ -43,54 +43,53 @@ TEST_F(StayOnTop, LeavesThisProgramsOwnWindowsAbove) {
     menu.setGeometry(500, 20, 200, 200);
     menu.show();
     const auto menuId = static_cast<xcb_window_t>(menu.winId());
-    ASSERT_TRUE(waitUntil([&] { return other.isViewable(menuId); }));
+    ASSERT_TRUE(waitUntil([&] { return x.isViewable(menuId); }));
     runFor(milliseconds(300));
-    EXPECT_TRUE(other.isAbove(menuId, id()));
-    const auto rival = other.open({300, 0, 600, 200}, Kind::bypassing);
-    EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), rival); }));
-    EXPECT_TRUE(other.isAbove(menuId, id()));
+    EXPECT_TRUE(x.isAbove(menuId, id()));
+    const PlainWindow rival(display, {300, 0, 600, 200}, Kind::unmanaged);
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); }));
+    EXPECT_TRUE(x.isAbove(menuId, id()));
 }
 
 TEST_F(StayOnTop, IsAboveAFullScreenWindowOfAWindowManager) {
-    const WindowManager windowManager;
+    const WindowManager windowManager(x);
     show();
-    const auto rival = other.open({0, 0, 600, 400}, Kind::managed);
-    ASSERT_TRUE(waitUntil([&] { return other.topLevel(rival) != rival; }));
-    other.makeFullScreen(rival);
-    ASSERT_TRUE(waitUntil([&] { return other.frame(rival) == QRect(0, 0, 1280, 800); }));
-    EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), rival); }));
-    other.raise(rival);
+    PlainWindow rival(display, {0, 0, 600, 400}, Kind::fullScreen);
+    ASSERT_TRUE(waitUntil([&] { return x.geometry(rival.id()) == QRect(0, 0, 1280, 800); }));
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); }));
+    rival.raise();
     runFor(milliseconds(100));
-    EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), rival); }));
-    EXPECT_TRUE(waitUntil([this] { return other.pixel(onPill) == green; }));
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); }));
+    EXPECT_TRUE(waitUntil([this] { return x.pixel(onPill) == green; }));
 }
 
 TEST_F(StayOnTop, StaysBelowAWindowThatShieldsTheWholeScreen) {
     show();
-    const auto locker = other.open({0, 0, 1280, 800}, Kind::bypassing);
+    std::optional<PlainWindow> locker(std::in_place, display, QRect(0, 0, 1280, 800),
+                                      Kind::unmanaged);
     runFor(milliseconds(300));
-    EXPECT_TRUE(other.isAbove(locker, id()));
-    other.open({300, 0, 600, 200}, Kind::bypassing);
+    EXPECT_TRUE(x.isAbove(locker->id(), id()));
+    const PlainWindow rival(display, {300, 0, 600, 200}, Kind::unmanaged);
     runFor(milliseconds(300));
-    EXPECT_TRUE(other.isAbove(locker, id()));
-    other.close(locker);
-    EXPECT_TRUE(waitUntil([this] { return other.stack().back() == id(); }));
+    EXPECT_TRUE(x.isAbove(locker->id(), id()));
+    locker.reset();
+    EXPECT_TRUE(waitUntil([this] { return x.stack().back() == id(); }));
 }
 
 TEST_F(StayOnTop, FightsForTheTopFiveTimesASecondAtMost) {
     show();
-    const auto rival = other.open({300, 0, 600, 200}, Kind::bypassing);
-    ASSERT_TRUE(waitUntil([&] { return other.isAbove(id(), rival); }));
+    PlainWindow rival(display, {300, 0, 600, 200}, Kind::unmanaged);
+    ASSERT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); }));
     int raises = 1;
     const QDeadlineTimer end(milliseconds(1500));
     while (!end.hasExpired()) {
-        other.raise(rival);
-        if (waitUntil([&] { return other.isAbove(id(), rival); }, milliseconds(100)))
+        rival.raise();
+        if (waitUntil([&] { return x.isAbove(id(), rival.id()); }, milliseconds(100)))
             ++raises;
     }
     EXPECT_EQ(raises, 5);
-    EXPECT_TRUE(other.isAbove(rival, id()));
-    EXPECT_TRUE(waitUntil([&] { return other.isAbove(id(), rival); })); // after the pause
+    EXPECT_TRUE(x.isAbove(rival.id(), id()));
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); })); // after the pause
 }
 
 } // namespace

@@ -1,94 +1,95 @@
 #include "platform/linux/x11/PillOnX11.h"
 
-#include "session/Monitors.h"
+#include "session/x11/Monitors.h"
+#include "session/x11/WindowWatch.h"
 
 namespace brellowind::test {
 namespace {
 
-using Kind = OtherProgram::Kind;
+using Kind = PlainWindow::Kind;
 
 using X11OverlayWindow = PillOnX11;
 
 TEST_F(X11OverlayWindow, StandsExactlyWhereItIsPutAndBypassesTheWindowManager) {
-    const WindowManager windowManager;
+    const WindowManager windowManager(x);
     show();
-    EXPECT_EQ(other.frame(id()), windowPixels);
-    EXPECT_TRUE(other.bypassesWindowManager(id()));
-    EXPECT_EQ(other.topLevel(id()), id());
+    EXPECT_EQ(x.geometry(id()), windowPixels);
+    EXPECT_TRUE(x.overridesRedirect(id()));
+    EXPECT_EQ(x.frameOf(id()), id());
 }
 
 TEST_F(X11OverlayWindow, MovesToAnotherScreen) {
-    Monitors monitors;
+    Monitors monitors(display);
     show();
     monitors.add(QStringLiteral("LEFT"), {0, 0, 480, 800}, true);
     monitors.add(QStringLiteral("RIGHT"), {480, 200, 800, 600}, false);
     ASSERT_TRUE(waitUntil([] { return QGuiApplication::screens().size() == 2; }));
     overlay.setFrame({580, 300, 400, 300}); // at the top of the right one, which begins at y = 0
-    EXPECT_TRUE(waitUntil([this] { return other.frame(id()) == QRect(580, 200, 400, 300); }));
+    EXPECT_TRUE(waitUntil([this] { return x.geometry(id()) == QRect(580, 200, 400, 300); }));
     EXPECT_EQ(window.screen()->name(), QStringLiteral("RIGHT"));
     EXPECT_EQ(input(), QRegion(pillInWindow));
 }
 
 TEST_F(X11OverlayWindow, TakesNoFocusFromAnApplication) {
-    const WindowManager windowManager;
-    const auto application = other.open({200, 100, 800, 600}, Kind::managed);
-    ASSERT_TRUE(waitUntil([&] { return other.focus() == application; }));
+    const WindowManager windowManager(x);
+    const PlainWindow application(display, {200, 100, 800, 600}, Kind::managed);
+    ASSERT_TRUE(waitUntil([&] { return x.focus() == application.id(); }));
     show();
-    other.click(onPill);
+    person.pressAt(onPill);
     ASSERT_TRUE(waitUntil([this] { return window.presses == 1; }));
-    EXPECT_EQ(other.focus(), application);
+    EXPECT_EQ(x.focus(), application.id());
 }
 
 TEST_F(X11OverlayWindow, TakesThePointerWithinItsOutlineOnly) {
     show();
     EXPECT_EQ(input(), QRegion(pillInWindow));
-    const auto beneath = openBeneath();
-    other.click({539, 30});
-    other.click({640, 60});
-    EXPECT_EQ(other.clicks(beneath), 2);
-    other.click({540, 30});
-    other.click({640, 59});
+    auto& beneath = openBeneath();
+    person.pressAt({539, 30});
+    person.pressAt({640, 60});
+    EXPECT_EQ(beneath.presses(), 2);
+    person.pressAt({540, 30});
+    person.pressAt({640, 59});
     EXPECT_TRUE(waitUntil([this] { return window.presses == 2; }));
-    EXPECT_EQ(other.clicks(beneath), 2);
+    EXPECT_EQ(beneath.presses(), 0);
 }
 
 TEST_F(X11OverlayWindow, LetsClicksOnThePillThroughWhileItIgnoresThem) {
     show();
     overlay.setIgnoresMouseEvents(true);
     EXPECT_TRUE(input().isEmpty());
-    const auto beneath = openBeneath();
-    other.click(onPill);
-    EXPECT_EQ(other.clicks(beneath), 1);
+    auto& beneath = openBeneath();
+    person.pressAt(onPill);
+    EXPECT_EQ(beneath.presses(), 1);
     overlay.setIgnoresMouseEvents(false);
     settle();
-    other.click(onPill);
+    person.pressAt(onPill);
     EXPECT_TRUE(waitUntil([this] { return window.presses == 1; }));
-    EXPECT_EQ(other.clicks(beneath), 1);
+    EXPECT_EQ(beneath.presses(), 0);
 }
 
 TEST_F(X11OverlayWindow, NeitherMovesNorVanishesWhenItsInputSwitches) {
     show();
-    const auto events = other.structureEvents(id());
+    WindowWatch watch(display, id());
     for (int i = 0; i < 10; ++i) {
         overlay.setIgnoresMouseEvents(true);
         overlay.setIgnoresMouseEvents(false);
     }
     EXPECT_EQ(input(), QRegion(pillInWindow));
-    EXPECT_EQ(other.structureEvents(id()), events);
+    EXPECT_EQ(watch.structureEvents(), 0);
     overlay.setFrame({440, 490, 400, 300});
-    EXPECT_TRUE(waitUntil([&] { return other.structureEvents(id()) > events; }));
+    EXPECT_TRUE(waitUntil([&] { return watch.structureEvents() > 0; }));
 }
 
 TEST_F(X11OverlayWindow, SendsNothingWhenItIsToldWhatItKnows) {
     show();
-    const auto events = other.shapeEvents(id());
+    WindowWatch watch(display, id());
     overlay.setIgnoresMouseEvents(false);
     setOutline(pillInWindow);
     EXPECT_EQ(input(), QRegion(pillInWindow));
-    EXPECT_EQ(other.shapeEvents(id()), events);
+    EXPECT_EQ(watch.shapeEvents(), 0);
     overlay.setIgnoresMouseEvents(true);
     EXPECT_TRUE(input().isEmpty());
-    EXPECT_EQ(other.shapeEvents(id()), events + 1);
+    EXPECT_EQ(watch.shapeEvents(), 1);
 }
 
 TEST_F(X11OverlayWindow, TakesThePointerInTheNewOutlineWhenItChanges) {
@@ -118,43 +119,43 @@ TEST_F(X11OverlayWindow, HasItsShapeAgainWhenItsNativeWindowIsMadeAnew) {
 }
 
 TEST_F(X11OverlayWindow, IsThePillAloneWithoutACompositingManager) {
-    other.open({0, 0, 1280, 800}, Kind::managed, red);
+    const PlainWindow behind(display, {0, 0, 1280, 800}, Kind::managed);
     show();
     EXPECT_EQ(bounding(), QRegion(pillInWindow));
-    EXPECT_TRUE(waitUntil([this] { return other.pixel(onPill) == green; }));
-    EXPECT_EQ(other.pixel({540, 0}), green);
-    EXPECT_EQ(other.pixel({739, 59}), green);
+    EXPECT_TRUE(waitUntil([this] { return x.pixel(onPill) == green; }));
+    EXPECT_EQ(x.pixel({540, 0}), green);
+    EXPECT_EQ(x.pixel({739, 59}), green);
     for (const QPoint beside : {QPoint(539, 0), QPoint(740, 0), QPoint(640, 60), besidePill})
-        EXPECT_EQ(other.pixel(beside), red);
+        EXPECT_EQ(x.pixel(beside), PlainWindow::colour());
     setOutline({50, 0, 300, 200});
-    EXPECT_TRUE(waitUntil([this] { return other.pixel(besidePill) == green; }));
+    EXPECT_TRUE(waitUntil([this] { return x.pixel(besidePill) == green; }));
     setOutline(pillInWindow);
-    EXPECT_TRUE(waitUntil([this] { return other.pixel(besidePill) == red; }));
+    EXPECT_TRUE(waitUntil([this] { return x.pixel(besidePill) == PlainWindow::colour(); }));
 }
 
 TEST_F(X11OverlayWindow, IsTransparentAroundThePillWithACompositingManager) {
-    const CompositingManagerProcess compositing(other);
-    other.open({0, 0, 1280, 800}, Kind::managed, red);
+    const CompositingManager compositing(x);
+    const PlainWindow behind(display, {0, 0, 1280, 800}, Kind::managed);
     show();
     const QRegion whole(QRect(QPoint(), windowPixels.size()));
     EXPECT_TRUE(waitUntil([&] { return bounding() == whole; })); // once the manager is known
     EXPECT_EQ(input(), QRegion(pillInWindow));
-    EXPECT_TRUE(waitUntil([this] { return other.pixel(onPill) == green; }));
-    EXPECT_TRUE(waitUntil([this] { return other.pixel(besidePill) == red; }));
+    EXPECT_TRUE(waitUntil([this] { return x.pixel(onPill) == green; }));
+    EXPECT_TRUE(waitUntil([this] { return x.pixel(besidePill) == PlainWindow::colour(); }));
 }
 
 TEST_F(X11OverlayWindow, FollowsTheCompositingManagerThatComesAndGoes) {
-    other.open({0, 0, 1280, 800}, Kind::managed, red);
+    const PlainWindow behind(display, {0, 0, 1280, 800}, Kind::managed);
     show();
     const QRegion whole{QRect(QPoint(), windowPixels.size())};
     for (int i = 0; i < 2; ++i) {
         {
-            const CompositingManagerProcess compositing(other);
+            const CompositingManager compositing(x);
             EXPECT_TRUE(waitUntil([&] { return bounding() == whole; }));
         }
         EXPECT_TRUE(waitUntil([&] { return bounding() == QRegion(pillInWindow); }));
-        EXPECT_TRUE(waitUntil([this] { return other.pixel(besidePill) == red; }));
-        EXPECT_TRUE(waitUntil([this] { return other.pixel(onPill) == green; }));
+        EXPECT_TRUE(waitUntil([this] { return x.pixel(besidePill) == PlainWindow::colour(); }));
+        EXPECT_TRUE(waitUntil([this] { return x.pixel(onPill) == green; }));
     }
     EXPECT_EQ(input(), QRegion(pillInWindow));
 }

@@ -9,7 +9,7 @@ namespace {
 class X11Pointer : public PillOnX11 {
 protected:
     void SetUp() override {
-        other.movePointer({1000, 700});
+        person.pointAt({1000, 700});
         ASSERT_TRUE(waitUntil([this] { return global + local > 0; }));
         global = local = 0;
     }
@@ -24,24 +24,24 @@ protected:
 };
 
 TEST_F(X11Pointer, IsAtTheMiddleOfItsPixelInDesktopCoordinates) {
-    other.movePointer({10, 20});
+    person.pointAt({10, 20});
     EXPECT_EQ(pointer.location(), (Point{10.5, 779.5}));
-    other.movePointer({1279, 799});
+    person.pointAt({1279, 799});
     EXPECT_EQ(pointer.location(), (Point{1279.5, 0.5}));
 }
 
 TEST_F(X11Pointer, TellsOfMovementsOverNothing) {
-    other.movePointer({1010, 700});
+    person.pointAt({1010, 700});
     EXPECT_TRUE(waitUntil([this] { return global == 1; }));
-    other.movePointer({1011, 700});
+    person.pointAt({1011, 700});
     EXPECT_TRUE(waitUntil([this] { return global == 2; }));
     EXPECT_EQ(local, 0);
 }
 
 TEST_F(X11Pointer, TellsOfMovementsOverAWindowThatKeepsThemToItself) {
-    const auto grabbing = other.open({900, 500, 300, 300}, OtherProgram::Kind::bypassing);
-    other.grabPointer(grabbing);
-    other.movePointer({1010, 700});
+    PlainWindow grabbing(display, {900, 500, 300, 300}, PlainWindow::Kind::unmanaged);
+    grabbing.grabPointer();
+    person.pointAt({1010, 700});
     EXPECT_TRUE(waitUntil([this] { return global == 1; }));
     EXPECT_EQ(local, 0);
 }
@@ -50,7 +50,7 @@ TEST_F(X11Pointer, TellsOfMovementsOverThePillLocallyBeforeThePillHears) {
     show();
     int heardBefore = -1;
     window.onPointer = [&] { heardBefore = local; };
-    other.movePointer(onPill);
+    person.pointAt(onPill);
     EXPECT_TRUE(waitUntil([&] { return heardBefore >= 0; }));
     EXPECT_GE(heardBefore, 1);
     EXPECT_EQ(global, 0);
@@ -59,7 +59,7 @@ TEST_F(X11Pointer, TellsOfMovementsOverThePillLocallyBeforeThePillHears) {
 
 TEST_F(X11Pointer, TellsOfMovementsOverTheWindowBesideThePillGlobally) {
     show();
-    other.movePointer(besidePill);
+    person.pointAt(besidePill);
     EXPECT_TRUE(waitUntil([this] { return global == 1; }));
     EXPECT_EQ(local, 0);
 }
@@ -68,14 +68,14 @@ TEST_F(X11Pointer, TellsOfMovementsOverAClickThroughPillGlobally) {
     show();
     overlay.setIgnoresMouseEvents(true);
     settle();
-    other.movePointer(onPill);
+    person.pointAt(onPill);
     EXPECT_TRUE(waitUntil([this] { return global == 1; }));
     EXPECT_EQ(local, 0);
 }
 
 TEST_F(X11Pointer, TellsOfAHundredMovementsThatComeTogetherAFewTimesAtMost) {
-    for (int x = 100; x < 200; ++x)
-        other.movePointer({x, 700});
+    for (int column = 100; column < 200; ++column)
+        person.pointAt({column, 700});
     EXPECT_TRUE(waitUntil([this] { return global > 0; }));
     runFor(std::chrono::milliseconds(50));
     EXPECT_LT(global, 10);
@@ -91,7 +91,7 @@ TEST_F(X11Pointer, TellsNobodyWhoHasLeft) {
     globalMonitor.reset();
     int still = 0;
     const auto stays = pointer.addGlobalMonitor([&] { ++still; });
-    other.movePointer({1010, 700});
+    person.pointAt({1010, 700});
     EXPECT_TRUE(waitUntil([&] { return still == 1; }));
     EXPECT_EQ(global, 0);
 }
@@ -103,23 +103,23 @@ TEST_F(X11Pointer, LetsAHandlerRemoveItsOwnMonitor) {
         ++calls;
         once.reset();
     });
-    other.movePointer({1010, 700});
+    person.pointAt({1010, 700});
     EXPECT_TRUE(waitUntil([this] { return global == 1; }));
-    other.movePointer({1020, 700});
+    person.pointAt({1020, 700});
     EXPECT_TRUE(waitUntil([this] { return global == 2; }));
     EXPECT_EQ(calls, 1);
 }
 
 TEST_F(X11Pointer, TellsOfMovementsOverAWindowInAFrameLocally) {
-    const WindowManager windowManager;
+    const WindowManager windowManager(x);
     QRasterWindow settings;
     settings.setGeometry(100, 300, 300, 200);
     settings.show();
     const auto id = static_cast<xcb_window_t>(settings.winId());
-    ASSERT_TRUE(waitUntil([&] { return other.topLevel(id) != id && other.isViewable(id); }));
+    ASSERT_TRUE(waitUntil([&] { return x.frameOf(id) != id && x.isViewable(id); }));
     runFor(std::chrono::milliseconds(0));
     global = local = 0;
-    other.movePointer(other.frame(id)->center());
+    person.pointAt(x.geometry(id).center());
     EXPECT_TRUE(waitUntil([this] { return local == 1; }));
     EXPECT_EQ(global, 0);
 }

@@ -1,5 +1,5 @@
 #include "session/Desktop.h"
-#include "session/Monitors.h"
+#include "session/x11/Monitors.h"
 
 #include <QGuiApplication>
 #include <gtest/gtest.h>
