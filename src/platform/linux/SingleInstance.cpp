@@ -39,9 +39,9 @@ bool SingleInstance::claim() {
     bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
     if (!bus_.isConnected() || bus_.registerService(name_))
         return true;
-    bus_.call(QDBusMessage::createMethodCall(name_, objectPath, interfaceName,
-                                             QStringLiteral("Open")),
-              QDBus::Block, patienceMs);
+    bus_.call(
+        QDBusMessage::createMethodCall(name_, objectPath, interfaceName, QStringLiteral("Open")),
+        QDBus::Block, patienceMs);
     return false;
 }
 
