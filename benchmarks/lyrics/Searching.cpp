@@ -35,7 +35,8 @@ struct PlayingView {
 };
 
 /// A function that is called, as the other is.
-[[gnu::noinline]] std::optional<std::size_t> upperBound(const std::vector<LyricLine>& lines, double seconds) {
+[[gnu::noinline]] std::optional<std::size_t> upperBound(const std::vector<LyricLine>& lines,
+                                                        double seconds) {
     const auto after = std::ranges::upper_bound(lines, seconds, {}, &LyricLine::time);
     if (after == lines.begin())
         return std::nullopt;
