@@ -34,7 +34,9 @@ struct PlayingView {
         NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
 };
 
-std::optional<std::size_t> upperBound(const std::vector<LyricLine>& lines, double seconds) {
+/// A function that is called, as the other is.
+[[gnu::noinline]] std::optional<std::size_t> upperBound(const std::vector<LyricLine>& lines,
+                                                        double seconds) {
     const auto after = std::ranges::upper_bound(lines, seconds, {}, &LyricLine::time);
     if (after == lines.begin())
         return std::nullopt;

@@ -41,8 +41,10 @@ class Load:
 
 
 def memory(pids):
-    """Kilobytes: the proportional share of all pages, and what is the processes' alone."""
-    pss = private = 0
+    """Kilobytes: the proportional share of all pages, what is the processes' alone, and what of
+    it comes from no file: only that does not change when others that share libraries come and go.
+    """
+    pss = private = anonymous = 0
     for pid in pids:
         fields = {}
         for line in Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()[1:]:
@@ -50,7 +52,8 @@ def memory(pids):
             fields[name] = int(value.split()[0])
         pss += fields["Pss"]
         private += fields["Private_Clean"] + fields["Private_Dirty"]
-    return {"pss": pss, "private": private}
+        anonymous += fields["Anonymous"]
+    return {"pss": pss, "private": private, "anonymous": anonymous}
 
 
 def load(pids, seconds):

@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
     }
     auto constants = compiledConstants();
     constants.lyricsOrigin = argv[1];
+    constants.updateFeedURL = constants.lyricsOrigin + "/latest.json"; // nothing leaves the machine
     BrellowindApp app(constants);
     if (!app.claimDisplay())
         return 1;

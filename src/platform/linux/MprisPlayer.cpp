@@ -48,10 +48,14 @@ ScriptOutcome MprisPlayer::execute(std::string_view source) {
     const bool reads = source == vocabulary_.readOutScript;
     if (!reads && source != vocabulary_.playPauseScript)
         return {};
-    const auto names = namesOnBus();
-    if (!names.isValid())
-        return failure(names.error());
-    const QStringList players = playersAmong(names);
+    // Who asks what runs and then reads need not have the bus asked twice.
+    auto players = std::exchange(running_, {});
+    if (!reads || players.isEmpty()) {
+        const auto names = namesOnBus();
+        if (!names.isValid())
+            return failure(names.error());
+        players = playersAmong(names);
+    }
     if (!players.isEmpty())
         return reads ? readOut(players.first()) : playPause(players.first());
     return reads ? ScriptOutcome{.text = std::string(), .error = std::nullopt}
@@ -59,8 +63,8 @@ ScriptOutcome MprisPlayer::execute(std::string_view source) {
 }
 
 std::vector<std::optional<std::string>> MprisPlayer::bundleIdentifiers() {
-    return {static_cast<std::size_t>(playersAmong(namesOnBus()).size()),
-            vocabulary_.bundleIdentifier};
+    running_ = playersAmong(namesOnBus());
+    return {static_cast<std::size_t>(running_.size()), vocabulary_.bundleIdentifier};
 }
 
 QDBusReply<QStringList> MprisPlayer::namesOnBus() const {

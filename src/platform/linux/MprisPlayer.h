@@ -56,6 +56,7 @@ private:
 
     QDBusConnection bus_;
     MprisVocabulary vocabulary_;
+    QStringList running_; ///< as last asked for; serves the one reading that follows
     std::unique_ptr<QDBusPendingCallWatcher> recovery_; ///< there while the player hangs
 };
 
