@@ -1,9 +1,8 @@
 #include "pictures/Comparison.h"
+#include "pictures/KeptPicture.h"
 #include "pictures/PillStage.h"
 
-#include <QDir>
 #include <QGuiApplication>
-#include <QScreen>
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
@@ -124,30 +123,8 @@ const Look looks[] = {
 class Pictures : public testing::TestWithParam<Look> {};
 
 TEST_P(Pictures, LookAsTheyAreKept) {
-    const int scale = static_cast<int>(QGuiApplication::primaryScreen()->devicePixelRatio());
-    const QString name =
-        QStringLiteral("%1@%2x.png").arg(QString::fromLatin1(GetParam().name)).arg(scale);
     PillStage stage;
-    QImage actual = GetParam().picture(stage);
-    actual.setDevicePixelRatio(1);
-    ASSERT_FALSE(actual.isNull());
-    const QDir kept(QStringLiteral(BRELLOWIND_KEPT_PICTURES));
-    if (qEnvironmentVariableIsSet("BRELLOWIND_RENEW_PICTURES")) {
-        ASSERT_TRUE(actual.save(kept.filePath(name)));
-        return;
-    }
-    const auto difference = compare(actual, QImage(kept.filePath(name)));
-    if (agree(difference))
-        return;
-    QDir().mkpath(QStringLiteral(BRELLOWIND_DIFFERING_PICTURES));
-    const QDir differing(QStringLiteral(BRELLOWIND_DIFFERING_PICTURES));
-    const QString shown = differing.filePath(name);
-    const QString compared = differing.filePath(QStringLiteral("difference-") + name);
-    actual.save(shown);
-    difference.image.save(compared);
-    ADD_FAILURE() << 100 * difference.fraction << " % of the pixels differ from "
-                  << qPrintable(kept.filePath(name)) << "\n  now: " << qPrintable(shown)
-                  << "\n  difference: " << qPrintable(compared);
+    expectKept(GetParam().picture(stage), QString::fromLatin1(GetParam().name));
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, Pictures, testing::ValuesIn(looks), [](const auto& parameter) {

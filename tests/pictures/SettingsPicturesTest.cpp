@@ -1,0 +1,96 @@
+#include "pictures/KeptPicture.h"
+#include "settings/SettingsRouter.h"
+#include "settings/window/SettingsWindow.h"
+#include "support/TestMachine.h"
+
+#include <QCoreApplication>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <gtest/gtest.h>
+
+namespace brellowind::test {
+namespace {
+
+using platform::HttpResponse;
+
+/// The settings window on a machine of the test's own, in any state.
+class SettingsPictures : public testing::Test {
+protected:
+    SettingsPictures() {
+        machine.loginItem.current = platform::LoginItem::Status::enabled;
+        settings.open();
+        machine.mainLoop.runTurns(); // the check of the General tab is under way
+    }
+
+    void answer(platform::HttpResult result) {
+        machine.http.answer(machine.http.requests.size() - 1, std::move(result));
+        machine.mainLoop.runTurns();
+    }
+
+    void focus(const char* item) {
+        settings.window()
+            ->contentItem()
+            ->findChild<QQuickItem*>(QString::fromLatin1(item))
+            ->forceActiveFocus(Qt::TabFocusReason);
+    }
+
+    void expectLook(const char* name) {
+        QCoreApplication::processEvents();
+        expectKept(settings.window()->grabWindow().convertToFormat(QImage::Format_RGB32),
+                   QStringLiteral("settings-") + QString::fromLatin1(name));
+    }
+
+    TestMachine machine;
+    SettingsWindow settings;
+};
+
+TEST_F(SettingsPictures, Checking) {
+    expectLook("checking");
+}
+
+TEST_F(SettingsPictures, UpToDate) {
+    answer(HttpResponse{200, R"({"version": "1.0", "url": "a:b"})"});
+    expectLook("up-to-date");
+}
+
+TEST_F(SettingsPictures, UpdateAvailable) {
+    answer(HttpResponse{200, R"({"version": "1.2", "url": "a:b"})"});
+    expectLook("available");
+}
+
+TEST_F(SettingsPictures, CheckFailed) {
+    answer(platform::TransportError{"no route"});
+    expectLook("failed");
+}
+
+TEST_F(SettingsPictures, KeyboardOnTheSwitch) {
+    answer(HttpResponse{200, R"({"version": "1.0", "url": "a:b"})"});
+    focus("launchAtLogin");
+    expectLook("keyboard-on-switch");
+}
+
+TEST_F(SettingsPictures, About) {
+    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    machine.mainLoop.runTurns();
+    expectLook("about");
+}
+
+TEST_F(SettingsPictures, KeyboardOnALink) {
+    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    machine.mainLoop.runTurns();
+    focus("websiteButton");
+    expectLook("keyboard-on-link");
+}
+
+/// Before the first check: a machine whose turns have not come.
+TEST(SettingsPicturesAtFirst, Idle) {
+    TestMachine machine;
+    SettingsWindow settings;
+    settings.open();
+    QCoreApplication::processEvents();
+    expectKept(settings.window()->grabWindow().convertToFormat(QImage::Format_RGB32),
+               QStringLiteral("settings-idle"));
+}
+
+} // namespace
+} // namespace brellowind::test
