@@ -23,9 +23,10 @@ QDBusVariant property(const QObject* object, const QString& name) {
     return QDBusVariant(value.isValid() ? value : QVariant(QString()));
 }
 
+/// Once it is exposed it holds pointer and keyboard as well.
 const QQuickWindow* openMenu() {
     for (const auto* window : QGuiApplication::allWindows())
-        if (window->objectName() == QStringLiteral("menu") && window->isVisible())
+        if (window->objectName() == QStringLiteral("menu") && window->isExposed())
             return qobject_cast<const QQuickWindow*>(window);
     return nullptr;
 }
