@@ -43,8 +43,7 @@ void LyricText::setFont(const QFont& font) {
         return;
     font_ = font;
     if (isComponentComplete()) {
-        layers_.clear();
-        componentComplete();
+        layOut();
     }
     Q_EMIT fontChanged();
 }
@@ -55,11 +54,21 @@ double LyricText::naturalWidth() const {
 
 void LyricText::componentComplete() {
     QQuickItem::componentComplete();
+    layOut();
+}
+
+/// Shows the present text at once, without those that go.
+void LyricText::layOut() {
+    layers_.clear();
     layers_.emplace_back(text_, font_, maximumWidth_, present_ ? 1.0 : 0.0);
     setImplicitHeight(std::ceil(QFontMetricsF(font_).height()));
+    followWidth();
+    update();
+}
+
+void LyricText::followWidth() {
     setImplicitWidth(std::ceil(naturalWidth()));
     Q_EMIT naturalWidthChanged();
-    update();
 }
 
 /// A line that is still on its way out turns back when its text comes again.
@@ -72,8 +81,7 @@ void LyricText::show(double now) {
         layers_.splice(layers_.end(), layers_, leaving);
     if (present_)
         layers_.back().comeIn(now);
-    setImplicitWidth(std::ceil(naturalWidth()));
-    Q_EMIT naturalWidthChanged();
+    followWidth();
     FrameDriver::shared().drive(*this);
 }
 

@@ -55,6 +55,8 @@ protected:
 private:
     bool advance(double now) override;
     void show(double now);
+    void layOut();
+    void followWidth();
 
     QString text_;
     bool present_ = true;

@@ -45,7 +45,7 @@ void VisualEffectBlur::setImage(const QImage& image) {
     if (image.cacheKey() == image_.cacheKey())
         return;
     image_ = image;
-    blurred_ = blurredCover(image);
+    blurred_ = QImage();
     update();
     Q_EMIT imageChanged();
 }
@@ -59,6 +59,8 @@ void VisualEffectBlur::setCoverSide(double side) {
 }
 
 void VisualEffectBlur::paint(QPainter& painter) {
+    if (blurred_.isNull())
+        blurred_ = blurredCover(image_);
     const QRectF rect = boundingRect();
     QPainterPath shape;
     shape.moveTo(rect.topLeft());

@@ -31,7 +31,7 @@ Q_SIGNALS:
 
 private:
     QImage image_;
-    QImage blurred_; ///< small: a blurred image has no detail to lose
+    QImage blurred_; ///< made when it is first seen; small: it has no detail to lose
     double coverSide_ = 0;
     double radius_ = 0;
 };
