@@ -71,6 +71,10 @@ QImage widened(const QImage& alpha, int width) {
 
 PillShape::PillShape(QQuickItem* parent) : PainterItem(parent) {}
 
+double PillShape::flare() const {
+    return topRadius;
+}
+
 void PillShape::setLift(double lift) {
     if (lift == lift_)
         return;

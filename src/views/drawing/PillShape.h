@@ -11,10 +11,14 @@ namespace brellowind {
 class PillShape : public brellowind::PainterItem {
     Q_OBJECT
     QML_ELEMENT
+    Q_PROPERTY(double flare READ flare CONSTANT)
     Q_PROPERTY(double lift READ lift WRITE setLift NOTIFY liftChanged)
 
 public:
     explicit PillShape(QQuickItem* parent = nullptr);
+
+    /// How far the top corners flare beyond the sides.
+    double flare() const;
 
     /// 0: no shadow. 1: the whole shadow. In between both its strength and its reach grow.
     double lift() const { return lift_; }

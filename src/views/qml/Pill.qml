@@ -60,8 +60,8 @@ Item {
     // Just within the pill's sides, which stand beside its flaring top corners, and its bottom.
     Item {
         anchors.fill: shape
-        anchors.leftMargin: Style.flare + 1
-        anchors.rightMargin: Style.flare + 1
+        anchors.leftMargin: shape.flare + 1
+        anchors.rightMargin: shape.flare + 1
         anchors.bottomMargin: 1
         clip: true
 

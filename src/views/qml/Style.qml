@@ -6,7 +6,6 @@ import QtQuick
 QtObject {
     readonly property color text: Qt.rgba(0.96, 0.96, 0.96, 1)
 
-    readonly property real flare: 8
     readonly property real bandHeight: 20
     readonly property real spacing: 8
     readonly property real sidePadding: 20
