@@ -72,9 +72,11 @@ TEST_F(PillPointer, PressesFallThroughEverywhereButOnThePill) {
     startSinging();
     EXPECT_EQ(window.presses(), 0);
     const QRect at = pill();
-    person.pressAt({at.left() - 30, 20});
-    person.pressAt({720, 200});
-    EXPECT_TRUE(waitUntil([&, seen = 0]() mutable { return (seen += window.presses()) == 2; }));
+    // One by one: a window manager looks at a press first, and lets it through later.
+    for (const QPoint beside : {QPoint(at.left() - 30, 20), QPoint(720, 200)}) {
+        person.pressAt(beside);
+        EXPECT_TRUE(waitUntil([&] { return window.presses() == 1; }));
+    }
     enterPill();
     person.press();
     EXPECT_TRUE(program->becomes("isMinimized"));
