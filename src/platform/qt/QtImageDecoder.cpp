@@ -39,8 +39,10 @@ std::shared_ptr<const Image> QtImageDecoder::decode(std::string_view bytes) {
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
+    if (!isKnown(reader.format())) // before anything is asked that only parsing can answer
+        return nullptr;
     const QSize size = reader.size();
-    if (!isKnown(reader.format()) || size.isEmpty() || decodedBytes(reader) > maximumDecodedBytes)
+    if (size.isEmpty() || decodedBytes(reader) > maximumDecodedBytes)
         return nullptr;
     const int side = static_cast<int>(std::ceil(largestPoints_ * qGuiApp->devicePixelRatio()));
     const double scale = static_cast<double>(side) / std::min(size.width(), size.height());
