@@ -1,6 +1,7 @@
 #include "Fuzz.h"
 #include "settings/VersionOrder.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -21,9 +22,34 @@ Versions versionsIn(std::string_view text) {
     return versions;
 }
 
+/// `version` with every digit run filled up with leading zeros to `width`: texts of one such width
+/// are in the order of their bytes.
+std::string filled(std::string_view version, std::size_t width) {
+    std::string text;
+    std::string digits;
+    const auto endRun = [&] {
+        if (!digits.empty())
+            text.append(width - digits.size(), '0').append(digits);
+        digits.clear();
+    };
+    for (const char character : version) {
+        if (character >= '0' && character <= '9') {
+            digits += character;
+            continue;
+        }
+        endRun();
+        text += character;
+    }
+    endRun();
+    return text;
+}
+
 void requireOrderOf(std::string_view a, std::string_view b) {
     require(isNewer(a, b) + isNewer(b, a) == (a == b ? 0 : 1),
             "of two different versions exactly one is newer");
+    const auto width = std::max(a.size(), b.size());
+    const int order = filled(a, width).compare(filled(b, width));
+    require(order == 0 || isNewer(a, b) == (order > 0), "numbers count by their value");
 }
 
 void requireAfterItsBeginning(std::string_view beginning, std::string_view more) {
