@@ -85,6 +85,12 @@ std::string numberField(std::optional<double> microseconds, double unit) {
     return {digits.data(), end.ptr};
 }
 
+/// A text in its field. It loses separators, or what follows one would count as another field, and
+/// what a player writes into a title as a number.
+std::string textField(QString text) {
+    return text.remove(QLatin1Char(fieldSeparator)).toStdString();
+}
+
 /// Cover locations of this form answer "not found" where the image host answers with the image.
 std::string artworkField(QString location) {
     for (const auto& dead : {QStringLiteral("https://open.spotify.com/image/"),
@@ -92,7 +98,7 @@ std::string artworkField(QString location) {
         if (location.startsWith(dead))
             location.replace(0, dead.size(), QStringLiteral("https://i.scdn.co/image/"));
     }
-    return location.toStdString();
+    return textField(location);
 }
 
 } // namespace
@@ -101,14 +107,14 @@ std::string mprisRecord(const QVariantMap& properties) {
     const QVariantMap metadata = map(properties.value(QStringLiteral("Metadata")));
     const auto of = [&metadata](const char* key) { return metadata.value(QLatin1String(key)); };
     const std::string fields[] = {
-        text(of("xesam:title")).toStdString(),
-        firstText(of("xesam:artist")).toStdString(),
-        text(of("xesam:album")).toStdString(),
+        textField(text(of("xesam:title"))),
+        textField(firstText(of("xesam:artist"))),
+        textField(text(of("xesam:album"))),
         numberField(microseconds(of("mpris:length")), microsecondsPerMillisecond),
         artworkField(text(of("mpris:artUrl"))),
         numberField(microseconds(properties.value(QStringLiteral("Position"))),
                     microsecondsPerSecond),
-        text(properties.value(QStringLiteral("PlaybackStatus"))).toLower().toStdString(),
+        textField(text(properties.value(QStringLiteral("PlaybackStatus"))).toLower()),
     };
     std::string record;
     for (const auto& field : fields) {

@@ -9,7 +9,8 @@ namespace brellowind::platform {
 ///
 /// Lenient with what real players send: a property that is absent or of a type that cannot be read
 /// becomes an empty field; `mpris:length` and `Position` may be any integer type or a double, in
-/// microseconds; `xesam:artist` may be a list, whose first entry counts, or a text.
+/// microseconds; `xesam:artist` may be a list, whose first entry counts, or a text. A text loses
+/// what separates the fields, so there are always seven.
 std::string mprisRecord(const QVariantMap& properties);
 
 } // namespace brellowind::platform
