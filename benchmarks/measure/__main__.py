@@ -56,6 +56,7 @@ def main(build, folder, quick):
         "osdlyrics": lambda: peers.osdlyrics(bench.programs, bench.seconds, folder),
         "memory": bench.memory,
         "frames": bench.frames,
+        "instructions": bench.instructions,
         "lateness": bench.lateness,
     }
     for name, step in steps.items():

@@ -1,7 +1,7 @@
 """The whole program: processor, wake-ups, memory, start, lateness and frames."""
 
+import contextlib
 import json
-import os
 import random
 import statistics
 import subprocess
@@ -36,19 +36,30 @@ class Bench:
         self.lines = 20 if quick else 200
         self.starts = 3 if quick else 11
 
-    def measured(self, session, service, **environment):
-        return Program([self.programs["measured"], service.origin], session, **environment)
+    @contextlib.contextmanager
+    def stage(self, lyrics="", screen="1440x900x24"):
+        """A session, a service that sings `lyrics`, and a player."""
+        with contextlib.ExitStack() as ends:
+            session = Session(screen)
+            ends.callback(session.close)
+            service = LyricsService()
+            ends.callback(service.close)
+            service.lyrics = lyrics
+            player = Player(self.programs["player"], session)
+            ends.callback(player.close)
+            yield session, service, player
+
+    def measured(self, session, service, wrapper=(), **environment):
+        return Program([*wrapper, self.programs["measured"], service.origin], session,
+                       **environment)
 
     def window(self, session):
         return Program([self.programs["window"]], session)
 
     def side_by_side(self):
         """The program, the floor and the player's share in the same session, taking turns."""
-        session, service = Session(), LyricsService()
-        service.lyrics = every(3)
-        player = Player(self.programs["player"], session)
         result = {}
-        try:
+        with self.stage(every(3)) as (session, service, player):
             program = self.measured(session, service)
             player.play("Song", "Singer", 3600, service.origin + "/cover/1")
             floor = self.window(session)
@@ -81,10 +92,6 @@ class Bench:
             result["still"] = {key: after[key] - before[key] for key in after} | {"seconds": 5}
             program.close()
             floor.close()
-        finally:
-            player.close()
-            service.close()
-            session.close()
         return result
 
     def round(self, program, floor):
@@ -96,27 +103,20 @@ class Bench:
 
     def start(self):
         """Seconds from exec to the first frame, turn by turn."""
-        session, service = Session(), LyricsService()
         times = {"program": [], "window": []}
-        try:
+        with self.stage() as (session, service, _):
             for _ in range(self.starts):
                 for name, start in (("window", lambda: self.window(session)),
                                     ("program", lambda: self.measured(session, service))):
                     program = start()
                     times[name].append(program.seconds_to_first_frame)
                     program.close()
-        finally:
-            service.close()
-            session.close()
         return {name: statistics.median(values) for name, values in times.items()}
 
     def memory(self):
         """What the panel, the settings and many tracks leave behind."""
-        session, service = Session(), LyricsService()
-        service.lyrics = every(3)
-        player = Player(self.programs["player"], session)
         result = {}
-        try:
+        with self.stage(every(3)) as (session, service, player):
             program = self.measured(session, service)
             look = lambda: processes.memory([program.pid])  # noqa: E731
             player.play("Song", "Singer", 3600, service.origin + "/cover/1")
@@ -147,24 +147,17 @@ class Bench:
             result["tracks"] = tracks(self.tracks // 5, self.tracks)
             result["trackCount"] = self.tracks
             program.close()
-        finally:
-            player.close()
-            service.close()
-            session.close()
         return result
 
     def lateness(self):
         """Milliseconds from the moment of a line in the player's position to its pixels."""
-        session, service = Session(), LyricsService()
         chance = random.Random(5)
         moments, text, at = [], [], 5.0
         for i in range(self.lines):
             at = round(at + 0.85 + 0.1 * chance.random(), 2)
             moments.append(at)
             text.append(f"{tag(at)}{'WHM'[i % 3] * 9} {'nuo'[i % 3] * 9} {i:03}")
-        service.lyrics = "\n".join(text)
-        player = Player(self.programs["player"], session)
-        try:
+        with self.stage("\n".join(text)) as (session, service, player):
             program = self.measured(session, service)
             time.sleep(1)
             x, y, width, height = json.loads(program.ask("line"))
@@ -179,10 +172,6 @@ class Bench:
             seen = [(int(line) - start) / 1e9 for line in eye.stdout.read().split()]
             eye.wait()
             program.close()
-        finally:
-            player.close()
-            service.close()
-            session.close()
         late, early, missed = [], 0, 0
         for moment in moments:
             changes = [when for when in seen if moment - 0.1 <= when < moment + 0.5]
@@ -199,29 +188,51 @@ class Bench:
 
     def frames(self):
         """Processor milliseconds of a frame at scale 2 while the pill morphs and the line changes."""
-        session, service = Session("2880x1800x24"), LyricsService()
-        service.lyrics = every(1.5)
-        player = Player(self.programs["player"], session)
         durations = []
-        try:
+        with self.stage(every(1.5), "2880x1800x24") as (session, service, player):
             program = self.measured(session, service, QT_SCALE_FACTOR="2")
             player.play("Song", "Singer", 3600, service.origin + "/cover/2")
             time.sleep(4)
             for _ in range(3 if self.lines < 100 else 10):
-                for command in ("panel", "close panel", "background", "background"):
-                    program.ask("start frames")
-                    program.ask(command)
-                    time.sleep(0.75)
+                for command in MORPHS:
                     # The first one holds what was done since the last frame before the command.
-                    durations += json.loads(program.ask("frames"))[1:]
+                    durations += frames_of(program, command, 0.75)[1:]
             program.close()
-        finally:
-            player.close()
-            service.close()
-            session.close()
         milliseconds = [1e3 * value for value in durations]
         return {"frames": len(milliseconds), "median": statistics.median(milliseconds),
                 "p99": percentile(milliseconds, 0.99), "longest": max(milliseconds)}
+
+    def instructions(self):
+        """Instructions of a frame at scale 2, as callgrind counts them, whatever else runs."""
+        frames = 0
+        with self.stage(every(1.5), "2880x1800x24") as (session, service, player):
+            output = f"{session.home}/callgrind.out"
+            program = self.measured(
+                session, service, QT_SCALE_FACTOR="2",
+                wrapper=["valgrind", "-q", "--tool=callgrind", "--instr-atstart=no",
+                         f"--callgrind-out-file={output}"])
+            player.play("Song", "Singer", 3600, service.origin + "/cover/2")
+            time.sleep(8)
+            subprocess.run(["callgrind_control", "-i", "on", str(program.pid)], check=True,
+                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            for command in MORPHS:
+                frames += len(frames_of(program, command, 4))
+            program.close()
+            with open(output, encoding="utf-8") as profile:
+                total = next(int(line.split()[1]) for line in profile
+                             if line.startswith(("totals:", "summary:")))
+        return {"frames": frames, "perFrame": total / frames}
+
+
+MORPHS = ("panel", "close panel", "background", "background")
+
+
+def frames_of(program, command, seconds):
+    """The processor seconds of each frame in the `seconds` after a command."""
+    program.ask("start frames")
+    program.ask(command)
+    time.sleep(seconds)
+    return json.loads(program.ask("frames"))
 
 
 def best(rounds, who):

@@ -28,6 +28,10 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 #include <QStandardPaths>
+#include <cstdlib>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <sstream>
 
 namespace brellowind {
@@ -102,6 +106,10 @@ struct BrellowindApp::Machine {
 
 void BrellowindApp::prepare() {
     platform::QtStartEnvironment::choose();
+#ifdef __GLIBC__
+    // What little other threads allocate needs no memory of each thread's own.
+    mallopt(M_ARENA_MAX, 1);
+#endif
     // A pill is too small to need a graphics card, and takes a third of the memory without one.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication::setQuitOnLastWindowClosed(false);

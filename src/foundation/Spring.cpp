@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 namespace brellowind {
@@ -66,15 +67,20 @@ double Spring::velocity(double time) const {
     return at(time).velocity;
 }
 
-bool Spring::isSettled(double time, double tolerance) const {
+double Spring::speed(double time) const {
     const auto now = at(time);
     if (now.displacement == 0 && now.velocity == 0)
-        return true;
+        return 0;
     if (jumps(parameters_))
-        return false; // it has not begun
-    // The energy never grows, so neither does the reach that it leaves to the value.
-    const double reach = std::hypot(now.displacement, now.velocity / angularFrequency(parameters_));
-    return reach <= tolerance;
+        return std::numeric_limits<double>::infinity(); // it has not begun
+    // The energy never grows, so neither does the velocity that all of it would make.
+    return std::hypot(now.displacement * angularFrequency(parameters_), now.velocity);
+}
+
+bool Spring::isSettled(double time, double tolerance) const {
+    const double fastest = speed(time);
+    // By the same energy, this is as far as it can still go.
+    return fastest == 0 || fastest / angularFrequency(parameters_) <= tolerance;
 }
 
 Spring::Motion Spring::at(double time) const {

@@ -33,6 +33,9 @@ public:
     /// The change of the value per second.
     double velocity(double time) const;
 
+    /// The greatest velocity, up or down, that it may still reach from `time` on.
+    double speed(double time) const;
+
     /// Whether the value stays within `tolerance` of the target from `time` on. Passing the target
     /// at speed is not enough. Once true it stays true for later times.
     bool isSettled(double time, double tolerance) const;

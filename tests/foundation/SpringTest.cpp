@@ -197,6 +197,24 @@ TEST(Spring, WithoutAResponseJumpsToTheTarget) {
     }
 }
 
+TEST(Spring, NeverMovesFasterThanTheSpeedThatItTells) {
+    for (const double damping : {0.0, 0.3, 0.72, 1.0, 2.0}) {
+        const auto spring = released({0.42, damping});
+        double earlier = spring.speed(0);
+        for (double time = 0; time < 3; time += 0.01) {
+            EXPECT_LE(std::abs(spring.velocity(time)), spring.speed(time) * (1 + 1e-9));
+            EXPECT_LE(spring.speed(time), earlier * (1 + 1e-9)) << "nor ever faster again";
+            earlier = spring.speed(time);
+        }
+    }
+    EXPECT_EQ(Spring({0.42, 0.72}, 5).speed(0), 0);
+}
+
+TEST(Spring, TellsTheSpeedAtWhichItWillPassTheTarget) {
+    const auto undamped = released({1, 0});
+    EXPECT_NEAR(undamped.speed(0), std::abs(undamped.velocity(0.25)), 1e-9);
+}
+
 TEST(Spring, IsSettledWhenItRests) {
     EXPECT_TRUE(Spring({0.42, 0.72}, 5).isSettled(0, 0));
 }

@@ -56,7 +56,7 @@ BusAnswer BusConnection::call(const BusMessage& request, std::chrono::millisecon
         sd_bus_call(bus_.get(), request.get(), static_cast<std::uint64_t>(microseconds), &error,
                     &reply) >= 0)
         return BusMessage(reply);
-    if (!bus_ || sd_bus_is_open(bus_.get()) <= 0)
+    if (!isOpen())
         return BusError{SD_BUS_ERROR_DISCONNECTED, "there is no bus"};
     return BusError{orEmpty(error.name), orEmpty(error.message)};
 }
@@ -67,6 +67,14 @@ BusCall BusConnection::callLater(const BusMessage& request, sd_bus_message_handl
     if (bus_ && request)
         sd_bus_call_async(bus_.get(), &slot, request.get(), answered, userData, 0);
     return BusCall(slot);
+}
+
+BusMatch BusConnection::listen(const std::string& rule, sd_bus_message_handler_t heard,
+                               void* userData) {
+    sd_bus_slot* slot = nullptr;
+    if (bus_)
+        sd_bus_add_match_async(bus_.get(), &slot, rule.c_str(), heard, nullptr, userData);
+    return BusMatch(slot);
 }
 
 void BusConnection::process() {

@@ -19,6 +19,9 @@ using BusMessage = std::unique_ptr<sd_bus_message, BusRelease>;
 /// A call that is still to be answered; dropping it lets the answer go unheard.
 using BusCall = std::unique_ptr<sd_bus_slot, BusRelease>;
 
+/// What is heard as long as this lives.
+using BusMatch = std::unique_ptr<sd_bus_slot, BusRelease>;
+
 struct BusError {
     std::string name; ///< as the bus names errors
     std::string text;
@@ -40,6 +43,8 @@ public:
     /// To the bus at `address`.
     explicit BusConnection(const std::string& address);
 
+    bool isOpen() const { return bus_ && sd_bus_is_open(bus_.get()) > 0; }
+
     /// A call that starts no program to answer it.
     BusMessage methodCall(const std::string& service, const char* path, const char* interface,
                           const char* method) const;
@@ -49,6 +54,10 @@ public:
 
     /// Sends `request`, and has `answered` hear the answer from within a later `process`.
     BusCall callLater(const BusMessage& request, sd_bus_message_handler_t answered, void* userData);
+
+    /// Has `heard` hear the signals that match `rule` from within later `process`es. Without
+    /// waiting: what is asked for after it is answered after the bus has begun to listen.
+    BusMatch listen(const std::string& rule, sd_bus_message_handler_t heard, void* userData);
 
     /// Takes what has come in the meantime, without waiting.
     void process();

@@ -24,20 +24,24 @@ ScriptOutcome failure(const BusError& error) {
 } // namespace
 
 MprisPlayer::MprisPlayer(BusConnection bus, MprisVocabulary vocabulary)
-    : bus_(std::move(bus)), vocabulary_(std::move(vocabulary)) {}
+    : bus_(std::move(bus)), vocabulary_(std::move(vocabulary)),
+      changes_(bus_.listen(
+          "type='signal',sender='org.freedesktop.DBus',"
+          "member='NameOwnerChanged',arg0namespace='org.mpris.MediaPlayer2'",
+          [](sd_bus_message*, void* self, sd_bus_error*) {
+              static_cast<MprisPlayer*>(self)->known_.reset();
+              return 0;
+          },
+          this)) {}
 
 ScriptOutcome MprisPlayer::execute(std::string_view source) {
     const bool reads = source == vocabulary_.readOutScript;
     if (!reads && source != vocabulary_.playPauseScript)
         return {};
-    // Who asks what runs and then reads need not have the bus asked twice.
-    auto players = std::exchange(running_, {});
-    if (!reads || players.empty()) {
-        auto found = playersOnBus();
-        if (const auto* error = std::get_if<BusError>(&found))
-            return failure(*error);
-        players = std::get<Players>(std::move(found));
-    }
+    const auto found = playersOnBus();
+    if (const auto* error = std::get_if<BusError>(&found))
+        return failure(*error);
+    const auto& players = std::get<Players>(found);
     if (!players.empty())
         return reads ? readOut(players.front()) : playPause(players.front());
     return reads ? ScriptOutcome{.text = std::string(), .error = std::nullopt}
@@ -45,13 +49,23 @@ ScriptOutcome MprisPlayer::execute(std::string_view source) {
 }
 
 std::vector<std::optional<std::string>> MprisPlayer::bundleIdentifiers() {
-    auto found = playersOnBus();
-    running_ =
-        std::holds_alternative<Players>(found) ? std::get<Players>(std::move(found)) : Players();
-    return {running_.size(), vocabulary_.bundleIdentifier};
+    const auto found = playersOnBus();
+    const auto* players = std::get_if<Players>(&found);
+    return {players ? players->size() : 0, vocabulary_.bundleIdentifier};
 }
 
+/// The bus is asked only after a player came or went, which it tells by itself.
 std::variant<MprisPlayer::Players, BusError> MprisPlayer::playersOnBus() {
+    bus_.process();
+    if (known_ && bus_.isOpen())
+        return *known_;
+    auto found = askForPlayers();
+    if (const auto* players = std::get_if<Players>(&found))
+        known_ = *players;
+    return found;
+}
+
+std::variant<MprisPlayer::Players, BusError> MprisPlayer::askForPlayers() {
     auto answer = bus_.call(bus_.methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
                                             "org.freedesktop.DBus", "ListNames"),
                             patience);
@@ -110,7 +124,6 @@ ScriptOutcome MprisPlayer::playPause(const std::string& player) {
 }
 
 BusAnswer MprisPlayer::call(const std::string& player, const BusMessage& request) {
-    bus_.process(); // perhaps the ping is answered by now
     if (recovery_)
         return BusError{SD_BUS_ERROR_NO_REPLY, "the player hangs"};
     auto answer = bus_.call(request, patience);

@@ -47,6 +47,7 @@ private:
     ScriptOutcome playPause(const std::string& player);
 
     std::variant<Players, BusError> playersOnBus();
+    std::variant<Players, BusError> askForPlayers();
     std::size_t rank(std::string_view name) const;
     std::size_t ranks() const { return vocabulary_.players.size() + 1; }
 
@@ -56,9 +57,10 @@ private:
 
     BusConnection bus_;
     MprisVocabulary vocabulary_;
-    Players running_; ///< as last asked for; serves the one reading that follows
     std::string hanging_;
-    BusCall recovery_; ///< there while the player `hanging_` hangs; goes before the bus
+    std::optional<Players> known_; ///< as long as none comes or goes
+    BusMatch changes_;
+    BusCall recovery_; ///< there while the player `hanging_` hangs
 };
 
 } // namespace brellowind::platform

@@ -85,14 +85,14 @@ void LyricText::show(double now) {
     FrameDriver::shared().drive(*this);
 }
 
-bool LyricText::advance(double now) {
-    bool moving = false;
+std::optional<double> LyricText::advance(double now) {
+    std::optional<double> fastest;
     for (auto& layer : layers_)
-        moving = layer.advance(now) || moving;
+        fastest = std::max(fastest, layer.advance(now)); // resting is less than any speed
     while (layers_.size() > 1 && layers_.front().isGone())
         layers_.pop_front();
     update();
-    return moving;
+    return fastest;
 }
 
 QRectF LyricText::paintedRect() const {

@@ -53,7 +53,7 @@ protected:
     void componentComplete() override;
 
 private:
-    bool advance(double now) override;
+    std::optional<double> advance(double now) override;
     void show(double now);
     void layOut();
     void followWidth();

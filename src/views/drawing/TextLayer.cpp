@@ -15,6 +15,8 @@ namespace {
 constexpr double strongestSigma = 5;  ///< points, of a line that is away
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
+constexpr double reach =
+    40; ///< coming or going changes a line as much as moving it by so many points
 
 /// What one line shows of `text`: line breaks and other control characters take no line and no
 /// glyph of their own.
@@ -66,10 +68,12 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double maximumWidth
     layout_.endLayout();
 }
 
-bool TextLayer::advance(double now) {
+std::optional<double> TextLayer::advance(double now) {
     resting_ = presence_.isSettled(now, tolerance);
     shown_ = resting_ ? presence_.target() : presence_.value(now);
-    return !resting_;
+    if (resting_)
+        return std::nullopt;
+    return reach * presence_.speed(now);
 }
 
 void TextLayer::paint(QPainter& painter, QColor color, double centre, double top, double left,

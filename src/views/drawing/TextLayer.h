@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QString>
 #include <QTextLayout>
+#include <optional>
 
 class QPainter;
 
@@ -26,8 +27,8 @@ public:
     void comeIn(double now) { presence_.retarget(1, now); }
     void goAway(double now) { presence_.retarget(0, now); }
 
-    /// Shows the moment `now`. False once it has come to rest.
-    bool advance(double now);
+    /// Shows the moment `now` and tells how fast it changes, as what is `Animated` does.
+    std::optional<double> advance(double now);
 
     /// At rest and away.
     bool isGone() const { return shown_ <= 0 && resting_; }

@@ -1,14 +1,21 @@
 #include "views/motion/FrameDriver.h"
 
-#include <QTimer>
+#include <QTimerEvent>
 #include <algorithm>
 #include <chrono>
+#include <cmath>
+#include <utility>
 
 namespace brellowind {
 namespace {
 
-/// A motion shows this early for the first time: Qt itself lets a whole frame pass before.
-constexpr std::chrono::milliseconds firstFrame{6};
+constexpr double longestStep = 0.5; ///< points, where the frames are not at their densest
+constexpr double densest = 0.016;   ///< seconds from frame to frame
+constexpr double sparsest = 0.05;
+
+/// Seconds until a motion shows for the first time. Not none, since what is asked for together
+/// shows together.
+constexpr double firstFrame = 0.006;
 
 } // namespace
 
@@ -26,16 +33,12 @@ double FrameDriver::now() const {
     return time.count();
 }
 
+/// What begins amid a slow motion does not wait for that motion's next frame.
 void FrameDriver::drive(Animated& animated) {
     if (std::ranges::find(moving_, &animated) == moving_.end())
         moving_.push_back(&animated);
-    if (frozen_ >= 0 || state() == Running)
-        return;
-    start();
-    QTimer::singleShot(firstFrame, Qt::PreciseTimer, this, [this] {
-        if (state() == Running)
-            advanceAll();
-    });
+    if (frame_ < 0 && frozen_ < 0 && !std::exchange(hurried_, true))
+        scheduleIn(std::max(firstFrame, last_ + densest - now()));
 }
 
 void FrameDriver::forget(Animated& animated) {
@@ -45,7 +48,7 @@ void FrameDriver::forget(Animated& animated) {
 }
 
 void FrameDriver::freeze(double seconds) {
-    stop();
+    timer_.stop();
     frozen_ = seconds;
 }
 
@@ -57,31 +60,48 @@ void FrameDriver::step(double seconds) {
 void FrameDriver::thaw() {
     frozen_ = -1;
     if (!moving_.empty())
-        start();
+        scheduleIn(densest);
 }
 
-void FrameDriver::updateCurrentTime(int currentTime) {
-    // At 0 it comes from within `start`, when what is asked for has not been said to the end.
-    if (currentTime > 0)
-        advanceAll();
+void FrameDriver::timerEvent(QTimerEvent* /*event*/) {
+    advanceAll();
 }
 
 void FrameDriver::advanceAll() {
-    frame_ = now();
-    for (std::size_t i = 0; i < moving_.size(); ++i) {
+    last_ = frame_ = now();
+    hurried_ = false;
+    double fastest = 0;
+    for (std::size_t i = 0; i < moving_.size(); ++i) { // it may grow meanwhile
         auto* animated = moving_[i];
-        if (animated && !animated->advance(frame_))
+        if (!animated)
+            continue;
+        if (const auto speed = animated->advance(frame_))
+            fastest = std::max(fastest, *speed);
+        else
             std::ranges::replace(moving_, animated, static_cast<Animated*>(nullptr));
     }
     frame_ = -1;
+    scheduleNext(fastest);
     rest();
+}
+
+void FrameDriver::scheduleNext(double speed) {
+    if (frozen_ >= 0)
+        return;
+    const double interval = speed > 0 ? longestStep / speed : sparsest;
+    scheduleIn(last_ + std::clamp(interval, densest, sparsest) - now());
+}
+
+void FrameDriver::scheduleIn(double seconds) {
+    const int milliseconds = static_cast<int>(std::lround(1e3 * seconds));
+    timer_.start(std::max(0, milliseconds), Qt::PreciseTimer, this);
 }
 
 /// Drops those that need no more frames, and stops when none is left.
 void FrameDriver::rest() {
     std::erase(moving_, nullptr);
-    if (moving_.empty() && state() == Running)
-        stop();
+    if (moving_.empty())
+        timer_.stop();
 }
 
 } // namespace brellowind

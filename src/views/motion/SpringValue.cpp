@@ -7,8 +7,7 @@
 namespace brellowind {
 namespace {
 
-/// No eye sees less, in whatever unit: a thousandth of a point, of a turn, or of the opacity.
-constexpr double tolerance = 1e-3;
+constexpr double tolerance = 0.05; ///< points that no eye sees
 
 SpringParameters parameters(SpringValue::Kind kind) {
     switch (kind) {
@@ -61,12 +60,14 @@ void SpringValue::retarget() {
     FrameDriver::shared().drive(*this);
 }
 
-bool SpringValue::advance(double now) {
+std::optional<double> SpringValue::advance(double now) {
     if (std::exchange(changed_, false))
         motion_.retarget(target_, now, parameters(kind_));
-    const bool settled = motion_.isSettled(now, tolerance);
+    const bool settled = motion_.isSettled(now, tolerance / reach_);
     setValue(settled ? target_ : motion_.value(now));
-    return !settled || changed_;
+    if (settled && !changed_)
+        return std::nullopt;
+    return reach_ * motion_.speed(now);
 }
 
 void SpringValue::setValue(double value) {

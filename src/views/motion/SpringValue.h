@@ -17,6 +17,8 @@ class SpringValue : public QObject, public QQmlParserStatus, private Animated {
     Q_INTERFACES(QQmlParserStatus)
     Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged REQUIRED)
     Q_PROPERTY(Kind spring READ spring WRITE setSpring NOTIFY springChanged REQUIRED)
+    /// The points that something moves by while the value changes by 1.
+    Q_PROPERTY(double reach MEMBER reach_)
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
 
 public:
@@ -43,13 +45,14 @@ Q_SIGNALS:
     void valueChanged();
 
 private:
-    bool advance(double now) override;
+    std::optional<double> advance(double now) override;
     void retarget();
     void setValue(double value);
 
     Kind kind_ = Morph;
     double target_ = 0;
     double value_ = 0;
+    double reach_ = 500; ///< of what nobody measured
     Spring motion_;
     bool complete_ = false;
     bool changed_ = false; ///< the motion takes the new target and spring with the next frame

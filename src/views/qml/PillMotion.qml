@@ -30,6 +30,7 @@ QtObject {
         // Even, so that the pill's edges fall on whole points about the middle.
         target: root.model.isMinimized ? Style.minimumContentWidth : 2 * Math.ceil(Math.max(Style.minimumContentWidth, root.naturalLineWidth) / 2)
         spring: SpringValue.Morph
+        reach: 1
     }
     readonly property SpringValue pulseSpring: SpringValue {
         target: root.model.playPulse ? 1.06 : 1

@@ -8,19 +8,22 @@
 namespace brellowind {
 namespace {
 
-/// Remembers the moments that it was shown, and rests after `frames` of them.
+/// Remembers the moments that it was shown, moves at `speed`, and rests after `frames` of them.
 class Recorder final : public Animated {
 public:
     explicit Recorder(int frames_) : frames(frames_) {}
     ~Recorder() override { FrameDriver::shared().forget(*this); }
 
-    bool advance(double now) override {
+    std::optional<double> advance(double now) override {
         moments.push_back(now);
         onFrame();
-        return static_cast<int>(moments.size()) < frames;
+        if (static_cast<int>(moments.size()) < frames)
+            return speed;
+        return std::nullopt;
     }
 
     int frames;
+    double speed = 1000;
     std::vector<double> moments;
     std::function<void()> onFrame = [] {};
 };
@@ -45,7 +48,7 @@ TEST_F(FrozenFrameDriver, StandsUntilItIsStepped) {
     driver.step(0.25);
     EXPECT_EQ(recorder.moments, (std::vector<double>{100.5, 100.75}));
     EXPECT_EQ(driver.now(), 100.75);
-    EXPECT_EQ(driver.state(), QAbstractAnimation::Stopped);
+    EXPECT_FALSE(driver.isRunning());
 }
 
 TEST_F(FrozenFrameDriver, ShowsNothingToWhatHasComeToRest) {
@@ -132,7 +135,7 @@ TEST_F(RunningFrameDriver, MakesNoFrameBeforeTheFirstOneIsDue) {
     Recorder recorder(forever);
     driver.drive(recorder);
     EXPECT_TRUE(recorder.moments.empty()) << "several may be asked for before one is made";
-    EXPECT_EQ(driver.state(), QAbstractAnimation::Running);
+    EXPECT_TRUE(driver.isRunning());
 }
 
 TEST_F(RunningFrameDriver, StopsWhenAllHaveComeToRest) {
@@ -140,9 +143,41 @@ TEST_F(RunningFrameDriver, StopsWhenAllHaveComeToRest) {
     Recorder second(5);
     driver.drive(first);
     driver.drive(second);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return driver.state() == QAbstractAnimation::Stopped; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
     EXPECT_EQ(first.moments.size(), 3U);
     EXPECT_EQ(second.moments.size(), 5U);
+}
+
+TEST_F(RunningFrameDriver, MakesFewerFramesOfWhatMovesSlowly) {
+    const auto seconds = [this](double speed) {
+        Recorder recorder(9);
+        recorder.speed = speed;
+        driver.drive(recorder);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
+        return recorder.moments.back() - recorder.moments.front();
+    };
+    // Frames may be late on a busy machine, but never early.
+    EXPECT_GE(seconds(1000), 8 * 0.015);
+    EXPECT_GE(seconds(0.5 / 0.03), 8 * 0.029); // by half a point in 30 ms
+    EXPECT_GE(seconds(0.1), 8 * 0.049);
+}
+
+TEST_F(RunningFrameDriver, LetsNothingWaitForWhatMovesSlowly) {
+    Recorder slow(forever);
+    slow.speed = 0.1;
+    driver.drive(slow);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return slow.moments.size() == 2; }));
+    const auto waits = [&] {
+        Recorder recorder(1);
+        const double asked = driver.now();
+        driver.drive(recorder);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !recorder.moments.empty(); }));
+        return recorder.moments.back() - asked;
+    };
+    double shortest = 1; // of many, since a busy machine may be late with any
+    for (int i = 0; i < 20; ++i)
+        shortest = std::min(shortest, waits());
+    EXPECT_LT(shortest, 0.03);
 }
 
 TEST_F(RunningFrameDriver, StopsWhenAllHaveGone) {
@@ -150,7 +185,7 @@ TEST_F(RunningFrameDriver, StopsWhenAllHaveGone) {
         Recorder recorder(forever);
         driver.drive(recorder);
     }
-    EXPECT_TRUE(QTest::qWaitFor([&] { return driver.state() == QAbstractAnimation::Stopped; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
 }
 
 TEST_F(RunningFrameDriver, StartsAgainForWhatIsAskedForLater) {
@@ -158,7 +193,7 @@ TEST_F(RunningFrameDriver, StartsAgainForWhatIsAskedForLater) {
     for (std::size_t round = 1; round <= 2; ++round) {
         recorder.frames = static_cast<int>(round);
         driver.drive(recorder);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return driver.state() == QAbstractAnimation::Stopped; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
         EXPECT_EQ(recorder.moments.size(), round);
     }
 }
@@ -170,7 +205,7 @@ TEST_F(RunningFrameDriver, ShowsAllTheSameMomentInOneFrameAndNeverGoesBack) {
     first.onFrame = [&] { clock.push_back(driver.now()); };
     driver.drive(first);
     driver.drive(second);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return driver.state() == QAbstractAnimation::Stopped; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
     EXPECT_EQ(first.moments, second.moments);
     EXPECT_EQ(first.moments, clock);
     EXPECT_TRUE(std::ranges::is_sorted(first.moments));

@@ -122,6 +122,23 @@ TEST_F(SpringValueTest, EndsExactlyOnItsTarget) {
     EXPECT_EQ(value.value(), 0.1);
 }
 
+TEST_F(SpringValueTest, IsClosestToItsTargetWhereThatMovesTheMost) {
+    const auto framesToRest = [this](double reach) {
+        SpringValue moving;
+        moving.setSpring(SpringValue::Morph);
+        moving.setProperty("reach", reach);
+        moving.componentComplete();
+        moving.setTarget(1);
+        int frames = 0;
+        for (driver.step(0); moving.value() != 1; ++frames)
+            driver.step(0.016);
+        return frames;
+    };
+    const int little = framesToRest(10);
+    EXPECT_GT(little, 10);
+    EXPECT_GT(framesToRest(1000), little + 10);
+}
+
 TEST_F(SpringValueTest, IsNotMovedAnyMoreOnceItRests) {
     value.setTarget(1);
     driver.step(0);
@@ -197,9 +214,8 @@ TEST(RunningSpringValue, ArrivesAndStopsTheDriver) {
     value.setSpring(SpringValue::PulseRise);
     value.componentComplete();
     value.setTarget(1);
-    EXPECT_EQ(FrameDriver::shared().state(), QAbstractAnimation::Running);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [] { return FrameDriver::shared().state() == QAbstractAnimation::Stopped; }));
+    EXPECT_TRUE(FrameDriver::shared().isRunning());
+    EXPECT_TRUE(QTest::qWaitFor([] { return !FrameDriver::shared().isRunning(); }));
     EXPECT_EQ(value.value(), 1);
 }
 
