@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Chance.h"
+
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
@@ -7,7 +9,6 @@
 #include <gtest/gtest.h>
 #include <optional>
 #include <ostream>
-#include <random>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -16,23 +17,6 @@
 
 // A program held against a small model of it, on sequences of steps that a seed decides.
 namespace brellowind::test {
-
-/// What decides a sequence. The same seed makes the same sequence on every machine.
-class Chance {
-public:
-    explicit Chance(std::uint64_t seed) : engine_(seed) {}
-
-    /// A number from 0 to `count` - 1.
-    int below(int count) { return static_cast<int>(engine_() % static_cast<unsigned>(count)); }
-
-    template <typename Value>
-    const Value& oneOf(const std::vector<Value>& values) {
-        return values[static_cast<std::size_t>(below(static_cast<int>(values.size())))];
-    }
-
-private:
-    std::mt19937_64 engine_;
-};
 
 /// Where program and model part; absent while they agree.
 using Disagreement = std::optional<std::string>;
