@@ -169,8 +169,12 @@ protected:
     void expectNoUnexpectedWords() {
         const QStringList lines = program->errors();
         summary += QStringLiteral(", log lines %1").arg(lines.size());
-        for (const QString& line : lines)
+        for (const QString& line : lines) {
             EXPECT_TRUE(expectedLine.match(line).hasMatch()) << qPrintable(line);
+            EXPECT_FALSE(line.contains(QStringLiteral("Song ")) ||
+                         line.contains(QStringLiteral("127.0.0.1")))
+                << qPrintable(line);
+        }
     }
 
     bool isAlive() { return program->process().isRunning(); }
