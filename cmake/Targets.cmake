@@ -1,4 +1,5 @@
 # Makers of the project's own targets, so that every one has the same warnings and include root.
+include(CheckCXXCompilerFlag)
 
 add_library(brellowind_options INTERFACE)
 target_compile_options(brellowind_options INTERFACE
@@ -6,6 +7,22 @@ target_compile_options(brellowind_options INTERFACE
   # Compiled QML shadows its own parameters.
   $<$<NOT:$<BOOL:$<TARGET_PROPERTY:BRELLOWIND_COMPILES_QML>>>:-Wshadow>
   $<$<BOOL:${BRELLOWIND_WARNINGS_AS_ERRORS}>:-Werror>)
+
+# A bent return address or an overrun buffer ends the program instead of steering it.
+target_compile_options(brellowind_options INTERFACE -fstack-protector-strong)
+foreach(protection IN ITEMS stack-clash cf) # not on every processor
+  check_cxx_compiler_flag(-f${protection}-protection BRELLOWIND_HAS_${protection}_PROTECTION)
+  if(BRELLOWIND_HAS_${protection}_PROTECTION)
+    target_compile_options(brellowind_options INTERFACE -f${protection}-protection)
+  endif()
+endforeach()
+target_link_options(brellowind_options INTERFACE "LINKER:-z,relro,-z,now,-z,noexecstack")
+if(NOT BRELLOWIND_SANITIZE) # the sanitizers watch the plain functions, not the checked ones
+  # Without optimisation there are no checked functions. Packagers define the macro, too.
+  target_compile_options(brellowind_options INTERFACE
+    $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
+endif()
+
 if(BRELLOWIND_SANITIZE)
   target_compile_options(brellowind_options INTERFACE
     -fsanitize=${BRELLOWIND_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

@@ -1,18 +1,15 @@
 #include "foundation/UUID.h"
 
-#include <gtest/gtest.h>
-#include <regex>
+#include <gmock/gmock.h>
 #include <set>
 
 namespace brellowind {
 namespace {
 
 TEST(UUID, IsOfVersion4AndTheStandardVariant) {
-    const std::regex form("[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}");
-    for (int i = 0; i < 1000; ++i) {
-        const auto text = UUID::random().string();
-        EXPECT_TRUE(std::regex_match(text, form)) << text;
-    }
+    constexpr auto form = "[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}";
+    for (int i = 0; i < 1000; ++i)
+        EXPECT_THAT(UUID::random().string(), testing::MatchesRegex(form));
 }
 
 TEST(UUID, IsFreshEachTime) {

@@ -1,17 +1,11 @@
 #include "lyrics/LRCParser.h"
+#include "lyrics/PatternParser.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <memory>
-#include <ostream>
 #include <random>
 #include <string>
-#include <unicode/regex.h>
-#include <unicode/uniset.h>
-#include <unicode/unistr.h>
 #include <vector>
 
 // The parser reads tags by hand. Here the pattern it stands for is run by a regular-expression
@@ -20,90 +14,7 @@
 namespace brellowind {
 namespace {
 
-struct ReferenceLine {
-    double time;
-    std::string text;
-
-    bool operator==(const ReferenceLine&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const ReferenceLine& line) {
-    return out << line.time << " " << testing::PrintToString(line.text);
-}
-
-class ReferenceParser {
-public:
-    ReferenceParser() {
-        UErrorCode status = U_ZERO_ERROR;
-        tag_ = std::make_unique<icu::RegexMatcher>(
-            u"\\[(\\d{1,2}):(\\d{1,2})(?:[.:](\\d{1,3}))?\\]", 0, status);
-        spaces_.applyPattern(u"[\\p{Zs}\\t]", status);
-        EXPECT_TRUE(U_SUCCESS(status));
-    }
-
-    std::vector<ReferenceLine> parse(const icu::UnicodeString& text) const {
-        std::vector<ReferenceLine> lines;
-        std::int32_t start = 0;
-        for (std::int32_t i = 0; i < text.length(); ++i) {
-            if (text[i] != u'\n' || (i > 0 && text[i - 1] == u'\r'))
-                continue;
-            readPiece(text.tempSubStringBetween(start, i), lines);
-            start = i + 1;
-        }
-        readPiece(text.tempSubString(start), lines);
-        std::ranges::stable_sort(lines, {}, &ReferenceLine::time);
-        return lines;
-    }
-
-private:
-    void readPiece(const icu::UnicodeString& piece, std::vector<ReferenceLine>& lines) const {
-        UErrorCode status = U_ZERO_ERROR;
-        tag_->reset(piece);
-        std::vector<double> times;
-        std::int32_t lyric = 0;
-        while (tag_->find(status)) {
-            times.push_back(timeOf(*tag_));
-            lyric = tag_->end(status);
-        }
-        EXPECT_TRUE(U_SUCCESS(status));
-        const auto words = trimmed(piece.tempSubString(lyric));
-        for (const double time : times)
-            lines.push_back({time, words});
-    }
-
-    static double timeOf(const icu::RegexMatcher& matcher) {
-        UErrorCode status = U_ZERO_ERROR;
-        const double minutes = number(matcher.group(1, status));
-        const double seconds = number(matcher.group(2, status));
-        double fraction = 0;
-        if (matcher.start(3, status) >= 0) {
-            const auto digits = matcher.group(3, status);
-            fraction = number(digits) / std::pow(10.0, digits.countChar32());
-        }
-        EXPECT_TRUE(U_SUCCESS(status));
-        return (minutes * 60 + seconds) + fraction;
-    }
-
-    static double number(const icu::UnicodeString& digits) {
-        std::string text;
-        digits.toUTF8String(text);
-        char* stop = nullptr;
-        const double value = std::strtod(text.c_str(), &stop);
-        return *stop == '\0' ? value : 0;
-    }
-
-    std::string trimmed(const icu::UnicodeString& text) const {
-        const auto start = spaces_.span(text, 0, USET_SPAN_CONTAINED);
-        const auto end = spaces_.spanBack(text, text.length(), USET_SPAN_CONTAINED);
-        std::string words;
-        if (start < end)
-            text.tempSubStringBetween(start, end).toUTF8String(words);
-        return words;
-    }
-
-    std::unique_ptr<icu::RegexMatcher> tag_;
-    icu::UnicodeSet spaces_;
-};
+using test::PatternParser;
 
 /// Makes texts that are tags, nearly tags, and what may stand around them.
 class Generator {
@@ -209,8 +120,8 @@ icu::UnicodeString utf16(const std::u32string& text) {
     return units;
 }
 
-std::vector<ReferenceLine> parsed(const std::string& text) {
-    std::vector<ReferenceLine> lines;
+std::vector<PatternParser::Line> parsed(const std::string& text) {
+    std::vector<PatternParser::Line> lines;
     for (const auto& line : LRCParser::parse(text))
         lines.push_back({line.time, line.text});
     return lines;
@@ -222,7 +133,7 @@ bool isAscii(const icu::UnicodeString& text) {
 }
 
 TEST(LRCParserAgainstIcu, FindsWhatThePatternFinds) {
-    const ReferenceParser reference;
+    const PatternParser reference;
     Generator generator;
     std::size_t lineCount = 0;
     std::size_t textsWithTags = 0;
@@ -244,7 +155,7 @@ TEST(LRCParserAgainstIcu, FindsWhatThePatternFinds) {
 }
 
 TEST(LRCParserAgainstIcu, ReadsEveryTimeAlike) {
-    const ReferenceParser reference;
+    const PatternParser reference;
     for (int minutes = 0; minutes < 100; minutes += 7)
         for (int seconds = 0; seconds < 100; seconds += 3)
             for (int fraction = 0; fraction < 1000; fraction += 11) {
@@ -255,7 +166,7 @@ TEST(LRCParserAgainstIcu, ReadsEveryTimeAlike) {
 }
 
 TEST(LRCParserAgainstIcu, AgreesOnWhichCharactersAreDigitsAndSpaces) {
-    const ReferenceParser reference;
+    const PatternParser reference;
     for (char32_t character = 1; character <= 0x10FFFF; ++character) {
         if (character >= 0xD800 && character <= 0xDFFF)
             continue;

@@ -143,8 +143,9 @@ QImage PillStage::pill() {
 }
 
 QImage PillStage::menu(const QString& hovered) {
-    auto* menu = content_->contentItem()->findChild<QQuickWindow*>(QStringLiteral("menu"));
-    QMetaObject::invokeMethod(menu, "popup", Q_ARG(QPointF, QPointF(100, 100)));
+    auto* notch = content_->contentItem()->findChild<QQuickItem*>(QStringLiteral("notch"));
+    QMetaObject::invokeMethod(notch, "openMenu", Q_ARG(QPointF, QPointF(100, 100)));
+    auto* menu = notch->findChild<QQuickWindow*>(QStringLiteral("menu"));
     QCoreApplication::processEvents(); // the window takes its size
     for (auto* entry : menu->findChildren<QQuickItem*>()) {
         if (entry->property("text") != hovered || !entry->property("menu").isValid())

@@ -10,8 +10,17 @@
 namespace brellowind::platform {
 namespace {
 
-bool isKnown(const QByteArray& format) {
-    return format == "jpeg" || format == "jpg" || format == "png" || format == "webp";
+/// The format that `bytes` begin as, by Qt's name; empty for all others. Left to find it out, Qt
+/// would load the decoders of every format that it has and ask each.
+QByteArray formatOf(std::string_view bytes) {
+    using namespace std::string_view_literals;
+    if (bytes.starts_with("\xFF\xD8\xFF"sv))
+        return "jpeg";
+    if (bytes.starts_with("\x89PNG\r\n\x1A\n"sv))
+        return "png";
+    if (bytes.starts_with("RIFF"sv) && bytes.size() >= 12 && bytes.substr(8, 4) == "WEBP"sv)
+        return "webp";
+    return {};
 }
 
 qint64 decodedBytes(const QImageReader& reader) {
@@ -34,13 +43,17 @@ QtImageDecoder::QtImageDecoder(int largestPoints) : largestPoints_(largestPoints
 }
 
 std::shared_ptr<const Image> QtImageDecoder::decode(std::string_view bytes) {
+    const QByteArray format = formatOf(bytes);
+    if (format.isEmpty())
+        return nullptr;
     auto data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
     QBuffer buffer(&data);
     buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
-    if (!isKnown(reader.format()) || size.isEmpty() || decodedBytes(reader) > maximumDecodedBytes)
+    if (size.isEmpty() || decodedBytes(reader) > maximumDecodedBytes)
         return nullptr;
     const int side = static_cast<int>(std::ceil(largestPoints_ * qGuiApp->devicePixelRatio()));
     const double scale = static_cast<double>(side) / std::min(size.width(), size.height());

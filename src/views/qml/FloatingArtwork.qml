@@ -32,15 +32,17 @@ Item {
     }
 
     // Laid out once for the whole artwork, with which it grows.
-    ArtworkCaption {
+    Loader {
         anchors.bottom: parent.bottom
         width: Style.artworkSide
-        coverSide: Style.artworkSide
         transformOrigin: Item.BottomLeft
         scale: parent.width / Style.artworkSide
-        model: root.model
         opacity: Math.min(1, Math.max(0, 2 * root.expansion - 1))
-        visible: opacity > 0
+        active: opacity > 0
+        sourceComponent: ArtworkCaption {
+            coverSide: Style.artworkSide
+            model: root.model
+        }
     }
 
     MouseArea {

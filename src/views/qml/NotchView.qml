@@ -8,6 +8,7 @@ Item {
     required property NotchRootModel model
 
     Pill {
+        objectName: "notch"
         anchors.fill: parent
         model: root.model
     }

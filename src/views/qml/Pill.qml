@@ -10,6 +10,15 @@ Item {
     readonly property real bottomPadding: Style.mix(Style.minimizedBottomPadding, Style.bottomPadding, motion.unfold)
     readonly property real defaultHeight: Style.topPadding + Style.bandHeight + motion.unfold * (Style.spacing + line.implicitHeight) + motion.hover * (Style.spacing + Style.grabberPadding + Style.grabberHeight) + bottomPadding
 
+    property PillMenu menu: null
+
+    /** The menu is made when it is first wanted: most days it never is. */
+    function openMenu(position: point): void {
+        if (!menu)
+            menu = menuComponent.createObject(root) as PillMenu;
+        menu.popup(position);
+    }
+
     transformOrigin: Item.Top
     scale: (1 + 0.03 * motion.hover) * motion.pulse
 
@@ -51,7 +60,7 @@ Item {
 
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton)
-                menu.popup(mapToGlobal(mouse.x, mouse.y));
+                root.openMenu(mapToGlobal(mouse.x, mouse.y));
             else
                 tap();
         }
@@ -82,13 +91,16 @@ Item {
             Accessible.name: text
         }
 
-        ArtPanel {
+        Loader {
             id: panel
 
             anchors.horizontalCenter: parent.horizontalCenter
-            model: root.model
+            active: root.model.isArtExpanded || motion.expand !== 0
             opacity: Math.min(1, Math.max(0, motion.expand))
             visible: opacity > 0
+            sourceComponent: ArtPanel {
+                model: root.model
+            }
         }
     }
 
@@ -115,11 +127,12 @@ Item {
         model: root.model
     }
 
-    PillMenu {
-        id: menu
+    Component {
+        id: menuComponent
 
-        objectName: "menu"
-
-        model: root.model
+        PillMenu {
+            objectName: "menu"
+            model: root.model
+        }
     }
 }

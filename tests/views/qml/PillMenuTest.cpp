@@ -49,9 +49,13 @@ private:
     }
 };
 
-TEST_F(PillMenu, IsClosedAtFirst) {
-    ASSERT_NE(menu(), nullptr);
-    EXPECT_FALSE(menu()->isVisible());
+TEST_F(PillMenu, IsMadeWhenItIsFirstWantedAndThenKept) {
+    EXPECT_EQ(menu(), nullptr);
+    open();
+    const auto* made = menu();
+    menu()->close();
+    open();
+    EXPECT_EQ(menu(), made);
 }
 
 TEST_F(PillMenu, OpensOnASecondaryClickAnywhereOnThePill) {

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+/// What the fuzzer calls with every input it makes up.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace brellowind::fuzz {
+
+/// Ends the run, which keeps the input as a finding, unless `holds`.
+inline void require(bool holds, const char* property) {
+    if (holds)
+        return;
+    std::fprintf(stderr, "Does not hold: %s\n", property);
+    std::abort();
+}
+
+inline std::string_view text(const std::uint8_t* data, std::size_t size) {
+    return {reinterpret_cast<const char*>(data), size};
+}
+
+} // namespace brellowind::fuzz

@@ -1,0 +1,57 @@
+#include "Fuzz.h"
+#include "foundation/Utf8.h"
+#include "lyrics/LrclibAPI.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+// Any bytes as the body of the lyrics service's answer.
+
+namespace brellowind::fuzz {
+namespace {
+
+using Case = LyricsState::Case;
+
+void requireFilled(const LyricsState& state) {
+    require(state.lines().empty() == (state.which() != Case::loaded),
+            "there are lines exactly when lyrics are loaded");
+    require(state.text().empty() == (state.which() != Case::plain),
+            "there are words exactly when they have no times");
+    require(std::ranges::is_sorted(state.lines(), {}, &LyricLine::time),
+            "lines are sorted by time");
+    require(std::ranges::all_of(state.lines(),
+                                [](const auto& line) { return utf8::isValid(line.text); }),
+            "every line is UTF-8");
+    require(utf8::isValid(state.text()), "words without times are UTF-8");
+}
+
+bool isNeitherTextNorNull(const nlohmann::json& object, const char* key) {
+    const auto value = object.find(key);
+    return value != object.end() && !value->is_null() && !value->is_string();
+}
+
+bool isUndecodable(std::string_view body) {
+    const auto object = nlohmann::json::parse(body, nullptr, /*allow_exceptions=*/false);
+    return !object.is_object() || isNeitherTextNorNull(object, "syncedLyrics") ||
+           isNeitherTextNorNull(object, "plainLyrics");
+}
+
+} // namespace
+} // namespace brellowind::fuzz
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace brellowind;
+    using fuzz::Case;
+    const auto body = fuzz::text(data, size);
+    const auto state = LrclibAPI::interpret(200, body);
+    fuzz::requireFilled(state);
+    fuzz::require((state.which() == Case::failed) == fuzz::isUndecodable(body),
+                  "exactly what cannot be decoded fails");
+    fuzz::require(state.which() != Case::idle && state.which() != Case::loading,
+                  "an answer is an outcome");
+    fuzz::require(LrclibAPI::interpret(500, body).which() == state.which(),
+                  "an error's body counts like any other");
+    fuzz::require(LrclibAPI::interpret(404, body) == LyricsState::notFound(),
+                  "not found is not found, whatever the body");
+    return 0;
+}
