@@ -21,6 +21,9 @@ public:
     /// The next line of its standard output; empty when it ends without one or takes too long.
     QString readLine();
 
+    /// What it has written to its standard output beside the lines that were read.
+    QByteArray remainingOutput() { return process_.readAllStandardOutput(); }
+
     bool isRunning() const { return process_.state() != QProcess::NotRunning; }
     qint64 processId() const { return process_.processId(); }
 

@@ -30,10 +30,12 @@ QString nameOf(QTemporaryFile& file) {
 } // namespace
 
 ObservedProgram::ObservedProgram(const Desktop& desktop, const QString& origin,
-                                 const QProcessEnvironment& more)
+                                 const QProcessEnvironment& more, const QStringList& launcher)
     : arguments_{origin}, environment_(joined(desktop.environment(), more)),
       pill_(desktop.bus.connection(), pillPath, pillInterface), settings_(desktop.bus.connection()),
-      process_(programFile, arguments_, environment_, nameOf(errorFile_)) {
+      process_((launcher + QStringList{programFile}).constFirst(),
+               (launcher + QStringList{programFile} + arguments_).mid(1), environment_,
+               nameOf(errorFile_)) {
     auto bus = desktop.bus.connection();
     EXPECT_TRUE(bus.connect(QString(), pillPath, pillInterface, QStringLiteral("TextChanged"), this,
                             SLOT(textChanged(QString))));

@@ -19,9 +19,10 @@ class ObservedProgram : public QObject {
 
 public:
     /// Runs it on `desktop` with `more` in its environment. The service at `origin` has the lyrics
-    /// for it, and as "/latest.json" the release feed. Fails the running test when no pill appears.
+    /// for it, and as "/latest.json" the release feed. `launcher` is the beginning of a command
+    /// that runs the command that follows it. Fails the running test when no pill appears.
     ObservedProgram(const Desktop& desktop, const QString& origin,
-                    const QProcessEnvironment& more = {});
+                    const QProcessEnvironment& more = {}, const QStringList& launcher = {});
 
     /// What it wrote to its standard error goes to that of the test.
     ~ObservedProgram() override;

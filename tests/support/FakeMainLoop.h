@@ -23,6 +23,7 @@ public:
 
     std::chrono::milliseconds elapsed() const { return now_; }
     std::size_t timerCount() const { return timers_.size(); }
+    std::size_t nextTurnCount() const { return nextTurns_.size(); }
 
     /// How many repeating timers of `interval` are scheduled.
     std::size_t repeatingTimerCount(std::chrono::milliseconds interval) const;

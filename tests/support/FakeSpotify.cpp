@@ -44,11 +44,15 @@ platform::ScriptOutcome FakeSpotify::execute(const std::string& source) {
             state = state == "playing" ? "paused" : "playing";
         return outcome;
     }
+    if (record) {
+        outcome.text = record;
+        return outcome;
+    }
     machine_.clock.shift += answerTime;
-    std::string record;
+    std::string fields;
     for (const auto* field : {&title, &artist, &album, &duration, &artwork, &position})
-        record.append(*field).push_back(SpotifyBridge::fieldSeparator);
-    outcome.text = record.append(state);
+        fields.append(*field).push_back(SpotifyBridge::fieldSeparator);
+    outcome.text = fields.append(state);
     return outcome;
 }
 

@@ -36,7 +36,8 @@ public:
     std::string position = "0";
     std::string state = "paused";
 
-    std::optional<std::string> error; ///< every script fails with it
+    std::optional<std::string> error;  ///< every script fails with it
+    std::optional<std::string> record; ///< what a reading answers in place of the fields
     bool obeysToggles = true;
     std::chrono::milliseconds answerTime{0}; ///< the wall clock moves on by it during a reading
 

@@ -37,6 +37,11 @@ void FakeHttpClient::answer(std::size_t index, platform::HttpResult result) {
         completion(std::move(result));
 }
 
+std::size_t FakeHttpClient::pending() const {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        requests, [](const auto& request) { return request->completion != nullptr; }));
+}
+
 std::optional<std::string> FakeLoginItem::attempt(std::string_view name,
                                                   const std::optional<std::string>& error,
                                                   Status outcome) {

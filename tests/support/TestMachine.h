@@ -81,6 +81,9 @@ public:
     /// Ends the transfer of the `index`-th request ever sent.
     void answer(std::size_t index, platform::HttpResult result);
 
+    /// How many requests are neither answered nor aborted.
+    std::size_t pending() const;
+
     std::vector<std::shared_ptr<Pending>> requests;
 };
 

@@ -15,6 +15,10 @@ namespace {
 /// Of a body that comes faster than it is taken, so much waits in memory; the rest on the network.
 constexpr qint64 readAhead = 1 << 20;
 
+// The answers that have no body, whatever length they name.
+constexpr int noContent = 204;
+constexpr int notModified = 304;
+
 /// Whether the server answered, whatever its status: of Qt's errors only those that
 /// name a status of 400 or more do not mean that the transfer itself failed.
 bool isAnswer(int status, QNetworkReply::NetworkError error) {
@@ -51,18 +55,18 @@ private:
         const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
         if (!readBody())
             complete(TransportError{"the body is too long"});
-        else if (isAnswer(status, reply_->error()) && isWhole())
+        else if (isAnswer(status, reply_->error()) && isWhole(status))
             complete(HttpResponse{status, std::move(body_)});
         else
             complete(TransportError{reply_->errorString().toStdString()});
     }
 
-    /// Of an error page Qt may report only the status, also when the page was cut off. The length
-    /// of a compressed body is not known here; one without a body may name a length.
-    bool isWhole() const {
+    /// Qt may report a body as whole that was cut off, when the connection closes in the moment in
+    /// which a part of it is taken. The length of a compressed body is not known here.
+    bool isWhole(int status) const {
+        const bool hasBody = status != noContent && status != notModified;
         const auto length = reply_->header(QNetworkRequest::ContentLengthHeader);
-        return reply_->error() == QNetworkReply::NoError || !length.isValid() ||
-               body_.size() >= length.toULongLong();
+        return !hasBody || !length.isValid() || body_.size() >= length.toULongLong();
     }
 
     /// Takes what has arrived. False when that is more than is wanted. Piece by piece, because a

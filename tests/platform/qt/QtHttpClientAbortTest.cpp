@@ -223,6 +223,17 @@ TEST_P(QtHttpClientBroken, AnswerIsATransportError) {
     EXPECT_EQ(download.completions(), 1);
 }
 
+TEST_F(QtHttpClientAbort, ABodyShorterThanItsLengthIsATransportErrorWheneverTheConnectionCloses) {
+    answer = [](const Exchange& exchange) {
+        exchange.send(httpResponse("Content-Length: 100\r\n", "{\"a\":1}"));
+        QTimer::singleShot(1ms, exchange.connection, [exchange] { exchange.drop(); });
+    };
+    for (int i = 0; i < 100; ++i) {
+        Download download(client, request());
+        ASSERT_TRUE(download.fails()) << "the " << i << "th time";
+    }
+}
+
 QByteArray gibberish() {
     QByteArray bytes;
     for (int i = 0; i < 4096; ++i)

@@ -1,0 +1,253 @@
+#include "e2e/PillFixture.h"
+#include "session/x11/Monitors.h"
+#include "soak/Consumption.h"
+#include "soak/FaultyService.h"
+#include "soak/Growth.h"
+#include "soak/RestlessPerson.h"
+#include "soak/RestlessPlayer.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QRegularExpression>
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <limits>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+// The real program for a long time among everything that a desktop session may do to it.
+namespace brellowind::test {
+namespace {
+
+using std::chrono::milliseconds;
+
+milliseconds duration{0};
+QString summary; ///< what there is to say of the run in a line
+
+/// A quantity that must not grow, and how much it may differ between two fifths of the run.
+struct Quantity {
+    const char* name;
+    const char* unit;
+    double Consumption::*value;
+    double tolerance = std::numeric_limits<double>::infinity(); ///< infinite: only told
+};
+
+// Of memory a few covers and what the allocator keeps of them come and go; of files and X resources
+// what is under way at the moment of a sample. PSS depends on which other programs run that use the
+// same libraries.
+constexpr Quantity quantities[] = {
+    {"PSS", " MB", &Consumption::pssMB},
+    {"RSS", " MB", &Consumption::rssMB, 4},
+    {"private", " MB", &Consumption::privateMB, 4},
+    {"files", "", &Consumption::files, 4},
+    {"threads", "", &Consumption::threads, 2},
+    {"X resources", "", &Consumption::xResources, 8},
+    {"pixmaps", " MB", &Consumption::pixmapsMB, 2},
+};
+
+/// What the program may say when players and services fail, which they do here. The rest is Qt's:
+/// to a message that the window manager sends to every window that it manages, and of a motion that
+/// ends in the turn in which it begins.
+const QRegularExpression
+    expectedLine(QStringLiteral("^((Spotify AppleScript error|Update check failed): "
+                                "|qt.qpa.xcb: Unhandled client message:  \"_KDE_WM_CHANGE_STATE\"$"
+                                "|QUnifiedTimer::stopAnimationDriver: driver is not running$)"));
+
+/// What the pill may show here. A player that has just started plays what has no title.
+const QRegularExpression expectedText(
+    QStringLiteral("^(No music playing|Loading lyrics…|♪|(Song \\d+)?(, line \\d+)?)$"));
+
+class Soak : public PillOnDesktop {
+protected:
+    Soak() : PillOnDesktop(QStringLiteral("1280x800x24")) {
+        service.handler = [this](const demo::Exchange& exchange) { faulty.answer(exchange); };
+    }
+
+    /// A few seconds of everything at once.
+    void riot() {
+        faulty.failsNow = true;
+        QElapsedTimer time;
+        for (time.start(); time.elapsed() < 2500 && isAlive();) {
+            for (int more = chance.below(4); more > 0; --more)
+                visitor->act();
+            if (chance.onceIn(4))
+                restless->act();
+            if (chance.onceIn(150))
+                changeScreens();
+            runFor(milliseconds(chance.below(30)));
+        }
+    }
+
+    /// Ends what the riot has left open, and looks at what the program holds then.
+    void rest() {
+        if (isDivided)
+            joinMonitors();
+        visitor->leave();
+        runFor(milliseconds(200));
+        samples.push_back(consumption(pid(), x, program->window()));
+        for (const QString& text : program->texts())
+            EXPECT_TRUE(expectedText.match(text).hasMatch()) << qPrintable(text);
+        program->forgetEarlierTexts();
+    }
+
+    /// Another size, or a second monitor in the right half; the pill goes where it belongs.
+    void changeScreens() {
+        ++screenChanges;
+        if (isDivided) {
+            joinMonitors();
+        } else if (chance.onceIn(2)) {
+            isDivided = true;
+            const int half = size.width() / 2;
+            monitors.add(right, {half, 0, half, size.height()}, true);
+            EXPECT_TRUE(hangsInTheMiddleOf(half, half));
+        } else {
+            size = chance.oneOf<QSize>({{1024, 700}, {700, 600}, {1280, 800}});
+            monitors.resize(size);
+            EXPECT_TRUE(hangsInTheMiddleOf(0, size.width()));
+        }
+    }
+
+    void joinMonitors() {
+        isDivided = false;
+        monitors.remove(right);
+        EXPECT_TRUE(hangsInTheMiddleOf(0, size.width()));
+    }
+
+    bool hangsInTheMiddleOf(int left, int width) {
+        const int own = std::min(width, 640);
+        const QRect place(left + (width - own) / 2, 0, own, 540);
+        return waitUntil([&] { return x.geometry(program->window()) == place; });
+    }
+
+    /// After all that it does what it is for.
+    void singsAsOnTheFirstDay() {
+        faulty.failsNow = false;
+        restless->settle(QStringLiteral("Song 0"), "Paused", 10);
+        EXPECT_TRUE(program->shows(FaultyService::line(QStringLiteral("Song 0"), 10)));
+        restless->settle(QStringLiteral("Song 1"), "Paused", 20);
+        EXPECT_TRUE(program->shows(FaultyService::line(QStringLiteral("Song 1"), 20)));
+        program->forgetEarlierTexts();
+        restless->settle(QStringLiteral("Song 1"), "Playing", 20);
+        EXPECT_TRUE(program->shows(FaultyService::line(QStringLiteral("Song 1"), 23)));
+        person.pointAt(middleOf("pill"));
+        EXPECT_TRUE(program->becomes("hovered"));
+        EXPECT_GE(program->texts().size(), 8) << "it skips lines";
+    }
+
+    void expectNoGrowth() {
+        for (const auto& quantity : quantities) {
+            std::vector<double> values;
+            for (const auto& sample : samples)
+                values.push_back(sample.*quantity.value);
+            const auto [early, late] = growth(values);
+            summary += QStringLiteral(", %1 %2 → %3%4")
+                           .arg(QLatin1String(quantity.name), QString::number(early, 'f', 1),
+                                QString::number(late, 'f', 1), QLatin1String(quantity.unit));
+            EXPECT_LE(late - early, quantity.tolerance) << quantity.name << " grows";
+        }
+    }
+
+    /// A soak in which nothing happens would prove nothing.
+    void expectThatMuchHappened() {
+        const std::pair<const char*, int> events[] = {
+            {"tracks", restless->tracks},    {"seeks", restless->seeks},
+            {"pauses", restless->pauses},    {"hangs", restless->hangs},
+            {"crashes", restless->crashes},  {"lyrics", faulty.lyrics},
+            {"covers", faulty.covers},       {"checks", faulty.feeds},
+            {"faults", faulty.faults},       {"movements", visitor->movements},
+            {"clicks", visitor->clicks},     {"menus", visitor->menus},
+            {"settings", visitor->settings}, {"screens", screenChanges},
+        };
+        for (const auto& [name, count] : events) {
+            summary += QStringLiteral(", %1 %2").arg(QLatin1String(name)).arg(count);
+            EXPECT_GT(count, 0) << name;
+        }
+    }
+
+    void expectNoUnexpectedWords() {
+        const QStringList lines = program->errors();
+        summary += QStringLiteral(", log lines %1").arg(lines.size());
+        for (const QString& line : lines) {
+            EXPECT_TRUE(expectedLine.match(line).hasMatch()) << qPrintable(line);
+            EXPECT_FALSE(line.contains(QStringLiteral("Song ")) ||
+                         line.contains(QStringLiteral("127.0.0.1")))
+                << qPrintable(line);
+        }
+    }
+
+    bool isAlive() { return program->process().isRunning(); }
+    pid_t pid() { return static_cast<pid_t>(program->process().processId()); }
+
+    Chance chance{1};
+    FaultyService faulty{chance};
+    Monitors monitors{desktop.xServer.display()};
+    std::optional<RestlessPlayer> restless;
+    std::optional<RestlessPerson> visitor;
+    const QString right = QStringLiteral("right");
+    QSize size = Monitors::initialSize;
+    bool isDivided = false; ///< there is a second monitor at the right
+    int screenChanges = 0;
+    std::vector<Consumption> samples;
+};
+
+TEST_F(Soak, LeavesTheProgramAsItWas) {
+    restless.emplace(desktop.bus.connection(), service.origin(), chance);
+    visitor.emplace(x, start(), chance);
+    QElapsedTimer time;
+    for (time.start(); time.elapsed() < duration.count() && !HasFailure();) {
+        riot();
+        ASSERT_TRUE(isAlive()) << "the program has ended";
+        rest();
+    }
+    ASSERT_GE(samples.size(), 5U);
+    summary = QStringLiteral("%1 min, %2 samples")
+                  .arg(static_cast<double>(time.elapsed()) / 60000, 0, 'f', 1)
+                  .arg(samples.size());
+    singsAsOnTheFirstDay();
+    expectNoGrowth();
+    expectThatMuchHappened();
+    expectNoUnexpectedWords();
+}
+
+/// Says what failed, and nothing else.
+class Complaints : public testing::EmptyTestEventListener {
+    void OnTestPartResult(const testing::TestPartResult& result) override {
+        if (result.failed())
+            std::fprintf(stderr, "%s:%d: %s\n", result.file_name() ? result.file_name() : "",
+                         result.line_number(), result.message());
+    }
+};
+
+std::optional<int> minutes(int argc, char** argv) {
+    int number = 0;
+    if (argc != 3 || std::string_view(argv[1]) != "--minutes")
+        return std::nullopt;
+    const std::string_view text(argv[2]);
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool isWhole = error == std::errc() && end == text.data() + text.size();
+    return isWhole && number >= 1 && number <= 9999 ? std::optional(number) : std::nullopt;
+}
+
+} // namespace
+} // namespace brellowind::test
+
+int main(int argc, char** argv) {
+    using namespace brellowind::test;
+    const auto wanted = minutes(argc, argv);
+    if (!wanted) {
+        std::fprintf(stderr, "usage: brellowind-soak --minutes N\n");
+        return 2;
+    }
+    duration = std::chrono::minutes(*wanted);
+    const QCoreApplication application(argc, argv);
+    argc = 1;
+    testing::InitGoogleTest(&argc, argv);
+    auto& listeners = testing::UnitTest::GetInstance()->listeners();
+    delete listeners.Release(listeners.default_result_printer());
+    listeners.Append(new Complaints);
+    const bool failed = RUN_ALL_TESTS() != 0;
+    std::printf("soak: %s: %s\n", failed ? "failed" : "passed", qPrintable(summary));
+    return failed ? 1 : 0;
+}
