@@ -69,7 +69,7 @@ struct BrellowindApp::Machine {
     platform::QtHttpClient http;
     platform::QtImageDecoder images{largestArtworkPoints};
     platform::QtLocalFiles files;
-    platform::MprisPlayer player{QDBusConnection::sessionBus(), mprisVocabulary()};
+    platform::MprisPlayer player{platform::BusConnection(), mprisVocabulary()};
     platform::QtScreens screens{mainLoop};
     platform::X11Pointer pointer{mainLoop};
     platform::QtApplication application;

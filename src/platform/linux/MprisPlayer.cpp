@@ -2,47 +2,29 @@
 
 #include "platform/linux/MprisRecord.h"
 
-#include <QDBusArgument>
-#include <QDBusError>
-#include <QDBusPendingCall>
-#include <QDBusPendingCallWatcher>
+#include <algorithm>
 #include <utility>
 
 namespace brellowind::platform {
 namespace {
 
-const QLatin1String namePrefix("org.mpris.MediaPlayer2.");
-const QLatin1String instanceMark(".instance");
-const QLatin1String objectPath("/org/mpris/MediaPlayer2");
-const QLatin1String playerInterface("org.mpris.MediaPlayer2.Player");
+constexpr std::string_view namePrefix = "org.mpris.MediaPlayer2.";
+constexpr std::string_view instanceMark = ".instance";
+constexpr const char* objectPath = "/org/mpris/MediaPlayer2";
+constexpr const char* playerInterface = "org.mpris.MediaPlayer2.Player";
 
-ScriptOutcome failure(const QString& description) {
-    return {.text = std::nullopt, .error = description.toStdString()};
+ScriptOutcome failure(std::string description) {
+    return {.text = std::nullopt, .error = std::move(description)};
 }
 
-ScriptOutcome failure(const QDBusError& error) {
-    return failure(error.name() + QLatin1String(": ") + error.message());
-}
-
-/// A call that never starts a player: one that has just quit stays away.
-QDBusMessage playerCall(const QString& player, const QString& interface, const QString& method) {
-    auto request = QDBusMessage::createMethodCall(player, objectPath, interface, method);
-    request.setAutoStartService(false);
-    return request;
-}
-
-bool isTimeout(const QDBusMessage& reply) {
-    const QDBusError::ErrorType type = QDBusError(reply).type();
-    return type == QDBusError::NoReply || type == QDBusError::Timeout ||
-           type == QDBusError::TimedOut;
+ScriptOutcome failure(const BusError& error) {
+    return failure(error.name + ": " + error.text);
 }
 
 } // namespace
 
-MprisPlayer::MprisPlayer(QDBusConnection bus, MprisVocabulary vocabulary)
+MprisPlayer::MprisPlayer(BusConnection bus, MprisVocabulary vocabulary)
     : bus_(std::move(bus)), vocabulary_(std::move(vocabulary)) {}
-
-MprisPlayer::~MprisPlayer() = default;
 
 ScriptOutcome MprisPlayer::execute(std::string_view source) {
     const bool reads = source == vocabulary_.readOutScript;
@@ -50,86 +32,110 @@ ScriptOutcome MprisPlayer::execute(std::string_view source) {
         return {};
     // Who asks what runs and then reads need not have the bus asked twice.
     auto players = std::exchange(running_, {});
-    if (!reads || players.isEmpty()) {
-        const auto names = namesOnBus();
-        if (!names.isValid())
-            return failure(names.error());
-        players = playersAmong(names);
+    if (!reads || players.empty()) {
+        auto found = playersOnBus();
+        if (const auto* error = std::get_if<BusError>(&found))
+            return failure(*error);
+        players = std::get<Players>(std::move(found));
     }
-    if (!players.isEmpty())
-        return reads ? readOut(players.first()) : playPause(players.first());
+    if (!players.empty())
+        return reads ? readOut(players.front()) : playPause(players.front());
     return reads ? ScriptOutcome{.text = std::string(), .error = std::nullopt}
-                 : failure(QStringLiteral("the player is not running"));
+                 : failure("the player is not running");
 }
 
 std::vector<std::optional<std::string>> MprisPlayer::bundleIdentifiers() {
-    running_ = playersAmong(namesOnBus());
-    return {static_cast<std::size_t>(running_.size()), vocabulary_.bundleIdentifier};
+    auto found = playersOnBus();
+    running_ =
+        std::holds_alternative<Players>(found) ? std::get<Players>(std::move(found)) : Players();
+    return {running_.size(), vocabulary_.bundleIdentifier};
 }
 
-QDBusReply<QStringList> MprisPlayer::namesOnBus() const {
-    const auto request = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ListNames"));
-    return bus_.call(request, QDBus::Block, static_cast<int>(patience.count()));
+std::variant<MprisPlayer::Players, BusError> MprisPlayer::playersOnBus() {
+    auto answer = bus_.call(bus_.methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                            "org.freedesktop.DBus", "ListNames"),
+                            patience);
+    if (auto* error = std::get_if<BusError>(&answer))
+        return std::move(*error);
+    auto* names = std::get<BusMessage>(answer).get();
+    Players players;
+    sd_bus_message_enter_container(names, SD_BUS_TYPE_ARRAY, "s");
+    const char* name = nullptr;
+    while (sd_bus_message_read_basic(names, SD_BUS_TYPE_STRING, &name) > 0)
+        if (rank(name) < ranks())
+            players.emplace_back(name);
+    // The bus gives the instances in any order, and not always in the same.
+    std::ranges::sort(players, {}, [this](const std::string& player) {
+        return std::pair(rank(player), std::string_view(player));
+    });
+    return players;
 }
 
-QStringList MprisPlayer::playersAmong(const QStringList& names) const {
-    QStringList plain;
-    QStringList instances;
-    for (const auto& player : vocabulary_.players) {
-        const QString name = namePrefix + QString::fromStdString(player);
-        for (const auto& candidate : names) {
-            if (candidate == name)
-                plain.append(candidate);
-            else if (candidate.startsWith(name + instanceMark))
-                instances.append(candidate);
-        }
+/// First the plain names as they are configured, then their instances; `ranks` for all others.
+std::size_t MprisPlayer::rank(std::string_view name) const {
+    if (!name.starts_with(namePrefix))
+        return ranks();
+    name.remove_prefix(namePrefix.size());
+    const auto& players = vocabulary_.players;
+    for (std::size_t i = 0; i < players.size(); ++i) {
+        if (name == players[i])
+            return i;
+        if (name.starts_with(players[i]) &&
+            name.substr(players[i].size()).starts_with(instanceMark))
+            return players.size();
     }
-    instances.sort(); // the bus gives them in any order, and not always in the same
-    return plain + instances;
+    return ranks();
 }
 
-ScriptOutcome MprisPlayer::readOut(const QString& player) {
-    auto request = playerCall(player, QStringLiteral("org.freedesktop.DBus.Properties"),
-                              QStringLiteral("GetAll"));
-    request << QString(playerInterface);
-    const auto reply = call(request);
-    if (reply.type() == QDBusMessage::ErrorMessage)
-        return failure(QDBusError(reply));
-    if (reply.signature() != QLatin1String("a{sv}"))
-        return failure(QStringLiteral("the player's answer is of the wrong type"));
-    const auto properties = qdbus_cast<QVariantMap>(reply.arguments().constFirst());
+ScriptOutcome MprisPlayer::readOut(const std::string& player) {
+    const auto request =
+        bus_.methodCall(player, objectPath, "org.freedesktop.DBus.Properties", "GetAll");
+    if (request)
+        sd_bus_message_append(request.get(), "s", playerInterface);
+    const auto answer = call(player, request);
+    if (const auto* error = std::get_if<BusError>(&answer))
+        return failure(*error);
+    auto* properties = std::get<BusMessage>(answer).get();
+    if (sd_bus_message_has_signature(properties, "a{sv}") <= 0)
+        return failure("the player's answer is of the wrong type");
     return {.text = mprisRecord(properties), .error = std::nullopt};
 }
 
-ScriptOutcome MprisPlayer::playPause(const QString& player) {
-    const auto reply = call(playerCall(player, playerInterface, QStringLiteral("PlayPause")));
-    return reply.type() == QDBusMessage::ErrorMessage ? failure(QDBusError(reply))
-                                                      : ScriptOutcome{};
+ScriptOutcome MprisPlayer::playPause(const std::string& player) {
+    const auto answer =
+        call(player, bus_.methodCall(player, objectPath, playerInterface, "PlayPause"));
+    if (const auto* error = std::get_if<BusError>(&answer))
+        return failure(*error);
+    return {};
 }
 
-QDBusMessage MprisPlayer::call(const QDBusMessage& request) {
+BusAnswer MprisPlayer::call(const std::string& player, const BusMessage& request) {
+    bus_.process(); // perhaps the ping is answered by now
     if (recovery_)
-        return request.createErrorReply(QDBusError::NoReply, QStringLiteral("the player hangs"));
-    auto reply = bus_.call(request, QDBus::Block, static_cast<int>(patience.count()));
-    if (isTimeout(reply))
-        awaitRecovery(request.service());
-    return reply;
+        return BusError{SD_BUS_ERROR_NO_REPLY, "the player hangs"};
+    auto answer = bus_.call(request, patience);
+    if (const auto* error = std::get_if<BusError>(&answer); error && error->isTimeout())
+        awaitRecovery(player);
+    return answer;
 }
 
 /// Sends one ping and lets readings fail until it is answered, or known never to be.
-void MprisPlayer::awaitRecovery(const QString& player) {
-    const auto ping =
-        playerCall(player, QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
-    recovery_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(ping));
-    QObject::connect(recovery_.get(), &QDBusPendingCallWatcher::finished, recovery_.get(),
-                     [this, player](QDBusPendingCallWatcher* watcher) {
-                         watcher->deleteLater();
-                         static_cast<void>(recovery_.release());
-                         if (isTimeout(watcher->reply()))
-                             awaitRecovery(player);
-                     });
+void MprisPlayer::awaitRecovery(const std::string& player) {
+    hanging_ = player;
+    recovery_ = bus_.callLater(
+        bus_.methodCall(player, objectPath, "org.freedesktop.DBus.Peer", "Ping"),
+        [](sd_bus_message* reply, void* self, sd_bus_error*) {
+            static_cast<MprisPlayer*>(self)->recover(*reply);
+            return 0;
+        },
+        this);
+}
+
+void MprisPlayer::recover(sd_bus_message& reply) {
+    recovery_.reset();
+    const auto* error = sd_bus_message_get_error(&reply);
+    if (error && BusError{error->name, {}}.isTimeout())
+        awaitRecovery(hanging_);
 }
 
 } // namespace brellowind::platform

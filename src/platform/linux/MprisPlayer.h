@@ -2,18 +2,15 @@
 
 #include "platform/RunningApplications.h"
 #include "platform/Scripting.h"
+#include "platform/linux/BusConnection.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusReply>
-#include <QStringList>
 #include <chrono>
-#include <memory>
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <variant>
 #include <vector>
-
-class QDBusPendingCallWatcher;
 
 namespace brellowind::platform {
 
@@ -36,28 +33,32 @@ class MprisPlayer final : public Scripting, public RunningApplications {
 public:
     static constexpr std::chrono::milliseconds patience{200};
 
-    MprisPlayer(QDBusConnection bus, MprisVocabulary vocabulary);
-    ~MprisPlayer() override;
+    MprisPlayer(BusConnection bus, MprisVocabulary vocabulary);
+    MprisPlayer(const MprisPlayer&) = delete; // a ping's answer comes to where it was sent from
+    MprisPlayer& operator=(const MprisPlayer&) = delete;
 
     ScriptOutcome execute(std::string_view source) override;
     std::vector<std::optional<std::string>> bundleIdentifiers() override;
 
 private:
-    ScriptOutcome readOut(const QString& player);
-    ScriptOutcome playPause(const QString& player);
+    using Players = std::vector<std::string>; ///< bus names, the one to speak to first
 
-    QDBusReply<QStringList> namesOnBus() const;
+    ScriptOutcome readOut(const std::string& player);
+    ScriptOutcome playPause(const std::string& player);
 
-    /// Of `names` those that count, the plain ones first.
-    QStringList playersAmong(const QStringList& names) const;
+    std::variant<Players, BusError> playersOnBus();
+    std::size_t rank(std::string_view name) const;
+    std::size_t ranks() const { return vocabulary_.players.size() + 1; }
 
-    QDBusMessage call(const QDBusMessage& request);
-    void awaitRecovery(const QString& player);
+    BusAnswer call(const std::string& player, const BusMessage& request);
+    void awaitRecovery(const std::string& player);
+    void recover(sd_bus_message& reply);
 
-    QDBusConnection bus_;
+    BusConnection bus_;
     MprisVocabulary vocabulary_;
-    QStringList running_; ///< as last asked for; serves the one reading that follows
-    std::unique_ptr<QDBusPendingCallWatcher> recovery_; ///< there while the player hangs
+    Players running_; ///< as last asked for; serves the one reading that follows
+    std::string hanging_;
+    BusCall recovery_; ///< there while the player `hanging_` hangs; goes before the bus
 };
 
 } // namespace brellowind::platform

@@ -1,12 +1,12 @@
 #include "platform/linux/MprisRecord.h"
 
-#include <QDBusArgument>
-#include <QDBusVariant>
-#include <QStringList>
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <optional>
+#include <string_view>
 
 namespace brellowind::platform {
 namespace {
@@ -18,62 +18,146 @@ constexpr double microsecondsPerSecond = 1e6;
 /// No real track or position comes near it; what lies beyond is as good as unreadable.
 constexpr double farthestMicroseconds = 9.2e18;
 
-QVariant unwrapped(const QVariant& value) {
-    if (value.metaType() == QMetaType::fromType<QDBusVariant>())
-        return unwrapped(value.value<QDBusVariant>().variant());
-    return value;
+/// What one property says, as far as anybody asks; its texts are the message's.
+struct Value {
+    std::string_view text;
+    std::string_view firstText; ///< the text, or the first entry of a list
+    std::optional<double> microseconds;
+};
+
+/// Calls `read` with the type of what a variant holds, under however many variants. What `read`
+/// does not take is passed over.
+template <typename Read>
+void inVariant(sd_bus_message* message, Read read) {
+    const char* type = nullptr;
+    if (sd_bus_message_peek_type(message, nullptr, &type) <= 0 ||
+        sd_bus_message_enter_container(message, SD_BUS_TYPE_VARIANT, type) <= 0)
+        return;
+    if (std::string_view(type) == "v")
+        inVariant(message, read);
+    else
+        read(type);
+    if (sd_bus_message_at_end(message, 0) == 0)
+        sd_bus_message_skip(message, type);
+    sd_bus_message_exit_container(message);
 }
 
-QVariantMap map(const QVariant& value) {
-    const QVariant plain = unwrapped(value);
-    if (plain.metaType() == QMetaType::fromType<QVariantMap>())
-        return plain.toMap();
-    if (plain.metaType() != QMetaType::fromType<QDBusArgument>())
-        return {};
-    const auto argument = plain.value<QDBusArgument>();
-    return argument.currentSignature() == QLatin1String("a{sv}") ? qdbus_cast<QVariantMap>(argument)
-                                                                 : QVariantMap();
-}
-
-QString text(const QVariant& value) {
-    const QVariant plain = unwrapped(value);
-    return plain.metaType() == QMetaType::fromType<QString>() ? plain.toString() : QString();
-}
-
-QString firstText(const QVariant& value) {
-    const QVariant plain = unwrapped(value);
-    if (plain.metaType() == QMetaType::fromType<QStringList>())
-        return plain.toStringList().value(0);
-    if (plain.metaType() == QMetaType::fromType<QVariantList>())
-        return text(plain.toList().value(0));
-    if (plain.metaType() == QMetaType::fromType<QDBusArgument>()) {
-        const auto argument = plain.value<QDBusArgument>();
-        if (argument.currentSignature() == QLatin1String("av"))
-            return text(qdbus_cast<QVariantList>(argument).value(0));
-        return {};
+/// Calls `visit` with each key of an `a{sv}`; what it does not read of the value is passed over.
+template <typename Visit>
+void eachEntry(sd_bus_message* message, Visit visit) {
+    if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{sv}") < 0)
+        return;
+    while (sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "sv") > 0) {
+        const char* key = nullptr;
+        if (sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &key) > 0)
+            visit(std::string_view(key));
+        if (sd_bus_message_at_end(message, 0) == 0)
+            sd_bus_message_skip(message, "v");
+        sd_bus_message_exit_container(message);
     }
-    return text(plain);
+    sd_bus_message_exit_container(message);
 }
 
-std::optional<double> microseconds(const QVariant& value) {
-    const QVariant plain = unwrapped(value);
-    switch (plain.typeId()) {
-    case QMetaType::UChar:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-        break;
+template <typename Number>
+std::optional<double> number(sd_bus_message* message, char type) {
+    Number value{};
+    if (sd_bus_message_read_basic(message, type, &value) <= 0)
+        return std::nullopt;
+    const auto asDouble = static_cast<double>(value);
+    if (!(std::abs(asDouble) < farthestMicroseconds))
+        return std::nullopt;
+    return asDouble;
+}
+
+std::optional<double> anyNumber(sd_bus_message* message, char type) {
+    switch (type) {
+    case SD_BUS_TYPE_BYTE:
+        return number<std::uint8_t>(message, type);
+    case SD_BUS_TYPE_INT16:
+        return number<std::int16_t>(message, type);
+    case SD_BUS_TYPE_UINT16:
+        return number<std::uint16_t>(message, type);
+    case SD_BUS_TYPE_INT32:
+        return number<std::int32_t>(message, type);
+    case SD_BUS_TYPE_UINT32:
+        return number<std::uint32_t>(message, type);
+    case SD_BUS_TYPE_INT64:
+        return number<std::int64_t>(message, type);
+    case SD_BUS_TYPE_UINT64:
+        return number<std::uint64_t>(message, type);
+    case SD_BUS_TYPE_DOUBLE:
+        return number<double>(message, type);
     default:
         return std::nullopt;
     }
-    const double number = plain.toDouble();
-    if (!(std::abs(number) < farthestMicroseconds))
-        return std::nullopt;
-    return number;
+}
+
+std::string_view text(sd_bus_message* message) {
+    const char* read = nullptr;
+    return sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &read) > 0 ? read : "";
+}
+
+Value value(sd_bus_message* message);
+
+/// Of a list of texts or variants.
+std::string_view firstEntry(sd_bus_message* message, const char* entryType) {
+    if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, entryType) < 0)
+        return {};
+    std::string_view first;
+    if (sd_bus_message_at_end(message, 0) == 0)
+        first = *entryType == SD_BUS_TYPE_VARIANT ? value(message).text : text(message);
+    while (sd_bus_message_skip(message, entryType) > 0) {
+    }
+    sd_bus_message_exit_container(message);
+    return first;
+}
+
+Value value(sd_bus_message* message) {
+    Value result;
+    inVariant(message, [&](std::string_view type) {
+        if (type == "s")
+            result.text = result.firstText = text(message);
+        else if (type == "as" || type == "av")
+            result.firstText = firstEntry(message, type == "as" ? "s" : "v");
+        else if (type.size() == 1)
+            result.microseconds = anyNumber(message, type.front());
+    });
+    return result;
+}
+
+struct Properties {
+    Value title, artist, album, length, artUrl, position, status;
+};
+
+void readMetadata(sd_bus_message* message, Properties& properties) {
+    eachEntry(message, [&](std::string_view key) {
+        if (key == "xesam:title")
+            properties.title = value(message);
+        else if (key == "xesam:artist")
+            properties.artist = value(message);
+        else if (key == "xesam:album")
+            properties.album = value(message);
+        else if (key == "mpris:length")
+            properties.length = value(message);
+        else if (key == "mpris:artUrl")
+            properties.artUrl = value(message);
+    });
+}
+
+Properties read(sd_bus_message* message) {
+    Properties properties;
+    eachEntry(message, [&](std::string_view key) {
+        if (key == "Metadata")
+            inVariant(message, [&](std::string_view type) {
+                if (type == "a{sv}")
+                    readMetadata(message, properties);
+            });
+        else if (key == "Position")
+            properties.position = value(message);
+        else if (key == "PlaybackStatus")
+            properties.status = value(message);
+    });
+    return properties;
 }
 
 std::string numberField(std::optional<double> microseconds, double unit) {
@@ -87,34 +171,42 @@ std::string numberField(std::optional<double> microseconds, double unit) {
 
 /// A text in its field. It loses separators, or what follows one would count as another field, and
 /// what a player writes into a title as a number.
-std::string textField(QString text) {
-    return text.remove(QLatin1Char(fieldSeparator)).toStdString();
+std::string textField(std::string_view text) {
+    std::string field(text);
+    std::erase(field, fieldSeparator);
+    return field;
 }
 
 /// Cover locations of this form answer "not found" where the image host answers with the image.
-std::string artworkField(QString location) {
-    for (const auto& dead : {QStringLiteral("https://open.spotify.com/image/"),
-                             QStringLiteral("http://open.spotify.com/image/")}) {
-        if (location.startsWith(dead))
-            location.replace(0, dead.size(), QStringLiteral("https://i.scdn.co/image/"));
+std::string artworkField(std::string_view location) {
+    std::string field = textField(location);
+    for (const std::string_view dead :
+         {"https://open.spotify.com/image/", "http://open.spotify.com/image/"}) {
+        if (field.starts_with(dead))
+            field.replace(0, dead.size(), "https://i.scdn.co/image/");
     }
-    return textField(location);
+    return field;
+}
+
+std::string lowerCase(std::string field) {
+    std::ranges::transform(field, field.begin(), [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    });
+    return field;
 }
 
 } // namespace
 
-std::string mprisRecord(const QVariantMap& properties) {
-    const QVariantMap metadata = map(properties.value(QStringLiteral("Metadata")));
-    const auto of = [&metadata](const char* key) { return metadata.value(QLatin1String(key)); };
+std::string mprisRecord(sd_bus_message* message) {
+    const Properties properties = read(message);
     const std::string fields[] = {
-        textField(text(of("xesam:title"))),
-        textField(firstText(of("xesam:artist"))),
-        textField(text(of("xesam:album"))),
-        numberField(microseconds(of("mpris:length")), microsecondsPerMillisecond),
-        artworkField(text(of("mpris:artUrl"))),
-        numberField(microseconds(properties.value(QStringLiteral("Position"))),
-                    microsecondsPerSecond),
-        textField(text(properties.value(QStringLiteral("PlaybackStatus"))).toLower()),
+        textField(properties.title.text),
+        textField(properties.artist.firstText),
+        textField(properties.album.text),
+        numberField(properties.length.microseconds, microsecondsPerMillisecond),
+        artworkField(properties.artUrl.text),
+        numberField(properties.position.microseconds, microsecondsPerSecond),
+        lowerCase(textField(properties.status.text)),
     };
     std::string record;
     for (const auto& field : fields) {

@@ -52,8 +52,6 @@ std::shared_ptr<const Image> QtImageDecoder::decode(std::string_view bytes) {
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    if (!isKnown(reader.format())) // before anything is asked that only parsing can answer
-        return nullptr;
     const QSize size = reader.size();
     if (size.isEmpty() || decodedBytes(reader) > maximumDecodedBytes)
         return nullptr;

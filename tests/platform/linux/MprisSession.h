@@ -19,10 +19,11 @@ protected:
 
     /// The adapter for `players`, names after "org.mpris.MediaPlayer2.".
     MprisPlayer reader(std::vector<std::string> players = {"spotify"}) const {
-        return {bus.connection(), MprisVocabulary{.bundleIdentifier = "com.spotify.client",
-                                                  .readOutScript = readOut,
-                                                  .playPauseScript = toggle,
-                                                  .players = std::move(players)}};
+        return {BusConnection(bus.address().toStdString()),
+                MprisVocabulary{.bundleIdentifier = "com.spotify.client",
+                                .readOutScript = readOut,
+                                .playPauseScript = toggle,
+                                .players = std::move(players)}};
     }
 
     static QVariantMap song(const char* title) {
