@@ -1,13 +1,13 @@
 #include "Fuzz.h"
 #include "foundation/Utf8.h"
 #include "lyrics/LrclibAPI.h"
+#include "platform/linux/LocalMessage.h"
 #include "platform/linux/MprisRecord.h"
 #include "playback/SpotifyBridge.h"
 #include "support/TestMachine.h"
 
-#include <QDBusVariant>
-#include <QStringList>
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <fuzzer/FuzzedDataProvider.h>
 
@@ -17,95 +17,168 @@
 namespace brellowind::fuzz {
 namespace {
 
-constexpr int deepest = 4;
+constexpr int deepest = 8;
 constexpr std::size_t longest = 64;
 
-QString anyText(FuzzedDataProvider& input) {
-    const auto bytes = input.ConsumeRandomLengthString(longest);
-    if (input.ConsumeBool())
-        return QString::fromStdString(bytes);
-    QString units; // not always characters
-    for (const char byte : bytes)
-        units += QChar(static_cast<char16_t>(0xD7F0 + static_cast<unsigned char>(byte)));
-    return units;
-}
+/// Fills a bus message with what `input` says, and knows which title it has written.
+class Player {
+public:
+    explicit Player(FuzzedDataProvider& input) : input_(input) {}
 
-QVariant anyValue(FuzzedDataProvider& input, int depth);
-
-QVariantMap anyMap(FuzzedDataProvider& input, int depth) {
-    QVariantMap map;
-    for (const char* key : {"xesam:title", "xesam:artist", "xesam:album", "mpris:length",
-                            "mpris:artUrl", "mpris:trackid"})
-        if (input.ConsumeBool())
-            map.insert(QLatin1String(key), anyValue(input, depth));
-    return map;
-}
-
-QVariant anyNumber(FuzzedDataProvider& input) {
-    switch (input.ConsumeIntegralInRange(0, 8)) {
-    case 0:
-        return QVariant::fromValue(input.ConsumeIntegral<uchar>());
-    case 1:
-        return QVariant::fromValue(input.ConsumeIntegral<short>());
-    case 2:
-        return QVariant::fromValue(input.ConsumeIntegral<ushort>());
-    case 3:
-        return input.ConsumeIntegral<int>();
-    case 4:
-        return input.ConsumeIntegral<uint>();
-    case 5:
-        return input.ConsumeIntegral<qlonglong>();
-    case 6:
-        return input.ConsumeIntegral<qulonglong>();
-    case 7:
-        return input.ConsumeFloatingPoint<double>();
-    default: // infinite and what is not a number among them
-        const auto bits = input.ConsumeIntegral<std::uint64_t>();
-        return std::bit_cast<double>(bits);
+    sd_bus_message* properties() {
+        open(SD_BUS_TYPE_ARRAY, "{sv}");
+        if (input_.ConsumeBool())
+            entry("Metadata", [this] { title_ = metadata(0); });
+        for (const char* name : {"Position", "PlaybackStatus", "Rate"})
+            if (input_.ConsumeBool())
+                entry(name, [this] { variant(0); });
+        close();
+        return message_.sealed();
     }
-}
 
-QVariant anyValue(FuzzedDataProvider& input, int depth) {
-    switch (input.ConsumeIntegralInRange(0, depth < deepest ? 8 : 4)) {
-    case 0:
-        return anyText(input);
-    case 1:
-        return anyNumber(input);
-    case 2:
-        return input.ConsumeBool();
-    case 3:
-        return QByteArray::fromStdString(input.ConsumeRandomLengthString(longest));
-    case 4: {
-        QStringList texts;
-        while (input.ConsumeBool())
-            texts += anyText(input);
-        return texts;
+    /// Empty when there is none that is a text.
+    const std::string& title() const { return title_; }
+
+private:
+    void open(char kind, const char* contents) {
+        require(sd_bus_message_open_container(message_.get(), kind, contents) >= 0, "it opens");
     }
-    case 5:
-        return QVariant::fromValue(QDBusVariant(anyValue(input, depth + 1)));
-    case 6: {
-        QVariantList list;
-        while (input.ConsumeBool())
-            list += anyValue(input, depth + 1);
-        return list;
+
+    void close() { require(sd_bus_message_close_container(message_.get()) >= 0, "it closes"); }
+
+    template <typename Write>
+    void entry(const char* key, Write write) {
+        open(SD_BUS_TYPE_DICT_ENTRY, "sv");
+        basic(SD_BUS_TYPE_STRING, key);
+        write();
+        close();
     }
-    case 7:
-        return anyMap(input, depth + 1);
-    default:
+
+    void basic(char type, const void* value) {
+        require(sd_bus_message_append_basic(message_.get(), type, value) >= 0, "it is appended");
+    }
+
+    std::string text() {
+        auto text = input_.ConsumeRandomLengthString(longest);
+        text.resize(std::min(text.find('\0'), text.size()));
+        if (!utf8::isValid(text)) // no bus carries it
+            text.clear();
+        basic(SD_BUS_TYPE_STRING, text.c_str());
+        return text;
+    }
+
+    template <typename Number>
+    void number(char type) {
+        const auto value = input_.ConsumeIntegral<Number>();
+        basic(type, &value);
+    }
+
+    /// A map of metadata in a variant, or something else there. The title that is in it.
+    std::string metadata(int depth) {
+        if (depth < deepest && input_.ConsumeBool()) {
+            open(SD_BUS_TYPE_VARIANT, "v");
+            auto title = metadata(depth + 1);
+            close();
+            return title;
+        }
+        if (input_.ConsumeIntegralInRange(0, 7) == 0) {
+            open(SD_BUS_TYPE_VARIANT, "s");
+            text();
+            close();
+            return {};
+        }
+        open(SD_BUS_TYPE_VARIANT, "a{sv}");
+        auto title = map(depth + 1);
+        close();
+        return title;
+    }
+
+    std::string map(int depth) {
+        std::string title;
+        open(SD_BUS_TYPE_ARRAY, "{sv}");
+        while (input_.ConsumeBool()) {
+            const char* key = input_.PickValueInArray({"xesam:title", "xesam:artist", "xesam:album",
+                                                       "mpris:length", "mpris:artUrl", "other"});
+            entry(key, [&] {
+                auto written = variant(depth);
+                if (std::string_view(key) == "xesam:title")
+                    title = std::move(written);
+            });
+        }
+        close();
+        return title;
+    }
+
+    /// A value of any type. The text that it is, under however many variants; empty for all others.
+    std::string variant(int depth) {
+        static constexpr const char* types[] = {"s", "y",  "b",     "n",  "q",   "i",
+                                                "u", "x",  "t",     "d",  "o",   "as",
+                                                "v", "av", "a{sv}", "ay", "(sv)"};
+        const char* type = input_.PickValueInArray(types);
+        if (depth >= deepest)
+            type = "s";
+        open(SD_BUS_TYPE_VARIANT, type);
+        auto text = value(type, depth);
+        close();
+        return text;
+    }
+
+    std::string value(std::string_view type, int depth) {
+        if (type == "s")
+            return text();
+        if (type == "v")
+            return variant(depth + 1);
+        if (type == "as" || type == "av" || type == "ay") {
+            open(SD_BUS_TYPE_ARRAY, type.data() + 1);
+            while (input_.ConsumeBool())
+                value(type.substr(1), depth + 1);
+            close();
+        } else if (type == "a{sv}") {
+            map(depth + 1);
+        } else if (type == "(sv)") {
+            open(SD_BUS_TYPE_STRUCT, "sv");
+            text();
+            variant(depth + 1);
+            close();
+        } else {
+            basicValue(type.front());
+        }
         return {};
     }
-}
 
-QVariantMap anyProperties(FuzzedDataProvider& input) {
-    QVariantMap properties;
-    if (input.ConsumeBool())
-        properties.insert(QStringLiteral("Metadata"), anyMap(input, 0));
-    else
-        properties.insert(QStringLiteral("Metadata"), anyValue(input, 0));
-    properties.insert(QStringLiteral("Position"), anyValue(input, 0));
-    properties.insert(QStringLiteral("PlaybackStatus"), anyValue(input, 0));
-    return properties;
-}
+    void basicValue(char type) {
+        switch (type) {
+        case SD_BUS_TYPE_BYTE:
+            return number<std::uint8_t>(type);
+        case SD_BUS_TYPE_INT16:
+            return number<std::int16_t>(type);
+        case SD_BUS_TYPE_UINT16:
+            return number<std::uint16_t>(type);
+        case SD_BUS_TYPE_INT32:
+            return number<std::int32_t>(type);
+        case SD_BUS_TYPE_UINT32:
+            return number<std::uint32_t>(type);
+        case SD_BUS_TYPE_INT64:
+            return number<std::int64_t>(type);
+        case SD_BUS_TYPE_UINT64:
+            return number<std::uint64_t>(type);
+        case SD_BUS_TYPE_BOOLEAN: {
+            const int truth = input_.ConsumeBool();
+            return basic(type, &truth);
+        }
+        case SD_BUS_TYPE_DOUBLE: { // infinite and what is no number among them
+            const auto value = std::bit_cast<double>(input_.ConsumeIntegral<std::uint64_t>());
+            return basic(type, &value);
+        }
+        default:
+            return basic(SD_BUS_TYPE_OBJECT_PATH, "/org/mpris/track");
+        }
+    }
+
+    FuzzedDataProvider& input_;
+    test::LocalMessage message_;
+    std::string title_;
+};
 
 SpotifyBridge::Snapshot readingOf(const std::string& record) {
     static test::TestMachine machine;
@@ -118,17 +191,25 @@ SpotifyBridge::Snapshot readingOf(const std::string& record) {
     return *snapshot;
 }
 
+std::string withoutSeparators(std::string text) {
+    std::erase(text, SpotifyBridge::fieldSeparator);
+    return text;
+}
+
 } // namespace
 } // namespace brellowind::fuzz
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brellowind;
     FuzzedDataProvider input(data, size);
-    const auto record = platform::mprisRecord(fuzz::anyProperties(input));
+    fuzz::Player player(input);
+    const auto record = platform::mprisRecord(player.properties());
     fuzz::require(utf8::isValid(record), "a record is UTF-8");
     fuzz::require(std::ranges::count(record, SpotifyBridge::fieldSeparator) == 6,
                   "a record has seven fields");
     const auto reading = fuzz::readingOf(record);
+    fuzz::require(reading.track.title == fuzz::withoutSeparators(player.title()),
+                  "the title is the player's");
     fuzz::require(std::isfinite(reading.positionSec), "the position is a number");
     fuzz::require(LrclibAPI::requestURL("https://lyrics.example", reading.track).has_value(),
                   "lyrics can be asked for, whatever a player says");

@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
                                                .arg(Monitors::initialSize.height()));
     qputenv("DISPLAY", server.display().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // or Qt would start one for itself
     qunsetenv("QT_SCALE_FACTOR");
     qputenv("QT_SCREEN_SCALE_FACTORS", QByteArray(BRELLOWIND_TEST_SCALES).replace(',', ';'));
     const QGuiApplication application(argc, argv);

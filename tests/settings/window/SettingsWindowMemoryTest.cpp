@@ -8,6 +8,10 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // gcc 12 has no header for it
+#endif
+
 namespace brellowind {
 namespace {
 
@@ -47,14 +51,16 @@ TEST_F(SettingsWindowOnQtsLoop, OpensAndClosesAgainAndAgain) {
     }
 }
 
-/// Bytes on the heap. 0 where the allocator does not count, as under a sanitizer.
+/// Bytes on the heap.
 std::size_t heap() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    return __sanitizer_get_current_allocated_bytes(); // the heap is the sanitizer's
+#else
     return mallinfo2().uordblks + mallinfo2().hblkhd;
+#endif
 }
 
 TEST_F(SettingsWindowOnQtsLoop, ClosingGivesTheMemoryBack) {
-    if (heap() == 0)
-        GTEST_SKIP() << "nobody counts the heap here";
     openAndClose(); // what Qt keeps for good, such as fonts and compiled types
     openAndClose();
     const std::size_t closed = heap();
