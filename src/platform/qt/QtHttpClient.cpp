@@ -20,7 +20,9 @@ constexpr qint64 readAhead = 1 << 20;
 bool isAnswer(int status, QNetworkReply::NetworkError error) {
     if (error == QNetworkReply::NoError)
         return status > 0;
-    return status >= 400 && error >= QNetworkReply::ContentAccessDenied;
+    const bool namesStatus = error >= QNetworkReply::ContentAccessDenied ||
+                             error == QNetworkReply::ProxyAuthenticationRequiredError;
+    return status >= 400 && namesStatus;
 }
 
 class QtTransfer final : public QObject, public Transfer {

@@ -96,8 +96,8 @@ TEST_P(QtHttpClientStatus, ArrivesWithTheBody) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Codes, QtHttpClientStatus,
-                         testing::Values(200, 201, 206, 300, 400, 401, 403, 404, 405, 409, 410, 418,
-                                         429, 451, 500, 501, 502, 503, 504, 511, 599));
+                         testing::Values(200, 201, 206, 300, 400, 401, 403, 404, 405, 407, 409, 410,
+                                         418, 429, 451, 500, 501, 502, 503, 504, 511, 599));
 
 class QtHttpClientRedirectStatus : public QtHttpClientTest,
                                    public testing::WithParamInterface<int> {};
