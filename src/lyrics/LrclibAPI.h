@@ -12,8 +12,9 @@
 /// The LRCLIB lyrics service.
 namespace brellowind::LrclibAPI {
 
-/// A longer answer counts as a transport failure.
-inline constexpr std::size_t maximumBodyBytes = 4 * 1024 * 1024;
+/// A longer answer counts as a transport failure. Lyrics are a few kilobytes; what is nothing but
+/// brackets and was read whole would keep the main loop for longer than a frame may take.
+inline constexpr std::size_t maximumBodyBytes = 1024 * 1024;
 
 /// The address that asks `origin` for the lyrics of `track`. Absent when a text of the track is not
 /// valid UTF-8. A duration that is not finite, or whose whole seconds do not fit 64 bits, stops the

@@ -199,7 +199,7 @@ TEST(LrclibFetch, SendsOneRequest) {
               (Items{{"User-Agent", "Brellowind v0.1 (https://brellowind.example)"}}));
     EXPECT_EQ(fetch.request().timeout, 60s);
     EXPECT_EQ(fetch.request().maximumBodyBytes, LrclibAPI::maximumBodyBytes);
-    EXPECT_EQ(LrclibAPI::maximumBodyBytes, 4U * 1024 * 1024);
+    EXPECT_EQ(LrclibAPI::maximumBodyBytes, 1024U * 1024);
     EXPECT_FALSE(fetch.result.has_value());
 }
 

@@ -24,7 +24,9 @@ constexpr int notModified = 304;
 bool isAnswer(int status, QNetworkReply::NetworkError error) {
     if (error == QNetworkReply::NoError)
         return status > 0;
-    return status >= 400 && error >= QNetworkReply::ContentAccessDenied;
+    const bool namesStatus = error >= QNetworkReply::ContentAccessDenied ||
+                             error == QNetworkReply::ProxyAuthenticationRequiredError;
+    return status >= 400 && namesStatus;
 }
 
 class QtTransfer final : public QObject, public Transfer {

@@ -1,8 +1,8 @@
 #include "loopback/LoopbackServer.h"
 #include "platform/qt/Download.h"
 #include "platform/qt/QtHttpClient.h"
+#include "session/ProcessUse.h"
 
-#include <QFile>
 #include <QRandomGenerator>
 #include <arpa/inet.h>
 #include <atomic>
@@ -149,28 +149,15 @@ TEST_F(QtHttpClientLimit, CountsTheBytesThatACompressedBodyUnpacksTo) {
     expectFails();
 }
 
-/// The most memory that this process has had in use, in KiB, since it was last forgotten.
-qint64 peakMemory() {
-    QFile status(QStringLiteral("/proc/self/status"));
-    EXPECT_TRUE(status.open(QIODevice::ReadOnly));
-    const QByteArray text = status.readAll();
-    return text.mid(text.indexOf("VmHWM:") + 6).simplified().split(' ').value(0).toLongLong();
-}
-
-void forgetPeakMemory() {
-    QFile references(QStringLiteral("/proc/self/clear_refs"));
-    EXPECT_TRUE(references.open(QIODevice::WriteOnly));
-    EXPECT_EQ(references.write("5"), 1);
-}
-
 TEST_F(QtHttpClientLimit, ABodyThatUnpacksToAHundredTimesTheLimitTakesNoSuchMemory) {
     constexpr qsizetype unpacked = 100 * limit;
     const QByteArray packed = qCompress(QByteArray(unpacked, 'x')).mid(4);
     bytes = httpResponse("Content-Encoding: deflate\r\n" + contentLength(packed.size()), packed);
-    forgetPeakMemory();
-    const qint64 before = peakMemory();
+    const test::ProcessUse use;
+    use.forgetPeakMemory();
+    const qint64 before = use.peakMemoryKiB();
     expectFails();
-    EXPECT_LT(peakMemory() - before, unpacked / 1024 / 4);
+    EXPECT_LT(use.peakMemoryKiB() - before, unpacked / 1024 / 4);
 }
 
 TEST_F(QtHttpClientLimit, ABodyWithoutEndFailsWithoutReadingAhead) {

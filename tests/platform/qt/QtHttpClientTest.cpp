@@ -2,8 +2,8 @@
 
 #include "loopback/LoopbackServer.h"
 #include "platform/qt/Download.h"
+#include "session/ProcessUse.h"
 
-#include <QDir>
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <vector>
@@ -96,8 +96,8 @@ TEST_P(QtHttpClientStatus, ArrivesWithTheBody) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Codes, QtHttpClientStatus,
-                         testing::Values(200, 201, 206, 300, 400, 401, 403, 404, 405, 409, 410, 418,
-                                         429, 451, 500, 501, 502, 503, 504, 511, 599));
+                         testing::Values(200, 201, 206, 300, 400, 401, 403, 404, 405, 407, 409, 410,
+                                         418, 429, 451, 500, 501, 502, 503, 504, 511, 599));
 
 class QtHttpClientRedirectStatus : public QtHttpClientTest,
                                    public testing::WithParamInterface<int> {};
@@ -185,13 +185,6 @@ TEST_F(QtHttpClientTest, AnswersEachOfManyTransfersAtOnce) {
     }
 }
 
-/// The sockets and files that this process holds open.
-qsizetype openDescriptors() {
-    return QDir(QStringLiteral("/proc/self/fd"))
-        .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
-        .size();
-}
-
 TEST_F(QtHttpClientTest, ManyTransfersInARowLeaveNoSocketBehind) {
     const auto fetchOnce = [this] {
         Download download(client, url("/"));
@@ -206,11 +199,12 @@ TEST_F(QtHttpClientTest, ManyTransfersInARowLeaveNoSocketBehind) {
     for (int i = 0; i < 5; ++i)
         ASSERT_TRUE(fetchOnce());
     ASSERT_TRUE(isQuiet());
-    const auto before = openDescriptors();
+    const test::ProcessUse use;
+    const auto before = use.descriptors();
     for (int i = 0; i < 200; ++i)
         ASSERT_TRUE(fetchOnce());
     ASSERT_TRUE(isQuiet());
-    EXPECT_LE(openDescriptors(), before + 6); // the client keeps at most six for the host
+    EXPECT_LE(use.descriptors(), before + 6); // the client keeps at most six for the host
 }
 
 } // namespace

@@ -1,0 +1,98 @@
+#include "faults/HostileAnswers.h"
+
+#include <QTimer>
+#include <array>
+#include <chrono>
+#include <memory>
+#include <sys/socket.h>
+#include <zlib.h>
+
+namespace brellowind::test::hostile {
+
+using demo::Exchange;
+
+void answer(const Exchange& exchange, const QByteArray& headers, const QByteArray& body) {
+    begin(exchange, headers, body);
+    if (exchange.connection)
+        exchange.connection->disconnectFromHost();
+}
+
+void begin(const Exchange& exchange, const QByteArray& headers, const QByteArray& body) {
+    exchange.send("HTTP/1.1 200 OK\r\n" + headers + "\r\n");
+    exchange.send(body);
+}
+
+void drip(const Exchange& exchange, char byte) {
+    auto* timer = new QTimer(exchange.connection);
+    QObject::connect(timer, &QTimer::timeout, timer,
+                     [exchange, byte] { exchange.send(QByteArray(1, byte)); });
+    timer->start(std::chrono::milliseconds(5));
+}
+
+void pour(const Exchange& exchange, const QByteArray& piece) {
+    auto* socket = exchange.connection.data();
+    const auto left = std::make_shared<qsizetype>(hundredMegabytes);
+    const auto more = [socket, piece, left] {
+        *left -= piece.size();
+        socket->write(piece);
+    };
+    QObject::connect(socket, &QTcpSocket::bytesWritten, socket, [socket, left, more] {
+        if (socket->bytesToWrite() == 0 && *left > 0)
+            more();
+    });
+    more();
+}
+
+void reset(const Exchange& exchange) {
+    constexpr linger atOnce{.l_onoff = 1, .l_linger = 0};
+    exchange.connection->flush();
+    ::setsockopt(static_cast<int>(exchange.connection->socketDescriptor()), SOL_SOCKET, SO_LINGER,
+                 &atOnce, sizeof atOnce);
+    exchange.connection->abort();
+}
+
+void redirect(const Exchange& exchange, const QByteArray& location) {
+    exchange.send("HTTP/1.1 302 Found\r\nLocation: " + location +
+                  "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
+    if (exchange.connection)
+        exchange.connection->disconnectFromHost();
+}
+
+QByteArray gzip(const QByteArray& body) {
+    constexpr int gzipFormat = 16;
+    constexpr int usualMemory = 8;
+    z_stream stream{};
+    deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, MAX_WBITS + gzipFormat, usualMemory,
+                 Z_DEFAULT_STRATEGY);
+    QByteArray packed(
+        static_cast<qsizetype>(deflateBound(&stream, static_cast<uLong>(body.size()))),
+        Qt::Uninitialized);
+    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(body.data()));
+    stream.avail_in = static_cast<uInt>(body.size());
+    stream.next_out = reinterpret_cast<Bytef*>(packed.data());
+    stream.avail_out = static_cast<uInt>(packed.size());
+    deflate(&stream, Z_FINISH);
+    packed.resize(static_cast<qsizetype>(stream.total_out));
+    deflateEnd(&stream);
+    return packed;
+}
+
+const QByteArray& gzipBomb() {
+    static const QByteArray bomb = gzip(QByteArray(hundredMegabytes, ' '));
+    return bomb;
+}
+
+QByteArray zstandardBomb() {
+    constexpr qsizetype blockSize = 128 << 10;
+    constexpr char windowOfOneBlock = 7 << 3;
+    // A block says that one byte comes again and again: in three bytes its size, that it does, and
+    // whether it is the last.
+    constexpr quint32 repeated = blockSize << 3 | 1 << 1;
+    const auto block = [](quint32 head) {
+        return QByteArray(reinterpret_cast<const char*>(&head), 3) + ' ';
+    };
+    return QByteArray("\x28\xB5\x2F\xFD\x00", 5) + windowOfOneBlock +
+           block(repeated).repeated(hundredMegabytes / blockSize) + block(repeated | 1);
+}
+
+} // namespace brellowind::test::hostile

@@ -1,0 +1,135 @@
+#include "faults/HostileAnswers.h"
+#include "faults/HostileServer.h"
+#include "faults/NetworkMachine.h"
+#include "session/EventLoop.h"
+#include "session/LoopWatch.h"
+#include "settings/UpdateChecker.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace brellowind {
+namespace {
+
+using namespace std::chrono_literals;
+using Case = UpdateState::Case;
+using demo::Exchange;
+using test::HostileServer;
+using test::LoopWatch;
+namespace hostile = test::hostile;
+
+const QByteArray goodFeed = R"({"version":"99.0","url":"https://downloads.invalid/"})";
+
+struct Row {
+    const char* name;
+    Case state;
+    HostileServer::Handler handler;
+
+    friend void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+};
+
+class HostileFeed : public testing::TestWithParam<Row> {
+protected:
+    HostileServer server{[first = true](const Exchange& exchange) mutable {
+        if (std::exchange(first, false))
+            GetParam().handler(exchange);
+        else
+            exchange.respond(200, goodFeed);
+    }};
+    test::NetworkMachine machine{server.origin()};
+
+    Case check() {
+        auto& checker = UpdateChecker::shared();
+        machine.tasks.start(checker.check());
+        EXPECT_TRUE(test::waitUntil([&] { return checker.state->which() == Case::checking; }));
+        EXPECT_TRUE(test::waitUntil([&] { return checker.state->which() != Case::checking; }));
+        return checker.state->which();
+    }
+};
+
+bool isControl(char character) {
+    return static_cast<unsigned char>(character) < ' ' || character == '\x7F';
+}
+
+TEST_P(HostileFeed, EndsInItsStateWithOneLineWhenItFailedAndTheNextCheckIsWell) {
+    LoopWatch loop;
+    machine.http.patience = 500ms;
+    ASSERT_EQ(check(), GetParam().state);
+    EXPECT_LT(loop.longestTurn(), LoopWatch::bearable);
+    const auto& lines = machine.standIns.log.lines;
+    ASSERT_EQ(lines.size(), GetParam().state == Case::failed ? 1U : 0U);
+    for (const auto& line : lines) {
+        EXPECT_TRUE(line.starts_with("Update check failed: ")) << line;
+        EXPECT_TRUE(std::ranges::none_of(line, isControl)) << line;
+        EXPECT_LT(line.size(), 1000U);
+    }
+    machine.http.patience = 60s;
+    EXPECT_EQ(check(), Case::available);
+}
+
+Row body(const char* name, Case state, const QByteArray& bytes, int status = 200) {
+    return {name, state,
+            [=](const Exchange& exchange) { exchange.respond(status, bytes, "text/html"); }};
+}
+
+const std::vector<Row> rows{
+    {"Dropped", Case::failed, [](const Exchange& e) { e.drop(); }},
+    {"NeverAnswered", Case::failed, [](const Exchange&) {}},
+    {"Dripping", Case::failed,
+     [](const Exchange& e) {
+         hostile::begin(e, "Content-Length: 1000000\r\n");
+         hostile::drip(e, ' ');
+     }},
+    {"CutOff", Case::failed,
+     [](const Exchange& e) { hostile::answer(e, "Content-Length: 1000\r\n", goodFeed); }},
+    {"CutOffErrorPageWithAStrangePhrase", Case::failed,
+     [](const Exchange& e) {
+         e.send("HTTP/1.1 500 \x1B[2J\x07 gone\r\nContent-Length: 1000\r\n\r\n{}");
+         e.connection->disconnectFromHost();
+     }},
+    {"RedirectToNothingWithAStrangePhrase", Case::failed,
+     [](const Exchange& e) {
+         e.send("HTTP/1.1 302 " + QByteArray(100'000, 'x') + "\x1B[2J\r\n\r\n");
+         e.connection->disconnectFromHost();
+     }},
+    {"RedirectLoop", Case::failed,
+     [](const Exchange& e) {
+         const QByteArray answer =
+             "HTTP/1.1 302 Found\r\nLocation: /latest.json\r\nContent-Length: 0\r\n\r\n";
+         for (int i = 0; i < 100; ++i)
+             e.send(answer);
+     }},
+    {"RedirectToAStrangePlace", Case::failed,
+     [](const Exchange& e) { hostile::redirect(e, "strange:\x1B[2J%0Aplace"); }},
+    {"GzipBomb", Case::failed,
+     [bomb = hostile::gzipBomb()](const Exchange& e) {
+         hostile::answer(e, "Content-Encoding: gzip\r\n", bomb);
+     }},
+    {"AHundredMegabytes", Case::failed,
+     [](const Exchange& e) {
+         hostile::begin(e, {});
+         hostile::pour(e, QByteArray(1'000'000, ' '));
+     }},
+    body("Empty", Case::failed, {}),
+    body("ErrorPage", Case::failed, "<html>\x1B[2J</html>", 404),
+    body("FeedThatComesWithAnError", Case::available, goodFeed, 500),
+    body("InvalidUtf8", Case::failed, "{\"version\":\"\xff\",\"url\":\"https://a.invalid/\"}"),
+    body("NestedDeeply", Case::failed, QByteArray("[").repeated(100'000)),
+    body("List", Case::failed, "[" + goodFeed + "]"),
+    body("VersionIsANumber", Case::failed, R"({"version":99,"url":"https://a.invalid/"})"),
+    body("AddressIsAList", Case::failed, R"({"version":"99","url":["https://a.invalid/"]})"),
+    body("AddressIsNone", Case::failed, R"({"version":"99","url":"not an address"})"),
+    body("NotesAreANumber", Case::failed,
+         R"({"version":"99","url":"https://a.invalid/","notes":1})"),
+    body("EmptyVersion", Case::upToDate, R"({"version":"","url":"https://a.invalid/"})"),
+    body("VersionOfAHundredThousandDigits", Case::available,
+         R"({"version":")" + QByteArray(100'000, '9') + R"(","url":"https://a.invalid/"})"),
+};
+
+INSTANTIATE_TEST_SUITE_P(Answer, HostileFeed, testing::ValuesIn(rows),
+                         [](const auto& parameter) { return std::string(parameter.param.name); });
+
+} // namespace
+} // namespace brellowind

@@ -1,0 +1,40 @@
+#include "session/LoopWatch.h"
+
+#include "session/ProcessUse.h"
+
+#include <QAbstractEventDispatcher>
+#include <algorithm>
+#include <ctime>
+
+namespace brellowind::test {
+namespace {
+
+std::chrono::microseconds threadTime() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::duration_cast<std::chrono::microseconds>(
+        std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
+}
+
+} // namespace
+
+const std::chrono::milliseconds LoopWatch::bearable(isInstrumented ? 1000 : 50);
+
+LoopWatch::LoopWatch() : turnBegan_(threadTime()) {
+    const auto* dispatcher = QAbstractEventDispatcher::instance();
+    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &LoopWatch::turn);
+    connect(dispatcher, &QAbstractEventDispatcher::awake, this, &LoopWatch::turn);
+}
+
+void LoopWatch::forget() {
+    turnBegan_ = threadTime();
+    longest_ = {};
+}
+
+void LoopWatch::turn() {
+    const auto now = threadTime();
+    longest_ = std::max(longest_, now - turnBegan_);
+    turnBegan_ = now;
+}
+
+} // namespace brellowind::test
