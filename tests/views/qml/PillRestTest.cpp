@@ -17,7 +17,7 @@ protected:
     void waitForRest() {
         EXPECT_TRUE(QTest::qWaitFor([this] {
             machine.runTurns();
-            return FrameDriver::shared().state() == QAbstractAnimation::Stopped;
+            return !FrameDriver::shared().isRunning();
         }));
         QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
         for (int i = 0; i < 20 && (i == 0 || frames.count() > 0); ++i) { // the last ones
@@ -41,7 +41,7 @@ TEST_F(PillRest, IsReachedAgainAfterEveryMotion) {
     const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
     machine.view.tapBackground();
     machine.runTurns();
-    EXPECT_EQ(FrameDriver::shared().state(), QAbstractAnimation::Running);
+    EXPECT_TRUE(FrameDriver::shared().isRunning());
     waitForRest();
     const auto made = frames.count();
     EXPECT_GT(made, 1);
@@ -70,7 +70,7 @@ TEST_F(PillRest, IsNotDisturbedByTicksThatChangeNoLine) {
     EXPECT_GE(redraws, 100);
     EXPECT_EQ(lines.count() + tracks.count() + covers.count() + playing.count() + forms.count(), 0);
     EXPECT_EQ(frames.count(), 0);
-    EXPECT_EQ(FrameDriver::shared().state(), QAbstractAnimation::Stopped);
+    EXPECT_FALSE(FrameDriver::shared().isRunning());
 }
 
 TEST_F(PillRest, IsNotDisturbedByThePointerMovingOnThePill) {
