@@ -10,10 +10,11 @@ target_compile_options(brellowind_options INTERFACE
 
 # A bent return address or an overrun buffer ends the program instead of steering it.
 target_compile_options(brellowind_options INTERFACE -fstack-protector-strong)
-foreach(protection IN ITEMS stack-clash cf) # not on every processor
-  check_cxx_compiler_flag(-f${protection}-protection BRELLOWIND_HAS_${protection}_PROTECTION)
-  if(BRELLOWIND_HAS_${protection}_PROTECTION)
-    target_compile_options(brellowind_options INTERFACE -f${protection}-protection)
+foreach(flag IN ITEMS -fstack-clash-protection -fcf-protection) # not on every processor
+  string(MAKE_C_IDENTIFIER "BRELLOWIND_HAS${flag}" has_flag)
+  check_cxx_compiler_flag(${flag} ${has_flag})
+  if(${has_flag})
+    target_compile_options(brellowind_options INTERFACE ${flag})
   endif()
 endforeach()
 target_link_options(brellowind_options INTERFACE "LINKER:-z,relro,-z,now,-z,noexecstack")
