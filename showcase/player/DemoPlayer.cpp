@@ -5,6 +5,7 @@
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <cstdlib>
 
 namespace {
 
@@ -84,6 +85,8 @@ QDBusMessage DemoPlayer::answerGetAll(const QDBusMessage& message,
         return message.createReply(QStringLiteral("no properties"));
     if (manner_ == QStringLiteral("nothing"))
         return message.createReply();
+    if (manner_ == QStringLiteral("death"))
+        std::_Exit(1);
     return message.createReply(QVariant(properties));
 }
 
@@ -110,6 +113,8 @@ QDBusMessage DemoPlayer::answerControl(const QDBusMessage& message) {
         fixedProperties_ = mapArgument(message);
     else if (member == QStringLiteral("SetAnswer"))
         manner_ = message.arguments().value(0).toString();
+    else if (member == QStringLiteral("Flood"))
+        flood(message.arguments().value(0).toUInt());
     else if (member == QStringLiteral("Requests"))
         return message.createReply(requests_);
     else if (member == QStringLiteral("Leave"))
@@ -117,6 +122,24 @@ QDBusMessage DemoPlayer::answerControl(const QDBusMessage& message) {
     else
         return unknown(message);
     return message.createReply();
+}
+
+void DemoPlayer::flood(uint signalsPerSecond) {
+    constexpr uint timersPerSecond = 50;
+    signalsPerTimer_ = signalsPerSecond / timersPerSecond;
+    if (signalsPerSecond > 0)
+        flood_.start(1000 / timersPerSecond, this);
+    else
+        flood_.stop();
+}
+
+void DemoPlayer::timerEvent(QTimerEvent* /*event*/) {
+    auto signal =
+        QDBusMessage::createSignal(QStringLiteral("/org/mpris/MediaPlayer2"), propertiesInterface,
+                                   QStringLiteral("PropertiesChanged"));
+    signal.setArguments({playerInterface, playerProperties(), QStringList()});
+    for (uint i = 0; i < signalsPerTimer_; ++i)
+        QDBusConnection::sessionBus().send(signal);
 }
 
 QVariantMap DemoPlayer::applicationProperties() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBasicTimer>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QElapsedTimer>
@@ -13,7 +14,9 @@
 /// - `SetPosition(x microseconds)`, `SetStatus(s status)`: "Playing", "Paused" or "Stopped"
 /// - `SetProperties(a{sv} properties)`: answers `GetAll` with exactly these from now on; with none,
 ///   tells the truth again
-/// - `SetAnswer(s manner)`: answers `GetAll` with an "error", a "text", "nothing", or else truly
+/// - `SetAnswer(s manner)`: answers `GetAll` with an "error", a "text", "nothing", the end of the
+///   process, "death", or else truly
+/// - `Flood(u signalsPerSecond)`: announces changes of its properties so often; 0 ends that
 /// - `Requests() -> u`: how many calls of the MPRIS interfaces and `GetAll` it has answered
 /// - `Leave()`: ends the process
 class DemoPlayer : public QDBusVirtualObject {
@@ -30,6 +33,9 @@ public:
     bool loops = false;
 
 private:
+    void timerEvent(QTimerEvent* event) override;
+    void flood(uint signalsPerSecond);
+
     QDBusMessage answerProperties(const QDBusMessage& message);
     QDBusMessage answerGetAll(const QDBusMessage& message, const QVariantMap& properties) const;
     QDBusMessage answerPlayer(const QDBusMessage& message);
@@ -47,5 +53,7 @@ private:
     QString status_ = QStringLiteral("Stopped");
     qint64 startUs_ = 0; ///< the position when `sinceStart_` began
     QElapsedTimer sinceStart_;
+    QBasicTimer flood_;
+    uint signalsPerTimer_ = 0;
     uint requests_ = 0;
 };

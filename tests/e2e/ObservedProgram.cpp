@@ -32,7 +32,10 @@ QString nameOf(QTemporaryFile& file) {
 ObservedProgram::ObservedProgram(const Desktop& desktop, const QString& origin,
                                  const QProcessEnvironment& more, const QStringList& launcher)
     : arguments_{origin}, environment_(joined(desktop.environment(), more)),
-      pill_(desktop.bus.connection(), pillPath, pillInterface), settings_(desktop.bus.connection()),
+      pill_(desktop.bus.connection(), pillPath, pillInterface),
+      loop_(desktop.bus.connection(), QStringLiteral("/loop"),
+            QStringLiteral("org.brellowind.Loop")),
+      settings_(desktop.bus.connection()),
       process_((launcher + QStringList{programFile}).constFirst(),
                (launcher + QStringList{programFile} + arguments_).mid(1), environment_,
                nameOf(errorFile_)) {

@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QTemporaryFile>
 #include <QVariant>
+#include <chrono>
 
 namespace brellowind::test {
 
@@ -68,6 +69,11 @@ public:
     /// Where an entry of the context menu is in the menu's window, in points.
     QRectF menuEntry(const char* text) { return rect("MenuEntry", QString::fromUtf8(text)); }
 
+    /// The longest turn of its main loop since this was last asked, in processor time.
+    std::chrono::microseconds longestTurn() const {
+        return std::chrono::microseconds(loop_.ask("LongestTurn").toLongLong());
+    }
+
     const ObservedSettings& settings() const { return settings_; }
 
     demo::Companion& process() { return process_; }
@@ -91,6 +97,7 @@ private:
     QStringList arguments_;
     QProcessEnvironment environment_;
     Observer pill_;
+    Observer loop_;
     ObservedSettings settings_;
     demo::Companion process_;
     QStringList texts_;

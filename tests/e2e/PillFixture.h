@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 #include <optional>
+#include <utility>
 
 namespace brellowind::test {
 
@@ -54,7 +55,7 @@ protected:
     Desktop desktop;
     XClient x{desktop.xServer.display()};
     Person person{x};
-    WindowManager windowManager{x};
+    std::optional<WindowManager> windowManager{std::in_place, x};
     demo::LoopbackServer service;
     QProcessEnvironment environment; ///< what the program gets beside the desktop's
     std::optional<PlayerProcess> player;

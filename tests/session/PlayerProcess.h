@@ -27,10 +27,13 @@ public:
     void setStatus(const char* status) { call("SetStatus", {QString::fromLatin1(status)}); }
     void setProperties(const QVariantMap& properties) { call("SetProperties", {properties}); }
     void setAnswer(const char* manner) { call("SetAnswer", {QString::fromLatin1(manner)}); }
+    void flood(uint signalsPerSecond) { call("Flood", {signalsPerSecond}); }
     unsigned requests() { return call("Requests", {}).arguments().value(0).toUInt(); }
 
     /// What the player is told to be, or has been made to be: "Playing" or "Paused".
     QString status();
+
+    qint64 processId() const { return process_->processId(); }
 
     /// Ends the player as its user would.
     void quit();

@@ -1,3 +1,4 @@
+#include "LoopObserver.h"
 #include "PillObserver.h"
 #include "SettingsObserver.h"
 #include "app/BrellowindApp.h"
@@ -25,8 +26,9 @@ int main(int argc, char** argv) {
         return 0;
     app.launch();
     brellowind::test::PillObserver observer(app.window());
+    brellowind::test::LoopObserver loopObserver;
     brellowind::test::SettingsObserver settingsObserver;
-    if (!settingsObserver.listen() || !observer.listen()) {
+    if (!loopObserver.listen() || !settingsObserver.listen() || !observer.listen()) {
         std::fprintf(stderr, "brellowind-observed: the program cannot be observed\n");
         return 1;
     }

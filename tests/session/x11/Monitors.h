@@ -21,6 +21,8 @@ public:
     void add(const QString& name, const QRect& pixels, bool primary);
     void remove(const QString& name);
 
+    bool has(const QString& name) const { return added_.contains(name); }
+
     /// Gives the server's own monitor another size, not larger than the initial one.
     void resize(QSize pixels);
 

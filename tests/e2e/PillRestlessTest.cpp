@@ -1,0 +1,190 @@
+#include "e2e/PillFixture.h"
+#include "session/LoopWatch.h"
+#include "session/ProcessUse.h"
+#include "session/x11/Monitors.h"
+
+#include <QDBusMessage>
+#include <algorithm>
+#include <optional>
+#include <random>
+#include <xcb/res.h>
+
+namespace brellowind::test {
+namespace {
+
+using std::chrono::milliseconds;
+
+/// A desktop whose screens and managers come and go.
+class PillRestless : public PillOnDesktop {
+protected:
+    explicit PillRestless(const QString& screen = QStringLiteral("2400x900x24"))
+        : PillOnDesktop(screen) {}
+
+    ProcessUse use() { return ProcessUse(program->process().processId()); }
+
+    /// What the program holds in the X server: windows, pixmaps and the rest.
+    quint32 resources() {
+        const auto answer =
+            x.ask<xcb_res_query_client_resources, xcb_res_query_client_resources_reply>(
+                program->window());
+        EXPECT_TRUE(answer);
+        quint32 count = 0;
+        for (auto type = xcb_res_query_client_resources_types_iterator(answer.get()); type.rem > 0;
+             xcb_res_type_next(&type))
+            count += type.data->count;
+        return count;
+    }
+
+    /// Waits until the window hangs from the middle of the top edge of a screen.
+    bool hangsFrom(const QRect& screen) {
+        const int width = std::min(screen.width(), 640);
+        const QRect place(screen.x() + (screen.width() - width + 1) / 2, screen.y(), width, 540);
+        return waitUntil([&] { return x.geometry(program->window()) == place; });
+    }
+
+    void announceLock(bool active) {
+        auto signal = QDBusMessage::createSignal(QStringLiteral("/org/gnome/ScreenSaver"),
+                                                 QStringLiteral("org.gnome.ScreenSaver"),
+                                                 QStringLiteral("ActiveChanged"));
+        signal << active;
+        EXPECT_TRUE(desktop.bus.connection().send(signal));
+    }
+
+    /// Whether the window takes no other shape than its rectangle, as it may where windows can be
+    /// transparent.
+    bool isWhole() {
+        const QRegion shape = x.shape(program->window(), XCB_SHAPE_SK_BOUNDING);
+        return shape == QRegion(QRect({0, 0}, x.geometry(program->window()).size()));
+    }
+
+    bool isShown() { return x.isViewable(program->window()); }
+
+    Monitors monitors{desktop.xServer.display()};
+};
+
+TEST_F(PillRestless, HangsRightAfterAThousandChangesOfTheScreens) {
+    constexpr int rounds = 20;
+    constexpr int changesPerRound = 50;
+    std::mt19937 random(20); // always the same changes
+    const auto below = [&](int limit) {
+        return static_cast<int>(random() % static_cast<unsigned>(limit));
+    };
+    const QStringList names{QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")};
+    QMap<QString, QSize> sizes;
+    const auto place = [&](const QString& name, QSize size, bool primary) {
+        sizes[name] = size;
+        const QRect monitor({below(2400 - size.width() + 1), below(900 - size.height() + 1)}, size);
+        if (monitors.has(name))
+            monitors.remove(name);
+        monitors.add(name, monitor, primary);
+        return monitor;
+    };
+    const auto change = [&] {
+        const QString name = names[below(3)];
+        if (!monitors.has(name))
+            place(name, {400 + below(800), 400 + below(500)}, below(2) == 0);
+        else if (const int kind = below(4); kind == 0)
+            monitors.remove(name);
+        else if (kind == 1 && sizes[name].width() <= 900)
+            place(name, sizes[name].transposed(), below(2) == 0); // as when it is turned
+        else if (kind == 2)
+            place(name, {400 + below(800), 400 + below(500)}, below(2) == 0);
+        else
+            place(name, sizes[name], below(2) == 0); // it moves
+    };
+    startSinging();
+    program->longestTurn();
+    qint64 descriptors = 0;
+    qint64 memory = 0;
+    quint32 held = 0;
+    for (int round = 0; round < rounds; ++round) {
+        for (int i = 0; i < changesPerRound; ++i)
+            change();
+        for (const QString& name : names)
+            if (monitors.has(name))
+                monitors.remove(name);
+        const QRect only = place(names[0], {700 + below(500), 600}, true);
+        ASSERT_TRUE(hangsFrom(only)) << "in round " << round;
+        EXPECT_TRUE(isShown());
+        if (round == 4) {
+            descriptors = use().descriptors();
+            memory = use().memoryKiB();
+            held = resources();
+        }
+    }
+    EXPECT_TRUE(program->comesToRest());
+    EXPECT_LE(use().descriptors(), descriptors);
+    EXPECT_LT(use().memoryKiB() - memory, 4096);
+    EXPECT_LE(resources(), held + 8);
+    enterPill();
+}
+
+class PillOnAScreenThatIsSwitchedOff : public PillRestless {
+protected:
+    PillOnAScreenThatIsSwitchedOff() : PillRestless(QStringLiteral("1280x800x24")) {}
+};
+
+TEST_F(PillOnAScreenThatIsSwitchedOff, ComesBackWithTheScreen) {
+    startSinging();
+    for (int i = 0; i < 3; ++i) {
+        monitors.switchOff();
+        runFor(milliseconds(300));
+        ASSERT_TRUE(program->process().isRunning());
+        monitors.resize(Monitors::initialSize);
+        EXPECT_TRUE(hangsFrom({{0, 0}, Monitors::initialSize}));
+        EXPECT_TRUE(isShown());
+    }
+    enterPill();
+}
+
+TEST_F(PillRestless, OutlivesItsWindowManagerAndItsCompositingManager) {
+    startSinging();
+    const QRect place = x.geometry(program->window());
+    const auto round = [&] {
+        windowManager.reset();
+        windowManager.emplace(x);
+        std::optional<CompositingManager> compositing(x);
+        EXPECT_TRUE(waitUntil([&] { return isWhole(); }));
+        windowManager.reset();
+        compositing.reset();
+        EXPECT_TRUE(waitUntil([&] { return !isWhole(); }));
+        windowManager.emplace(x);
+        EXPECT_TRUE(isShown());
+        EXPECT_EQ(x.geometry(program->window()), place);
+    };
+    round();
+    const quint32 held = resources();
+    const qint64 descriptors = use().descriptors();
+    for (int i = 0; i < 5; ++i)
+        round();
+    EXPECT_LE(resources(), held);
+    EXPECT_LE(use().descriptors(), descriptors);
+    PlainWindow& covering = below();
+    EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), covering.id()); }));
+    enterPill();
+}
+
+TEST_F(PillRestless, IsNeverOverALockerHoweverOftenItComes) {
+    startSinging();
+    const quint32 held = resources();
+    for (int i = 0; i < 20; ++i) {
+        announceLock(true);
+        ASSERT_TRUE(waitUntil([&] { return !isShown(); }));
+        const QRect monitor(i * 50, 0, 1000, 800);
+        monitors.add(QStringLiteral("one"), monitor, true);
+        {
+            const PlainWindow locker(desktop.xServer.display(), {0, 0, 2400, 900},
+                                     PlainWindow::Kind::unmanaged);
+            runFor(milliseconds(30));
+            EXPECT_FALSE(isShown()) << "over the locker";
+        }
+        announceLock(false);
+        ASSERT_TRUE(waitUntil([&] { return isShown(); }));
+        EXPECT_TRUE(hangsFrom(monitor));
+        monitors.remove(QStringLiteral("one"));
+    }
+    EXPECT_LE(resources(), held + 8);
+}
+
+} // namespace
+} // namespace brellowind::test
