@@ -87,6 +87,8 @@ protected:
         visitor->leave();
         runFor(milliseconds(200));
         samples.push_back(consumption(pid(), x, program->window()));
+        std::fprintf(stderr, "sample %zu: RSS %.2f MB, private %.2f MB\n", samples.size(),
+                     samples.back().rssMB, samples.back().privateMB);
         for (const QString& text : program->texts())
             EXPECT_TRUE(expectedText.match(text).hasMatch()) << qPrintable(text);
         program->forgetEarlierTexts();
