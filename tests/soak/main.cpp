@@ -39,8 +39,8 @@ struct Quantity {
 // same libraries.
 constexpr Quantity quantities[] = {
     {"PSS", " MB", &Consumption::pssMB},
-    {"RSS", " MB", &Consumption::rssMB, 4},
-    {"private", " MB", &Consumption::privateMB, 4},
+    {"RSS", " MB", &Consumption::rssMB, 3},
+    {"private", " MB", &Consumption::privateMB, 2},
     {"files", "", &Consumption::files, 4},
     {"threads", "", &Consumption::threads, 2},
     {"X resources", "", &Consumption::xResources, 8},
