@@ -39,8 +39,8 @@ struct Quantity {
 // same libraries.
 constexpr Quantity quantities[] = {
     {"PSS", " MB", &Consumption::pssMB},
-    {"RSS", " MB", &Consumption::rssMB, 4},
-    {"private", " MB", &Consumption::privateMB, 4},
+    {"RSS", " MB", &Consumption::rssMB, 3},
+    {"private", " MB", &Consumption::privateMB, 2},
     {"files", "", &Consumption::files, 4},
     {"threads", "", &Consumption::threads, 2},
     {"X resources", "", &Consumption::xResources, 8},
@@ -87,6 +87,8 @@ protected:
         visitor->leave();
         runFor(milliseconds(200));
         samples.push_back(consumption(pid(), x, program->window()));
+        std::fprintf(stderr, "sample %zu: RSS %.2f MB, private %.2f MB\n", samples.size(),
+                     samples.back().rssMB, samples.back().privateMB);
         for (const QString& text : program->texts())
             EXPECT_TRUE(expectedText.match(text).hasMatch()) << qPrintable(text);
         program->forgetEarlierTexts();

@@ -17,6 +17,13 @@ void qml_register_types_Brellowind_Settings();
 namespace brellowind {
 namespace {
 
+/// Once, since Qt keeps every registration for good, also one that repeats another.
+void registerTypes() {
+    static bool registered = false;
+    if (!std::exchange(registered, true))
+        qml_register_types_Brellowind_Settings();
+}
+
 /// The window is as large as what it shows, and nobody can pull it larger or smaller.
 void fitToContent(QQuickView& view) {
     const auto* root = view.rootObject();
@@ -75,7 +82,7 @@ QQuickWindow* SettingsWindow::window() const {
 }
 
 void SettingsWindow::build() {
-    qml_register_types_Brellowind_Settings();
+    registerTypes();
     content_ = std::make_unique<Content>([this] { closed(); });
     auto& [model, view] = *content_;
     view.setTitle(toQString(AppInfo::name));

@@ -74,5 +74,18 @@ TEST_F(SettingsWindowOnQtsLoop, ClosingGivesTheMemoryBack) {
     EXPECT_LT(heap(), closed + (opened - closed) / 5);
 }
 
+TEST_F(SettingsWindowOnQtsLoop, ManyOpeningsLeaveNextToNothingBehind) {
+    constexpr int openings = 60;
+    constexpr std::size_t little = 5000; // bytes of Qt's own for each
+    if (heap() == 0)
+        GTEST_SKIP() << "nobody counts the heap here";
+    for (int time = 0; time < 10; ++time)
+        openAndClose();
+    const std::size_t before = heap();
+    for (int time = 0; time < openings; ++time)
+        openAndClose();
+    EXPECT_LT(heap(), before + openings * little);
+}
+
 } // namespace
 } // namespace brellowind
