@@ -62,8 +62,7 @@ QByteArray gzip(const QByteArray& body) {
     constexpr int gzipFormat = 16;
     constexpr int usualMemory = 8;
     z_stream stream{};
-    deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, MAX_WBITS + gzipFormat, usualMemory,
-                 Z_DEFAULT_STRATEGY);
+    deflateInit2(&stream, Z_BEST_SPEED, Z_DEFLATED, MAX_WBITS + gzipFormat, usualMemory, Z_RLE);
     QByteArray packed(
         static_cast<qsizetype>(deflateBound(&stream, static_cast<uLong>(body.size()))),
         Qt::Uninitialized);

@@ -32,7 +32,7 @@ void redirect(const demo::Exchange& exchange, const QByteArray& location);
 /// `body` as a gzip file.
 QByteArray gzip(const QByteArray& body);
 
-/// A gzip file of a hundred kilobytes that unpacks to a hundred megabytes of spaces.
+/// A gzip file of a few hundred kilobytes that unpacks to a hundred megabytes of spaces.
 const QByteArray& gzipBomb();
 
 /// The same in the Zstandard format, in a few kilobytes.

@@ -113,7 +113,7 @@ const std::vector<Row>& rows() {
         file("SixteenBitsBeyondTheLimit", false, picture("png", 2900, QImage::Format_RGBA64)),
         file("PixelsUpToTheLimit", true, picture("png", 4096, QImage::Format_Mono)),
         file("PixelsBeyondTheLimit", false, picture("png", 4097, QImage::Format_Mono)),
-        file("PixelsFarBeyondTheLimit", false, picture("png", 20'000, QImage::Format_Mono)),
+        file("PixelsFarBeyondTheLimit", false, picture("png", 9'000, QImage::Format_Mono)),
         file("ColoursOfAPrinter", true, printedPicture(), "image/jpeg"),
         file("Animation", false, animation(), "image/gif"),
         file("Svg", false,

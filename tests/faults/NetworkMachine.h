@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/StderrLog.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtMainLoop.h"
 #include "support/TestMachine.h"
@@ -27,8 +28,8 @@ private:
     platform::QtHttpClient client_;
 };
 
-/// The machine of a test whose main loop and network are real; the rest are stand-ins. Lyrics and
-/// feed are looked for at `origin`.
+/// The machine of a test whose main loop, network and log are real; the rest are stand-ins. Lyrics
+/// and feed are looked for at `origin`.
 class NetworkMachine {
 public:
     explicit NetworkMachine(const QString& origin)
@@ -41,6 +42,7 @@ public:
     TestMachine standIns;
     platform::ProductConstants constants;
     platform::QtMainLoop mainLoop;
+    platform::StderrLog log;
     ImpatientHttpClient http;
     TaskRunner tasks{mainLoop};
 
@@ -51,7 +53,7 @@ private:
         return {.mainLoop = mainLoop,
                 .tasks = tasks,
                 .clock = standIns.clock,
-                .log = standIns.log,
+                .log = log,
                 .http = http,
                 .images = images,
                 .files = standIns.files,
