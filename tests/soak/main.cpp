@@ -48,12 +48,13 @@ constexpr Quantity quantities[] = {
 };
 
 /// What the program may say when players and services fail, which they do here. The rest is Qt's:
-/// to a message that the window manager sends to every window that it manages, and of a motion that
-/// ends in the turn in which it begins.
-const QRegularExpression
-    expectedLine(QStringLiteral("^((Spotify AppleScript error|Update check failed): "
-                                "|qt.qpa.xcb: Unhandled client message:  \"_KDE_WM_CHANGE_STATE\"$"
-                                "|QUnifiedTimer::stopAnimationDriver: driver is not running$)"));
+/// to a message that the window manager sends to every window that it manages, of a motion that
+/// ends in the turn in which it begins, and of a connection that breaks while its body is read.
+const QRegularExpression expectedLine(QStringLiteral(
+    "^((Spotify AppleScript error|Update check failed): "
+    "|qt.qpa.xcb: Unhandled client message:  \"_KDE_WM_CHANGE_STATE\"$"
+    "|QUnifiedTimer::stopAnimationDriver: driver is not running$"
+    "|QNetworkReplyImplPrivate::error: Internal problem, this method must only be called once.$)"));
 
 /// What the pill may show here. A player that has just started plays what has no title.
 const QRegularExpression expectedText(
