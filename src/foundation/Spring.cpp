@@ -79,8 +79,10 @@ double Spring::speed(double time) const {
 
 bool Spring::isSettled(double time, double tolerance) const {
     const double fastest = speed(time);
+    if (fastest == 0 || jumps(parameters_))
+        return fastest == 0;
     // By the same energy, this is as far as it can still go.
-    return fastest == 0 || fastest / angularFrequency(parameters_) <= tolerance;
+    return fastest / angularFrequency(parameters_) <= tolerance;
 }
 
 Spring::Motion Spring::at(double time) const {

@@ -39,10 +39,11 @@ Item {
         scale: parent.width / Style.artworkSide
         opacity: Math.min(1, Math.max(0, 2 * root.expansion - 1))
         active: opacity > 0
-        sourceComponent: ArtworkCaption {
-            coverSide: Style.artworkSide
+
+        Component.onCompleted: setSource("ArtworkCaption.qml", {
+            coverSide: Style.artworkSide,
             model: root.model
-        }
+        })
     }
 
     MouseArea {

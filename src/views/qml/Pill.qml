@@ -15,7 +15,9 @@ Item {
     /** The menu is made when it is first wanted: most days it never is. */
     function openMenu(position: point): void {
         if (!menu)
-            menu = menuComponent.createObject(root) as PillMenu;
+            menu = menuComponent.createObject(root, {
+                model: root.model
+            }) as PillMenu;
         menu.popup(position);
     }
 
@@ -98,9 +100,10 @@ Item {
             active: root.model.isArtExpanded || motion.expand !== 0
             opacity: Math.min(1, Math.max(0, motion.expand))
             visible: opacity > 0
-            sourceComponent: ArtPanel {
+
+            Component.onCompleted: setSource("ArtPanel.qml", {
                 model: root.model
-            }
+            })
         }
     }
 
@@ -132,7 +135,6 @@ Item {
 
         PillMenu {
             objectName: "menu"
-            model: root.model
         }
     }
 }

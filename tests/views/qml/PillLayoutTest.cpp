@@ -237,13 +237,13 @@ TEST_F(PillLayout, PopsAHoveredThumbnailOutButNeverTheArtwork) {
 
 TEST_F(PillLayout, ShowsTheCaptionInThePanelAlone) {
     appearWith("Title of the song");
-    auto* caption = below(artwork(), "ArtworkCaption");
-    ASSERT_NE(caption, nullptr);
-    EXPECT_FALSE(caption->isVisible());
+    EXPECT_EQ(below(artwork(), "ArtworkCaption"), nullptr);
     machine.view.tapCover();
     settle();
+    auto* caption = below(artwork(), "ArtworkCaption");
+    ASSERT_NE(caption, nullptr);
     EXPECT_TRUE(caption->isVisible());
-    EXPECT_EQ(caption->opacity(), 1);
+    EXPECT_EQ(caption->parentItem()->opacity(), 1);
     EXPECT_EQ(layout(caption).bottom(), layout(artwork()).bottom());
     EXPECT_EQ(caption->width(), 320);
     QStringList texts;
@@ -251,6 +251,12 @@ TEST_F(PillLayout, ShowsTheCaptionInThePanelAlone) {
         if (text->property("text").isValid())
             texts.push_back(text->property("text").toString());
     EXPECT_EQ(texts, (QStringList{QStringLiteral("Artist"), QStringLiteral("Title of the song")}));
+    machine.view.tapArtwork();
+    settle();
+    EXPECT_EQ(below(artwork(), "ArtworkCaption"), nullptr);
+    machine.view.tapCover();
+    settle();
+    EXPECT_NE(below(artwork(), "ArtworkCaption"), nullptr);
 }
 
 TEST_F(PillLayout, ShowsTheIndicatorAsThePlayerStands) {
