@@ -130,7 +130,7 @@ const std::vector<Row> brokenTransfers{
      }},
     headers("LengthTooLong", Case::failed, "Content-Length: 1000\r\n"),
     headers("LengthTooShort", Case::failed, "Content-Length: 20\r\n"),
-    headers("LengthNegative", Case::loaded, "Content-Length: -1\r\n"),
+    headers("LengthNegative", Case::failed, "Content-Length: -1\r\n"),
     headers("LengthNoNumber", Case::loaded, "Content-Length: many\r\n"),
     headers("LengthBeyondAllNumbers", Case::loaded,
             "Content-Length: 99999999999999999999999999\r\n"),

@@ -1,6 +1,7 @@
 #include "views/drawing/TextLayer.h"
 
 #include "views/drawing/Blur.h"
+#include "views/drawing/Coverage.h"
 #include "views/motion/Springs.h"
 
 #include <QFontMetricsF>
@@ -15,8 +16,9 @@ namespace {
 constexpr double strongestSigma = 5;  ///< points, of a line that is away
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
-constexpr double reach =
-    40; ///< coming or going changes a line as much as moving it by so many points
+
+/// Coming or going changes a line as much as moving it by so many points.
+constexpr double reach = 20;
 
 /// What one line shows of `text`: line breaks and other control characters take no line and no
 /// glyph of their own.
@@ -112,16 +114,23 @@ void TextLayer::paintBlurred(QPainter& painter, QColor color, QPointF origin, QR
     const double right = std::min(drawn.right(), seen.right() + reach);
     if (right <= left)
         return;
-    QImage image((QSizeF(right - left, drawn.height()) * ratio).toSize(),
-                 QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::transparent);
-    QPainter onImage(&image);
-    onImage.setRenderHint(QPainter::TextAntialiasing);
-    paintSharp(onImage, color, origin - QPointF(left, drawn.top()));
-    onImage.end();
+    const auto sharp = [&](QColor in) {
+        QImage image((QSizeF(right - left, drawn.height()) * ratio).toSize(),
+                     QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::transparent);
+        QPainter onImage(&image);
+        onImage.setRenderHint(QPainter::TextAntialiasing);
+        paintSharp(onImage, in, origin - QPointF(left, drawn.top()));
+        return image;
+    };
+    // Nearly all text has one colour, and one channel is a quarter of the work.
+    QImage image = coverage(sharp(Qt::white));
+    const bool hasColours = image.isNull();
+    if (hasColours)
+        image = sharp(color);
     blur(image, sigma * ratio);
-    painter.drawImage(QPointF(left, drawn.top()), image);
+    painter.drawImage(QPointF(left, drawn.top()), hasColours ? image : tinted(image, color));
 }
 
 } // namespace brellowind
