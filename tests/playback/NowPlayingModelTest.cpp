@@ -322,16 +322,8 @@ private:
     std::array<Subscription, 3> subscriptions_;
 };
 
-test::Disagreement compare(const test::Steps<Step>& steps) {
-    Comparison comparison;
-    for (const auto& step : steps)
-        if (auto disagreement = comparison.take(step))
-            return disagreement;
-    return std::nullopt;
-}
-
 TEST(NowPlayingModel, IsFollowedWhateverThePlayerAnswersAndWheneverItIsToggled) {
-    test::expectAgreement<Step>({.step = anyStep, .run = compare});
+    test::expectAgreement<Step>({.step = anyStep, .run = test::compared<Comparison, Step>});
 }
 
 } // namespace

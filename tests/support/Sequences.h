@@ -38,6 +38,16 @@ struct Finding {
     std::string disagreement;
 };
 
+/// Has a new `Comparison` take the steps one after the other, up to the first disagreement.
+template <typename Comparison, typename Step>
+Disagreement compared(const Steps<Step>& steps) {
+    Comparison comparison;
+    for (const auto& step : steps)
+        if (auto disagreement = comparison.take(step))
+            return disagreement;
+    return std::nullopt;
+}
+
 /// Leaves out steps for as long as there is a disagreement without them.
 template <typename Step>
 Steps<Step> shortened(const Experiment<Step>& experiment, Steps<Step> steps) {

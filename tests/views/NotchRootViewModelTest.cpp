@@ -334,16 +334,8 @@ private:
     bool inside_ = false;
 };
 
-test::Disagreement compare(const test::Steps<Step>& steps) {
-    Comparison comparison;
-    for (const auto& step : steps)
-        if (auto disagreement = comparison.take(step))
-            return disagreement;
-    return std::nullopt;
-}
-
 TEST(NotchRootViewModel, TakesNoFormButThoseThatItsModelPredicts) {
-    test::expectAgreement<Step>({.step = anyStep, .run = compare});
+    test::expectAgreement<Step>({.step = anyStep, .run = test::compared<Comparison, Step>});
 }
 
 } // namespace
