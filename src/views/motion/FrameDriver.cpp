@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <utility>
 
 namespace brellowind {
 namespace {
@@ -37,8 +36,11 @@ double FrameDriver::now() const {
 void FrameDriver::drive(Animated& animated) {
     if (std::ranges::find(moving_, &animated) == moving_.end())
         moving_.push_back(&animated);
-    if (frame_ < 0 && frozen_ < 0 && !std::exchange(hurried_, true))
-        scheduleIn(std::max(firstFrame, last_ + densest - now()));
+    if (frame_ >= 0 || frozen_ >= 0)
+        return;
+    const double moment = std::max(now() + firstFrame, last_ + densest);
+    if (!isRunning() || moment < due_)
+        scheduleAt(moment);
 }
 
 void FrameDriver::forget(Animated& animated) {
@@ -59,8 +61,9 @@ void FrameDriver::step(double seconds) {
 
 void FrameDriver::thaw() {
     frozen_ = -1;
+    last_ = 0; // of the other clock
     if (!moving_.empty())
-        scheduleIn(densest);
+        scheduleAt(now() + densest);
 }
 
 void FrameDriver::timerEvent(QTimerEvent* /*event*/) {
@@ -69,7 +72,6 @@ void FrameDriver::timerEvent(QTimerEvent* /*event*/) {
 
 void FrameDriver::advanceAll() {
     last_ = frame_ = now();
-    hurried_ = false;
     double fastest = 0;
     for (std::size_t i = 0; i < moving_.size(); ++i) { // it may grow meanwhile
         auto* animated = moving_[i];
@@ -89,11 +91,12 @@ void FrameDriver::scheduleNext(double speed) {
     if (frozen_ >= 0)
         return;
     const double interval = speed > 0 ? longestStep / speed : sparsest;
-    scheduleIn(last_ + std::clamp(interval, densest, sparsest) - now());
+    scheduleAt(last_ + std::clamp(interval, densest, sparsest));
 }
 
-void FrameDriver::scheduleIn(double seconds) {
-    const int milliseconds = static_cast<int>(std::lround(1e3 * seconds));
+void FrameDriver::scheduleAt(double moment) {
+    due_ = moment;
+    const int milliseconds = static_cast<int>(std::lround(1e3 * (moment - now())));
     timer_.start(std::max(0, milliseconds), Qt::PreciseTimer, this);
 }
 

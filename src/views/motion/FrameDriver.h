@@ -54,14 +54,14 @@ private:
     void advanceAll();
     void rest();
     void scheduleNext(double speed);
-    void scheduleIn(double seconds);
+    void scheduleAt(double moment);
 
     std::vector<Animated*> moving_;
     QBasicTimer timer_;
-    double frame_ = -1;    ///< below 0: no frame is being made
-    double frozen_ = -1;   ///< below 0: the clock runs
-    double last_ = 0;      ///< the moment of the last frame
-    bool hurried_ = false; ///< something was asked for since the last frame
+    double frame_ = -1;  ///< below 0: no frame is being made
+    double frozen_ = -1; ///< below 0: the clock runs
+    double last_ = 0;    ///< the moment of the last frame
+    double due_ = 0;     ///< the moment of the next one, while one is due
 };
 
 } // namespace brellowind

@@ -188,6 +188,16 @@ TEST_F(RunningFrameDriver, StopsWhenAllHaveGone) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
 }
 
+TEST_F(RunningFrameDriver, StartsAgainAfterWhatWentBeforeItWasShown) {
+    {
+        Recorder unseen(forever);
+        driver.drive(unseen);
+    }
+    Recorder recorder(1);
+    driver.drive(recorder);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !recorder.moments.empty(); }));
+}
+
 TEST_F(RunningFrameDriver, StartsAgainForWhatIsAskedForLater) {
     Recorder recorder(1);
     for (std::size_t round = 1; round <= 2; ++round) {
