@@ -18,7 +18,7 @@ constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
 
 /// Coming or going changes a line as much as moving it by so many points.
-constexpr double reach = 20;
+constexpr double presenceReach = 20;
 
 /// What one line shows of `text`: line breaks and other control characters take no line and no
 /// glyph of their own.
@@ -75,7 +75,7 @@ std::optional<double> TextLayer::advance(double now) {
     shown_ = resting_ ? presence_.target() : presence_.value(now);
     if (resting_)
         return std::nullopt;
-    return reach * presence_.speed(now);
+    return presenceReach * presence_.speed(now);
 }
 
 void TextLayer::paint(QPainter& painter, QColor color, double centre, double top, double left,
