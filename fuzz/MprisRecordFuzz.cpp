@@ -61,9 +61,13 @@ private:
     std::string text() {
         auto text = input_.ConsumeRandomLengthString(longest);
         text.resize(std::min(text.find('\0'), text.size()));
-        if (!utf8::isValid(text)) // no bus carries it
-            text.clear();
-        basic(SD_BUS_TYPE_STRING, text.c_str());
+        const auto append = [this](const char* what) {
+            return sd_bus_message_append_basic(message_.get(), SD_BUS_TYPE_STRING, what) >= 0;
+        };
+        if (append(text.c_str()))
+            return text;
+        text.clear(); // no bus carries it: it is no UTF-8, or has what is no character
+        require(append(text.c_str()), "it is appended");
         return text;
     }
 

@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "app/BrellowindApp.h"
+#include "views/NotchRootModel.h"
 #include "views/NotchRootView.h"
 
 #include <QGuiApplication>
@@ -86,8 +87,7 @@ void Commands::closeSettings() {
 
 /// Counts every notification of the model that the pill is drawn from.
 void Commands::watchModel() {
-    auto* root = app_.window().contentItem()->childItems().constFirst();
-    auto* model = root->property("model").value<QObject*>();
+    const auto* model = app_.window().findChild<NotchRootModel*>();
     const int slot = metaObject()->indexOfSlot("countChange()");
     const auto* type = model->metaObject();
     for (int i = type->methodOffset(); i < type->methodCount(); ++i)

@@ -2,34 +2,36 @@
 
 #include "views/NotchRootModel.h"
 #include "views/drawing/PillShape.h"
+#include "views/interaction/Accessible.h"
+#include "views/pill/Pill.h"
 
-#include <QQmlEngine>
-#include <QQuickItem>
-
-void qml_register_types_Brellowind_Views();
+#include <utility>
 
 namespace brellowind {
 
-NotchQuickView::NotchQuickView(std::shared_ptr<NotchRootView> rootView) {
-    qml_register_types_Brellowind_Views();
+NotchQuickView::NotchQuickView(std::shared_ptr<NotchRootView> rootView)
+    : model_(new NotchRootModel(std::move(rootView), this)),
+      pill_(new Pill(*model_, contentItem())) {
+    installAccessibility();
     setColor(Qt::transparent);
-    setResizeMode(QQuickView::SizeRootObjectToView);
-    auto* model = new NotchRootModel(std::move(rootView), engine());
-    setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(model)}});
-    setSource(QUrl(QStringLiteral("qrc:/Brellowind/Views/NotchView.qml")));
-    pill_ = rootObject()->findChild<PillShape*>();
     connect(this, &QQuickWindow::beforeSynchronizing, this, &NotchQuickView::followOutline);
 }
 
 NotchQuickView::~NotchQuickView() = default;
 
+void NotchQuickView::resizeEvent(QResizeEvent* event) {
+    QQuickWindow::resizeEvent(event);
+    pill_->setSize(size());
+}
+
 void NotchQuickView::followOutline() {
-    const QRectF rect = pill_->mapRectToScene(pill_->boundingRect());
+    const PillShape& shape = pill_->shape();
+    const QRectF rect = shape.mapRectToScene(shape.boundingRect());
     if (rect == pillRect_)
         return;
     pillRect_ = rect;
     bool affine = false;
-    Q_EMIT outlineChanged(pill_->itemTransform(nullptr, &affine).map(pill_->outline()));
+    Q_EMIT outlineChanged(shape.itemTransform(nullptr, &affine).map(shape.outline()));
 }
 
 } // namespace brellowind

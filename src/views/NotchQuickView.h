@@ -1,30 +1,37 @@
 #pragma once
 
 #include <QPainterPath>
-#include <QQuickView>
+#include <QQuickWindow>
 #include <memory>
 
 namespace brellowind {
 
+class NotchRootModel;
 class NotchRootView;
-class PillShape;
+class Pill;
 
 /// The contents of the notch window: it draws the pill at its top, the rest is clear.
-class NotchQuickView : public QQuickView {
+class NotchQuickView : public QQuickWindow {
     Q_OBJECT
 
 public:
     explicit NotchQuickView(std::shared_ptr<NotchRootView> rootView);
     ~NotchQuickView() override;
 
+    Pill& pill() { return *pill_; }
+
 Q_SIGNALS:
     /// The outline of the pill as the next frame will show it, in points of the window.
     void outlineChanged(const QPainterPath& outline);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void followOutline();
 
-    PillShape* pill_ = nullptr;
+    NotchRootModel* model_;
+    Pill* pill_;
     QRectF pillRect_;
 };
 

@@ -6,18 +6,15 @@
 #include <QImage>
 #include <QObject>
 #include <QString>
-#include <QtQml/qqmlregistration.h>
 #include <memory>
 #include <string>
 
 namespace brellowind {
 
-/// What QML draws the pill from, and whom it tells what happens there. A property notifies only
+/// What the pill is drawn from, and whom it tells what happens there. A property notifies only
 /// when it really differs.
 class NotchRootModel : public QObject {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("made by the notch window")
     Q_PROPERTY(QString currentLineText READ currentLineText NOTIFY currentLineTextChanged)
     Q_PROPERTY(QString title READ title NOTIFY trackChanged)
     Q_PROPERTY(QString artist READ artist NOTIFY trackChanged)
@@ -47,20 +44,18 @@ public:
     bool grabberHovered() const { return form_.grabberHovered; }
     bool waveformHovered() const { return form_.waveformHovered; }
 
-    Q_INVOKABLE void sizeChanged(double width, double height) {
-        view_->sizeChanged({width, height});
-    }
-    Q_INVOKABLE void hoverCover(bool inside) { view_->hoverCover(inside); }
-    Q_INVOKABLE void hoverGrabber(bool inside) { view_->hoverGrabber(inside); }
-    Q_INVOKABLE void hoverWaveform(bool inside) { view_->hoverWaveform(inside); }
-    Q_INVOKABLE void tapCover() { view_->tapCover(); }
-    Q_INVOKABLE void tapWaveform() { view_->tapWaveform(); }
-    Q_INVOKABLE void tapGrabber() { view_->tapGrabber(); }
-    Q_INVOKABLE void tapArtwork() { view_->tapArtwork(); }
-    Q_INVOKABLE void tapBackground() { view_->tapBackground(); }
-    Q_INVOKABLE void openSettings() { view_->openSettings(); }
-    Q_INVOKABLE void checkForUpdates() { view_->checkForUpdates(); }
-    Q_INVOKABLE void quit() { view_->quit(); }
+    void sizeChanged(double width, double height) { view_->sizeChanged({width, height}); }
+    void hoverCover(bool inside) { view_->hoverCover(inside); }
+    void hoverGrabber(bool inside) { view_->hoverGrabber(inside); }
+    void hoverWaveform(bool inside) { view_->hoverWaveform(inside); }
+    void tapCover() { view_->tapCover(); }
+    void tapWaveform() { view_->tapWaveform(); }
+    void tapGrabber() { view_->tapGrabber(); }
+    void tapArtwork() { view_->tapArtwork(); }
+    void tapBackground() { view_->tapBackground(); }
+    void openSettings() { view_->openSettings(); }
+    void checkForUpdates() { view_->checkForUpdates(); }
+    void quit() { view_->quit(); }
 
 Q_SIGNALS:
     void currentLineTextChanged();

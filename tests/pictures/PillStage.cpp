@@ -4,8 +4,12 @@
 #include "backdrop/Desktop.h"
 #include "platform/Services.h"
 #include "service/DemoSong.h"
+#include "views/drawing/PillShape.h"
 #include "views/drawing/WaveformGlyph.h"
 #include "views/motion/FrameDriver.h"
+#include "views/pill/Pill.h"
+#include "views/pill/PillMenu.h"
+#include "views/pill/PillMenuEntry.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -67,7 +71,7 @@ PillStage::PillStage()
     spotify_.quit();
     content_ = std::make_unique<NotchQuickView>(root_);
     content_->resize(640, NotchMetrics::windowHeight);
-    content_->rootObject()->setSize(content_->size());
+    content_->pill().setSize(content_->size());
     content_->contentItem()->setSize(content_->size());
     new DesktopItem(content_->contentItem());
     root_->appear();
@@ -143,12 +147,11 @@ QImage PillStage::pill() {
 }
 
 QImage PillStage::menu(const QString& hovered) {
-    auto* notch = content_->contentItem()->findChild<QQuickItem*>(QStringLiteral("notch"));
-    QMetaObject::invokeMethod(notch, "openMenu", Q_ARG(QPointF, QPointF(100, 100)));
-    auto* menu = notch->findChild<QQuickWindow*>(QStringLiteral("menu"));
+    content_->pill().openMenu(QPointF(100, 100));
+    auto* menu = content_->pill().menu();
     QCoreApplication::processEvents(); // the window takes its size
-    for (auto* entry : menu->findChildren<QQuickItem*>()) {
-        if (entry->property("text") != hovered || !entry->property("menu").isValid())
+    for (auto* entry : menu->contentItem()->findChildren<PillMenuEntry*>()) {
+        if (entry->text() != hovered)
             continue;
         const QPointF middle = entry->mapToScene(entry->boundingRect().center());
         QMouseEvent move(QEvent::MouseMove, middle, menu->mapToGlobal(middle), Qt::NoButton,
@@ -161,8 +164,8 @@ QImage PillStage::menu(const QString& hovered) {
 }
 
 QRectF PillStage::pillRect() const {
-    const auto* pill = content_->contentItem()->findChild<QQuickItem*>(QStringLiteral("pill"));
-    return pill->mapRectToScene(pill->boundingRect());
+    const auto& shape = content_->pill().shape();
+    return shape.mapRectToScene(shape.boundingRect());
 }
 
 void PillStage::runTurns() {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 namespace brellowind {
+
 ArtworkImage::ArtworkImage(QQuickItem* parent) : PainterItem(parent) {}
 
 void ArtworkImage::setImage(const QImage& image) {
@@ -12,7 +13,6 @@ void ArtworkImage::setImage(const QImage& image) {
     image_ = image;
     cover_ = CoverImage(image);
     update();
-    Q_EMIT imageChanged();
 }
 
 void ArtworkImage::setRadius(double radius) {
@@ -20,7 +20,6 @@ void ArtworkImage::setRadius(double radius) {
         return;
     radius_ = radius;
     update();
-    Q_EMIT radiusChanged();
 }
 
 void ArtworkImage::paint(QPainter& painter) {

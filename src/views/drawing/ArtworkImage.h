@@ -6,26 +6,18 @@
 namespace brellowind {
 
 /// The cover, filling its rectangle with round corners; a dark grey while there is none.
-class ArtworkImage : public brellowind::PainterItem {
+class ArtworkImage : public PainterItem {
     Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)
-    Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged)
 
 public:
     explicit ArtworkImage(QQuickItem* parent = nullptr);
 
-    QImage image() const { return image_; }
     void setImage(const QImage& image);
 
     double radius() const { return radius_; }
     void setRadius(double radius);
 
     void paint(QPainter& painter) override;
-
-Q_SIGNALS:
-    void imageChanged();
-    void radiusChanged();
 
 private:
     QImage image_;

@@ -12,7 +12,6 @@ void Capsule::setColor(const QColor& color) {
         return;
     color_ = color;
     update();
-    Q_EMIT colorChanged();
 }
 
 void Capsule::paint(QPainter& painter) {

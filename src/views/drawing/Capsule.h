@@ -7,10 +7,8 @@
 namespace brellowind {
 
 /// A filled rectangle whose short sides are half circles.
-class Capsule : public brellowind::PainterItem {
+class Capsule : public PainterItem {
     Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
 public:
     explicit Capsule(QQuickItem* parent = nullptr);
@@ -19,9 +17,6 @@ public:
     void setColor(const QColor& color);
 
     void paint(QPainter& painter) override;
-
-Q_SIGNALS:
-    void colorChanged();
 
 private:
     QColor color_ = Qt::white;

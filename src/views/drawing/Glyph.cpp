@@ -1,6 +1,7 @@
 #include "views/drawing/Glyph.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 
 namespace brellowind {
@@ -36,7 +37,6 @@ void Glyph::setKind(Kind kind) {
         return;
     kind_ = kind;
     update();
-    Q_EMIT kindChanged();
 }
 
 void Glyph::paint(QPainter& painter) {
@@ -46,7 +46,7 @@ void Glyph::paint(QPainter& painter) {
     painter.translate(boundingRect().center());
     painter.scale(scale, scale);
     painter.translate(-bounds.center());
-    painter.fillPath(path, color_);
+    painter.fillPath(path, Qt::white);
 }
 
 } // namespace brellowind

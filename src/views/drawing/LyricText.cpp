@@ -5,10 +5,16 @@
 #include <QQuickWindow>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace brellowind {
 
-LyricText::LyricText(QQuickItem* parent) : PainterItem(parent) {}
+LyricText::LyricText(Look look, const QString& text, bool present, QQuickItem* parent)
+    : PainterItem(parent), look_(std::move(look)), text_(text), present_(present) {
+    layers_.emplace_back(text_, look_.font, look_.maximumWidth, present_ ? 1.0 : 0.0);
+    setImplicitHeight(std::ceil(QFontMetricsF(look_.font).height()));
+    followWidth();
+}
 
 LyricText::~LyricText() {
     FrameDriver::shared().forget(*this);
@@ -18,57 +24,31 @@ void LyricText::setText(const QString& text) {
     if (text == text_)
         return;
     text_ = text;
-    if (isComponentComplete())
-        show(FrameDriver::shared().now());
+    show(FrameDriver::shared().now());
     Q_EMIT textChanged(text_);
+    announceName(*this);
 }
 
 void LyricText::setPresent(bool present) {
     if (present == present_)
         return;
     present_ = present;
-    if (isComponentComplete()) {
-        const double now = FrameDriver::shared().now();
-        if (present_)
-            layers_.back().comeIn(now);
-        else
-            layers_.back().goAway(now);
-        FrameDriver::shared().drive(*this);
-    }
-    Q_EMIT presentChanged();
+    const double now = FrameDriver::shared().now();
+    if (present_)
+        layers_.back().comeIn(now);
+    else
+        layers_.back().goAway(now);
+    FrameDriver::shared().drive(*this);
 }
 
-void LyricText::setFont(const QFont& font) {
-    if (font == font_)
-        return;
-    font_ = font;
-    if (isComponentComplete()) {
-        layOut();
-    }
-    Q_EMIT fontChanged();
-}
-
-double LyricText::naturalWidth() const {
-    return layers_.empty() ? 0 : layers_.back().width();
-}
-
-void LyricText::componentComplete() {
-    QQuickItem::componentComplete();
-    layOut();
-}
-
-/// Shows the present text at once, without those that go.
-void LyricText::layOut() {
-    layers_.clear();
-    layers_.emplace_back(text_, font_, maximumWidth_, present_ ? 1.0 : 0.0);
-    setImplicitHeight(std::ceil(QFontMetricsF(font_).height()));
-    followWidth();
-    update();
+void LyricText::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemVisibleHasChanged)
+        announceVisibility(*this);
+    PainterItem::itemChange(change, data);
 }
 
 void LyricText::followWidth() {
     setImplicitWidth(std::ceil(naturalWidth()));
-    Q_EMIT naturalWidthChanged();
 }
 
 /// A line that is still on its way out turns back when its text comes again.
@@ -76,7 +56,7 @@ void LyricText::show(double now) {
     layers_.back().goAway(now);
     const auto leaving = std::ranges::find(layers_, text_, &TextLayer::text);
     if (leaving == layers_.end())
-        layers_.emplace_back(text_, font_, maximumWidth_, 0.0);
+        layers_.emplace_back(text_, look_.font, look_.maximumWidth, 0.0);
     else
         layers_.splice(layers_.end(), layers_, leaving);
     if (present_)
@@ -108,7 +88,7 @@ void LyricText::paint(QPainter& painter) {
     const double left = mapFromScene(QPointF(0, 0)).x();
     const double right = window() ? mapFromScene(QPointF(window()->width(), 0)).x() : width();
     for (auto& layer : layers_)
-        layer.paint(painter, color_, width() / 2, 0, left, right);
+        layer.paint(painter, look_.color, width() / 2, 0, left, right);
 }
 
 } // namespace brellowind

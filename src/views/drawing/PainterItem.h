@@ -8,11 +8,8 @@ namespace brellowind {
 
 /// An item that draws itself with the window's own painter, under all transformations and without
 /// an image in between: sharp at every scale and free of memory. For the software scene graph.
-///
-/// Subclasses name it with its namespace: Qt's list of QML types would not find it otherwise.
 class PainterItem : public QQuickItem {
     Q_OBJECT
-    QML_ANONYMOUS
 
 public:
     explicit PainterItem(QQuickItem* parent = nullptr);

@@ -82,7 +82,6 @@ void PillShape::setLift(double lift) {
     if (lift_ <= 0)
         shadow_ = QImage();
     update();
-    Q_EMIT liftChanged();
 }
 
 QPainterPath PillShape::outline() const {

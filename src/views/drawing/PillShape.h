@@ -8,11 +8,8 @@
 namespace brellowind {
 
 /// The black outline of the pill, and the shadow that it casts when it is lifted.
-class PillShape : public brellowind::PainterItem {
+class PillShape : public PainterItem {
     Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(double flare READ flare CONSTANT)
-    Q_PROPERTY(double lift READ lift WRITE setLift NOTIFY liftChanged)
 
 public:
     explicit PillShape(QQuickItem* parent = nullptr);
@@ -29,9 +26,6 @@ public:
 
     void paint(QPainter& painter) override;
     QRectF paintedRect() const override;
-
-Q_SIGNALS:
-    void liftChanged();
 
 private:
     void paintShadow(QPainter& painter);

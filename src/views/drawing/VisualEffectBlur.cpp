@@ -39,7 +39,8 @@ QImage blurredCover(const QImage& image) {
 
 } // namespace
 
-VisualEffectBlur::VisualEffectBlur(QQuickItem* parent) : PainterItem(parent) {}
+VisualEffectBlur::VisualEffectBlur(double coverSide, double radius, QQuickItem* parent)
+    : PainterItem(parent), coverSide_(coverSide), radius_(radius) {}
 
 void VisualEffectBlur::setImage(const QImage& image) {
     if (image.cacheKey() == image_.cacheKey())
@@ -47,15 +48,6 @@ void VisualEffectBlur::setImage(const QImage& image) {
     image_ = image;
     blurred_ = QImage();
     update();
-    Q_EMIT imageChanged();
-}
-
-void VisualEffectBlur::setCoverSide(double side) {
-    if (side == coverSide_)
-        return;
-    coverSide_ = side;
-    update();
-    Q_EMIT coverSideChanged();
 }
 
 void VisualEffectBlur::paint(QPainter& painter) {

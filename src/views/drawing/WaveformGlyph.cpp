@@ -28,7 +28,6 @@ void WaveformGlyph::setActive(bool active) {
     active_ = active;
     follow();
     update();
-    Q_EMIT activeChanged();
 }
 
 void WaveformGlyph::setStep(int step) {

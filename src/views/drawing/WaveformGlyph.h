@@ -8,10 +8,8 @@ namespace brellowind {
 
 /// The waveform symbol. While `active` a wave of full strength runs through its bars, one after the
 /// other, again and again; otherwise it stands still.
-class WaveformGlyph : public brellowind::PainterItem {
+class WaveformGlyph : public PainterItem {
     Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
 
 public:
     static constexpr int barCount = 5;
@@ -28,9 +26,6 @@ public:
 
     /// The strength of the bar `index` when the wave stands at `phase`, 0 to 1, of its round.
     static double strength(int index, double phase);
-
-Q_SIGNALS:
-    void activeChanged();
 
 protected:
     void timerEvent(QTimerEvent* event) override;

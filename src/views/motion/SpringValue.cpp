@@ -1,7 +1,5 @@
 #include "views/motion/SpringValue.h"
 
-#include "views/motion/Springs.h"
-
 #include <utility>
 
 namespace brellowind {
@@ -9,72 +7,38 @@ namespace {
 
 constexpr double tolerance = 0.05; ///< points that no eye sees
 
-SpringParameters parameters(SpringValue::Kind kind) {
-    switch (kind) {
-    case SpringValue::Hover:
-        return springs::hoverSpring;
-    case SpringValue::Morph:
-        return springs::morph;
-    case SpringValue::PulseRise:
-        return springs::pulseRise;
-    case SpringValue::PulseFall:
-        return springs::pulseFall;
-    }
-    return springs::morph;
-}
-
 } // namespace
 
-SpringValue::SpringValue(QObject* parent) : QObject(parent), motion_(parameters(kind_), 0) {}
+SpringValue::SpringValue(const SpringParameters& parameters, double value, double reach)
+    : parameters_(parameters), motion_(parameters, value), target_(value), value_(value),
+      reach_(reach) {}
 
-SpringValue::~SpringValue() {
-    FrameDriver::shared().forget(*this);
-}
-
-void SpringValue::setTarget(double target) {
-    if (target == target_)
+void SpringValue::setTarget(double target, const SpringParameters& parameters) {
+    if (target == target_ && parameters == parameters_)
         return;
     target_ = target;
-    retarget();
-    Q_EMIT targetChanged();
+    parameters_ = parameters;
+    changed_ = true;
+    moving_ = true;
 }
 
-void SpringValue::setSpring(Kind kind) {
-    if (kind == kind_)
-        return;
-    kind_ = kind;
-    retarget();
-    Q_EMIT springChanged();
-}
-
-void SpringValue::componentComplete() {
-    complete_ = true;
-    motion_ = Spring(parameters(kind_), target_);
-    setValue(target_);
-}
-
-/// Target and spring may change together, one after the other: the frame sees both.
-void SpringValue::retarget() {
-    if (!complete_ || std::exchange(changed_, true))
-        return;
-    FrameDriver::shared().drive(*this);
+void SpringValue::settle() {
+    motion_ = Spring(parameters_, target_);
+    value_ = target_;
+    moving_ = false;
+    changed_ = false;
 }
 
 std::optional<double> SpringValue::advance(double now) {
+    if (!moving_)
+        return std::nullopt;
     if (std::exchange(changed_, false))
-        motion_.retarget(target_, now, parameters(kind_));
-    const bool settled = motion_.isSettled(now, tolerance / reach_);
-    setValue(settled ? target_ : motion_.value(now));
-    if (settled && !changed_)
+        motion_.retarget(target_, now, parameters_);
+    moving_ = !motion_.isSettled(now, tolerance / reach_);
+    value_ = moving_ ? motion_.value(now) : target_;
+    if (!moving_)
         return std::nullopt;
     return reach_ * motion_.speed(now);
-}
-
-void SpringValue::setValue(double value) {
-    if (value == value_)
-        return;
-    value_ = value;
-    Q_EMIT valueChanged();
 }
 
 } // namespace brellowind

@@ -1,60 +1,42 @@
 #pragma once
 
 #include "foundation/Spring.h"
-#include "views/motion/FrameDriver.h"
 
-#include <QObject>
-#include <QQmlParserStatus>
-#include <QtQml/qqmlregistration.h>
+#include <optional>
 
 namespace brellowind {
 
-/// A number that follows its target on a spring. A new target keeps the present value and velocity.
-/// What is set before the component is complete takes effect at once.
-class SpringValue : public QObject, public QQmlParserStatus, private Animated {
-    Q_OBJECT
-    QML_ELEMENT
-    Q_INTERFACES(QQmlParserStatus)
-    Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged REQUIRED)
-    Q_PROPERTY(Kind spring READ spring WRITE setSpring NOTIFY springChanged REQUIRED)
-    /// The points that something moves by while the value changes by 1.
-    Q_PROPERTY(double reach MEMBER reach_)
-    Q_PROPERTY(double value READ value NOTIFY valueChanged)
-
+/// A number that follows its target on a spring, frame by frame. A new target or spring keeps the
+/// present value and velocity.
+class SpringValue {
 public:
-    enum Kind { Hover, Morph, PulseRise, PulseFall };
-    Q_ENUM(Kind)
-
-    explicit SpringValue(QObject* parent = nullptr);
-    ~SpringValue() override;
-
-    double target() const { return target_; }
-    void setTarget(double target);
-
-    Kind spring() const { return kind_; }
-    void setSpring(Kind kind);
+    /// It rests at `value`. Something moves by `reach` points while it changes by 1; the default
+    /// is for what nobody measured.
+    explicit SpringValue(const SpringParameters& parameters, double value = 0, double reach = 500);
 
     double value() const { return value_; }
 
-    void classBegin() override {}
-    void componentComplete() override;
+    /// Takes effect with the next `advance`.
+    void setTarget(double target) { setTarget(target, parameters_); }
+    void setTarget(double target, const SpringParameters& parameters);
 
-Q_SIGNALS:
-    void targetChanged();
-    void springChanged();
-    void valueChanged();
+    /// Jumps to its target.
+    void settle();
+
+    /// Whether it has yet to reach its target.
+    bool isMoving() const { return moving_; }
+
+    /// Shows the moment `now` and tells how fast it moves there, in points a second; nothing once
+    /// it rests.
+    std::optional<double> advance(double now);
 
 private:
-    std::optional<double> advance(double now) override;
-    void retarget();
-    void setValue(double value);
-
-    Kind kind_ = Morph;
-    double target_ = 0;
-    double value_ = 0;
-    double reach_ = 500; ///< of what nobody measured
+    SpringParameters parameters_;
     Spring motion_;
-    bool complete_ = false;
+    double target_;
+    double value_;
+    double reach_;
+    bool moving_ = false;
     bool changed_ = false; ///< the motion takes the new target and spring with the next frame
 };
 

@@ -1,5 +1,8 @@
 #include "PillObserver.h"
 
+#include "views/NotchRootModel.h"
+#include "views/pill/PillMenuEntry.h"
+
 #include <QDBusConnection>
 #include <QGuiApplication>
 #include <QQuickItem>
@@ -17,7 +20,7 @@ QList<double> rectangle(const QQuickItem* item) {
     return item ? numbers(item->mapRectToScene(item->boundingRect())) : QList<double>();
 }
 
-/// The bus knows no absent value, nor QML's own types.
+/// The bus knows no absent value.
 QDBusVariant property(const QObject* object, const QString& name) {
     const QVariant value = object ? object->property(name.toUtf8().constData()) : QVariant();
     return QDBusVariant(value.isValid() ? value : QVariant(QString()));
@@ -53,9 +56,7 @@ QString PillObserver::Text() const {
 }
 
 QDBusVariant PillObserver::Form(const QString& property) const {
-    const auto* root = window_.contentItem()->childItems().value(0);
-    const auto* model = root ? root->property("model").value<QObject*>() : nullptr;
-    return test::property(model, property);
+    return test::property(window_.findChild<NotchRootModel*>(), property);
 }
 
 QDBusVariant PillObserver::Property(const QString& item, const QString& property) const {
@@ -79,9 +80,9 @@ QList<double> PillObserver::MenuEntry(const QString& text) const {
     const auto* menu = openMenu();
     if (!menu)
         return {};
-    for (const auto* item : menu->findChildren<QQuickItem*>())
-        if (item->property("menu").isValid() && item->property("text") == text)
-            return rectangle(item);
+    for (const auto* entry : menu->contentItem()->findChildren<PillMenuEntry*>())
+        if (entry->text() == text)
+            return rectangle(entry);
     return {};
 }
 

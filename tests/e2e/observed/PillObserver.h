@@ -11,7 +11,7 @@ class QQuickWindow;
 namespace brellowind::test {
 
 /// Tells on the session bus what the pill's items draw, and where: it reads the very objects that
-/// QML draws. Rectangles are x, y, width and height in points; an empty list stands for what is not
+/// draw. Rectangles are x, y, width and height in points; an empty list stands for what is not
 /// there.
 class PillObserver : public QObject {
     Q_OBJECT

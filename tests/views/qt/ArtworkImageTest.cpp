@@ -59,18 +59,5 @@ TEST(ArtworkImage, GoesBackToGreyWhenTheImageGoes) {
     EXPECT_EQ(paintedThumbnail(item).pixelColor(20, 20), QColor(28, 28, 28));
 }
 
-TEST(ArtworkImage, TellsOfRealChangesOnly) {
-    ArtworkImage item;
-    int changes = 0;
-    QObject::connect(&item, &ArtworkImage::imageChanged, [&] { ++changes; });
-    QObject::connect(&item, &ArtworkImage::radiusChanged, [&] { ++changes; });
-    const QImage image = redSquare();
-    item.setImage(image);
-    item.setImage(image);
-    item.setRadius(4);
-    item.setRadius(4);
-    EXPECT_EQ(changes, 2);
-}
-
 } // namespace
 } // namespace brellowind

@@ -150,15 +150,5 @@ TEST(PillShape, WiderThanTheWindowCastsTheSameShadowInIt) {
     EXPECT_EQ(test::painted(endless, window, {320 - 350'000, 0}), expected);
 }
 
-TEST(PillShape, TellsOfRealChangesOnly) {
-    PillShape pill;
-    int changes = 0;
-    QObject::connect(&pill, &PillShape::liftChanged, [&] { ++changes; });
-    pill.setLift(0);
-    pill.setLift(0.5);
-    pill.setLift(0.5);
-    EXPECT_EQ(changes, 1);
-}
-
 } // namespace
 } // namespace brellowind

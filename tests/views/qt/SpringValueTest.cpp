@@ -1,9 +1,7 @@
 #include "views/motion/SpringValue.h"
 #include "views/motion/Springs.h"
 
-#include <QTest>
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace brellowind {
 namespace {
@@ -12,126 +10,118 @@ constexpr double start = 100;
 
 class SpringValueTest : public testing::Test {
 protected:
-    SpringValueTest() {
-        driver.freeze(start);
-        value.setSpring(SpringValue::Hover);
-        value.setTarget(0);
-        value.componentComplete();
-    }
-    ~SpringValueTest() override { driver.thaw(); }
+    /// Lets time pass and shows the moment.
+    std::optional<double> step(double seconds) { return value.advance(now += seconds); }
 
-    FrameDriver& driver = FrameDriver::shared();
-    SpringValue value;
+    SpringValue value{springs::hoverSpring};
+    double now = start;
 };
 
-TEST_F(SpringValueTest, IsAtItsTargetAtOnceWhenItIsComplete) {
-    SpringValue made;
-    made.setTarget(1);
-    made.setTarget(7);
-    made.setSpring(SpringValue::PulseFall);
-    driver.step(0.1);
-    made.componentComplete();
+TEST_F(SpringValueTest, RestsWhereItBegins) {
+    SpringValue made(springs::morph, 7);
     EXPECT_EQ(made.value(), 7);
-    int changes = 0;
-    QObject::connect(&made, &SpringValue::valueChanged, [&] { ++changes; });
-    driver.step(0.1);
+    EXPECT_FALSE(made.isMoving());
+    EXPECT_EQ(made.advance(start), std::nullopt);
     EXPECT_EQ(made.value(), 7);
-    EXPECT_EQ(changes, 0);
 }
 
 TEST_F(SpringValueTest, BeginsToMoveInTheNextFrame) {
     value.setTarget(1);
+    EXPECT_TRUE(value.isMoving());
     EXPECT_EQ(value.value(), 0);
-    driver.step(0.5);
+    EXPECT_TRUE(step(0.5));
     EXPECT_EQ(value.value(), 0) << "in its first frame it stands where it stood";
-    driver.step(0.01);
+    EXPECT_TRUE(step(0.01));
     EXPECT_GT(value.value(), 0);
 }
 
 TEST_F(SpringValueTest, FollowsItsSpring) {
-    const std::pair<SpringValue::Kind, SpringParameters> kinds[] = {
-        {SpringValue::Hover, {0.34, 0.82}},
-        {SpringValue::Morph, {0.42, 0.72}},
-        {SpringValue::PulseRise, {0.1, 0.5}},
-        {SpringValue::PulseFall, {0.24, 0.7}},
-    };
-    for (const auto& [kind, parameters] : kinds) {
-        SpringValue moving;
-        moving.setSpring(kind);
-        moving.setTarget(10);
-        moving.componentComplete();
+    for (const auto& parameters :
+         {springs::hoverSpring, springs::morph, springs::pulseRise, springs::pulseFall}) {
+        SpringValue moving(parameters, 10);
         moving.setTarget(30);
-        driver.step(0);
+        moving.advance(now);
         Spring expected(parameters, 10);
-        expected.retarget(30, driver.now());
+        expected.retarget(30, now);
         for (int i = 0; i < 10; ++i) {
-            driver.step(0.016);
-            EXPECT_DOUBLE_EQ(moving.value(), expected.value(driver.now())) << kind;
+            moving.advance(now += 0.016);
+            EXPECT_DOUBLE_EQ(moving.value(), expected.value(now)) << parameters.response;
         }
     }
 }
 
-TEST_F(SpringValueTest, TakesATargetAndASpringThatChangeTogetherTogether) {
-    for (const bool targetFirst : {true, false}) {
-        SpringValue moving;
-        moving.setSpring(SpringValue::Morph);
-        moving.componentComplete();
-        if (targetFirst)
-            moving.setTarget(1);
-        moving.setSpring(SpringValue::PulseRise);
-        moving.setTarget(1);
-        driver.step(0);
-        Spring expected(springs::pulseRise, 0);
-        expected.retarget(1, driver.now());
-        driver.step(0.03);
-        EXPECT_DOUBLE_EQ(moving.value(), expected.value(driver.now()));
-    }
+TEST_F(SpringValueTest, KnowsTheSpringsByTheirNumbers) {
+    EXPECT_EQ(springs::hoverSpring, (SpringParameters{0.34, 0.82}));
+    EXPECT_EQ(springs::morph, (SpringParameters{0.42, 0.72}));
+    EXPECT_EQ(springs::pulseRise, (SpringParameters{0.1, 0.5}));
+    EXPECT_EQ(springs::pulseFall, (SpringParameters{0.24, 0.7}));
+}
+
+TEST_F(SpringValueTest, TakesAnotherSpringWithItsTarget) {
+    SpringValue moving(springs::morph);
+    moving.setTarget(1, springs::pulseRise);
+    moving.advance(now);
+    Spring expected(springs::pulseRise, 0);
+    expected.retarget(1, now);
+    moving.advance(now += 0.03);
+    EXPECT_DOUBLE_EQ(moving.value(), expected.value(now));
 }
 
 TEST_F(SpringValueTest, KeepsValueAndVelocityWhenItsTargetChanges) {
     value.setTarget(1);
-    driver.step(0);
+    step(0);
     Spring expected(springs::hoverSpring, 0);
-    expected.retarget(1, driver.now());
-    driver.step(0.08);
+    expected.retarget(1, now);
+    step(0.08);
     const double before = value.value();
     value.setTarget(-5);
-    driver.step(0);
+    step(0);
     EXPECT_DOUBLE_EQ(value.value(), before);
-    const double velocity = expected.velocity(driver.now());
+    const double velocity = expected.velocity(now);
     ASSERT_GT(velocity, 1);
-    driver.step(1e-6);
+    step(1e-6);
     EXPECT_NEAR((value.value() - before) / 1e-6, velocity, 0.01 * velocity);
 }
 
 TEST_F(SpringValueTest, TurnsBackWithinAFrameWithoutAJump) {
     value.setTarget(1);
-    driver.step(0);
-    driver.step(0.05);
+    step(0);
+    step(0.05);
     const double before = value.value();
     value.setTarget(0);
     value.setTarget(1);
-    driver.step(0);
+    step(0);
     EXPECT_DOUBLE_EQ(value.value(), before);
 }
 
 TEST_F(SpringValueTest, EndsExactlyOnItsTarget) {
     value.setTarget(0.1);
-    driver.step(0);
-    driver.step(10);
+    step(0);
+    EXPECT_EQ(step(10), std::nullopt);
     EXPECT_EQ(value.value(), 0.1);
+    EXPECT_FALSE(value.isMoving());
+}
+
+TEST_F(SpringValueTest, JumpsWhenItSettles) {
+    value.setTarget(1);
+    step(0);
+    step(0.05);
+    value.setTarget(3);
+    value.settle();
+    EXPECT_EQ(value.value(), 3);
+    EXPECT_FALSE(value.isMoving());
+    EXPECT_EQ(step(0.01), std::nullopt);
+    EXPECT_EQ(value.value(), 3);
 }
 
 TEST_F(SpringValueTest, IsClosestToItsTargetWhereThatMovesTheMost) {
     const auto framesToRest = [this](double reach) {
-        SpringValue moving;
-        moving.setSpring(SpringValue::Morph);
-        moving.setProperty("reach", reach);
-        moving.componentComplete();
+        SpringValue moving(springs::morph, 0, reach);
         moving.setTarget(1);
         int frames = 0;
-        for (driver.step(0); moving.value() != 1; ++frames)
-            driver.step(0.016);
+        for (moving.advance(now); moving.isMoving(); ++frames)
+            moving.advance(now += 0.016);
+        EXPECT_EQ(moving.value(), 1);
         return frames;
     };
     const int little = framesToRest(10);
@@ -139,84 +129,25 @@ TEST_F(SpringValueTest, IsClosestToItsTargetWhereThatMovesTheMost) {
     EXPECT_GT(framesToRest(1000), little + 10);
 }
 
-TEST_F(SpringValueTest, IsNotMovedAnyMoreOnceItRests) {
-    value.setTarget(1);
-    driver.step(0);
-    driver.step(10);
-    int changes = 0;
-    QObject::connect(&value, &SpringValue::valueChanged, [&] { ++changes; });
-    driver.step(0.1);
-    driver.step(10);
-    EXPECT_EQ(changes, 0);
+TEST_F(SpringValueTest, TellsHowFastItMovesWhatReachesFar) {
+    SpringValue far(springs::hoverSpring, 0, 300);
+    SpringValue near(springs::hoverSpring, 0, 100);
+    far.setTarget(1);
+    near.setTarget(1);
+    far.advance(now);
+    near.advance(now);
+    now += 0.05;
+    Spring expected(springs::hoverSpring, 0);
+    expected.retarget(1, start);
+    EXPECT_DOUBLE_EQ(far.advance(now).value(), 300 * expected.speed(now));
+    EXPECT_DOUBLE_EQ(near.advance(now).value(), 100 * expected.speed(now));
 }
 
-TEST_F(SpringValueTest, TellsOfEveryChangeOnceAndOfNoneThatIsNone) {
-    int targets = 0;
-    int kinds = 0;
-    int values = 0;
-    QObject::connect(&value, &SpringValue::targetChanged, [&] { ++targets; });
-    QObject::connect(&value, &SpringValue::springChanged, [&] { ++kinds; });
-    QObject::connect(&value, &SpringValue::valueChanged, [&] { ++values; });
+TEST_F(SpringValueTest, IsNotMovedByTheTargetThatItHas) {
     value.setTarget(0);
-    value.setSpring(SpringValue::Hover);
-    driver.step(1);
-    EXPECT_EQ(targets + kinds + values, 0);
-    value.setTarget(1);
-    value.setSpring(SpringValue::Morph);
-    driver.step(0);
-    EXPECT_EQ(values, 0);
-    driver.step(0.01);
-    EXPECT_EQ(targets, 1);
-    EXPECT_EQ(kinds, 1);
-    EXPECT_EQ(values, 1);
-}
-
-TEST_F(SpringValueTest, MayBeRetargetedByItsOwnChange) {
-    bool turned = false;
-    QObject::connect(&value, &SpringValue::valueChanged, [&] {
-        if (value.value() > 0.5 && !std::exchange(turned, true))
-            value.setTarget(-1);
-    });
-    value.setTarget(1);
-    for (int i = 0; i < 300; ++i)
-        driver.step(0.016);
-    EXPECT_TRUE(turned);
-    EXPECT_EQ(value.value(), -1);
-}
-
-TEST_F(SpringValueTest, MayGoWhileItMoves) {
-    auto going = std::make_unique<SpringValue>();
-    going->componentComplete();
-    going->setTarget(1);
-    value.setTarget(1);
-    driver.step(0);
-    driver.step(0.02);
-    going.reset();
-    driver.step(10);
-    EXPECT_EQ(value.value(), 1);
-}
-
-TEST_F(SpringValueTest, MayGoInTheFrameOfAnother) {
-    auto going = std::make_unique<SpringValue>();
-    going->componentComplete();
-    value.setTarget(1);
-    going->setTarget(1);
-    driver.step(0);
-    QObject::connect(&value, &SpringValue::valueChanged, [&] { going.reset(); });
-    driver.step(0.02);
-    EXPECT_EQ(going, nullptr);
-    driver.step(10);
-    EXPECT_EQ(value.value(), 1);
-}
-
-TEST(RunningSpringValue, ArrivesAndStopsTheDriver) {
-    SpringValue value;
-    value.setSpring(SpringValue::PulseRise);
-    value.componentComplete();
-    value.setTarget(1);
-    EXPECT_TRUE(FrameDriver::shared().isRunning());
-    EXPECT_TRUE(QTest::qWaitFor([] { return !FrameDriver::shared().isRunning(); }));
-    EXPECT_EQ(value.value(), 1);
+    value.setTarget(0, springs::hoverSpring);
+    EXPECT_FALSE(value.isMoving());
+    EXPECT_EQ(step(1), std::nullopt);
 }
 
 } // namespace

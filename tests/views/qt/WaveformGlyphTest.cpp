@@ -119,15 +119,5 @@ TEST(WaveformGlyph, StandsInTheMiddleOfItsRectangle) {
     EXPECT_EQ(test::inkRect(test::painted(glyph, {40, 40}, {10, 10})), QRect(11, 10, 14, 16));
 }
 
-TEST(WaveformGlyph, TellsOfRealChangesOnly) {
-    WaveformGlyph glyph;
-    int changes = 0;
-    QObject::connect(&glyph, &WaveformGlyph::activeChanged, [&] { ++changes; });
-    glyph.setActive(false);
-    glyph.setActive(true);
-    glyph.setActive(true);
-    EXPECT_EQ(changes, 1);
-}
-
 } // namespace
 } // namespace brellowind

@@ -1,4 +1,4 @@
-#include "views/qml/Stage.h"
+#include "views/pill/Stage.h"
 
 namespace brellowind {
 namespace {

@@ -1,9 +1,12 @@
 #include "support/PrintGeometry.h"
 #include "views/drawing/ArtworkImage.h"
 #include "views/drawing/Capsule.h"
+#include "views/drawing/Glyph.h"
 #include "views/drawing/LyricText.h"
 #include "views/drawing/PillShape.h"
-#include "views/qml/Stage.h"
+#include "views/drawing/WaveformGlyph.h"
+#include "views/pill/ArtworkCaption.h"
+#include "views/pill/Stage.h"
 
 #include <QFontMetricsF>
 #include <cmath>
@@ -240,17 +243,14 @@ TEST_F(PillLayout, ShowsTheCaptionInThePanelAlone) {
     EXPECT_EQ(below(artwork(), "ArtworkCaption"), nullptr);
     machine.view.tapCover();
     settle();
-    auto* caption = below(artwork(), "ArtworkCaption");
+    auto* caption = dynamic_cast<ArtworkCaption*>(below(artwork(), "ArtworkCaption"));
     ASSERT_NE(caption, nullptr);
     EXPECT_TRUE(caption->isVisible());
-    EXPECT_EQ(caption->parentItem()->opacity(), 1);
+    EXPECT_EQ(caption->opacity(), 1);
     EXPECT_EQ(layout(caption).bottom(), layout(artwork()).bottom());
     EXPECT_EQ(caption->width(), 320);
-    QStringList texts;
-    for (auto* text : below(caption, "Column")->childItems())
-        if (text->property("text").isValid())
-            texts.push_back(text->property("text").toString());
-    EXPECT_EQ(texts, (QStringList{QStringLiteral("Artist"), QStringLiteral("Title of the song")}));
+    EXPECT_EQ(caption->artist(), QStringLiteral("Artist"));
+    EXPECT_EQ(caption->title(), QStringLiteral("Title of the song"));
     machine.view.tapArtwork();
     settle();
     EXPECT_EQ(below(artwork(), "ArtworkCaption"), nullptr);
@@ -262,32 +262,32 @@ TEST_F(PillLayout, ShowsTheCaptionInThePanelAlone) {
 TEST_F(PillLayout, ShowsTheIndicatorAsThePlayerStands) {
     machine.appear();
     settle();
-    auto* glyph = below(waveform(), "WaveformGlyph");
-    auto* button = below(waveform(), "Glyph");
+    auto* glyph = dynamic_cast<WaveformGlyph*>(below(waveform(), "WaveformGlyph"));
+    auto* button = dynamic_cast<Glyph*>(below(waveform(), "Glyph"));
     ASSERT_TRUE(glyph && button);
     EXPECT_DOUBLE_EQ(glyph->opacity(), 0.4);
-    EXPECT_FALSE(glyph->property("active").toBool());
+    EXPECT_FALSE(glyph->isActive());
     EXPECT_FALSE(button->isVisible());
     machine.resume();
     settle();
     EXPECT_DOUBLE_EQ(glyph->opacity(), 0.9);
-    EXPECT_TRUE(glyph->property("active").toBool());
+    EXPECT_TRUE(glyph->isActive());
 }
 
 TEST_F(PillLayout, ShowsThePlayButtonUnderThePointer) {
     machine.appear();
     machine.view.hoverWaveform(true);
     settle();
-    auto* glyph = below(waveform(), "WaveformGlyph");
-    auto* button = below(waveform(), "Glyph");
+    auto* glyph = dynamic_cast<WaveformGlyph*>(below(waveform(), "WaveformGlyph"));
+    auto* button = dynamic_cast<Glyph*>(below(waveform(), "Glyph"));
     EXPECT_FALSE(glyph->isVisible());
     EXPECT_DOUBLE_EQ(button->opacity(), 0.8);
     EXPECT_EQ(button->size(), QSizeF(10, 16));
     EXPECT_DOUBLE_EQ(button->x(), 3 - 0.2);
-    EXPECT_EQ(button->property("kind").toInt(), 0) << "play";
+    EXPECT_EQ(button->kind(), Glyph::PlayFill);
     machine.view.tapWaveform();
     settle();
-    EXPECT_EQ(button->property("kind").toInt(), 1) << "pause";
+    EXPECT_EQ(button->kind(), Glyph::PauseFill);
 }
 
 TEST_F(PillLayout, BrightensAHoveredGrabber) {

@@ -1,7 +1,6 @@
-#include "views/qml/Stage.h"
+#include "views/pill/Stage.h"
 
 #include <QAccessible>
-#include <QQuickWindow>
 #include <functional>
 
 namespace brellowind {
@@ -109,9 +108,8 @@ TEST_F(PillAccessibility, OffersNoGrabberThatIsNotThere) {
 TEST_F(PillAccessibility, LetsTheMenuBeReadAndPressed) {
     machine.appear();
     click(middle(pill()), Qt::RightButton);
-    auto* menu = window.rootObject()->findChild<QQuickWindow*>(QStringLiteral("menu"));
-    ASSERT_TRUE(menu && menu->isVisible());
-    auto* root = QAccessible::queryAccessibleInterface(menu);
+    ASSERT_TRUE(menu() && menu()->isVisible());
+    auto* root = QAccessible::queryAccessibleInterface(menu());
     QStringList entries;
     find(root, [&](QAccessibleInterface* piece) {
         if (piece->role() == QAccessible::MenuItem)
@@ -125,7 +123,7 @@ TEST_F(PillAccessibility, LetsTheMenuBeReadAndPressed) {
         return piece->text(QAccessible::Name) == QStringLiteral("Quit Brellowind");
     }));
     EXPECT_EQ(machine.machine.application.terminations, 1);
-    EXPECT_FALSE(menu->isVisible());
+    EXPECT_FALSE(menu()->isVisible());
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 #include "views/NotchRootModel.h"
-#include "views/qml/Stage.h"
+#include "views/pill/Stage.h"
 
 #include <QSignalSpy>
 
@@ -55,7 +55,7 @@ TEST_F(PillRest, IsNotDisturbedByTicksThatChangeNoLine) {
     machine.view.hoverWaveform(true); // no wave runs then
     machine.advance(200ms);
     waitForRest();
-    const auto* model = window.rootObject()->property("model").value<NotchRootModel*>();
+    const auto* model = window.findChild<NotchRootModel*>();
     ASSERT_NE(model, nullptr);
     const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
     const QSignalSpy lines(model, &NotchRootModel::currentLineTextChanged);

@@ -1,4 +1,4 @@
-#include "views/qml/Stage.h"
+#include "views/pill/Stage.h"
 
 #include <QGuiApplication>
 
@@ -33,16 +33,14 @@ void Stage::step(double seconds) {
 }
 
 QQuickItem* Stage::item(const char* name) const {
-    auto* found = window.rootObject()->findChild<QQuickItem*>(QString::fromLatin1(name));
+    auto* found = window.contentItem()->findChild<QQuickItem*>(QString::fromLatin1(name));
     EXPECT_NE(found, nullptr) << name;
     return found;
 }
 
 QQuickItem* Stage::below(QQuickItem* parent, const char* type) {
     for (auto* child : parent->childItems()) {
-        const QByteArray name = child->metaObject()->className();
-        if (name == type || name.startsWith(QByteArray(type) + "_QML") ||
-            name == QByteArray("brellowind::") + type || name == QByteArray("QQuick") + type)
+        if (child->metaObject()->className() == QByteArray("brellowind::") + type)
             return child;
         if (auto* found = below(child, type))
             return found;

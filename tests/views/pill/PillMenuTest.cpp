@@ -1,19 +1,14 @@
-#include "views/qml/Stage.h"
+#include "views/pill/Stage.h"
 
 #include "settings/SettingsRouter.h"
-
-#include <QQuickWindow>
+#include "views/pill/PillMenuEntry.h"
 
 namespace brellowind {
 namespace {
 
-class PillMenu : public test::Stage {
+class PillMenuTest : public test::Stage {
 protected:
-    PillMenu() { machine.appear(); }
-
-    QQuickWindow* menu() const {
-        return window.rootObject()->findChild<QQuickWindow*>(QStringLiteral("menu"));
-    }
+    PillMenuTest() { machine.appear(); }
 
     void open(QPoint at) {
         click(at, Qt::RightButton);
@@ -21,16 +16,14 @@ protected:
     }
     void open() { open(middle(pill())); }
 
-    std::vector<QQuickItem*> entries() const {
-        std::vector<QQuickItem*> found;
-        collect(menu()->contentItem(), found);
-        return found;
+    QList<PillMenuEntry*> entries() {
+        return menu()->contentItem()->findChildren<PillMenuEntry*>();
     }
 
-    QStringList texts() const {
+    QStringList texts() {
         QStringList result;
         for (auto* entry : entries())
-            result.push_back(entry->property("text").toString());
+            result.push_back(entry->text());
         return result;
     }
 
@@ -39,17 +32,9 @@ protected:
         QTest::mouseClick(menu(), Qt::LeftButton, {}, middle(entries().at(index)));
         machine.runTurns();
     }
-
-private:
-    static void collect(QQuickItem* item, std::vector<QQuickItem*>& found) {
-        if (QByteArray(item->metaObject()->className()).startsWith("PillMenuEntry"))
-            found.push_back(item);
-        for (auto* child : item->childItems())
-            collect(child, found);
-    }
 };
 
-TEST_F(PillMenu, IsMadeWhenItIsFirstWantedAndThenKept) {
+TEST_F(PillMenuTest, IsMadeWhenItIsFirstWantedAndThenKept) {
     EXPECT_EQ(menu(), nullptr);
     open();
     const auto* made = menu();
@@ -58,7 +43,7 @@ TEST_F(PillMenu, IsMadeWhenItIsFirstWantedAndThenKept) {
     EXPECT_EQ(menu(), made);
 }
 
-TEST_F(PillMenu, OpensOnASecondaryClickAnywhereOnThePill) {
+TEST_F(PillMenuTest, OpensOnASecondaryClickAnywhereOnThePill) {
     for (auto* piece : {pill(), artwork(), waveform()}) {
         const auto before = form();
         open(middle(piece));
@@ -71,7 +56,7 @@ TEST_F(PillMenu, OpensOnASecondaryClickAnywhereOnThePill) {
     EXPECT_EQ(machine.spotify.toggles(), 0U);
 }
 
-TEST_F(PillMenu, OpensInTheArtworkPanelAndWhileMinimized) {
+TEST_F(PillMenuTest, OpensInTheArtworkPanelAndWhileMinimized) {
     click(artwork());
     settle();
     open(middle(artwork()));
@@ -83,27 +68,27 @@ TEST_F(PillMenu, OpensInTheArtworkPanelAndWhileMinimized) {
     open();
 }
 
-TEST_F(PillMenu, OpensWhereThePointerIs) {
+TEST_F(PillMenuTest, OpensWhereThePointerIs) {
     const QPoint at = onWindow(pill(), {150, 40});
     open(at);
     EXPECT_EQ(menu()->position(), window.mapToGlobal(at));
 }
 
-TEST_F(PillMenu, HasItsEntriesInOrder) {
+TEST_F(PillMenuTest, HasItsEntriesInOrder) {
     open();
     EXPECT_EQ(texts(),
               (QStringList{QStringLiteral("Open Settings"), QString::fromUtf8("Check for Updates…"),
                            QStringLiteral("Quit Brellowind")}));
 }
 
-TEST_F(PillMenu, OpensTheSettings) {
+TEST_F(PillMenuTest, OpensTheSettings) {
     choose(0);
     EXPECT_EQ(machine.settingsOpenings, 1);
     EXPECT_EQ(machine.machine.application.activations, 1);
     EXPECT_FALSE(menu()->isVisible());
 }
 
-TEST_F(PillMenu, ChecksForUpdates) {
+TEST_F(PillMenuTest, ChecksForUpdates) {
     SettingsRouter::shared().setSelectedTab(SettingsTab::about);
     const auto before = machine.requests();
     choose(1);
@@ -113,20 +98,20 @@ TEST_F(PillMenu, ChecksForUpdates) {
     EXPECT_FALSE(menu()->isVisible());
 }
 
-TEST_F(PillMenu, Quits) {
+TEST_F(PillMenuTest, Quits) {
     choose(2);
     EXPECT_EQ(machine.machine.application.terminations, 1);
     EXPECT_EQ(machine.settingsOpenings, 0);
 }
 
-TEST_F(PillMenu, ClosesOnEscapeAndDoesNothing) {
+TEST_F(PillMenuTest, ClosesOnEscapeAndDoesNothing) {
     open();
     QTest::keyClick(menu(), Qt::Key_Escape);
     EXPECT_FALSE(menu()->isVisible());
     EXPECT_EQ(machine.settingsOpenings, 0);
 }
 
-TEST_F(PillMenu, ClosesOnAPressBesideIt) {
+TEST_F(PillMenuTest, ClosesOnAPressBesideIt) {
     for (const QPointF beside : {QPointF(-40, 20), QPointF(20, -1), QPointF(20, 400)}) {
         open();
         // A popup hears of every press while it is open, in its own coordinates.
@@ -137,20 +122,20 @@ TEST_F(PillMenu, ClosesOnAPressBesideIt) {
     }
 }
 
-TEST_F(PillMenu, StaysOpenOnOtherKeys) {
+TEST_F(PillMenuTest, StaysOpenOnOtherKeys) {
     open();
     QTest::keyClick(menu(), Qt::Key_A);
     EXPECT_TRUE(menu()->isVisible());
 }
 
-TEST_F(PillMenu, LetsThePillBeTappedAgainOnceItIsClosed) {
+TEST_F(PillMenuTest, LetsThePillBeTappedAgainOnceItIsClosed) {
     open();
     QTest::keyClick(menu(), Qt::Key_Escape);
     click(onWindow(pill(), {100, 12}));
     EXPECT_TRUE(form().isMinimized);
 }
 
-TEST_F(PillMenu, ClosesOnAClickOnThePill) {
+TEST_F(PillMenuTest, ClosesOnAClickOnThePill) {
     open(onWindow(pill(), {150, 40}));
     const auto before = form();
     click(onWindow(pill(), {60, 12}));
@@ -158,7 +143,7 @@ TEST_F(PillMenu, ClosesOnAClickOnThePill) {
     EXPECT_EQ(form(), before) << "the click that closes a menu does nothing else";
 }
 
-TEST_F(PillMenu, StaysOpenWhenThePointerLeavesThePill) {
+TEST_F(PillMenuTest, StaysOpenWhenThePointerLeavesThePill) {
     machine.movePointer(test::View::overThePill);
     open();
     machine.movePointer(test::View::elsewhere);
@@ -166,13 +151,13 @@ TEST_F(PillMenu, StaysOpenWhenThePointerLeavesThePill) {
     EXPECT_TRUE(menu()->isVisible());
 }
 
-TEST_F(PillMenu, StaysOpenOnAClickOnItsRim) {
+TEST_F(PillMenuTest, StaysOpenOnAClickOnItsRim) {
     open();
     QTest::mouseClick(menu(), Qt::LeftButton, {}, QPoint(2, 2));
     EXPECT_TRUE(menu()->isVisible());
 }
 
-TEST_F(PillMenu, CanBeOpenedAgain) {
+TEST_F(PillMenuTest, CanBeOpenedAgain) {
     open();
     QTest::keyClick(menu(), Qt::Key_Escape);
     const QPoint at = onWindow(pill(), {120, 30});

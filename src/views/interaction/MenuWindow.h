@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QQuickWindow>
-#include <QtQml/qqmlregistration.h>
 
 namespace brellowind {
 
@@ -10,8 +9,6 @@ namespace brellowind {
 /// also where nothing makes windows transparent.
 class MenuWindow : public QQuickWindow {
     Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(double radius READ radius CONSTANT)
 
 public:
     explicit MenuWindow(QWindow* parent = nullptr);

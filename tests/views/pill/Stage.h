@@ -3,6 +3,8 @@
 #include "views/NotchQuickView.h"
 #include "views/RootViewFixture.h"
 #include "views/motion/FrameDriver.h"
+#include "views/pill/Pill.h"
+#include "views/pill/PillMenu.h"
 
 #include <QQuickItem>
 #include <QTest>
@@ -29,8 +31,11 @@ protected:
     /// The item of that name.
     QQuickItem* item(const char* name) const;
 
-    /// The first item below `parent` whose QML or C++ type has that name.
+    /// The first item below `parent` whose type has that name.
     static QQuickItem* below(QQuickItem* parent, const char* type);
+
+    /// The context menu, once it was wanted.
+    PillMenu* menu() { return window.pill().menu(); }
 
     QQuickItem* pill() const { return item("pill"); }
     QQuickItem* artwork() const { return item("artwork"); }

@@ -1,4 +1,4 @@
-#include "views/MenuWindow.h"
+#include "views/interaction/MenuWindow.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

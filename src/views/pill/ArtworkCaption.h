@@ -1,0 +1,29 @@
+#pragma once
+
+#include "views/drawing/VisualEffectBlur.h"
+
+#include <QString>
+
+namespace brellowind {
+
+/// Artist and title on the lower edge of the enlarged artwork, each cut with an ellipsis where that
+/// ends.
+class ArtworkCaption : public VisualEffectBlur {
+    Q_OBJECT
+
+public:
+    explicit ArtworkCaption(QQuickItem* parent);
+
+    void setTexts(const QString& artist, const QString& title);
+
+    QString artist() const { return artist_; }
+    QString title() const { return title_; }
+
+    void paint(QPainter& painter) override;
+
+private:
+    QString artist_;
+    QString title_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,78 @@
+#include "views/pill/FloatingArtwork.h"
+
+#include "views/NotchRootModel.h"
+#include "views/drawing/ArtworkImage.h"
+#include "views/interaction/TapArea.h"
+#include "views/pill/ArtworkCaption.h"
+#include "views/pill/PillMotion.h"
+#include "views/pill/Style.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brellowind {
+namespace {
+
+constexpr double popScale = 0.18;
+constexpr double popTilt = -6; ///< degrees
+
+} // namespace
+
+FloatingArtwork::FloatingArtwork(NotchRootModel& model, QQuickItem* parent)
+    : QQuickItem(parent), model_(model), image_(new ArtworkImage(this)),
+      area_(new TapArea(QAccessible::Button, this)) {
+    area_->setName(tr("Show artwork"));
+    area_->setAcceptHoverEvents(true);
+    connect(area_, &TapArea::tapped, this, [this] { model_.tapCover(); });
+    connect(area_, &TapArea::hoveredChanged, this,
+            [this](bool hovered) { model_.hoverCover(hovered); });
+    follow();
+}
+
+void FloatingArtwork::follow() {
+    image_->setImage(model_.coverImage());
+    area_->setEnabled(!model_.isArtExpanded());
+    if (caption_)
+        fillCaption();
+}
+
+void FloatingArtwork::layOut(const PillMotion& motion, double left) {
+    const double expand = motion.expand.value();
+    setPosition(
+        {left + style::mix(style::sidePadding, style::panelSidePadding, expand),
+         style::mix(style::topPadding,
+                    style::panelTopPadding + style::bandHeight + style::panelSpacing, expand)});
+    setSize({style::swell(style::thumbnailWidth, style::artworkSide, expand),
+             style::swell(style::bandHeight, style::artworkSide, expand)});
+    image_->setSize(size());
+    image_->setRadius(
+        std::max(0.0, style::mix(style::thumbnailRadius, style::artworkRadius, expand)));
+    image_->setScale(1 + popScale * motion.thumbnail.value());
+    image_->setRotation(popTilt * motion.thumbnail.value());
+    area_->setSize(size());
+    showCaption(std::clamp(2 * expand - 1, 0.0, 1.0));
+}
+
+/// The caption is laid out once for the whole artwork, with which it grows.
+void FloatingArtwork::showCaption(double opacity) {
+    if (opacity <= 0) {
+        delete std::exchange(caption_, nullptr);
+        return;
+    }
+    if (!caption_) {
+        caption_ = new ArtworkCaption(this);
+        caption_->stackBefore(area_);
+        caption_->setTransformOrigin(BottomLeft);
+        fillCaption();
+    }
+    caption_->setOpacity(opacity);
+    caption_->setScale(width() / style::artworkSide);
+    caption_->setY(height() - caption_->height());
+}
+
+void FloatingArtwork::fillCaption() {
+    caption_->setImage(model_.coverImage());
+    caption_->setTexts(model_.artist(), model_.title());
+}
+
+} // namespace brellowind

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QQuickItem>
+
+namespace brellowind {
+
+class ArtworkCaption;
+class ArtworkImage;
+class NotchRootModel;
+class TapArea;
+struct PillMotion;
+
+/// The cover, gliding between the thumbnail's place and the panel's.
+class FloatingArtwork : public QQuickItem {
+    Q_OBJECT
+
+public:
+    FloatingArtwork(NotchRootModel& model, QQuickItem* parent);
+
+    /// Shows what the model has now.
+    void follow();
+
+    /// Takes its place in a pill whose left edge is at `left`.
+    void layOut(const PillMotion& motion, double left);
+
+private:
+    void showCaption(double opacity);
+    void fillCaption();
+
+    NotchRootModel& model_;
+    ArtworkImage* image_;
+    ArtworkCaption* caption_ = nullptr; ///< made when it is first seen, and given back
+    TapArea* area_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,48 @@
+#include "views/pill/Grabber.h"
+
+#include "views/NotchRootModel.h"
+#include "views/drawing/Capsule.h"
+#include "views/interaction/TapArea.h"
+#include "views/pill/PillMotion.h"
+#include "views/pill/Style.h"
+
+#include <algorithm>
+
+namespace brellowind {
+namespace {
+
+constexpr double reach = 12; ///< around it, within which it is pressed as well
+constexpr double faint = 0.15;
+constexpr double bright = 0.25;
+
+} // namespace
+
+Grabber::Grabber(NotchRootModel& model, QQuickItem* parent)
+    : QQuickItem(parent), model_(model), capsule_(new Capsule(this)),
+      area_(new TapArea(QAccessible::Button, this)) {
+    setSize({style::grabberWidth, style::grabberPadding + style::grabberHeight});
+    capsule_->setPosition({0, style::grabberPadding});
+    capsule_->setSize({style::grabberWidth, style::grabberHeight});
+    area_->setPosition({-reach, -reach});
+    area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
+    area_->setAcceptHoverEvents(true);
+    connect(area_, &TapArea::tapped, this, [this] { model_.tapGrabber(); });
+    connect(area_, &TapArea::hoveredChanged, this,
+            [this](bool hovered) { model_.hoverGrabber(hovered); });
+    follow();
+}
+
+void Grabber::follow() {
+    area_->setName(model_.isArtExpanded() ? tr("Close artwork")
+                   : model_.isMinimized() ? tr("Show lyrics")
+                                          : tr("Hide lyrics"));
+}
+
+void Grabber::layOut(const PillMotion& motion) {
+    const double brightness = style::mix(faint, bright, motion.grabber.value());
+    capsule_->setColor(QColor::fromRgbF(1, 1, 1, static_cast<float>(brightness)));
+    setOpacity(std::clamp(std::max(motion.hover.value(), motion.expand.value()), 0.0, 1.0));
+    setVisible(opacity() > 0);
+}
+
+} // namespace brellowind

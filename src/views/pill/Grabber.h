@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QQuickItem>
+
+namespace brellowind {
+
+class Capsule;
+class NotchRootModel;
+class TapArea;
+struct PillMotion;
+
+/// The handle at the lower edge of a pill that the pointer is over.
+class Grabber : public QQuickItem {
+    Q_OBJECT
+
+public:
+    Grabber(NotchRootModel& model, QQuickItem* parent);
+
+    /// Shows what the model has now.
+    void follow();
+
+    void layOut(const PillMotion& motion);
+
+private:
+    NotchRootModel& model_;
+    Capsule* capsule_;
+    TapArea* area_;
+};
+
+} // namespace brellowind

@@ -1,0 +1,181 @@
+#include "views/pill/Pill.h"
+
+#include "views/NotchRootModel.h"
+#include "views/drawing/LyricText.h"
+#include "views/drawing/PillShape.h"
+#include "views/interaction/TapArea.h"
+#include "views/pill/FloatingArtwork.h"
+#include "views/pill/Grabber.h"
+#include "views/pill/PillMenu.h"
+#include "views/pill/Style.h"
+#include "views/pill/Waveform.h"
+
+#include <QQuickWindow>
+#include <algorithm>
+#include <utility>
+
+namespace brellowind {
+namespace {
+
+constexpr double hoverScale = 0.03;
+
+template <typename Item>
+Item* named(Item* item, const char* name) {
+    item->setObjectName(QString::fromLatin1(name));
+    return item;
+}
+
+LyricText::Look lineLook() {
+    return {style::font(13, QFont::Medium), style::text};
+}
+
+LyricText::Look panelLineLook() {
+    return {style::font(15, QFont::DemiBold), style::text, style::artworkSide};
+}
+
+void centre(QQuickItem& item, double width) {
+    item.setX((width - item.width()) / 2);
+}
+
+} // namespace
+
+Pill::Pill(NotchRootModel& model, QQuickItem* parent)
+    : QQuickItem(parent), model_(model), shape_(named(new PillShape(this), "pill")),
+      background_(new TapArea(QAccessible::Grouping, this)), inside_(new QQuickItem(this)),
+      line_(named(new LyricText(lineLook(), model.currentLineText(), !model.isMinimized(), inside_),
+                  "lyricLine")),
+      artwork_(named(new FloatingArtwork(model, this), "artwork")),
+      waveform_(named(new Waveform(model, this), "waveform")),
+      grabber_(named(new Grabber(model, this), "grabber")), motion_(model, line_->naturalWidth()) {
+    setObjectName(QStringLiteral("notch"));
+    setTransformOrigin(Top);
+    inside_->setClip(true);
+    background_->setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
+    connect(background_, &TapArea::tapped, this, &Pill::tapBackground);
+    connect(background_, &TapArea::menuRequested, this, &Pill::openMenu);
+    for (const auto change : {&NotchRootModel::currentLineTextChanged,
+                              &NotchRootModel::trackChanged, &NotchRootModel::coverImageChanged,
+                              &NotchRootModel::isPlayingChanged, &NotchRootModel::formChanged})
+        connect(&model_, change, this, &Pill::follow);
+    follow();
+}
+
+Pill::~Pill() {
+    FrameDriver::shared().forget(*this);
+}
+
+void Pill::openMenu(QPointF position) {
+    if (!menu_)
+        menu_ = std::make_unique<PillMenu>(model_);
+    menu_->setTransientParent(window());
+    menu_->popup(position.toPoint());
+}
+
+void Pill::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    layOut();
+}
+
+std::optional<double> Pill::advance(double now) {
+    const auto speed = motion_.advance(now);
+    followPanel();
+    layOut();
+    return speed;
+}
+
+void Pill::follow() {
+    line_->setText(model_.currentLineText());
+    line_->setPresent(!model_.isMinimized());
+    background_->setName(model_.currentLineText());
+    followPanel();
+    artwork_->follow();
+    waveform_->follow();
+    grabber_->follow();
+    motion_.follow(model_, line_->naturalWidth());
+    if (motion_.isMoving())
+        FrameDriver::shared().drive(*this);
+    layOut();
+}
+
+void Pill::followPanel() {
+    if (!model_.isArtExpanded() && motion_.expand.value() == 0)
+        delete std::exchange(panelLine_, nullptr);
+    else if (panelLine_)
+        panelLine_->setText(model_.currentLineText());
+    else
+        panelLine_ = named(new LyricText(panelLineLook(), model_.currentLineText(), true, inside_),
+                           "panelLine");
+}
+
+void Pill::tapBackground() {
+    if (model_.isArtExpanded())
+        model_.tapArtwork();
+    else
+        model_.tapBackground();
+}
+
+void Pill::layOut() {
+    const double expand = motion_.expand.value();
+    setScale((1 + hoverScale * motion_.hover.value()) * motion_.pulse.value());
+
+    shape_->setSize(
+        {style::mix(motion_.lineWidth.value() + 2 * style::sidePadding, style::panelWidth, expand),
+         style::swell(collapsedHeight(), panelHeight(), expand)});
+    shape_->setLift(motion_.hover.value());
+    centre(*shape_, width());
+    model_.sizeChanged(shape_->width(), shape_->height());
+    background_->setPosition(shape_->position());
+    background_->setSize(shape_->size());
+
+    layOutTexts();
+    artwork_->layOut(motion_, shape_->x());
+    waveform_->layOut(motion_);
+    waveform_->setPosition({shape_->x() + shape_->width() - waveform_->width() -
+                                style::mix(style::sidePadding, style::panelSidePadding, expand),
+                            style::mix(style::topPadding, style::panelTopPadding, expand) +
+                                (style::bandHeight - waveform_->height()) / 2});
+    grabber_->layOut(motion_);
+    centre(*grabber_, width());
+    grabber_->setY(shape_->height() - grabber_->height() -
+                   style::mix(bottomPadding(), style::panelBottomPadding, expand));
+}
+
+/// They stay within the pill's sides, which stand beside its flaring top corners, and its bottom.
+void Pill::layOutTexts() {
+    const double expand = motion_.expand.value();
+    const double margin = shape_->flare() + 1;
+    inside_->setPosition({shape_->x() + margin, 0});
+    inside_->setSize({shape_->width() - 2 * margin, shape_->height() - 1});
+
+    line_->setOpacity(std::clamp(1 - 2.5 * expand, 0.0, 1.0)); // gone before the artwork is there
+    line_->setVisible(line_->opacity() > 0);
+    line_->setY(style::topPadding + style::bandHeight + style::spacing);
+    centre(*line_, inside_->width());
+    if (!panelLine_)
+        return;
+    panelLine_->setOpacity(std::clamp(expand, 0.0, 1.0));
+    panelLine_->setVisible(panelLine_->opacity() > 0);
+    panelLine_->setY(style::panelTopPadding + style::bandHeight + style::panelSpacing +
+                     style::artworkSide + style::panelSpacing);
+    centre(*panelLine_, inside_->width());
+}
+
+double Pill::bottomPadding() const {
+    return style::mix(style::minimizedBottomPadding, style::bottomPadding, motion_.unfold.value());
+}
+
+double Pill::collapsedHeight() const {
+    return style::topPadding + style::bandHeight +
+           motion_.unfold.value() * (style::spacing + line_->implicitHeight()) +
+           motion_.hover.value() * (style::spacing + style::grabberPadding + style::grabberHeight) +
+           bottomPadding();
+}
+
+double Pill::panelHeight() const {
+    const double lineHeight = panelLine_ ? panelLine_->implicitHeight() : 0;
+    return style::panelTopPadding + style::bandHeight + style::panelSpacing + style::artworkSide +
+           style::panelSpacing + lineHeight + style::panelSpacing + style::grabberPadding +
+           style::grabberHeight + style::panelBottomPadding;
+}
+
+} // namespace brellowind

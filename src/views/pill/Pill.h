@@ -1,0 +1,65 @@
+#pragma once
+
+#include "views/motion/FrameDriver.h"
+#include "views/pill/PillMotion.h"
+
+#include <QQuickItem>
+#include <memory>
+
+namespace brellowind {
+
+class FloatingArtwork;
+class Grabber;
+class LyricText;
+class NotchRootModel;
+class PillMenu;
+class PillShape;
+class TapArea;
+class Waveform;
+
+/// The black pill and all that is in it, hanging from the middle of its top edge. It shows what the
+/// model has: each change of the model turns its springs, and each frame lays it out anew.
+class Pill : public QQuickItem, private Animated {
+    Q_OBJECT
+
+public:
+    /// `model` must outlive it.
+    Pill(NotchRootModel& model, QQuickItem* parent);
+    ~Pill() override;
+
+    const PillShape& shape() const { return *shape_; }
+
+    /// The context menu; null until it was first wanted.
+    PillMenu* menu() { return menu_.get(); }
+
+    /// Opens the context menu at a point of the desktop.
+    void openMenu(QPointF position);
+
+protected:
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+
+private:
+    std::optional<double> advance(double now) override;
+    void follow();
+    void followPanel();
+    void tapBackground();
+    void layOut();
+    void layOutTexts();
+    double bottomPadding() const;
+    double collapsedHeight() const;
+    double panelHeight() const;
+
+    NotchRootModel& model_;
+    PillShape* shape_;
+    TapArea* background_;
+    QQuickItem* inside_; ///< clips the texts
+    LyricText* line_;
+    LyricText* panelLine_ = nullptr; ///< there while the artwork panel is seen
+    FloatingArtwork* artwork_;
+    Waveform* waveform_;
+    Grabber* grabber_;
+    PillMotion motion_;
+    std::unique_ptr<PillMenu> menu_; ///< made when it is first wanted: most days it never is
+};
+
+} // namespace brellowind

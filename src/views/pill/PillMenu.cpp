@@ -1,0 +1,65 @@
+#include "views/pill/PillMenu.h"
+
+#include "views/NotchRootModel.h"
+#include "views/drawing/PainterItem.h"
+#include "views/pill/PillMenuEntry.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <algorithm>
+#include <utility>
+
+namespace brellowind {
+namespace {
+
+constexpr int padding = 5;
+
+/// The edge of the menu and what is behind its entries.
+class MenuBackground final : public PainterItem {
+public:
+    MenuBackground(double radius, QQuickItem* parent) : PainterItem(parent), radius_(radius) {}
+
+    void paint(QPainter& painter) override {
+        painter.setPen(QColor::fromRgbF(1, 1, 1, 0.12F));
+        painter.setBrush(QColor::fromRgbF(0.11F, 0.11F, 0.12F));
+        painter.drawRoundedRect(boundingRect().adjusted(0.5, 0.5, -0.5, -0.5), radius_ - 0.5,
+                                radius_ - 0.5);
+    }
+
+private:
+    double radius_;
+};
+
+} // namespace
+
+PillMenu::PillMenu(NotchRootModel& model) : nextTop_(padding) {
+    setObjectName(QStringLiteral("menu"));
+    auto* background = new MenuBackground(radius(), contentItem());
+    add(tr("Open Settings"), [&model] { model.openSettings(); });
+    add(tr("Check for Updates…"), [&model] { model.checkForUpdates(); });
+    add(tr("Quit Brellowind"), [&model] { model.quit(); });
+    const QSizeF size(PillMenuEntry::entryWidth + 2 * padding, nextTop_ + padding);
+    background->setSize(size);
+    resize(size.toSize());
+}
+
+void PillMenu::popup(QPoint position) {
+    const auto* at = QGuiApplication::screenAt(position);
+    const QRect area = (at ? at : screen())->geometry();
+    setPosition(std::max(area.x(), std::min(position.x(), area.x() + area.width() - width())),
+                std::max(area.y(), std::min(position.y(), area.y() + area.height() - height())));
+    show();
+}
+
+void PillMenu::add(const QString& text, std::function<void()> action) {
+    auto* entry = new PillMenuEntry(text, contentItem());
+    entry->setPosition({padding, nextTop_});
+    nextTop_ += entry->height();
+    connect(entry, &PillMenuEntry::triggered, this, [this, action = std::move(action)] {
+        close();
+        action();
+    });
+}
+
+} // namespace brellowind

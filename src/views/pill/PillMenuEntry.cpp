@@ -1,0 +1,47 @@
+#include "views/pill/PillMenuEntry.h"
+
+#include "views/interaction/TapArea.h"
+#include "views/pill/Style.h"
+
+#include <QPainter>
+
+namespace brellowind {
+namespace {
+
+constexpr double entryHeight = 26;
+constexpr double indent = 10;
+constexpr double cornerRadius = 6;
+
+const QColor highlight = QColor::fromRgbF(1, 1, 1, 0.14F);
+
+} // namespace
+
+PillMenuEntry::PillMenuEntry(const QString& text, QQuickItem* parent)
+    : PainterItem(parent), text_(text) {
+    setSize({entryWidth, entryHeight});
+    auto* area = new TapArea(QAccessible::MenuItem, this);
+    area->setSize(size());
+    area->setName(text);
+    area->setAcceptHoverEvents(true);
+    connect(area, &TapArea::hoveredChanged, this, &PillMenuEntry::setHighlighted);
+    connect(area, &TapArea::tapped, this, &PillMenuEntry::triggered);
+}
+
+void PillMenuEntry::paint(QPainter& painter) {
+    const QRectF rect = boundingRect();
+    if (highlighted_) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(highlight);
+        painter.drawRoundedRect(rect, cornerRadius, cornerRadius);
+    }
+    painter.setFont(style::font(13));
+    painter.setPen(style::text);
+    painter.drawText(rect.adjusted(indent, 0, 0, 0), Qt::AlignVCenter | Qt::TextSingleLine, text_);
+}
+
+void PillMenuEntry::setHighlighted(bool highlighted) {
+    highlighted_ = highlighted;
+    update();
+}
+
+} // namespace brellowind

@@ -1,0 +1,58 @@
+#include "views/pill/Waveform.h"
+
+#include "views/NotchRootModel.h"
+#include "views/drawing/Glyph.h"
+#include "views/drawing/WaveformGlyph.h"
+#include "views/interaction/TapArea.h"
+#include "views/pill/PillMotion.h"
+
+#include <algorithm>
+
+namespace brellowind {
+namespace {
+
+constexpr double side = 16;
+constexpr double buttonWidth = 10;
+constexpr double buttonShift = -0.2; ///< from the middle
+constexpr double reach = 10;         ///< around it, within which it is pressed as well
+
+constexpr double playingOpacity = 0.9;
+constexpr double pausedOpacity = 0.4;
+constexpr double buttonOpacity = 0.8;
+
+void show(QQuickItem& item, double opacity) {
+    item.setOpacity(opacity);
+    item.setVisible(opacity > 0);
+}
+
+} // namespace
+
+Waveform::Waveform(NotchRootModel& model, QQuickItem* parent)
+    : QQuickItem(parent), model_(model), waveform_(new WaveformGlyph(this)),
+      button_(new Glyph(this)), area_(new TapArea(QAccessible::Button, this)) {
+    setSize({side, side});
+    waveform_->setSize(size());
+    button_->setPosition({(side - buttonWidth) / 2 + buttonShift, 0});
+    button_->setSize({buttonWidth, side});
+    area_->setPosition({-reach, -reach});
+    area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
+    area_->setAcceptHoverEvents(true);
+    connect(area_, &TapArea::tapped, this, [this] { model_.tapWaveform(); });
+    connect(area_, &TapArea::hoveredChanged, this,
+            [this](bool hovered) { model_.hoverWaveform(hovered); });
+    follow();
+}
+
+void Waveform::follow() {
+    waveform_->setActive(model_.isPlaying());
+    button_->setKind(model_.isPlaying() ? Glyph::PauseFill : Glyph::PlayFill);
+    area_->setName(model_.isPlaying() ? tr("Pause") : tr("Play"));
+}
+
+void Waveform::layOut(const PillMotion& motion) {
+    const double swap = std::clamp(motion.indicator.value(), 0.0, 1.0);
+    show(*waveform_, (model_.isPlaying() ? playingOpacity : pausedOpacity) * (1 - swap));
+    show(*button_, buttonOpacity * swap);
+}
+
+} // namespace brellowind
