@@ -3,13 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <type_traits>
+#include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace brellowind {
 namespace {
 
 constexpr int passes = 3;
+constexpr double strongestSigma = 120; ///< its sums just fit into 16 bits
 
 /// The radii of box filters that one after the other come close to a Gaussian.
 std::array<int, passes> boxRadii(double sigma) {
@@ -27,51 +29,92 @@ std::array<int, passes> boxRadii(double sigma) {
     return radii;
 }
 
-/// One box filter over a row of `count` elements, which lie `stride` bytes apart and are each made
-/// of `width` samples: the pixels of a line, or whole lines. So a filter down the image reads it
-/// line by line, many samples at a time.
-template <typename Width>
-void boxFilter(const uchar* from, uchar* to, std::ptrdiff_t stride, int count, Width width,
-               int radius, unsigned* sums) {
-    const unsigned reciprocal = (1U << 24) / static_cast<unsigned>(2 * radius + 1);
-    std::fill_n(sums, int(width), 0U);
-    const auto add = [&](const uchar* element) {
-        for (int i = 0; i < width; ++i)
-            sums[i] += element[i];
-    };
-    for (int i = 0; i < std::min(radius, count); ++i)
-        add(from + i * stride);
-    for (int i = 0; i < count; ++i) {
-        if (i + radius < count)
-            add(from + (i + radius) * stride);
-        uchar* const element = to + i * stride;
-        for (int k = 0; k < width; ++k)
-            element[k] = static_cast<uchar>((sums[k] * reciprocal + (1U << 23)) >> 24);
-        if (i - radius < 0)
-            continue;
-        const uchar* const left = from + (i - radius) * stride;
-        for (int k = 0; k < width; ++k)
-            sums[k] -= left[k];
+/// Samples line by line, without a line's end that a processor's vectors would not fill.
+struct Lines {
+    Lines(std::size_t lineWidth, int lineCount)
+        : width((lineWidth + 15) / 16 * 16), height(lineCount),
+          samples(width * static_cast<std::size_t>(lineCount)) {}
+
+    uchar* line(int y) { return samples.data() + static_cast<std::size_t>(y) * width; }
+    const uchar* line(int y) const { return samples.data() + static_cast<std::size_t>(y) * width; }
+
+    std::size_t width;
+    int height;
+    std::vector<uchar> samples;
+};
+
+/// Moves the box one line down: `mean` is what is in it with the entering line, before the leaving
+/// line goes. Nothing overlaps and every sample has its own copy of the reciprocal, so that
+/// compilers see one instruction that yields the upper halves of many short products.
+void slide(std::uint16_t* __restrict sums, const uchar* __restrict entering,
+           const uchar* __restrict leaving, const std::uint16_t* __restrict reciprocals,
+           uchar* __restrict mean, std::size_t width) {
+    for (std::size_t x = 0; x < width; ++x) {
+        const auto sum = static_cast<std::uint16_t>(sums[x] + entering[x]);
+        mean[x] = static_cast<uchar>(static_cast<unsigned>(sum) * reciprocals[x] >> 16);
+        sums[x] = static_cast<std::uint16_t>(sum - leaving[x]);
     }
 }
 
-template <int channels>
-void blurChannels(QImage& image, double sigma) {
-    const std::ptrdiff_t rowStride = image.bytesPerLine();
-    const int rowWidth = image.width() * channels;
-    uchar* const bits = image.bits();
-    std::vector<uchar> scratch(static_cast<std::size_t>(image.sizeInBytes()));
-    std::vector<unsigned> sums(static_cast<std::size_t>(rowWidth));
-    std::array<unsigned, channels> pixelSums;
-    constexpr std::integral_constant<int, channels> pixelWidth;
+/// One box filter down the columns, all samples of a line at a time.
+void boxFilter(const Lines& from, Lines& to, int radius) {
+    const std::vector<std::uint16_t> reciprocals(
+        from.width, static_cast<std::uint16_t>((1 << 16) / (2 * radius + 1)));
+    const std::vector<uchar> clear(from.width);
+    const auto line = [&](int y) {
+        return y >= 0 && y < from.height ? from.line(y) : clear.data();
+    };
+    // Half a divisor in every sum rounds what is cut off otherwise.
+    std::vector<std::uint16_t> sums(from.width, static_cast<std::uint16_t>(radius));
+    for (int y = 0; y < radius; ++y)
+        std::transform(sums.begin(), sums.end(), line(y), sums.begin(), std::plus<>());
+    for (int y = 0; y < from.height; ++y)
+        slide(sums.data(), line(y + radius), line(y - radius), reciprocals.data(), to.line(y),
+              from.width);
+}
+
+void blurDown(Lines& lines, double sigma) {
+    Lines other = lines;
     for (const int radius : boxRadii(sigma)) {
         if (radius < 1)
             continue;
-        for (int y = 0; y < image.height(); ++y)
-            boxFilter(bits + y * rowStride, scratch.data() + y * rowStride, channels, image.width(),
-                      pixelWidth, radius, pixelSums.data());
-        boxFilter(scratch.data(), bits, rowStride, image.height(), rowWidth, radius, sums.data());
+        boxFilter(lines, other, radius);
+        lines.samples.swap(other.samples);
     }
+}
+
+/// A filter down the columns is the same work for all samples of a line, which a processor does
+/// many at a time. So the filter along the lines is one down the columns of the image laid on its
+/// side.
+template <typename Pixel>
+void transpose(const uchar* from, std::size_t fromStride, uchar* to, std::size_t toStride,
+               int width, int height) {
+    for (int x = 0; x < width; ++x, to += toStride) {
+        const uchar* pixel = from + static_cast<std::size_t>(x) * sizeof(Pixel);
+        for (int y = 0; y < height; ++y, pixel += fromStride)
+            reinterpret_cast<Pixel*>(to)[y] = *reinterpret_cast<const Pixel*>(pixel);
+    }
+}
+
+/// A filter down the columns is the same work for all samples of a line, which a processor does
+/// many at a time. So the filter along the lines is one down the columns of the image laid on its
+/// side.
+template <typename Pixel>
+void blurPixels(QImage& image, double sigma) {
+    const int width = image.width();
+    const int height = image.height();
+    uchar* const bits = image.bits();
+    const auto stride = static_cast<std::size_t>(image.bytesPerLine());
+    Lines onItsSide(static_cast<std::size_t>(height) * sizeof(Pixel), width);
+    Lines upright(static_cast<std::size_t>(width) * sizeof(Pixel), height);
+    transpose<Pixel>(bits, stride, onItsSide.line(0), onItsSide.width, width, height);
+    blurDown(onItsSide, sigma);
+    transpose<Pixel>(onItsSide.line(0), onItsSide.width, upright.line(0), upright.width, height,
+                     width);
+    blurDown(upright, sigma);
+    for (int y = 0; y < height; ++y)
+        std::copy_n(upright.line(y), static_cast<std::size_t>(width) * sizeof(Pixel),
+                    bits + static_cast<std::size_t>(y) * stride);
 }
 
 } // namespace
@@ -79,10 +122,11 @@ void blurChannels(QImage& image, double sigma) {
 void blur(QImage& image, double sigma) {
     if (!(sigma > 0) || image.isNull())
         return;
+    sigma = std::min(sigma, strongestSigma);
     if (image.depth() == 8)
-        blurChannels<1>(image, sigma);
+        blurPixels<uchar>(image, sigma);
     else
-        blurChannels<4>(image, sigma);
+        blurPixels<QRgb>(image, sigma);
 }
 
 double blurReach(double sigma) {

@@ -26,9 +26,8 @@ QImage coverage(const QImage& image) {
 QImage tinted(const QImage& coverage, QColor color) {
     std::array<QRgb, 256> tints;
     for (unsigned alpha = 0; alpha < tints.size(); ++alpha) {
-        QColor tint = color;
-        tint.setAlphaF(color.alphaF() * static_cast<float>(alpha) / 255);
-        tints[alpha] = qPremultiply(tint.rgba());
+        const int tint = (color.alpha() * static_cast<int>(alpha) + 127) / 255;
+        tints[alpha] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), tint));
     }
     QImage result(coverage.size(), QImage::Format_ARGB32_Premultiplied);
     result.setDevicePixelRatio(coverage.devicePixelRatio());

@@ -95,6 +95,12 @@ QRectF PillShape::paintedRect() const {
 }
 
 void PillShape::paint(QPainter& painter) {
+    // Where only the middle is drawn anew there is neither outline nor shadow.
+    const QRectF middle = boundingRect().adjusted(topRadius, 0, -topRadius, -bottomRadius);
+    if (painter.hasClipping() && middle.contains(painter.clipBoundingRect())) {
+        painter.fillRect(middle, Qt::black);
+        return;
+    }
     if (lift_ > 0)
         paintShadow(painter);
     painter.setPen(Qt::NoPen);

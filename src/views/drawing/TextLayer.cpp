@@ -43,6 +43,18 @@ QPointF onPixel(const QPainter& painter, QPointF point) {
     return transform.inverted().map(rounded / ratio);
 }
 
+/// `image` with `margin` clear pixels around it.
+QImage framed(const QImage& image, int margin) {
+    QImage result(image.size() + QSize(2 * margin, 2 * margin), image.format());
+    result.setDevicePixelRatio(image.devicePixelRatio());
+    result.fill(0);
+    const int pixelBytes = image.depth() / 8;
+    for (int y = 0; y < image.height(); ++y)
+        std::copy_n(image.constScanLine(y), image.width() * pixelBytes,
+                    result.scanLine(margin + y) + margin * pixelBytes);
+    return result;
+}
+
 } // namespace
 
 TextLayer::TextLayer(const QString& text, const QFont& font, double maximumWidth, double presence)
@@ -73,8 +85,10 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double maximumWidth
 std::optional<double> TextLayer::advance(double now) {
     resting_ = presence_.isSettled(now, tolerance);
     shown_ = resting_ ? presence_.target() : presence_.value(now);
-    if (resting_)
+    if (resting_) {
+        picture_ = QImage();
         return std::nullopt;
+    }
     return presenceReach * presence_.speed(now);
 }
 
@@ -107,30 +121,40 @@ void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin) cons
 void TextLayer::paintBlurred(QPainter& painter, QColor color, QPointF origin, QRectF seen) {
     const double ratio = painter.device()->devicePixelRatioF();
     const double sigma = strongestSigma * (1 - std::clamp(shown_, 0.0, 1.0));
-    const double reach = std::ceil(blurReach(sigma));
-    const QRectF line = layout_.boundingRect().translated(origin);
-    const QRectF drawn = line.adjusted(-reach, -reach, reach, reach);
-    const double left = std::max(drawn.left(), seen.left() - reach);
-    const double right = std::min(drawn.right(), seen.right() + reach);
+    // What lies further beside what is seen is not carried there by any blur.
+    const QRectF line = layout_.boundingRect();
+    const double left = std::max(line.left(), std::floor(seen.left() - origin.x() - overhang()));
+    const double right = std::min(line.right(), std::ceil(seen.right() - origin.x() + overhang()));
     if (right <= left)
         return;
-    const auto sharp = [&](QColor in) {
-        QImage image((QSizeF(right - left, drawn.height()) * ratio).toSize(),
-                     QImage::Format_ARGB32_Premultiplied);
+    const QRectF part(left, line.top(), right - left, line.height());
+    const int margin = static_cast<int>(std::ceil(blurReach(sigma) * ratio));
+    QImage image = framed(picture(part, color, ratio), margin);
+    blur(image, sigma * ratio);
+    painter.drawImage(origin + part.topLeft() - QPointF(margin, margin) / ratio,
+                      image.depth() == 8 ? tinted(image, color) : image);
+}
+
+const QImage& TextLayer::picture(QRectF part, QColor color, double ratio) {
+    if (!picture_.isNull() && pictured_ == part && picturedColor_ == color &&
+        picture_.devicePixelRatio() == ratio)
+        return picture_;
+    const auto painted = [&](QColor in) {
+        QImage image((part.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(ratio);
         image.fill(Qt::transparent);
-        QPainter onImage(&image);
-        onImage.setRenderHint(QPainter::TextAntialiasing);
-        paintSharp(onImage, in, origin - QPointF(left, drawn.top()));
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::TextAntialiasing);
+        paintSharp(painter, in, -part.topLeft());
         return image;
     };
     // Nearly all text has one colour, and one channel is a quarter of the work.
-    QImage image = coverage(sharp(Qt::white));
-    const bool hasColours = image.isNull();
-    if (hasColours)
-        image = sharp(color);
-    blur(image, sigma * ratio);
-    painter.drawImage(QPointF(left, drawn.top()), hasColours ? image : tinted(image, color));
+    picture_ = coverage(painted(Qt::white));
+    if (picture_.isNull())
+        picture_ = painted(color);
+    pictured_ = part;
+    picturedColor_ = color;
+    return picture_;
 }
 
 } // namespace brellowind

@@ -44,6 +44,7 @@ public:
 private:
     void paintSharp(QPainter& painter, QColor color, QPointF origin) const;
     void paintBlurred(QPainter& painter, QColor color, QPointF origin, QRectF seen);
+    const QImage& picture(QRectF part, QColor color, double ratio);
 
     QString text_;
     QTextLayout layout_;
@@ -51,6 +52,9 @@ private:
     Spring presence_;
     double shown_;
     bool resting_ = true;
+    QImage picture_;  ///< what is blurred: `pictured_` of the line, sharp; null while it rests
+    QRectF pictured_; ///< from the line's own origin
+    QColor picturedColor_;
 };
 
 } // namespace brellowind

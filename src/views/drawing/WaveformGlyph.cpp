@@ -48,19 +48,45 @@ double WaveformGlyph::strength(int index, double phase) {
 }
 
 void WaveformGlyph::paint(QPainter& painter) {
-    const double unit = width() / 16;
-    const double bar = barWidth * unit;
-    const double pitch = (barWidth + gapWidth) * unit;
-    const double left = (width() - (barCount - 1) * pitch - bar) / 2;
-    const double phase = static_cast<double>(step_) / stepsInARound;
-    painter.setPen(Qt::NoPen);
-    for (int i = 0; i < barCount; ++i) {
-        const double barHeight = heights[static_cast<std::size_t>(i)] * height();
-        const QRectF rect(left + i * pitch, (height() - barHeight) / 2, bar, barHeight);
-        painter.setBrush(
-            QColor::fromRgbF(1, 1, 1, static_cast<float>(active_ ? strength(i, phase) : 1)));
-        painter.drawRoundedRect(rect, bar / 2, bar / 2);
+    const double ratio = painter.device()->devicePixelRatioF();
+    if (bars_.devicePixelRatio() != ratio || bars_.deviceIndependentSize() != size())
+        bars_ = paintedBars(ratio);
+    if (!active_) {
+        painter.drawImage(QPointF(0, 0), bars_);
+        return;
     }
+    const double phase = static_cast<double>(step_) / stepsInARound;
+    const double opacity = painter.opacity();
+    for (int i = 0; i < barCount; ++i) {
+        const QRectF rect = column(i);
+        painter.setOpacity(opacity * strength(i, phase));
+        painter.drawImage(rect, bars_, QRectF(rect.topLeft() * ratio, rect.size() * ratio));
+    }
+}
+
+/// The room of one bar, from top to bottom.
+QRectF WaveformGlyph::column(int index) const {
+    const double unit = width() / 16;
+    const double pitch = (barWidth + gapWidth) * unit;
+    const double left = (width() - (barCount - 1) * pitch - barWidth * unit) / 2;
+    return {left + index * pitch, 0, barWidth * unit, height()};
+}
+
+QImage WaveformGlyph::paintedBars(double ratio) const {
+    QImage image((size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    for (int i = 0; i < barCount; ++i) {
+        QRectF bar = column(i);
+        const double shorter = bar.height() * (1 - heights[static_cast<std::size_t>(i)]) / 2;
+        bar.adjust(0, shorter, 0, -shorter);
+        painter.drawRoundedRect(bar, bar.width() / 2, bar.width() / 2);
+    }
+    return image;
 }
 
 void WaveformGlyph::timerEvent(QTimerEvent* event) {

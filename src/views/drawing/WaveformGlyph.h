@@ -3,6 +3,7 @@
 #include "views/drawing/PainterItem.h"
 
 #include <QBasicTimer>
+#include <QImage>
 
 namespace brellowind {
 
@@ -33,9 +34,12 @@ protected:
 
 private:
     void follow();
+    QRectF column(int index) const;
+    QImage paintedBars(double ratio) const;
 
     bool active_ = false;
     int step_ = 0;
+    QImage bars_; ///< all of them at full strength: outlines cost more than images
     QBasicTimer steps_;
 };
 
