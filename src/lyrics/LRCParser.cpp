@@ -1,9 +1,13 @@
 #include "lyrics/LRCParser.h"
 
+#include "foundation/LargePages.h"
 #include "foundation/Utf8.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <cstring>
+#include <numeric>
 #include <unicode/uchar.h>
 
 namespace brellowind::LRCParser {
@@ -21,11 +25,6 @@ struct Tag {
     const char* end = nullptr;
 
     explicit operator bool() const { return end != nullptr; }
-};
-
-struct TimedText {
-    double time;
-    std::string_view text;
 };
 
 bool isAsciiDigit(char character) {
@@ -115,6 +114,12 @@ Tag readTag(const char* open, const char* end) {
     return {seconds(minute.value, second.value, fraction), position};
 }
 
+template <typename Element>
+void reserve(std::vector<Element>& list, std::size_t count) {
+    list.reserve(count);
+    preferLargePages(list.data(), count * sizeof(Element));
+}
+
 const char* find(const char* position, const char* end, char wanted) {
     if (position == end || *position == wanted) // tags mostly stand side by side or begin a line
         return position;
@@ -164,42 +169,78 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-/// Every tag of `text` with the text of its piece, in order of position.
-std::vector<TimedText> readPieces(std::string_view text) {
-    constexpr std::size_t usualLine = 32; ///< bytes; a text with shorter ones makes the list grow
-    std::vector<TimedText> found;
-    found.reserve(text.size() / usualLine);
+/// Every tag of `text`, all of which `bytes` holds, with the words of its piece; in order of
+/// position.
+std::vector<LyricLine> readLines(const SharedBytes& bytes, std::string_view text) {
+    constexpr std::size_t usualTag = 10;   ///< bytes: [00:00.00]
+    constexpr std::size_t shortestTag = 5; ///< [0:0]
+    std::vector<LyricLine> lines;
+    reserve(lines, text.size() / usualTag);
     const char* const end = text.data() + text.size();
     for (auto tag = nextTag(text.data(), end); tag;) {
-        const std::size_t firstOfPiece = found.size();
         const char* const pieceEnd = endOfPiece(tag.end, end);
-        const char* lyric = nullptr;
-        for (; tag; tag = nextTag(lyric, pieceEnd)) {
-            found.push_back({tag.time, {}});
-            lyric = tag.end;
+        const char* lastTagEnd = tag.end;
+        while (const auto next = nextTag(lastTagEnd, pieceEnd))
+            lastTagEnd = next.end;
+        const SharedText words(bytes, trimmed({lastTagEnd, pieceEnd}));
+        for (; tag; tag = nextTag(tag.end, lastTagEnd)) { // nearly always this one alone
+            if (lines.size() == lines.capacity())         // unusual: for all that there may be
+                reserve(lines,
+                        lines.size() + 1 + static_cast<std::size_t>(end - tag.end) / shortestTag);
+            lines.emplace_back(tag.time, words);
         }
-        const auto words = trimmed({lyric, pieceEnd});
-        for (std::size_t i = firstOfPiece; i < found.size(); ++i)
-            found[i].text = words;
         tag = nextTag(pieceEnd == end ? end : pieceEnd + 1, end);
     }
-    return found;
+    return lines;
+}
+
+/// Where a line stands, and what it is sorted by.
+struct Place {
+    std::uint32_t milliseconds;
+    std::uint32_t index;
+};
+
+/// The lines in order of their times; those of one time stay as they stand. Times are whole
+/// milliseconds below 2^24, so two passes over 12 bits each sort any number of them.
+std::vector<LyricLine> sorted(const std::vector<LyricLine>& lines) {
+    constexpr int digitBits = 12;
+    std::vector<Place> order;
+    std::vector<Place> next;
+    reserve(order, lines.size());
+    reserve(next, lines.size());
+    next.resize(lines.size());
+    for (const auto& line : lines)
+        order.push_back({static_cast<std::uint32_t>(std::lround(line.time * 1000)),
+                         static_cast<std::uint32_t>(order.size())});
+    for (const int shift : {0, digitBits}) {
+        const auto digit = [shift](const Place& place) {
+            return place.milliseconds >> shift & ((1U << digitBits) - 1);
+        };
+        std::vector<std::uint32_t> starts(1U << digitBits);
+        for (const auto& place : order)
+            ++starts[digit(place)];
+        std::exclusive_scan(starts.begin(), starts.end(), starts.begin(), 0U);
+        for (const auto& place : order)
+            next[starts[digit(place)]++] = place;
+        order.swap(next);
+    }
+    std::vector<LyricLine> result;
+    reserve(result, lines.size());
+    for (const auto& place : order)
+        result.push_back(lines[place.index]);
+    return result;
 }
 
 } // namespace
 
 std::vector<LyricLine> parse(std::string_view text) {
-    std::vector<LyricLine> lines;
     if (!nextTag(text.data(), text.data() + text.size()))
-        return lines;
+        return {};
     const SharedBytes copy(text); // which the words of all lines are slices of
-    auto pieces = readPieces({copy.get(), text.size()});
-    if (!std::ranges::is_sorted(pieces, {}, &TimedText::time))
-        std::ranges::stable_sort(pieces, {}, &TimedText::time);
-    lines.reserve(pieces.size());
-    for (const auto& piece : pieces)
-        lines.emplace_back(piece.time, SharedText(copy, piece.text));
-    return lines;
+    auto lines = readLines(copy, {copy.get(), text.size()});
+    if (std::ranges::is_sorted(lines, {}, &LyricLine::time))
+        return lines;
+    return sorted(lines);
 }
 
 } // namespace brellowind::LRCParser
