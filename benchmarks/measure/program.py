@@ -154,7 +154,8 @@ class Bench:
         chance = random.Random(5)
         moments, text, at = [], [], 5.0
         for i in range(self.lines):
-            at = round(at + 0.85 + 0.1 * chance.random(), 2)
+            # The motion of one line has ended before the next one comes.
+            at = round(at + 1.05 + 0.1 * chance.random(), 2)
             moments.append(at)
             text.append(f"{tag(at)}{'WHM'[i % 3] * 9} {'nuo'[i % 3] * 9} {i:03}")
         with self.stage("\n".join(text)) as (session, service, player):

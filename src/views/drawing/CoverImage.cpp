@@ -5,27 +5,22 @@
 namespace brellowind {
 namespace {
 
-constexpr int smallestLevel = 16;
+constexpr int smallestCopy = 16;
 
 } // namespace
 
-CoverImage::CoverImage(const QImage& image) {
-    if (image.isNull())
-        return;
-    levels_.push_back(image);
-    while (levels_.back().width() > 2 * smallestLevel)
-        levels_.push_back(levels_.back().scaled(levels_.back().size() / 2, Qt::IgnoreAspectRatio,
-                                                Qt::SmoothTransformation));
+const QImage& CoverImage::atLeast(double pixels) {
+    QSize size = image_.size();
+    while (size.width() > 2 * smallestCopy && size.width() / 2 >= pixels)
+        size /= 2;
+    if (copy_.size() != size)
+        copy_ = size == image_.size()
+                    ? image_
+                    : image_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return copy_;
 }
 
-const QImage& CoverImage::atLeast(double pixels) const {
-    auto level = levels_.begin();
-    while (level + 1 != levels_.end() && (level + 1)->width() >= pixels)
-        ++level;
-    return *level;
-}
-
-QBrush CoverImage::brush(const QRectF& square, double pixels) const {
+QBrush CoverImage::brush(const QRectF& square, double pixels) {
     return imageBrush(atLeast(pixels), square);
 }
 

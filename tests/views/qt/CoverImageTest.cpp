@@ -25,12 +25,13 @@ TEST(CoverImage, KeepsTheImageItself) {
 }
 
 TEST(CoverImage, OffersTheSmallestCopyThatIsLargeEnough) {
-    const CoverImage cover(square(320));
+    CoverImage cover(square(320));
     EXPECT_EQ(cover.atLeast(161).width(), 320);
     EXPECT_EQ(cover.atLeast(160).width(), 160);
     EXPECT_EQ(cover.atLeast(81).width(), 160);
     EXPECT_EQ(cover.atLeast(20).width(), 20);
     EXPECT_EQ(cover.atLeast(1).width(), 20);
+    EXPECT_EQ(cover.atLeast(320).width(), 320) << "and back to the whole";
 }
 
 TEST(CoverImage, OffersTheWholeWhenMoreIsAskedForThanThereIs) {
@@ -43,7 +44,7 @@ TEST(CoverImage, OfAFewPixelsHasNoCopies) {
 }
 
 TEST(CoverImage, HasCopiesOfTheSameColour) {
-    const CoverImage cover(square(333, QColor(10, 200, 70)));
+    CoverImage cover(square(333, QColor(10, 200, 70)));
     for (const double pixels : {20.0, 41.0, 83.0}) {
         const QImage& copy = cover.atLeast(pixels);
         EXPECT_EQ(copy.width(), copy.height());
