@@ -1,3 +1,4 @@
+#include "e2e/AccessibilityEvents.h"
 #include "e2e/PillFixture.h"
 
 #include <QDBusArgument>
@@ -51,6 +52,8 @@ public:
                      QDBusObjectPath(QStringLiteral("/org/a11y/atspi/accessible/root"))},
                     name, role, 12);
     }
+
+    QDBusConnection bus() const { return QDBusConnection(name_); }
 
     /// Does what the first action of a thing does.
     bool press(const Accessible& accessible) {
@@ -143,6 +146,15 @@ TEST_F(PillAccessibility, TheIndicatorPlaysAndPauses) {
     ASSERT_TRUE(play);
     EXPECT_TRUE(reader.press(*play));
     EXPECT_TRUE(waitUntil([&] { return player->status() == QStringLiteral("Playing"); }));
+}
+
+TEST_F(PillAccessibility, ANewNameIsToldToThoseWhoListen) {
+    startSinging();
+    const auto indicator = waitFor("Pause", "push button");
+    ASSERT_TRUE(indicator);
+    const AccessibilityEvents events(reader.bus());
+    player->setStatus("Paused");
+    EXPECT_TRUE(waitUntil([&] { return events.renamed().contains(indicator->path.path()); }));
 }
 
 TEST_F(PillAccessibility, TheCoverOpensThePanelAndTheGrabberClosesIt) {

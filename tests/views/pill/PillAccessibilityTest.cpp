@@ -105,6 +105,42 @@ TEST_F(PillAccessibility, OffersNoGrabberThatIsNotThere) {
     EXPECT_EQ(button("Hide lyrics"), nullptr);
 }
 
+TEST_F(PillAccessibility, TellsWhereEachPieceIs) {
+    machine.appear();
+    settle();
+    auto* root = QAccessible::queryAccessibleInterface(&window);
+    EXPECT_EQ(root->rect(), window.geometry());
+    const QRectF thumbnail = artwork()->mapRectToScene(artwork()->boundingRect());
+    EXPECT_EQ(button("Show artwork")->rect(),
+              thumbnail.toAlignedRect().translated(window.mapToGlobal(QPoint(0, 0))));
+    const QPoint onThumbnail = window.mapToGlobal(middle(artwork()));
+    EXPECT_EQ(root->childAt(onThumbnail.x(), onThumbnail.y()), button("Show artwork"));
+    const QPoint onBackground = window.mapToGlobal(onWindow(pill(), {100, 8}));
+    EXPECT_EQ(root->childAt(onBackground.x(), onBackground.y())->role(), QAccessible::Grouping);
+    const QPoint beside = window.mapToGlobal(onWindow(pill(), {-20, 8}));
+    EXPECT_EQ(root->childAt(beside.x(), beside.y()), nullptr);
+}
+
+TEST_F(PillAccessibility, IsATreeThatHoldsTogether) {
+    machine.appear();
+    settle();
+    auto* root = QAccessible::queryAccessibleInterface(&window);
+    EXPECT_EQ(root->role(), QAccessible::Window);
+    ASSERT_GT(root->childCount(), 3);
+    for (int i = 0; i < root->childCount(); ++i) {
+        auto* child = root->child(i);
+        ASSERT_NE(child, nullptr);
+        EXPECT_EQ(root->indexOfChild(child), i);
+        EXPECT_EQ(child->parent(), root);
+        EXPECT_EQ(child->window(), &window);
+        EXPECT_EQ(child->childCount(), 0);
+        EXPECT_FALSE(child->text(QAccessible::Name).isEmpty());
+        EXPECT_EQ(child->actionInterface() == nullptr, child->role() == QAccessible::StaticText);
+    }
+    EXPECT_EQ(root->child(root->childCount()), nullptr);
+    EXPECT_EQ(root->child(-1), nullptr);
+}
+
 TEST_F(PillAccessibility, LetsTheMenuBeReadAndPressed) {
     machine.appear();
     click(middle(pill()), Qt::RightButton);

@@ -166,7 +166,37 @@ TEST_F(PillTap, WhileThePillStillMovesCounts) {
     EXPECT_TRUE(form().isMinimized);
 }
 
+TEST_F(PillTap, TakenBackBesideThePieceDoesNothing) {
+    machine.appear();
+    const auto before = form();
+    QTest::mousePress(&window, Qt::LeftButton, {}, middle(artwork()));
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, middle(waveform()));
+    machine.runTurns();
+    EXPECT_EQ(form(), before);
+    EXPECT_EQ(toggles(), 0U);
+}
+
+TEST_F(PillTap, TwiceInARowIsTwoTaps) {
+    machine.appear();
+    QTest::mouseDClick(&window, Qt::LeftButton, {}, middle(waveform()));
+    machine.runTurns();
+    EXPECT_EQ(toggles(), 2U);
+}
+
 class PillHover : public test::Stage {};
+
+TEST_F(PillHover, EndsWhenThePointerIsDraggedAway) {
+    machine.appear();
+    hover(artwork());
+    QTest::mousePress(&window, Qt::LeftButton, {}, middle(artwork()));
+    hover(onWindow(pill(), {130, 45}));
+    EXPECT_FALSE(form().coverHovered);
+    hover(artwork());
+    EXPECT_TRUE(form().coverHovered);
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, middle(artwork()));
+    machine.runTurns();
+    EXPECT_TRUE(form().isArtExpanded);
+}
 
 TEST_F(PillHover, OfThePiecesComesAndGoes) {
     machine.appear();
