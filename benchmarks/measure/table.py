@@ -68,15 +68,17 @@ def program_rows(results):
     ]
     memory = results["memory"]
     beside = playing["memory"]
-    ratio = beside["pss"] / floor["memory"]["pss"]
-    rows.append(("memory while playing, PSS / private; the empty window has "
-                 + megabytes(floor["memory"]), f"{megabytes(beside)}: {ratio:.2f} times",
-                 "1.25 times", ratio <= 1.25))
+    for kind, name in (("pss", "PSS"), ("private", "private")):
+        ratio = beside[kind] / floor["memory"][kind]
+        rows.append((f"memory while playing, {name}", f"{beside[kind] / 1024:.1f} MB: {ratio:.2f} "
+                     f"times the empty window's {floor['memory'][kind] / 1024:.1f} MB",
+                     "1.25 times", ratio <= 1.25))
     if peer:
         part = memory["playing"]["pss"] / peer["memory"]["pss"]
-        rows.append(("memory while playing beside osdlyrics with " + megabytes(peer["memory"]),
+        rows.append(("memory while playing, PSS, beside osdlyrics with "
+                     f"{peer['memory']['pss'] / 1024:.1f} MB",
                      f"{part:.2f} of it", "0.25", part <= 0.25))
-    rows += [("memory with the artwork panel open", megabytes(memory["panel"]), "", None),
+    rows += [("memory with the artwork panel open, PSS / private", megabytes(memory["panel"]), "", None),
              ("memory with the settings open", megabytes(memory["settingsOpen"]), "", None),
              ("memory after the settings were closed", megabytes(memory["settingsClosed"]), "", None)]
     growth = memory["tracks"]["anonymous"] - memory["warm"]["anonymous"]
