@@ -83,9 +83,7 @@ void blurDown(Lines& lines, double sigma) {
     }
 }
 
-/// A filter down the columns is the same work for all samples of a line, which a processor does
-/// many at a time. So the filter along the lines is one down the columns of the image laid on its
-/// side.
+/// Exchanges rows and columns of `width` × `height` pixels. Strides are bytes from line to line.
 template <typename Pixel>
 void transpose(const uchar* from, std::size_t fromStride, uchar* to, std::size_t toStride,
                int width, int height) {
