@@ -17,6 +17,9 @@ constexpr double strongestSigma = 5;  ///< points, of a line that is away
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
 
+/// Points by which marks of some scripts stand out of the line, and slanted letters at its ends.
+constexpr double inkOverhang = 6;
+
 /// Coming or going changes a line as much as moving it by so many points.
 constexpr double presenceReach = 20;
 
@@ -122,13 +125,15 @@ void TextLayer::paintBlurred(QPainter& painter, QColor color, QPointF origin, QR
     const double ratio = painter.device()->devicePixelRatioF();
     const double sigma = strongestSigma * (1 - std::clamp(shown_, 0.0, 1.0));
     // What lies further beside what is seen is not carried there by any blur.
-    const QRectF line = layout_.boundingRect();
+    const QRectF line =
+        layout_.boundingRect().adjusted(-inkOverhang, -inkOverhang, inkOverhang, inkOverhang);
     const double left = std::max(line.left(), std::floor(seen.left() - origin.x() - overhang()));
     const double right = std::min(line.right(), std::ceil(seen.right() - origin.x() + overhang()));
     if (right <= left)
         return;
     const QRectF part(left, line.top(), right - left, line.height());
-    const int margin = static_cast<int>(std::ceil(blurReach(sigma) * ratio));
+    const double reach = std::max(0.0, blurReach(sigma) - inkOverhang);
+    const int margin = static_cast<int>(std::ceil(reach * ratio));
     QImage image = framed(picture(part, color, ratio), margin);
     blur(image, sigma * ratio);
     painter.drawImage(origin + part.topLeft() - QPointF(margin, margin) / ratio,

@@ -3,6 +3,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace brellowind {
@@ -123,6 +124,19 @@ TEST(TextLayer, IsBlurredOnItsWay) {
     EXPECT_GT(soft.right(), sharp.right());
     const int overhang = static_cast<int>(TextLayer::overhang());
     EXPECT_TRUE(sharp.adjusted(-overhang, -overhang, overhang, overhang).contains(soft));
+}
+
+TEST(TextLayer, CutsNoMarkThatStandsOutOfTheLine) {
+    const QString tower = QString(u'A') + QString(6, QChar(0x0302)) + QString(6, QChar(0x032D));
+    TextLayer there = layer(tower);
+    TextLayer going = layer(tower);
+    going.goAway(10);
+    going.advance(10.02); // hardly blurred yet
+    const QRect sharp = test::inkRect(paintedLayer(there));
+    ASSERT_TRUE(sharp.top() < 28 || sharp.bottom() > 32 + height()) << "the marks stand out";
+    const QRect soft = test::inkRect(paintedLayer(going));
+    EXPECT_LE(soft.top(), std::max(sharp.top(), 30 - 5));
+    EXPECT_GE(soft.bottom(), std::min(sharp.bottom(), 30 + static_cast<int>(height()) + 5));
 }
 
 TEST(TextLayer, GoesAwayToNothing) {
