@@ -43,4 +43,12 @@ bool isValid(std::string_view text) {
     return true;
 }
 
+std::string_view beginning(std::string_view text, std::size_t bytes) {
+    if (text.size() <= bytes)
+        return text;
+    while (bytes > 0 && U8_IS_TRAIL(text[bytes]))
+        --bytes;
+    return text.substr(0, bytes);
+}
+
 } // namespace brellowind::utf8

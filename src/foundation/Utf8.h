@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 /// Characters of UTF-8 texts that may hold anything.
@@ -15,5 +16,8 @@ char32_t takeFirst(std::string_view& text);
 char32_t takeLast(std::string_view& text);
 
 bool isValid(std::string_view text);
+
+/// The beginning of `text`, which is valid: at most `bytes` long, without half a character.
+std::string_view beginning(std::string_view text, std::size_t bytes);
 
 } // namespace brellowind::utf8

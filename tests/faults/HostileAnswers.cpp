@@ -94,4 +94,11 @@ QByteArray zstandardBomb() {
            block(repeated).repeated(hundredMegabytes / blockSize) + block(repeated | 1);
 }
 
+QByteArray brotliBomb() {
+    // `brotli` made it of a hundred million spaces.
+    return QByteArray::fromBase64(
+        "z///fwAkQOKxQHLv//n//w+ABEAcFoDu/T////8BkACIwwLQvf/n//8/ABIAcVgAuvf//P//B0ACIA4LQPf+P//B"
+        "6wFIAMRhAehi1wM=");
+}
+
 } // namespace brellowind::test::hostile

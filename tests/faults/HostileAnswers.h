@@ -38,4 +38,7 @@ const QByteArray& gzipBomb();
 /// The same in the Zstandard format, in a few kilobytes.
 QByteArray zstandardBomb();
 
+/// The same in the Brotli format, in 77 bytes.
+QByteArray brotliBomb();
+
 } // namespace brellowind::test::hostile

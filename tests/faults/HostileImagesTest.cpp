@@ -1,3 +1,4 @@
+#include "faults/AnimatedImages.h"
 #include "faults/HostileAnswers.h"
 #include "faults/HostileServer.h"
 #include "faults/NetworkMachine.h"
@@ -103,6 +104,7 @@ Row file(const char* name, bool shown, const QByteArray& bytes,
 
 const std::vector<Row>& rows() {
     static const QByteArray png = picture("png");
+    static const QByteArray webp = picture("webp");
     static const std::vector<Row> all{
         file("ZeroBytes", false, {}),
         file("TruncatedPng", false, png.left(60)),
@@ -116,6 +118,17 @@ const std::vector<Row>& rows() {
         file("PixelsFarBeyondTheLimit", false, picture("png", 9'000, QImage::Format_Mono)),
         file("ColoursOfAPrinter", true, printedPicture(), "image/jpeg"),
         file("Animation", false, animation(), "image/gif"),
+        file("AnimatedPng", true, hostile::animatedPng(png, {100, 100}, 1000)),
+        file("AnimatedWebp", true, hostile::animatedWebp(webp, {100, 100}, 1000, {100, 100}),
+             "image/webp"),
+        file("AnimatedWebpUpToTheLimit", true,
+             hostile::animatedWebp(webp, {100, 100}, 2, {2896, 2896}), "image/webp"),
+        file("AnimatedWebpBeyondTheLimit", false,
+             hostile::animatedWebp(webp, {100, 100}, 2, {2897, 2897}), "image/webp"),
+        file("AnimatedWebpOfOneFrameBeyondTheLimit", false,
+             hostile::animatedWebp(webp, {100, 100}, 1, {4096, 4096}), "image/webp"),
+        file("AnimatedWebpWithoutFrames", false,
+             hostile::animatedWebp(webp, {100, 100}, 0, {100, 100}), "image/webp"),
         file("Svg", false,
              R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"><rect/></svg>)",
              "image/svg+xml"),
@@ -138,6 +151,10 @@ const std::vector<Row>& rows() {
         {"GzipBomb", false,
          [bomb = hostile::gzipBomb()](const Exchange& e) {
              hostile::answer(e, "Content-Encoding: gzip\r\n", bomb);
+         }},
+        {"BrotliBomb", false,
+         [](const Exchange& e) {
+             hostile::answer(e, "Content-Encoding: br\r\n", hostile::brotliBomb());
          }},
         {"Redirected", true, [](const Exchange& e) { hostile::redirect(e, "/good"); }},
         {"RedirectedForEver", false, [](const Exchange& e) { hostile::redirect(e, "/hostile"); }},

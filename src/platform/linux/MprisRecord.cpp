@@ -1,5 +1,7 @@
 #include "platform/linux/MprisRecord.h"
 
+#include "foundation/Utf8.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -169,16 +171,18 @@ std::string numberField(std::optional<double> microseconds, double unit) {
     return {digits.data(), end.ptr};
 }
 
-/// A text in its field. It loses separators, or what follows one would count as another field, and
-/// what a player writes into a title as a number.
+/// A text in its field. It loses what is too long, and separators, or what follows one would count
+/// as another field, and what a player writes into a title as a number.
 std::string textField(std::string_view text) {
-    std::string field(text);
+    std::string field(utf8::beginning(text, longestMprisText));
     std::erase(field, fieldSeparator);
     return field;
 }
 
 /// Cover locations of this form answer "not found" where the image host answers with the image.
 std::string artworkField(std::string_view location) {
+    if (location.size() > longestMprisText)
+        return {};
     std::string field = textField(location);
     for (const std::string_view dead :
          {"https://open.spotify.com/image/", "http://open.spotify.com/image/"}) {

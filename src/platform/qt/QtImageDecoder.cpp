@@ -23,12 +23,25 @@ QByteArray formatOf(std::string_view bytes) {
     return {};
 }
 
-qint64 decodedBytes(const QImageReader& reader) {
+/// Whether a WebP file says that it moves.
+bool isAnimation(std::string_view bytes) {
+    using namespace std::string_view_literals;
+    constexpr std::size_t extension = 12;
+    constexpr std::size_t flags = 20;
+    constexpr char moves = 1 << 1;
+    return bytes.starts_with("RIFF"sv) && bytes.size() > flags &&
+           bytes.substr(extension, 4) == "VP8X"sv && (bytes[flags] & moves) != 0;
+}
+
+/// The most that the image takes at a time. Frames are put together on a canvas, which is then
+/// copied.
+qint64 decodedBytes(const QImageReader& reader, bool isAnimation) {
     const QSize size = reader.size();
     int bits = 32;
     if (reader.imageFormat() != QImage::Format_Invalid)
         bits = std::max<int>(bits, QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel());
-    return static_cast<qint64>(size.width()) * size.height() * bits / 8;
+    const int copies = isAnimation ? 2 : 1;
+    return static_cast<qint64>(size.width()) * size.height() * bits / 8 * copies;
 }
 
 QRect middleSquare(QSize size) {
@@ -53,7 +66,7 @@ std::shared_ptr<const Image> QtImageDecoder::decode(std::string_view bytes) {
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
-    if (size.isEmpty() || decodedBytes(reader) > maximumDecodedBytes)
+    if (size.isEmpty() || decodedBytes(reader, isAnimation(bytes)) > maximumDecodedBytes)
         return nullptr;
     const int side = static_cast<int>(std::ceil(largestPoints_ * qGuiApp->devicePixelRatio()));
     const double scale = static_cast<double>(side) / std::min(size.width(), size.height());

@@ -142,6 +142,28 @@ TEST(MprisRecord, TakesTextsAsTheyAre) {
     EXPECT_EQ(metadata("xesam:album", 2, "s", odd), odd);
 }
 
+TEST(MprisRecord, CutsTextsThatAreTooLongBetweenTwoCharacters) {
+    const std::string longest(longestMprisText, 'x');
+    const std::string tooLong = longest + 'x';
+    const std::string halfBeyond = longest.substr(1) + "\u00e9"; // two bytes
+    const std::string before = longest.substr(1);
+    const auto title = [](const std::string& text) {
+        return metadata("xesam:title", 0, "s", text.c_str());
+    };
+    EXPECT_EQ(title(longest), longest);
+    EXPECT_EQ(title(tooLong), longest);
+    EXPECT_EQ(title(halfBeyond), before);
+    EXPECT_EQ(metadata("xesam:artist", 1, "as", 1, tooLong.c_str()), longest);
+    EXPECT_EQ(metadata("xesam:artist", 1, "s", tooLong.c_str()), longest);
+    EXPECT_EQ(metadata("xesam:album", 2, "s", tooLong.c_str()), longest);
+}
+
+TEST(MprisRecord, TakesNoCoverFromALocationThatIsTooLong) {
+    const std::string longest = "https://i.scdn.co/" + std::string(longestMprisText - 18, 'x');
+    EXPECT_EQ(artwork(longest.c_str()), longest);
+    EXPECT_EQ(artwork((longest + 'x').c_str()), "");
+}
+
 TEST(MprisRecord, NoTextHasASeparatorThatWouldMakeANumberOfIt) {
     const char* sly = "\x1F"
                       "a\x1F"
