@@ -1,5 +1,6 @@
 #include "views/NotchRootModel.h"
 
+#include "foundation/Utf8.h"
 #include "platform/qt/QtImageDecoder.h"
 
 #include <utility>
@@ -7,8 +8,13 @@
 namespace brellowind {
 namespace {
 
+/// In bytes: far more than fits on any screen. A lyrics file may be a single line of a mebibyte,
+/// which takes seconds to lay out.
+constexpr std::size_t longestText = 4096;
+
 QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    const auto shown = utf8::beginning(utf8, longestText);
+    return QString::fromUtf8(shown.data(), static_cast<qsizetype>(shown.size()));
 }
 
 } // namespace

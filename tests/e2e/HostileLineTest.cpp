@@ -1,0 +1,59 @@
+#include "e2e/PillFixture.h"
+#include "session/LoopWatch.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace brellowind::test {
+namespace {
+
+constexpr qsizetype longestBody = 1 << 20; ///< bytes
+
+struct Line {
+    const char* name;
+    QString unit; ///< that the line repeats until the answer is as long as it may be
+
+    friend void PrintTo(const Line& line, std::ostream* out) { *out << line.name; }
+};
+
+/// A service whose lyrics are one line, as long as an answer may be.
+class HostileLine : public PillOnDesktop, public testing::WithParamInterface<Line> {
+protected:
+    void play(const QString& title) {
+        player->setTrack(PlayerProcess::metadata(title, QStringLiteral("Artist"),
+                                                 QStringLiteral("Album"), 600000));
+    }
+
+    static QByteArray lyrics() {
+        const QString& unit = GetParam().unit;
+        const QString line = unit.repeated((longestBody - 100) / unit.toUtf8().size());
+        return QJsonDocument(QJsonObject{{QStringLiteral("syncedLyrics"),
+                                          QStringLiteral("[00:00.00]") + line}})
+            .toJson();
+    }
+};
+
+TEST_P(HostileLine, NeverKeepsTheMainLoop) {
+    startSinging();
+    program->longestTurn();
+    service.handler = [](const demo::Exchange& exchange) { exchange.respond(200, lyrics()); };
+    play(QStringLiteral("Hostile"));
+    EXPECT_TRUE(waitUntil([&] { return program->text().startsWith(GetParam().unit); }));
+    EXPECT_TRUE(program->comesToRest());
+    EXPECT_LT(program->longestTurn(), LoopWatch::bearable);
+    service.handler = [](const demo::Exchange& exchange) { exchange.respond(404, "{}"); };
+    play(QStringLiteral("Next"));
+    EXPECT_TRUE(program->shows(QStringLiteral("Next")));
+    EXPECT_TRUE(program->comesToRest());
+    EXPECT_LT(program->longestTurn(), LoopWatch::bearable);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfAMebibyte, HostileLine,
+                         testing::Values(Line{"Letters", QStringLiteral("x")},
+                                         Line{"Marks", QStringLiteral("\u0301")},
+                                         Line{"Words", QStringLiteral("word ")},
+                                         Line{"ManyScripts", QStringLiteral("aशक字ไ😀")}),
+                         [](const auto& line) { return line.param.name; });
+
+} // namespace
+} // namespace brellowind::test
