@@ -95,7 +95,8 @@ TEST_F(PillLayout, OfALineWiderThanTheWindowStaysInTheMiddle) {
 TEST_F(PillLayout, OfAnEndlessLineIsStillDrawn) {
     appearWith(std::string(100'000, 'H'));
     liftPill();
-    EXPECT_GT(pillSize().width, 500'000);
+    EXPECT_GT(pillSize().width, 30'000) << "though not all of it is laid out";
+    EXPECT_LT(pillSize().width, 100'000);
     const QImage image = window.grabWindow();
     EXPECT_EQ(image.size(), QSize(windowWidth, windowHeight) * window.devicePixelRatio());
     EXPECT_EQ(qAlpha(image.pixel(2, 15)), 255) << "black from edge to edge";
