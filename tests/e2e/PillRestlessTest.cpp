@@ -164,25 +164,6 @@ TEST_F(PillRestless, OutlivesItsWindowManagerAndItsCompositingManager) {
     enterPill();
 }
 
-TEST_F(PillRestless, StaysWhereItIsWhileItsWindowManagerBeginsAgain) {
-    startSinging();
-    const QRect place = x.geometry(program->window());
-    windowManager->restart();
-    const quint32 held = resources();
-    const qint64 descriptors = use().descriptors();
-    for (int i = 0; i < 5; ++i) {
-        windowManager->restart();
-        EXPECT_TRUE(isShown());
-        EXPECT_EQ(x.geometry(program->window()), place);
-        EXPECT_EQ(x.frameOf(program->window()), program->window()) << "it was given a frame";
-    }
-    EXPECT_LE(resources(), held);
-    EXPECT_LE(use().descriptors(), descriptors);
-    PlainWindow& covering = below();
-    EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), covering.id()); }));
-    enterPill();
-}
-
 TEST_F(PillRestless, IsNeverOverALockerHoweverOftenItComes) {
     startSinging();
     const quint32 held = resources();

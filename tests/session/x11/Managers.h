@@ -13,11 +13,7 @@ class WindowManager {
 public:
     explicit WindowManager(const XClient& x);
 
-    /// Has it begin again in the same process, and waits until it manages again.
-    void restart();
-
 private:
-    const XClient& x_;
     QTemporaryDir home_;
     demo::Companion process_;
 };
