@@ -3,6 +3,7 @@
 #include "views/NotchRootModel.h"
 #include "views/drawing/Capsule.h"
 #include "views/interaction/TapArea.h"
+#include "views/pill/Fade.h"
 #include "views/pill/PillMotion.h"
 #include "views/pill/Style.h"
 
@@ -41,8 +42,7 @@ void Grabber::follow() {
 void Grabber::layOut(const PillMotion& motion) {
     const double brightness = style::mix(faint, bright, motion.grabber.value());
     capsule_->setColor(QColor::fromRgbF(1, 1, 1, static_cast<float>(brightness)));
-    setOpacity(std::clamp(std::max(motion.hover.value(), motion.expand.value()), 0.0, 1.0));
-    setVisible(opacity() > 0);
+    fade(*this, std::max(motion.hover.value(), motion.expand.value()));
 }
 
 } // namespace brellowind

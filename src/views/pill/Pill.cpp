@@ -4,6 +4,7 @@
 #include "views/drawing/LyricText.h"
 #include "views/drawing/PillShape.h"
 #include "views/interaction/TapArea.h"
+#include "views/pill/Fade.h"
 #include "views/pill/FloatingArtwork.h"
 #include "views/pill/Grabber.h"
 #include "views/pill/PillMenu.h"
@@ -11,7 +12,6 @@
 #include "views/pill/Waveform.h"
 
 #include <QQuickWindow>
-#include <algorithm>
 #include <utility>
 
 namespace brellowind {
@@ -147,14 +147,12 @@ void Pill::layOutTexts() {
     inside_->setPosition({shape_->x() + margin, 0});
     inside_->setSize({shape_->width() - 2 * margin, shape_->height() - 1});
 
-    line_->setOpacity(std::clamp(1 - 2.5 * expand, 0.0, 1.0)); // gone before the artwork is there
-    line_->setVisible(line_->opacity() > 0);
+    fade(*line_, 1 - 2.5 * expand); // gone before the artwork is there
     line_->setY(style::topPadding + style::bandHeight + style::spacing);
     centre(*line_, inside_->width());
     if (!panelLine_)
         return;
-    panelLine_->setOpacity(std::clamp(expand, 0.0, 1.0));
-    panelLine_->setVisible(panelLine_->opacity() > 0);
+    fade(*panelLine_, expand);
     panelLine_->setY(style::panelTopPadding + style::bandHeight + style::panelSpacing +
                      style::artworkSide + style::panelSpacing);
     centre(*panelLine_, inside_->width());

@@ -4,6 +4,7 @@
 #include "views/drawing/Glyph.h"
 #include "views/drawing/WaveformGlyph.h"
 #include "views/interaction/TapArea.h"
+#include "views/pill/Fade.h"
 #include "views/pill/PillMotion.h"
 
 #include <algorithm>
@@ -19,11 +20,6 @@ constexpr double reach = 10;         ///< around it, within which it is pressed 
 constexpr double playingOpacity = 0.9;
 constexpr double pausedOpacity = 0.4;
 constexpr double buttonOpacity = 0.8;
-
-void show(QQuickItem& item, double opacity) {
-    item.setOpacity(opacity);
-    item.setVisible(opacity > 0);
-}
 
 } // namespace
 
@@ -51,8 +47,8 @@ void Waveform::follow() {
 
 void Waveform::layOut(const PillMotion& motion) {
     const double swap = std::clamp(motion.indicator.value(), 0.0, 1.0);
-    show(*waveform_, (model_.isPlaying() ? playingOpacity : pausedOpacity) * (1 - swap));
-    show(*button_, buttonOpacity * swap);
+    fade(*waveform_, (model_.isPlaying() ? playingOpacity : pausedOpacity) * (1 - swap));
+    fade(*button_, buttonOpacity * swap);
 }
 
 } // namespace brellowind
