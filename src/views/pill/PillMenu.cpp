@@ -33,15 +33,26 @@ private:
 
 } // namespace
 
-PillMenu::PillMenu(NotchRootModel& model) : nextTop_(padding) {
+PillMenu::PillMenu(NotchRootModel& model) {
     setObjectName(QStringLiteral("menu"));
     auto* background = new MenuBackground(radius(), contentItem());
-    add(tr("Open Settings"), [&model] { model.openSettings(); });
-    add(tr("Check for Updates…"), [&model] { model.checkForUpdates(); });
-    add(tr("Quit Brellowind"), [&model] { model.quit(); });
-    const QSizeF size(PillMenuEntry::entryWidth + 2 * padding, nextTop_ + padding);
-    background->setSize(size);
-    resize(size.toSize());
+    const std::pair<QString, void (NotchRootModel::*)()> entries[] = {
+        {tr("Open Settings"), &NotchRootModel::openSettings},
+        {tr("Check for Updates…"), &NotchRootModel::checkForUpdates},
+        {tr("Quit Brellowind"), &NotchRootModel::quit},
+    };
+    double top = padding;
+    for (const auto& [text, action] : entries) {
+        auto* entry = new PillMenuEntry(text, contentItem());
+        entry->setPosition({padding, top});
+        top += entry->height();
+        connect(entry, &PillMenuEntry::triggered, this, [this, &model, action = action] {
+            close();
+            (model.*action)();
+        });
+    }
+    background->setSize({PillMenuEntry::entryWidth + 2 * padding, top + padding});
+    resize(background->size().toSize());
 }
 
 void PillMenu::popup(QPoint position) {
@@ -50,16 +61,6 @@ void PillMenu::popup(QPoint position) {
     setPosition(std::max(area.x(), std::min(position.x(), area.x() + area.width() - width())),
                 std::max(area.y(), std::min(position.y(), area.y() + area.height() - height())));
     show();
-}
-
-void PillMenu::add(const QString& text, std::function<void()> action) {
-    auto* entry = new PillMenuEntry(text, contentItem());
-    entry->setPosition({padding, nextTop_});
-    nextTop_ += entry->height();
-    connect(entry, &PillMenuEntry::triggered, this, [this, action = std::move(action)] {
-        close();
-        action();
-    });
 }
 
 } // namespace brellowind

@@ -2,8 +2,6 @@
 
 #include "views/interaction/MenuWindow.h"
 
-#include <functional>
-
 namespace brellowind {
 
 class NotchRootModel;
@@ -18,11 +16,6 @@ public:
 
     /// Shows it with its corner at a point of the desktop, or as near as the screen's edges allow.
     void popup(QPoint position);
-
-private:
-    void add(const QString& text, std::function<void()> action);
-
-    double nextTop_;
 };
 
 } // namespace brellowind
