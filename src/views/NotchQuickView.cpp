@@ -10,8 +10,7 @@
 namespace brellowind {
 
 NotchQuickView::NotchQuickView(std::shared_ptr<NotchRootView> rootView)
-    : model_(new NotchRootModel(std::move(rootView), this)),
-      pill_(new Pill(*model_, contentItem())) {
+    : pill_(new Pill(*new NotchRootModel(std::move(rootView), this), contentItem())) {
     installAccessibility();
     setColor(Qt::transparent);
     connect(this, &QQuickWindow::beforeSynchronizing, this, &NotchQuickView::followOutline);

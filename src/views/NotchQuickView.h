@@ -6,7 +6,6 @@
 
 namespace brellowind {
 
-class NotchRootModel;
 class NotchRootView;
 class Pill;
 
@@ -30,7 +29,6 @@ protected:
 private:
     void followOutline();
 
-    NotchRootModel* model_;
     Pill* pill_;
     QRectF pillRect_;
 };

@@ -8,9 +8,8 @@ namespace brellowind {
 ArtworkImage::ArtworkImage(QQuickItem* parent) : PainterItem(parent) {}
 
 void ArtworkImage::setImage(const QImage& image) {
-    if (image.cacheKey() == image_.cacheKey())
+    if (image.cacheKey() == cover_.image().cacheKey())
         return;
-    image_ = image;
     cover_ = CoverImage(image);
     update();
 }

@@ -20,7 +20,6 @@ public:
     void paint(QPainter& painter) override;
 
 private:
-    QImage image_;
     CoverImage cover_;
     double radius_ = 0;
 };

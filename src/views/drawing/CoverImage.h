@@ -19,6 +19,8 @@ public:
 
     bool isNull() const { return image_.isNull(); }
 
+    const QImage& image() const { return image_; }
+
     /// The smallest copy that is at least `pixels` wide.
     const QImage& atLeast(double pixels);
 
