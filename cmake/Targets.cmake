@@ -50,3 +50,16 @@ function(brellowind_qt_library name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(${name} PUBLIC Qt6::Core PRIVATE brellowind_qt_options)
 endfunction()
+
+# Where the library of the settings window is, beside the folder "bin" of the program: the same in a
+# build tree and in an installation.
+set(BRELLOWIND_LIBRARY_FOLDER lib/brellowind)
+
+# Makes a program that is all of Brellowind of the executable `target`.
+function(brellowind_program target)
+  target_link_libraries(${target} PRIVATE brellowind_app brellowind_qt_options)
+  add_dependencies(${target} brellowind_settings_library)
+  set_target_properties(${target} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin
+    ENABLE_EXPORTS ON) # to that library
+endfunction()

@@ -28,7 +28,7 @@ def every(seconds, length=3600):
 class Bench:
     def __init__(self, build, quick):
         self.programs = {"player": f"{build}/showcase/player/brellowind-demo-player",
-                         "measured": f"{build}/benchmarks/program/brellowind-measured",
+                         "measured": f"{build}/bin/brellowind-measured",
                          "window": f"{build}/benchmarks/window/empty-window",
                          "eye": f"{build}/benchmarks/eye/eye"}
         self.seconds = 6 if quick else 20

@@ -3,10 +3,10 @@
 #include "app/BrellowindApp.h"
 #include "views/NotchRootModel.h"
 #include "views/NotchRootView.h"
+#include "views/NotchView.h"
 
 #include <QGuiApplication>
 #include <QMetaMethod>
-#include <QQuickItem>
 #include <array>
 #include <cstdio>
 #include <nlohmann/json.hpp>
@@ -68,10 +68,9 @@ std::string Commands::answer(const std::string& command) {
 
 /// Where the lyric line is on the screen, in pixels.
 std::string Commands::lineRect() const {
-    const auto* line =
-        app_.window().contentItem()->findChild<QQuickItem*>(QStringLiteral("lyricLine"));
-    const double scale = app_.window().effectiveDevicePixelRatio();
-    const QRectF rect = line->mapRectToScene(QRectF(0, 0, line->width(), line->height()));
+    const auto* line = app_.window().root().findChild<Item*>(QStringLiteral("lyricLine"));
+    const double scale = app_.window().devicePixelRatio();
+    const QRectF rect = line->mapRectToScene(line->boundingRect());
     const QPoint origin = app_.window().mapToGlobal(QPoint(0, 0));
     return json{origin.x() + rect.x() * scale, origin.y() + rect.y() * scale, rect.width() * scale,
                 rect.height() * scale}

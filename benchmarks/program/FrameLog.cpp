@@ -14,9 +14,9 @@ double processorTime() {
 
 } // namespace
 
-FrameLog::FrameLog(QQuickWindow& window) {
+FrameLog::FrameLog(SceneWindow& window) {
     durations_.reserve(4096);
-    connect(&window, &QQuickWindow::frameSwapped, this, &FrameLog::frame, Qt::DirectConnection);
+    connect(&window, &SceneWindow::frameShown, this, &FrameLog::frame);
 }
 
 void FrameLog::start() {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QQuickWindow>
+#include "views/scene/SceneWindow.h"
+
 #include <vector>
 
 namespace brellowind::benchmarks {
@@ -11,7 +12,7 @@ class FrameLog : public QObject {
 
 public:
     /// Prints the moment of the first frame, in nanoseconds of the monotonic clock.
-    explicit FrameLog(QQuickWindow& window);
+    explicit FrameLog(SceneWindow& window);
 
     void start();
 

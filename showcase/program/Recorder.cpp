@@ -2,10 +2,10 @@
 
 #include "app/BrellowindApp.h"
 #include "views/NotchRootView.h"
+#include "views/NotchView.h"
 
 #include <QGuiApplication>
 #include <QPixmap>
-#include <QQuickWindow>
 #include <QScreen>
 #include <cstdio>
 

@@ -12,7 +12,7 @@ using platform::services;
 AppDelegate::Notch::Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock)
     : content(std::move(rootView)), overlay(content, services().mainLoop, screenLock),
       window(overlay) {
-    QObject::connect(&content, &NotchQuickView::outlineChanged, &overlay,
+    QObject::connect(&content, &NotchView::outlineChanged, &overlay,
                      &platform::X11OverlayWindow::setContentOutline);
 }
 

@@ -3,7 +3,7 @@
 #include "foundation/Observers.h"
 #include "notch/NotchWindow.h"
 #include "platform/linux/x11/X11OverlayWindow.h"
-#include "views/NotchQuickView.h"
+#include "views/NotchView.h"
 
 #include <functional>
 #include <memory>
@@ -26,14 +26,14 @@ public:
     void applicationDidFinishLaunching();
 
     NotchRootView& rootView() { return *rootView_; }
-    QQuickWindow& window() { return notch_->content; } ///< there once launched
+    NotchView& window() { return notch_->content; } ///< there once launched
 
 private:
     /// The window's three sides: what it draws, what the system shows, where it hangs.
     struct Notch {
         Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock);
 
-        NotchQuickView content;
+        NotchView content;
         platform::X11OverlayWindow overlay;
         NotchWindow window;
     };

@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/CompiledConstants.h"
+#include "app/SettingsLibrary.h"
 #include "platform/Services.h"
 #include "platform/linux/MprisPlayer.h"
 #include "platform/linux/ScreenLock.h"
@@ -20,13 +21,10 @@
 #include "platform/qt/QtStartEnvironment.h"
 #include "platform/qt/SystemClock.h"
 #include "playback/SpotifyBridge.h"
-#include "settings/window/SettingsWindow.h"
 #include "views/NotchRootView.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
-#include <QQuickWindow>
-#include <QSGRendererInterface>
 #include <QStandardPaths>
 #include <cstdlib>
 #ifdef __GLIBC__
@@ -44,6 +42,10 @@ platform::XdgLoginItem makeLoginItem() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return {folder.toStdString(), QCoreApplication::applicationFilePath().toStdString(),
             qEnvironmentVariable("PATH").toStdString()};
+}
+
+std::string settingsPath() {
+    return QCoreApplication::applicationDirPath().toStdString() + '/' + settingsLibrary;
 }
 
 platform::MprisVocabulary mprisVocabulary() {
@@ -97,7 +99,7 @@ struct BrellowindApp::Machine {
                                    .loginItem = loginItem,
                                    .constants = constants}};
     platform::UnixSignals signals{[this] { application.terminate(); }};
-    SettingsWindow settings;
+    SettingsLibrary settings{settingsPath()};
     AppDelegate delegate{screenLock, [this] { settings.open(); }};
     platform::SingleInstance instance{QDBusConnection::sessionBus(),
                                       qEnvironmentVariable("DISPLAY"),
@@ -110,8 +112,6 @@ void BrellowindApp::prepare() {
     // What little other threads allocate needs no memory of each thread's own.
     mallopt(M_ARENA_MAX, 1);
 #endif
-    // A pill is too small to need a graphics card, and takes a third of the memory without one.
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -132,7 +132,7 @@ NotchRootView& BrellowindApp::rootView() {
     return machine_->delegate.rootView();
 }
 
-QQuickWindow& BrellowindApp::window() {
+NotchView& BrellowindApp::window() {
     return machine_->delegate.window();
 }
 

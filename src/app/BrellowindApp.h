@@ -4,10 +4,9 @@
 
 #include <memory>
 
-class QQuickWindow;
-
 namespace brellowind {
 
+class NotchView;
 class NotchRootView;
 
 /// The application: the services of this machine, and what is built on them. A `QGuiApplication`
@@ -30,7 +29,7 @@ public:
     void launch();
 
     NotchRootView& rootView();
-    QQuickWindow& window(); ///< there once launched
+    NotchView& window(); ///< there once launched
 
 private:
     struct Machine;

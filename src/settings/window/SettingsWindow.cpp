@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QSGRendererInterface>
 #include <cmath>
 #include <functional>
 #include <utility>
@@ -18,10 +19,13 @@ namespace brellowind {
 namespace {
 
 /// Once, since Qt keeps every registration for good, also one that repeats another.
-void registerTypes() {
-    static bool registered = false;
-    if (!std::exchange(registered, true))
-        qml_register_types_Brellowind_Settings();
+void prepareQtQuick() {
+    static bool prepared = false;
+    if (std::exchange(prepared, true))
+        return;
+    // A small window of text needs no graphics card, and takes a third of the memory without one.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    qml_register_types_Brellowind_Settings();
 }
 
 /// The window is as large as what it shows, and nobody can pull it larger or smaller.
@@ -82,7 +86,7 @@ QQuickWindow* SettingsWindow::window() const {
 }
 
 void SettingsWindow::build() {
-    registerTypes();
+    prepareQtQuick();
     content_ = std::make_unique<Content>([this] { closed(); });
     auto& [model, view] = *content_;
     view.setTitle(toQString(AppInfo::name));

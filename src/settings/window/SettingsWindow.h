@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/MainLoop.h"
+#include "settings/SettingsOpener.h"
 
 #include <memory>
 
@@ -11,15 +12,12 @@ namespace brellowind {
 /// The program's only ordinary window. It is built when it is opened and given back, with all its
 /// memory, when it closes. A `QGuiApplication` and the platform's services must outlive it; closing
 /// it ends the program unless `QGuiApplication::quitOnLastWindowClosed` is off.
-class SettingsWindow {
+class SettingsWindow : public SettingsOpener {
 public:
     SettingsWindow();
-    SettingsWindow(const SettingsWindow&) = delete;
-    SettingsWindow& operator=(const SettingsWindow&) = delete;
-    ~SettingsWindow();
+    ~SettingsWindow() override;
 
-    /// Shows the window on the router's tab and brings it to the front, also when it is open.
-    void open();
+    void open() override;
 
     /// The window while there is one: null before it is first opened and after it closed.
     QQuickWindow* window() const;

@@ -5,7 +5,7 @@
 
 namespace brellowind {
 
-ArtworkImage::ArtworkImage(QQuickItem* parent) : PainterItem(parent) {}
+ArtworkImage::ArtworkImage(Item* parent) : PainterItem(parent) {}
 
 void ArtworkImage::setImage(const QImage& image) {
     if (image.cacheKey() == cover_.image().cacheKey())

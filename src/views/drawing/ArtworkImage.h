@@ -1,7 +1,7 @@
 #pragma once
 
 #include "views/drawing/CoverImage.h"
-#include "views/drawing/PainterItem.h"
+#include "views/scene/Item.h"
 
 namespace brellowind {
 
@@ -10,7 +10,7 @@ class ArtworkImage : public PainterItem {
     Q_OBJECT
 
 public:
-    explicit ArtworkImage(QQuickItem* parent = nullptr);
+    explicit ArtworkImage(Item* parent = nullptr);
 
     void setImage(const QImage& image);
 

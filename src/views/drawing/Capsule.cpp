@@ -5,7 +5,7 @@
 
 namespace brellowind {
 
-Capsule::Capsule(QQuickItem* parent) : PainterItem(parent) {}
+Capsule::Capsule(Item* parent) : PainterItem(parent) {}
 
 void Capsule::setColor(const QColor& color) {
     if (color == color_)

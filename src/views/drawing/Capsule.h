@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/drawing/PainterItem.h"
+#include "views/scene/Item.h"
 
 #include <QColor>
 
@@ -11,7 +11,7 @@ class Capsule : public PainterItem {
     Q_OBJECT
 
 public:
-    explicit Capsule(QQuickItem* parent = nullptr);
+    explicit Capsule(Item* parent = nullptr);
 
     QColor color() const { return color_; }
     void setColor(const QColor& color);

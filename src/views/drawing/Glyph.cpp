@@ -30,7 +30,7 @@ QPainterPath pausePath() {
 
 } // namespace
 
-Glyph::Glyph(QQuickItem* parent) : PainterItem(parent) {}
+Glyph::Glyph(Item* parent) : PainterItem(parent) {}
 
 void Glyph::setKind(Kind kind) {
     if (kind == kind_)

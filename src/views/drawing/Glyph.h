@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/drawing/PainterItem.h"
+#include "views/scene/Item.h"
 
 namespace brellowind {
 
@@ -11,7 +11,7 @@ class Glyph : public PainterItem {
 public:
     enum Kind { PlayFill, PauseFill };
 
-    explicit Glyph(QQuickItem* parent = nullptr);
+    explicit Glyph(Item* parent = nullptr);
 
     Kind kind() const { return kind_; }
     void setKind(Kind kind);

@@ -1,19 +1,19 @@
 #include "views/drawing/LyricText.h"
 
+#include "views/scene/SceneWindow.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QQuickWindow>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace brellowind {
 
-LyricText::LyricText(Look look, const QString& text, bool present, QQuickItem* parent)
+LyricText::LyricText(Look look, const QString& text, bool present, Item* parent)
     : PainterItem(parent), look_(std::move(look)), text_(text), present_(present) {
     layers_.emplace_back(text_, look_.font, look_.maximumWidth, present_ ? 1.0 : 0.0);
-    setImplicitHeight(std::ceil(QFontMetricsF(look_.font).height()));
-    followWidth();
+    followSize();
 }
 
 LyricText::~LyricText() {
@@ -41,14 +41,12 @@ void LyricText::setPresent(bool present) {
     FrameDriver::shared().drive(*this);
 }
 
-void LyricText::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemVisibleHasChanged)
-        announceVisibility(*this);
-    PainterItem::itemChange(change, data);
+void LyricText::visibilityChanged() {
+    announceVisibility(*this, isVisible());
 }
 
-void LyricText::followWidth() {
-    setImplicitWidth(std::ceil(naturalWidth()));
+void LyricText::followSize() {
+    setSize({std::ceil(naturalWidth()), std::ceil(QFontMetricsF(look_.font).height())});
 }
 
 /// A line that is still on its way out turns back when its text comes again.
@@ -61,7 +59,7 @@ void LyricText::show(double now) {
         layers_.splice(layers_.end(), layers_, leaving);
     if (present_)
         layers_.back().comeIn(now);
-    followWidth();
+    followSize();
     FrameDriver::shared().drive(*this);
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "views/drawing/PainterItem.h"
 #include "views/drawing/TextLayer.h"
 #include "views/interaction/Accessible.h"
 #include "views/motion/FrameDriver.h"
+#include "views/scene/Item.h"
 
 #include <QColor>
 #include <QFont>
@@ -25,7 +25,7 @@ public:
     };
 
     /// Shows `text` at once, unless it is not present.
-    LyricText(Look look, const QString& text, bool present, QQuickItem* parent);
+    LyricText(Look look, const QString& text, bool present, Item* parent);
     ~LyricText() override;
 
     QString text() const { return text_; }
@@ -47,12 +47,12 @@ Q_SIGNALS:
     void textChanged(const QString& text);
 
 protected:
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
+    void visibilityChanged() override;
 
 private:
     std::optional<double> advance(double now) override;
     void show(double now);
-    void followWidth();
+    void followSize();
 
     Look look_;
     QString text_;

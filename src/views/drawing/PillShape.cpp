@@ -69,7 +69,7 @@ QImage widened(const QImage& alpha, int width) {
 
 } // namespace
 
-PillShape::PillShape(QQuickItem* parent) : PainterItem(parent) {}
+PillShape::PillShape(Item* parent) : PainterItem(parent) {}
 
 double PillShape::flare() const {
     return topRadius;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/drawing/PainterItem.h"
+#include "views/scene/Item.h"
 
 #include <QImage>
 #include <QPainterPath>
@@ -12,7 +12,7 @@ class PillShape : public PainterItem {
     Q_OBJECT
 
 public:
-    explicit PillShape(QQuickItem* parent = nullptr);
+    explicit PillShape(Item* parent = nullptr);
 
     /// How far the top corners flare beyond the sides.
     double flare() const;

@@ -39,7 +39,7 @@ QImage blurredCover(const QImage& image) {
 
 } // namespace
 
-VisualEffectBlur::VisualEffectBlur(double coverSide, double radius, QQuickItem* parent)
+VisualEffectBlur::VisualEffectBlur(double coverSide, double radius, Item* parent)
     : PainterItem(parent), coverSide_(coverSide), radius_(radius) {}
 
 void VisualEffectBlur::setImage(const QImage& image) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/drawing/PainterItem.h"
+#include "views/scene/Item.h"
 
 #include <QImage>
 
@@ -13,7 +13,7 @@ class VisualEffectBlur : public PainterItem {
     Q_OBJECT
 
 public:
-    VisualEffectBlur(double coverSide, double radius, QQuickItem* parent);
+    VisualEffectBlur(double coverSide, double radius, Item* parent);
 
     void setImage(const QImage& image);
 

@@ -20,7 +20,7 @@ constexpr double faintest = 0.35;
 
 } // namespace
 
-WaveformGlyph::WaveformGlyph(QQuickItem* parent) : PainterItem(parent) {}
+WaveformGlyph::WaveformGlyph(Item* parent) : PainterItem(parent) {}
 
 void WaveformGlyph::setActive(bool active) {
     if (active == active_)
@@ -97,10 +97,8 @@ void WaveformGlyph::timerEvent(QTimerEvent* event) {
     setStep(step_ + 1);
 }
 
-void WaveformGlyph::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemVisibleHasChanged)
-        follow();
-    PainterItem::itemChange(change, data);
+void WaveformGlyph::visibilityChanged() {
+    follow();
 }
 
 void WaveformGlyph::follow() {

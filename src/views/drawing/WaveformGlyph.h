@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/drawing/PainterItem.h"
+#include "views/scene/Item.h"
 
 #include <QBasicTimer>
 #include <QImage>
@@ -15,7 +15,7 @@ class WaveformGlyph : public PainterItem {
 public:
     static constexpr int barCount = 5;
 
-    explicit WaveformGlyph(QQuickItem* parent = nullptr);
+    explicit WaveformGlyph(Item* parent = nullptr);
 
     bool isActive() const { return active_; }
     void setActive(bool active);
@@ -30,7 +30,7 @@ public:
 
 protected:
     void timerEvent(QTimerEvent* event) override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
+    void visibilityChanged() override;
 
 private:
     void follow();

@@ -1,18 +1,16 @@
 #include "views/interaction/Accessible.h"
 
-#include "views/NotchQuickView.h"
-#include "views/interaction/MenuWindow.h"
+#include "views/scene/SceneWindow.h"
 
 #include <QAccessibleObject>
 #include <QGuiApplication>
-#include <QQuickItem>
 
 namespace brellowind {
 namespace {
 
 class AccessibleItem final : public QAccessibleObject, public QAccessibleActionInterface {
 public:
-    AccessibleItem(QQuickItem& item, Accessible& accessible)
+    AccessibleItem(Item& item, Accessible& accessible)
         : QAccessibleObject(&item), accessible_(accessible) {}
 
     QAccessibleInterface* parent() const override {
@@ -56,15 +54,14 @@ public:
     }
 
 private:
-    QQuickItem& item() const { return *static_cast<QQuickItem*>(object()); }
+    Item& item() const { return *static_cast<Item*>(object()); }
 
     Accessible& accessible_;
 };
 
 class AccessibleWindow final : public QAccessibleObject {
 public:
-    AccessibleWindow(QQuickWindow& window, QAccessible::Role role)
-        : QAccessibleObject(&window), role_(role) {}
+    explicit AccessibleWindow(SceneWindow& window) : QAccessibleObject(&window) {}
 
     QAccessibleInterface* parent() const override {
         return QAccessible::queryAccessibleInterface(qGuiApp);
@@ -75,9 +72,9 @@ public:
         return static_cast<int>(
             children().indexOf(const_cast<QAccessibleInterface*>(child))); // not changed by it
     }
-    QWindow* window() const override { return &quickWindow(); }
-    QRect rect() const override { return quickWindow().geometry(); }
-    QAccessible::Role role() const override { return role_; }
+    QWindow* window() const override { return &scene(); }
+    QRect rect() const override { return scene().geometry(); }
+    QAccessible::Role role() const override { return scene().accessibleRole(); }
 
     QAccessibleInterface* childAt(int x, int y) const override {
         const auto found = children();
@@ -93,46 +90,42 @@ public:
 
     QAccessible::State state() const override {
         QAccessible::State state;
-        state.invisible = !quickWindow().isVisible();
+        state.invisible = !scene().isVisible();
         return state;
     }
 
 private:
-    QQuickWindow& quickWindow() const { return *static_cast<QQuickWindow*>(object()); }
+    SceneWindow& scene() const { return *static_cast<SceneWindow*>(object()); }
 
     QList<QAccessibleInterface*> children() const {
         QList<QAccessibleInterface*> found;
-        collect(*quickWindow().contentItem(), found);
+        collect(scene().root(), found);
         return found;
     }
 
     /// All that can be found now, from the bottom to the top.
-    static void collect(const QQuickItem& from, QList<QAccessibleInterface*>& found) {
+    static void collect(const Item& from, QList<QAccessibleInterface*>& found) {
         for (auto* item : from.childItems()) {
-            if (!item->isVisible() || !item->isEnabled())
+            if (!item->isVisible())
                 continue;
-            if (dynamic_cast<Accessible*>(item))
+            const auto* accessible = dynamic_cast<Accessible*>(item);
+            if (accessible && accessible->isAvailable())
                 found.push_back(QAccessible::queryAccessibleInterface(item));
             collect(*item, found);
         }
     }
-
-    QAccessible::Role role_;
 };
 
 QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* object) {
-    if (auto* item = qobject_cast<QQuickItem*>(object)) {
+    if (auto* item = qobject_cast<Item*>(object)) {
         auto* accessible = dynamic_cast<Accessible*>(item);
         return accessible ? new AccessibleItem(*item, *accessible) : nullptr;
     }
-    if (auto* notch = qobject_cast<NotchQuickView*>(object))
-        return new AccessibleWindow(*notch, QAccessible::Window);
-    if (auto* menu = qobject_cast<MenuWindow*>(object))
-        return new AccessibleWindow(*menu, QAccessible::PopupMenu);
-    return nullptr;
+    auto* window = qobject_cast<SceneWindow*>(object);
+    return window ? new AccessibleWindow(*window) : nullptr;
 }
 
-void announce(QQuickItem& item, QAccessible::Event what) {
+void announce(Item& item, QAccessible::Event what) {
     if (!QAccessible::isActive())
         return;
     QAccessibleEvent event(&item, what);
@@ -145,12 +138,12 @@ void installAccessibility() {
     QAccessible::installFactory(makeAccessible);
 }
 
-void announceName(QQuickItem& item) {
+void announceName(Item& item) {
     announce(item, QAccessible::NameChanged);
 }
 
-void announceVisibility(QQuickItem& item) {
-    announce(item, item.isVisible() ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+void announceVisibility(Item& item, bool visible) {
+    announce(item, visible ? QAccessible::ObjectShow : QAccessible::ObjectHide);
 }
 
 } // namespace brellowind

@@ -3,9 +3,9 @@
 #include <QAccessible>
 #include <QString>
 
-class QQuickItem;
-
 namespace brellowind {
+
+class Item;
 
 /// What assistive programs learn of an item, and do with it. An item that is to be found derives
 /// from it beside its own class.
@@ -16,6 +16,9 @@ public:
     virtual QAccessible::Role accessibleRole() const = 0;
     virtual QString accessibleName() const = 0;
 
+    /// Whether it is to be found while it is visible.
+    virtual bool isAvailable() const { return true; }
+
     virtual bool isPressable() const { return false; }
     virtual void press() {}
 };
@@ -25,9 +28,9 @@ public:
 void installAccessibility();
 
 /// Tells those who listen that the item, which is `Accessible`, has another name now.
-void announceName(QQuickItem& item);
+void announceName(Item& item);
 
-/// The same when it came to be seen, or to be seen no more.
-void announceVisibility(QQuickItem& item);
+/// The same when it came to be found, or to be found no more.
+void announceVisibility(Item& item, bool visible);
 
 } // namespace brellowind

@@ -27,14 +27,13 @@ QRegion roundedRegion(QSize size, double radius) {
 
 } // namespace
 
-MenuWindow::MenuWindow(QWindow* parent) : QQuickWindow(parent) {
+MenuWindow::MenuWindow(QWindow* parent) : SceneWindow(parent) {
     setFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
-    setColor(Qt::transparent);
 }
 
 bool MenuWindow::eventFilter(QObject* receiver, QEvent* event) {
     if (!isDismissedBy(receiver, event))
-        return QQuickWindow::eventFilter(receiver, event);
+        return SceneWindow::eventFilter(receiver, event);
     close();
     return true;
 }
@@ -52,12 +51,12 @@ bool MenuWindow::isDismissedBy(const QObject* receiver, const QEvent* event) con
 }
 
 void MenuWindow::showEvent(QShowEvent* event) {
-    QQuickWindow::showEvent(event);
+    SceneWindow::showEvent(event);
     qGuiApp->installEventFilter(this);
 }
 
 void MenuWindow::exposeEvent(QExposeEvent* event) {
-    QQuickWindow::exposeEvent(event);
+    SceneWindow::exposeEvent(event);
     if (isExposed())
         hold(true); // not earlier: a window that is not seen yet can grab nothing
 }
@@ -65,11 +64,11 @@ void MenuWindow::exposeEvent(QExposeEvent* event) {
 void MenuWindow::hideEvent(QHideEvent* event) {
     qGuiApp->removeEventFilter(this);
     hold(false);
-    QQuickWindow::hideEvent(event);
+    SceneWindow::hideEvent(event);
 }
 
 void MenuWindow::resizeEvent(QResizeEvent* event) {
-    QQuickWindow::resizeEvent(event);
+    SceneWindow::resizeEvent(event);
     setMask(roundedRegion(size(), radius()));
 }
 

@@ -2,9 +2,7 @@
 
 namespace brellowind {
 
-TapArea::TapArea(QAccessible::Role role, QQuickItem* parent) : QQuickItem(parent), role_(role) {
-    setAcceptedMouseButtons(Qt::LeftButton);
-}
+TapArea::TapArea(QAccessible::Role role, Item* parent) : Item(parent), role_(role) {}
 
 void TapArea::setName(const QString& name) {
     if (name == name_)
@@ -13,45 +11,29 @@ void TapArea::setName(const QString& name) {
     announceName(*this);
 }
 
-void TapArea::hoverEnterEvent(QHoverEvent* /*event*/) {
-    setHovered(true);
+void TapArea::setEnabled(bool enabled) {
+    if (enabled == enabled_)
+        return;
+    enabled_ = enabled;
+    visibilityChanged();
 }
 
-void TapArea::hoverLeaveEvent(QHoverEvent* /*event*/) {
-    setHovered(false);
+bool TapArea::takes(Qt::MouseButton button) const {
+    return button == Qt::LeftButton || (takesRightButton_ && button == Qt::RightButton);
 }
 
-/// Whoever takes the press is told of the release.
-void TapArea::mousePressEvent(QMouseEvent* event) {
-    event->accept();
-}
-
-void TapArea::mouseDoubleClickEvent(QMouseEvent* event) {
-    event->accept(); // two taps are two taps
-}
-
-/// While a button is down nobody is told of hovering.
-void TapArea::mouseMoveEvent(QMouseEvent* event) {
-    if (acceptHoverEvents())
-        setHovered(contains(event->position()));
-}
-
-void TapArea::mouseReleaseEvent(QMouseEvent* event) {
-    if (!contains(event->position()))
-        return; // it was taken back
-    if (event->button() == Qt::LeftButton)
+void TapArea::tap(Qt::MouseButton button, QPointF position) {
+    if (button == Qt::LeftButton)
         Q_EMIT tapped();
     else
-        Q_EMIT menuRequested(event->globalPosition());
+        Q_EMIT menuRequested(position);
 }
 
-void TapArea::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemVisibleHasChanged || change == ItemEnabledHasChanged) {
-        if (!isVisible() || !isEnabled())
-            setHovered(false);
-        announceVisibility(*this);
-    }
-    QQuickItem::itemChange(change, data);
+void TapArea::visibilityChanged() {
+    const bool visible = isVisible() && enabled_;
+    if (!visible)
+        setHovered(false);
+    announceVisibility(*this, visible);
 }
 
 void TapArea::setHovered(bool hovered) {

@@ -38,7 +38,7 @@ void drawLine(QPainter& painter, const QRectF& rect, const QString& text, const 
 
 } // namespace
 
-ArtworkCaption::ArtworkCaption(QQuickItem* parent)
+ArtworkCaption::ArtworkCaption(Item* parent)
     : VisualEffectBlur(style::artworkSide, style::artworkRadius, parent) {
     setSize({style::artworkSide,
              2 * padding + lineHeight(artistFont()) + gap + lineHeight(titleFont())});

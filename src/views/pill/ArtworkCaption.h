@@ -12,7 +12,7 @@ class ArtworkCaption : public VisualEffectBlur {
     Q_OBJECT
 
 public:
-    explicit ArtworkCaption(QQuickItem* parent);
+    explicit ArtworkCaption(Item* parent);
 
     void setTexts(const QString& artist, const QString& title);
 

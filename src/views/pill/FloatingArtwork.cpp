@@ -18,11 +18,11 @@ constexpr double popTilt = -6; ///< degrees
 
 } // namespace
 
-FloatingArtwork::FloatingArtwork(NotchRootModel& model, QQuickItem* parent)
-    : QQuickItem(parent), model_(model), image_(new ArtworkImage(this)),
+FloatingArtwork::FloatingArtwork(NotchRootModel& model, Item* parent)
+    : Item(parent), model_(model), image_(new ArtworkImage(this)),
       area_(new TapArea(QAccessible::Button, this)) {
     area_->setName(tr("Show artwork"));
-    area_->setAcceptHoverEvents(true);
+    area_->mindHovering();
     connect(area_, &TapArea::tapped, this, [this] { model_.tapCover(); });
     connect(area_, &TapArea::hoveredChanged, this,
             [this](bool hovered) { model_.hoverCover(hovered); });
@@ -61,7 +61,7 @@ void FloatingArtwork::showCaption(double opacity) {
     }
     if (!caption_) {
         caption_ = new ArtworkCaption(this);
-        caption_->stackBefore(area_);
+        caption_->stackBefore(*area_);
         caption_->setTransformOrigin(BottomLeft);
         fillCaption();
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QQuickItem>
+#include "views/scene/Item.h"
 
 namespace brellowind {
 
@@ -11,11 +11,11 @@ class TapArea;
 struct PillMotion;
 
 /// The cover, gliding between the thumbnail's place and the panel's.
-class FloatingArtwork : public QQuickItem {
+class FloatingArtwork : public Item {
     Q_OBJECT
 
 public:
-    FloatingArtwork(NotchRootModel& model, QQuickItem* parent);
+    FloatingArtwork(NotchRootModel& model, Item* parent);
 
     /// Shows what the model has now.
     void follow();

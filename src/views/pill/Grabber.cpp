@@ -18,15 +18,15 @@ constexpr double bright = 0.25;
 
 } // namespace
 
-Grabber::Grabber(NotchRootModel& model, QQuickItem* parent)
-    : QQuickItem(parent), model_(model), capsule_(new Capsule(this)),
+Grabber::Grabber(NotchRootModel& model, Item* parent)
+    : Item(parent), model_(model), capsule_(new Capsule(this)),
       area_(new TapArea(QAccessible::Button, this)) {
     setSize({style::grabberWidth, style::grabberPadding + style::grabberHeight});
     capsule_->setPosition({0, style::grabberPadding});
     capsule_->setSize({style::grabberWidth, style::grabberHeight});
     area_->setPosition({-reach, -reach});
     area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
-    area_->setAcceptHoverEvents(true);
+    area_->mindHovering();
     connect(area_, &TapArea::tapped, this, [this] { model_.tapGrabber(); });
     connect(area_, &TapArea::hoveredChanged, this,
             [this](bool hovered) { model_.hoverGrabber(hovered); });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QQuickItem>
+#include "views/scene/Item.h"
 
 namespace brellowind {
 
@@ -10,11 +10,11 @@ class TapArea;
 struct PillMotion;
 
 /// The handle at the lower edge of a pill that the pointer is over.
-class Grabber : public QQuickItem {
+class Grabber : public Item {
     Q_OBJECT
 
 public:
-    Grabber(NotchRootModel& model, QQuickItem* parent);
+    Grabber(NotchRootModel& model, Item* parent);
 
     /// Shows what the model has now.
     void follow();

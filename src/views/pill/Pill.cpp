@@ -11,7 +11,6 @@
 #include "views/pill/Style.h"
 #include "views/pill/Waveform.h"
 
-#include <QQuickWindow>
 #include <utility>
 
 namespace brellowind {
@@ -33,15 +32,15 @@ LyricText::Look panelLineLook() {
     return {style::font(15, QFont::DemiBold), style::text, style::artworkSide};
 }
 
-void centre(QQuickItem& item, double width) {
+void centre(Item& item, double width) {
     item.setX((width - item.width()) / 2);
 }
 
 } // namespace
 
-Pill::Pill(NotchRootModel& model, QQuickItem* parent)
-    : QQuickItem(parent), model_(model), shape_(named(new PillShape(this), "pill")),
-      background_(new TapArea(QAccessible::Grouping, this)), inside_(new QQuickItem(this)),
+Pill::Pill(NotchRootModel& model, Item* parent)
+    : Item(parent), model_(model), shape_(named(new PillShape(this), "pill")),
+      background_(new TapArea(QAccessible::Grouping, this)), inside_(new Item(this)),
       line_(named(new LyricText(lineLook(), model.currentLineText(), !model.isMinimized(), inside_),
                   "lyricLine")),
       artwork_(named(new FloatingArtwork(model, this), "artwork")),
@@ -50,7 +49,7 @@ Pill::Pill(NotchRootModel& model, QQuickItem* parent)
     setObjectName(QStringLiteral("notch"));
     setTransformOrigin(Top);
     inside_->setClip(true);
-    background_->setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
+    background_->takeRightButton();
     connect(background_, &TapArea::tapped, this, &Pill::tapBackground);
     connect(background_, &TapArea::menuRequested, this, &Pill::openMenu);
     for (const auto change : {&NotchRootModel::currentLineTextChanged,
@@ -71,8 +70,8 @@ void Pill::openMenu(QPointF position) {
     menu_->popup(position.toPoint());
 }
 
-void Pill::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
+void Pill::fill(QSizeF size) {
+    setSize(size);
     layOut();
 }
 
@@ -164,13 +163,13 @@ double Pill::bottomPadding() const {
 
 double Pill::collapsedHeight() const {
     return style::topPadding + style::bandHeight +
-           motion_.unfold.value() * (style::spacing + line_->implicitHeight()) +
+           motion_.unfold.value() * (style::spacing + line_->height()) +
            motion_.hover.value() * (style::spacing + style::grabberPadding + style::grabberHeight) +
            bottomPadding();
 }
 
 double Pill::panelHeight() const {
-    const double lineHeight = panelLine_ ? panelLine_->implicitHeight() : 0;
+    const double lineHeight = panelLine_ ? panelLine_->height() : 0;
     return style::panelTopPadding + style::bandHeight + style::panelSpacing + style::artworkSide +
            style::panelSpacing + lineHeight + style::panelSpacing + style::grabberPadding +
            style::grabberHeight + style::panelBottomPadding;

@@ -3,7 +3,7 @@
 #include "views/motion/FrameDriver.h"
 #include "views/pill/PillMotion.h"
 
-#include <QQuickItem>
+#include "views/scene/Item.h"
 #include <memory>
 
 namespace brellowind {
@@ -19,13 +19,16 @@ class Waveform;
 
 /// The black pill and all that is in it, hanging from the middle of its top edge. It shows what the
 /// model has: each change of the model turns its springs, and each frame lays it out anew.
-class Pill : public QQuickItem, private Animated {
+class Pill : public Item, private Animated {
     Q_OBJECT
 
 public:
     /// `model` must outlive it.
-    Pill(NotchRootModel& model, QQuickItem* parent);
+    Pill(NotchRootModel& model, Item* parent);
     ~Pill() override;
+
+    /// Hangs in a window of that size.
+    void fill(QSizeF size);
 
     const PillShape& shape() const { return *shape_; }
 
@@ -34,9 +37,6 @@ public:
 
     /// Opens the context menu at a point of the desktop.
     void openMenu(QPointF position);
-
-protected:
-    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
 
 private:
     std::optional<double> advance(double now) override;
@@ -52,7 +52,7 @@ private:
     NotchRootModel& model_;
     PillShape* shape_;
     TapArea* background_;
-    QQuickItem* inside_; ///< clips the texts
+    Item* inside_; ///< clips the texts
     LyricText* line_;
     LyricText* panelLine_ = nullptr; ///< there while the artwork panel is seen
     FloatingArtwork* artwork_;

@@ -1,8 +1,8 @@
 #include "views/pill/PillMenu.h"
 
 #include "views/NotchRootModel.h"
-#include "views/drawing/PainterItem.h"
 #include "views/pill/PillMenuEntry.h"
+#include "views/scene/Item.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -18,7 +18,7 @@ constexpr int padding = 5;
 /// The edge of the menu and what is behind its entries.
 class MenuBackground final : public PainterItem {
 public:
-    MenuBackground(double radius, QQuickItem* parent) : PainterItem(parent), radius_(radius) {}
+    MenuBackground(double radius, Item* parent) : PainterItem(parent), radius_(radius) {}
 
     void paint(QPainter& painter) override {
         painter.setPen(QColor::fromRgbF(1, 1, 1, 0.12F));
@@ -35,7 +35,7 @@ private:
 
 PillMenu::PillMenu(NotchRootModel& model) {
     setObjectName(QStringLiteral("menu"));
-    auto* background = new MenuBackground(radius(), contentItem());
+    auto* background = new MenuBackground(radius(), &root());
     const std::pair<QString, void (NotchRootModel::*)()> entries[] = {
         {tr("Open Settings"), &NotchRootModel::openSettings},
         {tr("Check for Updates…"), &NotchRootModel::checkForUpdates},
@@ -43,7 +43,7 @@ PillMenu::PillMenu(NotchRootModel& model) {
     };
     double top = padding;
     for (const auto& [text, action] : entries) {
-        auto* entry = new PillMenuEntry(text, contentItem());
+        auto* entry = new PillMenuEntry(text, &root());
         entry->setPosition({padding, top});
         top += entry->height();
         connect(entry, &PillMenuEntry::triggered, this, [this, &model, action = action] {

@@ -16,13 +16,12 @@ const QColor highlight = QColor::fromRgbF(1, 1, 1, 0.14F);
 
 } // namespace
 
-PillMenuEntry::PillMenuEntry(const QString& text, QQuickItem* parent)
-    : PainterItem(parent), text_(text) {
+PillMenuEntry::PillMenuEntry(const QString& text, Item* parent) : PainterItem(parent), text_(text) {
     setSize({entryWidth, entryHeight});
     auto* area = new TapArea(QAccessible::MenuItem, this);
     area->setSize(size());
     area->setName(text);
-    area->setAcceptHoverEvents(true);
+    area->mindHovering();
     connect(area, &TapArea::hoveredChanged, this, &PillMenuEntry::setHighlighted);
     connect(area, &TapArea::tapped, this, &PillMenuEntry::triggered);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/drawing/PainterItem.h"
+#include "views/scene/Item.h"
 
 #include <QString>
 
@@ -13,7 +13,7 @@ class PillMenuEntry : public PainterItem {
 public:
     static constexpr double entryWidth = 190;
 
-    PillMenuEntry(const QString& text, QQuickItem* parent);
+    PillMenuEntry(const QString& text, Item* parent);
 
     QString text() const { return text_; }
 

@@ -23,16 +23,16 @@ constexpr double buttonOpacity = 0.8;
 
 } // namespace
 
-Waveform::Waveform(NotchRootModel& model, QQuickItem* parent)
-    : QQuickItem(parent), model_(model), waveform_(new WaveformGlyph(this)),
-      button_(new Glyph(this)), area_(new TapArea(QAccessible::Button, this)) {
+Waveform::Waveform(NotchRootModel& model, Item* parent)
+    : Item(parent), model_(model), waveform_(new WaveformGlyph(this)), button_(new Glyph(this)),
+      area_(new TapArea(QAccessible::Button, this)) {
     setSize({side, side});
     waveform_->setSize(size());
     button_->setPosition({(side - buttonWidth) / 2 + buttonShift, 0});
     button_->setSize({buttonWidth, side});
     area_->setPosition({-reach, -reach});
     area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
-    area_->setAcceptHoverEvents(true);
+    area_->mindHovering();
     connect(area_, &TapArea::tapped, this, [this] { model_.tapWaveform(); });
     connect(area_, &TapArea::hoveredChanged, this,
             [this](bool hovered) { model_.hoverWaveform(hovered); });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QQuickItem>
+#include "views/scene/Item.h"
 
 namespace brellowind {
 
@@ -11,11 +11,11 @@ class WaveformGlyph;
 struct PillMotion;
 
 /// The playing indicator, which is the play/pause button as well.
-class Waveform : public QQuickItem {
+class Waveform : public Item {
     Q_OBJECT
 
 public:
-    Waveform(NotchRootModel& model, QQuickItem* parent);
+    Waveform(NotchRootModel& model, Item* parent);
 
     /// Shows what the model has now.
     void follow();

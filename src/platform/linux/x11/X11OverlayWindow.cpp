@@ -74,7 +74,7 @@ bool X11OverlayWindow::eventFilter(QObject* watched, QEvent* event) {
             adoptNativeWindow();
         else
             native_.reset();
-    } else if (event->type() == QEvent::Resize || event->type() == QEvent::Expose) {
+    } else if (event->type() == QEvent::Resize || event->type() == QEvent::Paint) {
         updateShape(); // the scale may be another
     }
     return QObject::eventFilter(watched, event);

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "views/scene/SceneWindow.h"
+
 #include <QPainterPath>
-#include <QQuickWindow>
 #include <memory>
 
 namespace brellowind {
@@ -10,12 +11,12 @@ class NotchRootView;
 class Pill;
 
 /// The contents of the notch window: it draws the pill at its top, the rest is clear.
-class NotchQuickView : public QQuickWindow {
+class NotchView : public SceneWindow {
     Q_OBJECT
 
 public:
-    explicit NotchQuickView(std::shared_ptr<NotchRootView> rootView);
-    ~NotchQuickView() override;
+    explicit NotchView(std::shared_ptr<NotchRootView> rootView);
+    ~NotchView() override;
 
     Pill& pill() { return *pill_; }
 
@@ -24,11 +25,10 @@ Q_SIGNALS:
     void outlineChanged(const QPainterPath& outline);
 
 protected:
+    void aboutToShow() override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void followOutline();
-
     Pill* pill_;
     QRectF pillRect_;
 };

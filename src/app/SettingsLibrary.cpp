@@ -1,0 +1,36 @@
+#include "app/SettingsLibrary.h"
+
+#include <cstdio>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace brellowind {
+
+SettingsLibrary::SettingsLibrary(const std::string& path)
+    : path_(path), file_(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
+
+SettingsLibrary::~SettingsLibrary() {
+    if (file_ >= 0)
+        ::close(file_);
+}
+
+void SettingsLibrary::open() {
+    if (!window_)
+        load();
+    if (window_)
+        window_->open();
+}
+
+/// It stays loaded: Qt keeps pointers into what registered types.
+void SettingsLibrary::load() {
+    const std::string held = "/proc/self/fd/" + std::to_string(file_);
+    void* library = dlopen(file_ < 0 ? path_.c_str() : held.c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* make = library ? dlsym(library, makeSettingsOpenerName) : nullptr;
+    if (make)
+        window_.reset(reinterpret_cast<MakeSettingsOpener*>(make)());
+    else
+        std::fprintf(stderr, "brellowind: the settings cannot be opened: %s\n", dlerror());
+}
+
+} // namespace brellowind

@@ -1,0 +1,8 @@
+#include "settings/window/SettingsWindow.h"
+
+#include <QtGlobal>
+
+/// What `MakeSettingsOpener` is in the library that holds the settings window.
+extern "C" Q_DECL_EXPORT brellowind::SettingsOpener* brellowindMakeSettingsOpener() {
+    return new brellowind::SettingsWindow;
+}

@@ -1,0 +1,77 @@
+#include "views/interaction/PointerFocus.h"
+
+#include "views/interaction/TapArea.h"
+
+#include <ranges>
+#include <utility>
+
+namespace brellowind {
+namespace {
+
+/// The topmost area at `position` that `wants` it, in and below `item`.
+template <typename Wants>
+TapArea* topmost(const Item& item, QPointF position, const Wants& wants) {
+    for (auto* child : item.childItems() | std::views::reverse) {
+        if (!child->isVisible())
+            continue;
+        if (auto* found = topmost(*child, position, wants))
+            return found;
+        auto* area = qobject_cast<TapArea*>(child);
+        if (area && area->isEnabled() && wants(*area) &&
+            area->contains(area->mapFromScene(position)))
+            return area;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void PointerFocus::press(QPointF position, Qt::MouseButton button) {
+    move(position);
+    if (pressed_)
+        return; // a second button
+    pressed_ = topmost(root_, position, [button](auto& area) { return area.takes(button); });
+    button_ = button;
+}
+
+void PointerFocus::release(QPointF position, QPointF desktopPosition, Qt::MouseButton button) {
+    if (pressed_ && button == button_) {
+        TapArea& area = *std::exchange(pressed_, nullptr);
+        if (area.contains(area.mapFromScene(position))) // otherwise it was taken back
+            area.tap(button, desktopPosition);
+    }
+    move(position);
+}
+
+void PointerFocus::move(QPointF position) {
+    position_ = position;
+    follow();
+}
+
+void PointerFocus::leave() {
+    position_.reset();
+    hover(nullptr);
+}
+
+void PointerFocus::cancel() {
+    pressed_ = nullptr;
+    leave();
+}
+
+void PointerFocus::follow() {
+    if (!position_)
+        return;
+    auto* area = topmost(root_, *position_, [](auto& found) { return found.mindsHovering(); });
+    hover(pressed_ && area != pressed_ ? nullptr : area);
+}
+
+void PointerFocus::hover(TapArea* area) {
+    if (area == hovered_)
+        return;
+    if (auto* left = std::exchange(hovered_, area).data())
+        left->setHovered(false);
+    if (hovered_)
+        hovered_->setHovered(true);
+}
+
+} // namespace brellowind

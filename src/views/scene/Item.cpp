@@ -1,0 +1,133 @@
+#include "views/scene/Item.h"
+
+#include "views/scene/SceneWindow.h"
+
+#include <algorithm>
+
+namespace brellowind {
+
+Item::Item(Item* parent) : parent_(parent) {
+    if (!parent_)
+        return;
+    parent_->children_.push_back(this);
+    setParent(parent_); // so that it is found by its name
+    requestFrame();
+}
+
+/// Children go while there is still an item to leave.
+Item::~Item() {
+    while (!children_.empty())
+        delete children_.back();
+    if (auto* shownIn = window())
+        shownIn->damage(look_.rect);
+    if (parent_)
+        std::erase(parent_->children_, this);
+}
+
+SceneWindow* Item::window() const {
+    return parent_ ? parent_->window() : window_;
+}
+
+void Item::stackBefore(const Item& sibling) {
+    auto& siblings = parent_->children_;
+    std::erase(siblings, this);
+    siblings.insert(std::ranges::find(siblings, &sibling), this);
+    update();
+}
+
+void Item::setSize(QSizeF size) {
+    if (size == size_)
+        return;
+    size_ = size;
+    update();
+}
+
+void Item::setVisible(bool visible) {
+    if (visible == visible_)
+        return;
+    visible_ = visible;
+    if (!parent_ || parent_->isVisible())
+        tellVisibility();
+    requestFrame();
+}
+
+void Item::tellVisibility() {
+    visibilityChanged();
+    for (auto* child : children_)
+        if (child->visible_)
+            child->tellVisibility();
+}
+
+QTransform Item::transform(const Item* ancestor) const {
+    QTransform whole;
+    for (const auto* item = this; item && item != ancestor; item = item->parent_)
+        whole *= item->transformToParent();
+    return whole;
+}
+
+QTransform Item::transformToParent() const {
+    if (scale_ == 1 && rotation_ == 0)
+        return QTransform::fromTranslate(x(), y());
+    const QPointF fixed = origin_ == Top          ? QPointF(width() / 2, 0)
+                          : origin_ == BottomLeft ? QPointF(0, height())
+                                                  : boundingRect().center();
+    QTransform transform;
+    transform.translate(x() + fixed.x(), y() + fixed.y());
+    transform.rotate(rotation_);
+    transform.scale(scale_, scale_);
+    transform.translate(-fixed.x(), -fixed.y());
+    return transform;
+}
+
+void Item::update() {
+    stale_ = true;
+    requestFrame();
+}
+
+void Item::requestFrame() {
+    if (auto* shownIn = window())
+        shownIn->requestFrame();
+}
+
+double Item::pixelRatio() const {
+    const auto* shownIn = window();
+    return shownIn ? shownIn->devicePixelRatio() : 1;
+}
+
+/// Notes how the next frame shows this and all in it, whose surroundings look like `around`, and
+/// adds what differs from the last frame to `damage`. Nothing is seen around an empty
+/// `around.rect`.
+void Item::takeLook(const Look& around, QRegion& damage) {
+    Look look{transformToParent() * around.transform, around.opacity * opacity_, around.clip, {}};
+    const bool seen = visible_ && look.opacity > 0 && !around.rect.isEmpty();
+    if (seen)
+        look.rect = look.transform.mapRect(paintedRect()) & around.rect;
+    if (stale_ || look != look_)
+        damage |= SceneWindow::covering(look_.rect) | SceneWindow::covering(look.rect);
+    stale_ = false;
+    look_ = look;
+
+    look.rect = seen ? around.rect : QRectF();
+    if (seen && clip_)
+        look.clip = look.rect = look.transform.mapRect(boundingRect()) & around.rect;
+    for (auto* child : children_)
+        child->takeLook(look, damage);
+}
+
+/// Draws what the last look found within `region` of the window.
+void Item::draw(QPainter& painter, const QRegion& region) {
+    if (region.intersects(look_.rect.toAlignedRect())) {
+        painter.setTransform({}); // clips are of the window
+        painter.setClipRegion(look_.clip.isNull() ? region
+                                                  : region & SceneWindow::covering(look_.clip));
+        painter.setTransform(look_.transform);
+        painter.setOpacity(look_.opacity);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                               QPainter::SmoothPixmapTransform);
+        paint(painter);
+    }
+    for (auto* child : children_)
+        child->draw(painter, region);
+}
+
+} // namespace brellowind

@@ -1,0 +1,158 @@
+#include "views/scene/SceneWindow.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+#include <utility>
+
+namespace brellowind {
+namespace {
+
+/// The fewest whole points that are whole pixels; 0 where no small number of them is.
+int pointsToWholePixels(double ratio) {
+    constexpr int most = 20;
+    for (int points = 1; points <= most; ++points)
+        if (std::abs(points * ratio - std::round(points * ratio)) < 1e-6)
+            return points;
+    return 0;
+}
+
+/// `region` grown to whole pixels, since what is drawn there is cleared and clipped by pixels.
+QRegion wholePixels(const QRegion& region, double ratio, const QRect& window) {
+    const int step = pointsToWholePixels(ratio);
+    if (step == 1)
+        return region & window;
+    if (step == 0)
+        return region.isEmpty() ? QRegion() : QRegion(window);
+    QRegion grown;
+    for (const QRect& rect : region) {
+        const QPoint from(rect.left() / step * step, rect.top() / step * step);
+        const QPoint to((rect.right() / step + 1) * step, (rect.bottom() / step + 1) * step);
+        grown |= QRect(from, to - QPoint(1, 1));
+    }
+    return grown & window;
+}
+
+} // namespace
+
+SceneWindow::SceneWindow(QWindow* parent) : QWindow(parent) {
+    setSurfaceType(RasterSurface);
+    auto transparent = requestedFormat();
+    transparent.setAlphaBufferSize(8);
+    setFormat(transparent);
+    root_.window_ = this;
+}
+
+SceneWindow::~SceneWindow() {
+    root_.window_ = nullptr;
+}
+
+void SceneWindow::requestFrame() {
+    if (std::exchange(requested_, true))
+        return;
+    requestUpdate();
+}
+
+void SceneWindow::damage(const QRectF& rect) {
+    damage_ |= covering(rect);
+    requestFrame();
+}
+
+QImage SceneWindow::grab() {
+    aboutToShow();
+    takeLooks();
+    const double ratio = devicePixelRatio();
+    QImage image(size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    root_.draw(painter, QRect(QPoint(0, 0), size()));
+    return image;
+}
+
+QRegion SceneWindow::covering(const QRectF& rect) {
+    return rect.isEmpty() ? QRegion() : QRegion(rect.toAlignedRect());
+}
+
+bool SceneWindow::event(QEvent* event) {
+    if (event->type() == QEvent::UpdateRequest)
+        makeFrame();
+    else if (event->type() == QEvent::Enter)
+        pointer_.move(static_cast<QEnterEvent*>(event)->position());
+    else if (event->type() == QEvent::Leave)
+        pointer_.leave();
+    return QWindow::event(event);
+}
+
+QAccessibleInterface* SceneWindow::accessibleRoot() const {
+    return QAccessible::queryAccessibleInterface(const_cast<SceneWindow*>(this)); // not changed
+}
+
+void SceneWindow::paintEvent(QPaintEvent* event) {
+    damage_ |= event->region();
+    makeFrame();
+}
+
+void SceneWindow::hideEvent(QHideEvent* event) {
+    pointer_.cancel();
+    QWindow::hideEvent(event);
+}
+
+void SceneWindow::resizeEvent(QResizeEvent* event) {
+    QWindow::resizeEvent(event);
+    root_.setSize(size());
+    ratio_ = 0; // what is stored has another size
+    requestFrame();
+}
+
+void SceneWindow::mouseMoveEvent(QMouseEvent* event) {
+    pointer_.move(event->position());
+}
+
+void SceneWindow::mousePressEvent(QMouseEvent* event) {
+    pointer_.press(event->position(), event->button());
+}
+
+void SceneWindow::mouseReleaseEvent(QMouseEvent* event) {
+    pointer_.release(event->position(), event->globalPosition(), event->button());
+}
+
+void SceneWindow::makeFrame() {
+    requested_ = false;
+    if (!isExposed())
+        return;
+    aboutToShow();
+    takeLooks();
+    const QRect whole(QPoint(0, 0), size());
+    const double ratio = devicePixelRatio();
+    if (std::exchange(ratio_, ratio) != ratio) {
+        store_.resize(size());
+        damage_ = whole;
+    }
+    // Rectangles that are partly outside are cut first: they begin at no negative point then.
+    const QRegion region = wholePixels(std::exchange(damage_, {}) & whole, ratio, whole);
+    if (region.isEmpty())
+        return;
+    store_.beginPaint(region);
+    paintStore(region);
+    store_.endPaint();
+    store_.flush(region);
+    Q_EMIT frameShown();
+    pointer_.follow();
+}
+
+void SceneWindow::paintStore(const QRegion& region) {
+    QPainter painter(store_.paintDevice());
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    for (const QRect& rect : region)
+        painter.fillRect(rect, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    root_.draw(painter, region);
+}
+
+void SceneWindow::takeLooks() {
+    root_.takeLook({{}, 1, {}, QRectF(QPointF(0, 0), size())}, damage_);
+}
+
+} // namespace brellowind
