@@ -16,8 +16,6 @@
 #include <QJsonObject>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QQuickItem>
-#include <QQuickPaintedItem>
 
 namespace brellowind::test {
 namespace {
@@ -29,14 +27,14 @@ constexpr int largestArtworkPoints = 320;
 constexpr double screenWidth = 1512;
 constexpr double screenHeight = 982;
 
-class DesktopItem final : public QQuickPaintedItem {
+class DesktopItem final : public PainterItem {
 public:
-    explicit DesktopItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
-        setZ(-1);
-        setSize(parent->size());
+    explicit DesktopItem(Item& parent) : PainterItem(&parent) {
+        stackBefore(*parent.childItems().front());
+        setSize(parent.size());
     }
 
-    void paint(QPainter* painter) override { demo::paintDesktop(*painter, size()); }
+    void paint(QPainter& painter) override { demo::paintDesktop(painter, size()); }
 };
 
 /// What the service answers with for lyrics in the LRC format.
@@ -46,11 +44,8 @@ std::string answer(const QString& lrc) {
     return QJsonDocument(QJsonObject{{QStringLiteral("syncedLyrics"), lrc}}).toJson().toStdString();
 }
 
-/// The software renderer does not say at which scale it drew.
-QImage grabbed(QQuickWindow& window) {
-    QImage image = window.grabWindow().convertToFormat(QImage::Format_RGB32);
-    image.setDevicePixelRatio(window.effectiveDevicePixelRatio());
-    return image;
+QImage grabbed(SceneWindow& window) {
+    return window.grab().convertToFormat(QImage::Format_RGB32);
 }
 
 } // namespace
@@ -69,11 +64,11 @@ PillStage::PillStage()
     machine_.screens.connected = {screen};
     machine_.screens.mainScreen = screen;
     spotify_.quit();
-    content_ = std::make_unique<NotchQuickView>(root_);
+    content_ = std::make_unique<NotchView>(root_);
     content_->resize(640, NotchMetrics::windowHeight);
-    content_->pill().setSize(content_->size());
-    content_->contentItem()->setSize(content_->size());
-    new DesktopItem(content_->contentItem());
+    content_->pill().fill(content_->size());
+    content_->root().setSize(content_->size());
+    new DesktopItem(content_->root());
     root_->appear();
     rest();
 }
@@ -118,7 +113,7 @@ void PillStage::step() {
     if (spotify_.state == "playing")
         spotify_.position = std::to_string(songFrames_++ / double(framesPerSecond));
     runTurns();
-    for (auto* glyph : content_->contentItem()->findChildren<WaveformGlyph*>())
+    for (auto* glyph : content_->root().findChildren<WaveformGlyph*>())
         if (glyph->isActive())
             glyph->setStep(frames_ * waveformStepsPerSecond / framesPerSecond);
     FrameDriver::shared().step(1.0 / framesPerSecond);
@@ -134,7 +129,7 @@ QImage PillStage::window() {
 }
 
 QImage PillStage::desktop() const {
-    const double scale = content_->effectiveDevicePixelRatio();
+    const double scale = content_->devicePixelRatio();
     QImage image(content_->size() * scale, QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
     QPainter painter(&image);
@@ -150,7 +145,7 @@ QImage PillStage::menu(const QString& hovered) {
     content_->pill().openMenu(QPointF(100, 100));
     auto* menu = content_->pill().menu();
     QCoreApplication::processEvents(); // the window takes its size
-    for (auto* entry : menu->contentItem()->findChildren<PillMenuEntry*>()) {
+    for (auto* entry : menu->root().findChildren<PillMenuEntry*>()) {
         if (entry->text() != hovered)
             continue;
         const QPointF middle = entry->mapToScene(entry->boundingRect().center());

@@ -3,8 +3,8 @@
 #include "platform/qt/QtImageDecoder.h"
 #include "support/FakeSpotify.h"
 #include "support/TestMachine.h"
-#include "views/NotchQuickView.h"
 #include "views/NotchRootView.h"
+#include "views/NotchView.h"
 
 #include <QImage>
 #include <QRectF>
@@ -67,7 +67,7 @@ private:
     platform::ServicesScope scope_;
     FakeSpotify spotify_{machine_};
     std::shared_ptr<NotchRootView> root_;
-    std::unique_ptr<NotchQuickView> content_;
+    std::unique_ptr<NotchView> content_;
     std::string lyrics_;
     bool answersLyrics_ = true;
     std::size_t answered_ = 0;

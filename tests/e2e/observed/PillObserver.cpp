@@ -2,11 +2,10 @@
 
 #include "views/NotchRootModel.h"
 #include "views/pill/PillMenuEntry.h"
+#include "views/scene/SceneWindow.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QVariant>
 
 namespace brellowind::test {
@@ -16,7 +15,7 @@ QList<double> numbers(const QRectF& rect) {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
 }
 
-QList<double> rectangle(const QQuickItem* item) {
+QList<double> rectangle(const Item* item) {
     return item ? numbers(item->mapRectToScene(item->boundingRect())) : QList<double>();
 }
 
@@ -27,18 +26,17 @@ QDBusVariant property(const QObject* object, const QString& name) {
 }
 
 /// Once it is exposed it holds pointer and keyboard as well.
-const QQuickWindow* openMenu() {
+const SceneWindow* openMenu() {
     for (const auto* window : QGuiApplication::allWindows())
         if (window->objectName() == QStringLiteral("menu") && window->isExposed())
-            return qobject_cast<const QQuickWindow*>(window);
+            return qobject_cast<const SceneWindow*>(window);
     return nullptr;
 }
 
 } // namespace
 
-PillObserver::PillObserver(const QQuickWindow& window)
-    : window_(window),
-      line_(window.contentItem()->findChild<QObject*>(QStringLiteral("lyricLine"))) {
+PillObserver::PillObserver(const SceneWindow& window)
+    : window_(window), line_(window.root().findChild<QObject*>(QStringLiteral("lyricLine"))) {
     if (line_)
         connect(line_, SIGNAL(textChanged(QString)), this, SIGNAL(TextChanged(QString)));
 }
@@ -80,14 +78,14 @@ QList<double> PillObserver::MenuEntry(const QString& text) const {
     const auto* menu = openMenu();
     if (!menu)
         return {};
-    for (const auto* entry : menu->contentItem()->findChildren<PillMenuEntry*>())
+    for (const auto* entry : menu->root().findChildren<PillMenuEntry*>())
         if (entry->text() == text)
             return rectangle(entry);
     return {};
 }
 
-const QQuickItem* PillObserver::item(const QString& name) const {
-    return window_.contentItem()->findChild<QQuickItem*>(name);
+const Item* PillObserver::item(const QString& name) const {
+    return window_.root().findChild<Item*>(name);
 }
 
 } // namespace brellowind::test

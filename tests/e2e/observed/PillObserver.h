@@ -5,10 +5,12 @@
 #include <QObject>
 #include <QString>
 
-class QQuickItem;
-class QQuickWindow;
+namespace brellowind {
 
-namespace brellowind::test {
+class Item;
+class SceneWindow;
+
+namespace test {
 
 /// Tells on the session bus what the pill's items draw, and where: it reads the very objects that
 /// draw. Rectangles are x, y, width and height in points; an empty list stands for what is not
@@ -19,7 +21,7 @@ class PillObserver : public QObject {
 
 public:
     /// `window` must outlive the observer and show the pill's items already.
-    explicit PillObserver(const QQuickWindow& window);
+    explicit PillObserver(const SceneWindow& window);
 
     /// False when there is no bus or the pill has no line.
     bool listen();
@@ -49,10 +51,11 @@ Q_SIGNALS:
     Q_SCRIPTABLE void TextChanged(const QString& text);
 
 private:
-    const QQuickItem* item(const QString& name) const;
+    const Item* item(const QString& name) const;
 
-    const QQuickWindow& window_;
+    const SceneWindow& window_;
     QObject* line_;
 };
 
-} // namespace brellowind::test
+} // namespace test
+} // namespace brellowind

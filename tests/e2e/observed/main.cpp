@@ -3,6 +3,7 @@
 #include "SettingsObserver.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
+#include "views/NotchView.h"
 
 #include <QGuiApplication>
 #include <cstdio>

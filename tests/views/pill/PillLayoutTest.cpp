@@ -18,7 +18,7 @@ constexpr double bandHeight = 20;
 
 class PillLayout : public test::Stage {
 protected:
-    double lineHeight() const { return item("lyricLine")->implicitHeight(); }
+    double lineHeight() const { return item("lyricLine")->height(); }
 
     double naturalWidth() const {
         return dynamic_cast<LyricText*>(item("lyricLine"))->naturalWidth();
@@ -78,7 +78,7 @@ TEST_F(PillLayout, OfALineWiderThanTheWindowStaysInTheMiddle) {
     ASSERT_GT(naturalWidth(), windowWidth);
     EXPECT_EQ(pillSize().width, 2 * std::ceil(naturalWidth() / 2) + 40);
     EXPECT_EQ(layout(pill()).center().x(), windowWidth / 2.0);
-    const QImage image = window.grabWindow();
+    const QImage image = window.grab();
     ASSERT_FALSE(image.isNull());
     int left = 0;
     int right = 0;
@@ -97,13 +97,13 @@ TEST_F(PillLayout, OfAnEndlessLineIsStillDrawn) {
     liftPill();
     EXPECT_GT(pillSize().width, 30'000) << "though not all of it is laid out";
     EXPECT_LT(pillSize().width, 100'000);
-    const QImage image = window.grabWindow();
+    const QImage image = window.grab();
     EXPECT_EQ(image.size(), QSize(windowWidth, windowHeight) * window.devicePixelRatio());
     EXPECT_EQ(qAlpha(image.pixel(2, 15)), 255) << "black from edge to edge";
     machine.view.tapBackground();
     step(0);
     step(0.05);
-    EXPECT_FALSE(window.grabWindow().isNull());
+    EXPECT_FALSE(window.grab().isNull());
 }
 
 TEST_F(PillLayout, OfTheMinimizedPillIsTheBandAlone) {
@@ -184,7 +184,7 @@ TEST_F(PillLayout, OfTheArtworkPanelHoldsTheWholeArtwork) {
     machine.view.tapCover();
     settle();
     auto* line = item("panelLine");
-    const double height = 6 + bandHeight + 10 + 320 + 10 + line->implicitHeight() + 10 + 7 + 10;
+    const double height = 6 + bandHeight + 10 + 320 + 10 + line->height() + 10 + 7 + 10;
     EXPECT_EQ(pillSize(), (Size{352, height}));
     const double left = (windowWidth - 352) / 2.0;
     EXPECT_EQ(layout(pill()).x(), left);

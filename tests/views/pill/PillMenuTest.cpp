@@ -16,9 +16,7 @@ protected:
     }
     void open() { open(middle(pill())); }
 
-    QList<PillMenuEntry*> entries() {
-        return menu()->contentItem()->findChildren<PillMenuEntry*>();
-    }
+    QList<PillMenuEntry*> entries() { return menu()->root().findChildren<PillMenuEntry*>(); }
 
     QStringList texts() {
         QStringList result;

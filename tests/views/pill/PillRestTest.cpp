@@ -19,7 +19,7 @@ protected:
             machine.runTurns();
             return !FrameDriver::shared().isRunning();
         }));
-        QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
+        QSignalSpy frames(&window, &SceneWindow::frameShown);
         for (int i = 0; i < 20 && (i == 0 || frames.count() > 0); ++i) { // the last ones
             frames.clear();
             QTest::qWait(50);
@@ -30,7 +30,7 @@ protected:
 TEST_F(PillRest, MakesNoFrames) {
     machine.appear();
     waitForRest();
-    const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
+    const QSignalSpy frames(&window, &SceneWindow::frameShown);
     QTest::qWait(300);
     EXPECT_EQ(frames.count(), 0);
 }
@@ -38,7 +38,7 @@ TEST_F(PillRest, MakesNoFrames) {
 TEST_F(PillRest, IsReachedAgainAfterEveryMotion) {
     machine.appear();
     waitForRest();
-    const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
+    const QSignalSpy frames(&window, &SceneWindow::frameShown);
     machine.view.tapBackground();
     machine.runTurns();
     EXPECT_TRUE(FrameDriver::shared().isRunning());
@@ -57,7 +57,7 @@ TEST_F(PillRest, IsNotDisturbedByTicksThatChangeNoLine) {
     waitForRest();
     const auto* model = window.findChild<NotchRootModel*>();
     ASSERT_NE(model, nullptr);
-    const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
+    const QSignalSpy frames(&window, &SceneWindow::frameShown);
     const QSignalSpy lines(model, &NotchRootModel::currentLineTextChanged);
     const QSignalSpy tracks(model, &NotchRootModel::trackChanged);
     const QSignalSpy covers(model, &NotchRootModel::coverImageChanged);
@@ -78,7 +78,7 @@ TEST_F(PillRest, IsNotDisturbedByThePointerMovingOnThePill) {
     machine.movePointer(test::View::overThePill);
     hover(onWindow(pill(), {100, 45}));
     waitForRest();
-    const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
+    const QSignalSpy frames(&window, &SceneWindow::frameShown);
     for (int x = 101; x < 120; ++x) {
         machine.movePointer({test::View::overThePill.x + x - 100, test::View::overThePill.y});
         hover(onWindow(pill(), {static_cast<double>(x), 45}));

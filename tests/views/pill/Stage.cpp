@@ -32,13 +32,13 @@ void Stage::step(double seconds) {
     machine.runTurns();
 }
 
-QQuickItem* Stage::item(const char* name) const {
-    auto* found = window.contentItem()->findChild<QQuickItem*>(QString::fromLatin1(name));
+Item* Stage::item(const char* name) const {
+    auto* found = window.root().findChild<Item*>(QString::fromLatin1(name));
     EXPECT_NE(found, nullptr) << name;
     return found;
 }
 
-QQuickItem* Stage::below(QQuickItem* parent, const char* type) {
+Item* Stage::below(Item* parent, const char* type) {
     for (auto* child : parent->childItems()) {
         if (child->metaObject()->className() == QByteArray("brellowind::") + type)
             return child;
@@ -48,16 +48,16 @@ QQuickItem* Stage::below(QQuickItem* parent, const char* type) {
     return nullptr;
 }
 
-QRectF Stage::layout(QQuickItem* laidOut) const {
+QRectF Stage::layout(Item* laidOut) const {
     auto* root = pill()->parentItem();
-    return {laidOut->mapToItem(root, QPointF(0, 0)), laidOut->size()};
+    return {laidOut->transform(root).map(QPointF(0, 0)), laidOut->size()};
 }
 
-QPoint Stage::onWindow(QQuickItem* of, QPointF point) {
+QPoint Stage::onWindow(Item* of, QPointF point) {
     return of->mapToScene(point).toPoint();
 }
 
-QPoint Stage::middle(QQuickItem* of) {
+QPoint Stage::middle(Item* of) {
     return onWindow(of, of->boundingRect().center());
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "views/NotchQuickView.h"
+#include "views/NotchView.h"
 #include "views/RootViewFixture.h"
 #include "views/motion/FrameDriver.h"
 #include "views/pill/Pill.h"
 #include "views/pill/PillMenu.h"
 
-#include <QQuickItem>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -29,38 +28,38 @@ protected:
     void step(double seconds);
 
     /// The item of that name.
-    QQuickItem* item(const char* name) const;
+    Item* item(const char* name) const;
 
     /// The first item below `parent` whose type has that name.
-    static QQuickItem* below(QQuickItem* parent, const char* type);
+    static Item* below(Item* parent, const char* type);
 
     /// The context menu, once it was wanted.
     PillMenu* menu() { return window.pill().menu(); }
 
-    QQuickItem* pill() const { return item("pill"); }
-    QQuickItem* artwork() const { return item("artwork"); }
-    QQuickItem* waveform() const { return item("waveform"); }
-    QQuickItem* grabber() const { return item("grabber"); }
+    Item* pill() const { return item("pill"); }
+    Item* artwork() const { return item("artwork"); }
+    Item* waveform() const { return item("waveform"); }
+    Item* grabber() const { return item("grabber"); }
 
     /// Where the item is laid out, before the pill's scale, in points of the window.
-    QRectF layout(QQuickItem* laidOut) const;
+    QRectF layout(Item* laidOut) const;
 
     /// Where `point` of the item is on the window.
-    static QPoint onWindow(QQuickItem* of, QPointF point);
-    static QPoint middle(QQuickItem* of);
+    static QPoint onWindow(Item* of, QPointF point);
+    static QPoint middle(Item* of);
 
     /// Presses and releases at a point of the window.
     void click(QPoint at, Qt::MouseButton button = Qt::LeftButton);
-    void click(QQuickItem* at) { click(middle(at)); }
+    void click(Item* at) { click(middle(at)); }
 
     /// Moves the pointer on the window.
     void hover(QPoint at);
-    void hover(QQuickItem* over) { hover(middle(over)); }
+    void hover(Item* over) { hover(middle(over)); }
 
     const NotchRootView::Form& form() const { return machine.form(); }
 
     View machine;
-    NotchQuickView window{machine.root};
+    NotchView window{machine.root};
 };
 
 } // namespace brellowind::test

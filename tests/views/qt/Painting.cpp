@@ -61,7 +61,7 @@ QImage painted(QSize size, const std::function<void(QPainter&)>& paint, double r
     return image;
 }
 
-QImage painted(PainterItem& item, QSize size, QPointF origin, double ratio) {
+QImage painted(Item& item, QSize size, QPointF origin, double ratio) {
     return painted(
         size,
         [&](QPainter& painter) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/drawing/PainterItem.h"
+#include "views/scene/Item.h"
 
 #include <QImage>
 #include <QPaintDevice>
@@ -15,7 +15,7 @@ namespace brellowind::test {
 QImage painted(QSize size, const std::function<void(QPainter&)>& paint, double ratio = 1);
 
 /// What `item` draws with its origin at `origin` of a clear image.
-QImage painted(PainterItem& item, QSize size, QPointF origin = {}, double ratio = 1);
+QImage painted(Item& item, QSize size, QPointF origin = {}, double ratio = 1);
 
 /// The smallest rectangle, in pixels, that holds all that is not clear.
 QRect inkRect(const QImage& image);

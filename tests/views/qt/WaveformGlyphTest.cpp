@@ -2,6 +2,8 @@
 #include "views/qt/Painting.h"
 
 #include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QTimerEvent>
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
@@ -91,7 +93,7 @@ TEST(WaveformGlyph, TicksOnlyWhileItIsActiveAndVisible) {
 }
 
 TEST(WaveformGlyph, HidesWithItsParent) {
-    QQuickItem parent;
+    Item parent;
     WaveformGlyph glyph(&parent);
     glyph.setActive(true);
     parent.setVisible(false);

@@ -1,0 +1,70 @@
+#include "views/scene/SceneWindow.h"
+#include "views/qt/Painting.h"
+#include "views/scene/Block.h"
+
+#include <gtest/gtest.h>
+
+namespace brellowind {
+namespace {
+
+using test::Block;
+
+class SceneWindowTest : public testing::Test {
+protected:
+    SceneWindowTest() {
+        window.resize(120, 80);
+        window.root().setSize(window.size());
+    }
+
+    SceneWindow window;
+};
+
+TEST_F(SceneWindowTest, IsClearWithoutItems) {
+    const QImage image = window.grab();
+    EXPECT_TRUE(test::inkRect(image).isEmpty());
+}
+
+TEST_F(SceneWindowTest, ShowsItemsInTheirPlaces) {
+    Block block(&window.root(), {10, 20, 30, 8}, Qt::red);
+    const double ratio = window.devicePixelRatio();
+    const QRect ink = test::inkRect(window.grab());
+    EXPECT_EQ(ink, QRectF(10 * ratio, 20 * ratio, 30 * ratio, 8 * ratio).toAlignedRect());
+}
+
+TEST_F(SceneWindowTest, ShowsLaterItemsOverEarlierOnes) {
+    Block below(&window.root(), {0, 0, 40, 40}, Qt::red);
+    Block above(&window.root(), {0, 0, 40, 40}, Qt::blue);
+    EXPECT_EQ(window.grab().pixelColor(9, 9), QColor(Qt::blue));
+    above.stackBefore(below);
+    EXPECT_EQ(window.grab().pixelColor(9, 9), QColor(Qt::red));
+}
+
+TEST_F(SceneWindowTest, FadesAllThatIsInAFadedItem) {
+    Item outer(&window.root());
+    Item inner(&outer);
+    Block block(&inner, {0, 0, 40, 40}, Qt::red);
+    outer.setOpacity(0.5);
+    inner.setOpacity(0.5);
+    EXPECT_NEAR(qAlpha(window.grab().pixel(9, 9)), 64, 1);
+    block.setOpacity(0);
+    EXPECT_TRUE(test::inkRect(window.grab()).isEmpty());
+}
+
+TEST_F(SceneWindowTest, ClipsTheChildrenButNotTheItem) {
+    Block outer(&window.root(), {10, 10, 20, 20}, Qt::red);
+    Item inner(&outer);
+    inner.setSize({10, 10});
+    inner.setClip(true);
+    Block block(&inner, {0, 0, 100, 100}, Qt::blue);
+    const QImage image = window.grab();
+    const double ratio = window.devicePixelRatio();
+    const auto at = [&](double x, double y) {
+        return image.pixelColor(QPointF(x * ratio, y * ratio).toPoint());
+    };
+    EXPECT_EQ(at(15, 15), QColor(Qt::blue));
+    EXPECT_EQ(at(25, 25), QColor(Qt::red));
+    EXPECT_EQ(at(50, 50), QColor(Qt::transparent));
+}
+
+} // namespace
+} // namespace brellowind
