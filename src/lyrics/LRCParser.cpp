@@ -4,10 +4,13 @@
 #include "foundation/Utf8.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <numeric>
+#include <span>
 #include <unicode/uchar.h>
 
 namespace brellowind::LRCParser {
@@ -120,6 +123,14 @@ void reserve(std::vector<Element>& list, std::size_t count) {
     preferLargePages(list.data(), count * sizeof(Element));
 }
 
+/// Room for `count` elements that are all written before they are read.
+template <typename Element>
+std::unique_ptr<Element[]> uninitialised(std::size_t count) {
+    std::unique_ptr<Element[]> elements(new Element[count]);
+    preferLargePages(elements.get(), count * sizeof(Element));
+    return elements;
+}
+
 const char* find(const char* position, const char* end, char wanted) {
     if (position == end || *position == wanted) // tags mostly stand side by side or begin a line
         return position;
@@ -200,35 +211,52 @@ struct Place {
     std::uint32_t index;
 };
 
-/// The lines in order of their times; those of one time stay as they stand. Times are whole
-/// milliseconds below 2^24, so two passes over 12 bits each sort any number of them.
-std::vector<LyricLine> sorted(const std::vector<LyricLine>& lines) {
-    constexpr int digitBits = 12;
-    std::vector<Place> order;
-    std::vector<Place> next;
-    reserve(order, lines.size());
-    reserve(next, lines.size());
-    next.resize(lines.size());
-    for (const auto& line : lines)
-        order.push_back({static_cast<std::uint32_t>(std::lround(line.time * 1000)),
-                         static_cast<std::uint32_t>(order.size())});
-    for (const int shift : {0, digitBits}) {
-        const auto digit = [shift](const Place& place) {
-            return place.milliseconds >> shift & ((1U << digitBits) - 1);
-        };
-        std::vector<std::uint32_t> starts(1U << digitBits);
-        for (const auto& place : order)
-            ++starts[digit(place)];
-        std::exclusive_scan(starts.begin(), starts.end(), starts.begin(), 0U);
-        for (const auto& place : order)
-            next[starts[digit(place)]++] = place;
-        order.swap(next);
+/// Puts each line where `order` says that it belongs, cycle by cycle: there is no second list.
+void permute(std::vector<LyricLine>& lines, std::span<Place> order) {
+    const auto put = [&lines](std::uint32_t place, const LyricLine& line) {
+        std::destroy_at(&lines[place]);
+        std::construct_at(&lines[place], line); // its fields are not assigned to
+    };
+    for (std::uint32_t first = 0; first < order.size(); ++first) {
+        if (order[first].index == first)
+            continue;
+        const LyricLine displaced = lines[first];
+        std::uint32_t place = first;
+        for (std::uint32_t from = order[place].index; from != first; from = order[place].index) {
+            put(place, lines[from]);
+            order[place].index = place;
+            place = from;
+        }
+        put(place, displaced);
+        order[place].index = place;
     }
-    std::vector<LyricLine> result;
-    reserve(result, lines.size());
+}
+
+/// Brings the lines into the order of their times; those of one time stay as they stand. Times are
+/// whole milliseconds below 2^24, so two passes over 12 bits each sort any number of them.
+void sort(std::vector<LyricLine>& lines) {
+    constexpr int digitBits = 12;
+    constexpr std::uint32_t lowDigit = (1U << digitBits) - 1;
+    const auto places = uninitialised<Place>(lines.size());
+    const auto passed = uninitialised<Place>(lines.size());
+    const std::span order(places.get(), lines.size());
+    const std::span next(passed.get(), lines.size());
+
+    std::array<std::uint32_t, 1U << digitBits> low{}; // how many there are, then where they go
+    std::array<std::uint32_t, 1U << digitBits> high{};
+    for (std::uint32_t i = 0; i < lines.size(); ++i) {
+        const auto milliseconds = static_cast<std::uint32_t>(std::lround(lines[i].time * 1000));
+        order[i] = {milliseconds, i};
+        ++low[milliseconds & lowDigit];
+        ++high[milliseconds >> digitBits];
+    }
+    std::exclusive_scan(low.begin(), low.end(), low.begin(), 0U);
+    std::exclusive_scan(high.begin(), high.end(), high.begin(), 0U);
     for (const auto& place : order)
-        result.push_back(lines[place.index]);
-    return result;
+        next[low[place.milliseconds & lowDigit]++] = place;
+    for (const auto& place : next)
+        order[high[place.milliseconds >> digitBits]++] = place;
+    permute(lines, order);
 }
 
 } // namespace
@@ -238,9 +266,9 @@ std::vector<LyricLine> parse(std::string_view text) {
         return {};
     const SharedBytes copy(text); // which the words of all lines are slices of
     auto lines = readLines(copy, {copy.get(), text.size()});
-    if (std::ranges::is_sorted(lines, {}, &LyricLine::time))
-        return lines;
-    return sorted(lines);
+    if (!std::ranges::is_sorted(lines, {}, &LyricLine::time))
+        sort(lines);
+    return lines;
 }
 
 } // namespace brellowind::LRCParser
