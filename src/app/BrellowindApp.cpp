@@ -4,6 +4,7 @@
 #include "app/CompiledConstants.h"
 #include "app/SettingsLibrary.h"
 #include "platform/Services.h"
+#include "platform/linux/FontLookup.h"
 #include "platform/linux/MprisPlayer.h"
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/SingleInstance.h"
@@ -68,6 +69,7 @@ struct BrellowindApp::Machine {
     explicit Machine(const platform::ProductConstants& productConstants)
         : constants(productConstants) {}
 
+    platform::FontLookup fonts;
     platform::ProductConstants constants;
     platform::QtMainLoop mainLoop;
     platform::SystemClock clock;
@@ -125,6 +127,7 @@ BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)
 BrellowindApp::~BrellowindApp() = default;
 
 void BrellowindApp::launch() {
+    machine_->fonts.wait();
     machine_->delegate.applicationDidFinishLaunching();
 }
 

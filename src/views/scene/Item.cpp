@@ -32,7 +32,14 @@ void Item::stackBefore(const Item& sibling) {
     auto& siblings = parent_->children_;
     std::erase(siblings, this);
     siblings.insert(std::ranges::find(siblings, &sibling), this);
-    update();
+    makeStale();
+    requestFrame();
+}
+
+void Item::makeStale() {
+    stale_ = true;
+    for (auto* child : children_)
+        child->makeStale();
 }
 
 void Item::setSize(QSizeF size) {

@@ -114,6 +114,7 @@ private:
 
     void requestFrame();
     void tellVisibility();
+    void makeStale();
     QTransform transformToParent() const;
     void takeLook(const Look& around, QRegion& damage);
     void draw(QPainter& painter, const QRegion& region);
@@ -129,7 +130,7 @@ private:
     TransformOrigin origin_ = Centre;
     bool clip_ = false;
     bool visible_ = true;
-    bool stale_ = true; ///< draws something else than in the last frame
+    bool stale_ = true; ///< has to be drawn even where it looks as in the last frame
     Look look_;         ///< in the last frame
 };
 

@@ -24,17 +24,8 @@ public:
     Item& root() { return root_; }
     const Item& root() const { return root_; }
 
-    /// Asks for a frame.
-    void requestFrame();
-
-    /// The rectangle has to be drawn anew.
-    void damage(const QRectF& rect);
-
     /// A picture of all that the next frame would show.
     QImage grab();
-
-    /// The smallest rectangle around `rect` that begins and ends at whole points.
-    static QRegion covering(const QRectF& rect);
 
     /// What the window is to assistive programs.
     virtual QAccessible::Role accessibleRole() const { return QAccessible::Window; }
@@ -57,6 +48,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class Item;
+
+    /// The smallest rectangle around `rect` that begins and ends at whole points.
+    static QRegion covering(const QRectF& rect);
+
+    void requestFrame();
+    void damage(const QRectF& rect); ///< it has to be drawn anew
     void makeFrame();
     void paintStore(const QRegion& region);
     void takeLooks();

@@ -91,6 +91,15 @@ TEST_F(SceneFrames, DrawsOnlyWhatLiesWhereSomethingChanged) {
     EXPECT_EQ(apart.drawn, partly ? 0 : 1);
 }
 
+TEST_F(SceneFrames, MovesAnItemWithAllThatIsInIt) {
+    Block other(&window.root(), {0, 0, 120, 80}, Qt::blue);
+    Block moved(&window.root(), {8, 8, 20, 20}, Qt::red);
+    Block inside(&moved, {40, 40, 20, 20}, Qt::green);
+    settle();
+    moved.stackBefore(other);
+    EXPECT_EQ(shown(), window.grab());
+}
+
 TEST_F(SceneFrames, ClearsWhatGoes) {
     auto block = std::make_unique<Block>(&window.root(), QRectF(10, 10, 20, 20), Qt::red);
     EXPECT_FALSE(test::inkRect(shown()).isEmpty());
