@@ -5,7 +5,6 @@
 #include <QDBusConnectionInterface>
 #include <QDBusVariant>
 #include <cmath>
-#include <csignal>
 #include <limits>
 #include <vector>
 
@@ -227,7 +226,7 @@ TEST_F(HostilePlayer, WhoseNameAStrangerTakesIsKeptUntilThePlayerIsBack) {
     ASSERT_TRUE(bus.interface()
                     ->registerService(busName, QDBusConnectionInterface::QueueService)
                     .isValid());
-    ::kill(static_cast<pid_t>(player->processId()), SIGKILL); // the bus gives the name on at once
+    player->kill();
     runFor(seconds(3));
     EXPECT_EQ(program->text(), line) << "every reading failed";
     EXPECT_TRUE(program->is("isPlaying"));

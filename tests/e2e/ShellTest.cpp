@@ -1,4 +1,5 @@
 #include "e2e/ShellFixture.h"
+#include "session/SendSignal.h"
 
 #include <QSet>
 #include <csignal>
@@ -56,9 +57,7 @@ protected:
         return other;
     }
 
-    void send(int signal) {
-        EXPECT_EQ(::kill(static_cast<pid_t>(program->process().processId()), signal), 0);
-    }
+    void send(int signal) { sendSignal(signal, program->process()); }
 };
 
 TEST_F(Shell, StartsWithoutSettingsAndWithoutACheck) {

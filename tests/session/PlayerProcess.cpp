@@ -1,6 +1,7 @@
 #include "session/PlayerProcess.h"
 
 #include "session/EventLoop.h"
+#include "session/SendSignal.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusReply>
@@ -51,17 +52,18 @@ void PlayerProcess::quit() {
 }
 
 void PlayerProcess::hang() {
-    EXPECT_EQ(::kill(static_cast<pid_t>(process_->processId()), SIGSTOP), 0);
+    sendSignal(SIGSTOP, *process_);
 }
 
 void PlayerProcess::recover() {
-    EXPECT_EQ(::kill(static_cast<pid_t>(process_->processId()), SIGCONT), 0);
+    sendSignal(SIGCONT, *process_);
 }
 
 void PlayerProcess::kill() {
-    EXPECT_EQ(::kill(static_cast<pid_t>(process_->processId()), SIGKILL), 0);
-    EXPECT_TRUE(
-        waitUntil([this] { return !bus_.interface()->isServiceRegistered(name_).value(); }));
+    const auto owner = [this] { return bus_.interface()->serviceOwner(name_).value(); };
+    const QString killed = owner();
+    sendSignal(SIGKILL, *process_);
+    EXPECT_TRUE(waitUntil([&] { return owner() != killed; }));
 }
 
 QDBusMessage PlayerProcess::call(const char* method, const QVariantList& arguments) {

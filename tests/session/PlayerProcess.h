@@ -33,8 +33,6 @@ public:
     /// What the player is told to be, or has been made to be: "Playing" or "Paused".
     QString status();
 
-    qint64 processId() const { return process_->processId(); }
-
     /// Ends the player as its user would.
     void quit();
 
@@ -42,7 +40,8 @@ public:
     void hang();
     void recover();
 
-    /// Ends the process without a word, even a stopped one.
+    /// Ends the process without a word, even a stopped one. The bus gives its name on to whoever
+    /// waits for it.
     void kill();
 
 private:
