@@ -1,11 +1,13 @@
 #include "platform/qt/QtHttpClient.h"
 
 #include <QBasicTimer>
+#include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QPointer>
 #include <QTimerEvent>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -19,6 +21,10 @@ constexpr qint64 readAhead = 1 << 20;
 constexpr int noContent = 204;
 constexpr int notModified = 304;
 
+/// Of the ways to say that what was asked for is elsewhere, those that may be followed unasked.
+constexpr std::array redirectStatuses{301, 302, 303, 305, 307, 308};
+constexpr int mostRedirects = 20;
+
 /// Whether the server answered, whatever its status: of Qt's errors only those that
 /// name a status of 400 or more do not mean that the transfer itself failed.
 bool isAnswer(int status, QNetworkReply::NetworkError error) {
@@ -29,14 +35,20 @@ bool isAnswer(int status, QNetworkReply::NetworkError error) {
     return status >= 400 && namesStatus;
 }
 
+bool isWeb(const QUrl& url) {
+    return url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+}
+
+/// Whether what was asked for under an encrypted address would be sent in the clear.
+bool isLessSafe(const QUrl& to, const QUrl& from) {
+    return from.scheme() == QLatin1String("https") && to.scheme() != QLatin1String("https");
+}
+
 class QtTransfer final : public QObject, public Transfer {
 public:
     QtTransfer(QNetworkReply* reply, const HttpRequest& request, HttpClient::Completion completion)
-        : reply_(reply), completion_(std::move(completion)),
-          maximumBodyBytes_(request.maximumBodyBytes) {
-        connect(reply, &QNetworkReply::readyRead, this, &QtTransfer::read);
-        connect(reply, &QNetworkReply::finished, this, &QtTransfer::finish);
-        reply->setReadBufferSize(readAhead);
+        : completion_(std::move(completion)), maximumBodyBytes_(request.maximumBodyBytes) {
+        listenTo(reply);
         timeout_.start(static_cast<int>(request.timeout.count()), this);
     }
 
@@ -48,25 +60,58 @@ protected:
     }
 
 private:
+    void listenTo(QNetworkReply* reply) {
+        reply_ = reply;
+        connect(reply, &QNetworkReply::readyRead, this, &QtTransfer::read);
+        connect(reply, &QNetworkReply::finished, this, &QtTransfer::finish);
+        reply->setReadBufferSize(readAhead);
+    }
+
+    int status() const {
+        return reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    }
+
+    bool isRedirect() const { return std::ranges::count(redirectStatuses, status()) > 0; }
+
     void read() {
-        if (!readBody())
+        if (isRedirect())
+            follow();
+        else if (!readBody())
             complete(TransportError{"the body is too long"});
     }
 
     void finish() {
-        const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        if (!readBody())
+        if (isRedirect() && reply_->error() == QNetworkReply::NoError)
+            follow();
+        else if (!readBody())
             complete(TransportError{"the body is too long"});
-        else if (isAnswer(status, reply_->error()) && isWhole(status))
-            complete(HttpResponse{status, std::move(body_)});
+        else if (isAnswer(status(), reply_->error()) && isWhole())
+            complete(HttpResponse{status(), std::move(body_)});
         else
             complete(TransportError{reply_->errorString().toStdString()});
     }
 
+    /// Asks where the answer leads, whatever its body says. Every step has a reply of its own: Qt,
+    /// following by itself, sometimes mixes the headers of one answer into those of the next.
+    void follow() {
+        const QByteArray location = reply_->rawHeader("Location");
+        const QUrl from = reply_->url();
+        const QUrl to = from.resolved(QUrl::fromEncoded(location));
+        auto* manager = reply_->manager();
+        if (location.isEmpty() || !isWeb(to) || isLessSafe(to, from) || !manager)
+            return complete(TransportError{"a redirect leads nowhere"});
+        if (++redirects_ > mostRedirects)
+            return complete(TransportError{"too many redirects"});
+        auto request = reply_->request();
+        request.setUrl(to);
+        releaseReply();
+        listenTo(manager->get(request));
+    }
+
     /// Qt may report a body as whole that was cut off, when the connection closes in the moment in
     /// which a part of it is taken. The length of a compressed body is not known here.
-    bool isWhole(int status) const {
-        const bool hasBody = status != noContent && status != notModified;
+    bool isWhole() const {
+        const bool hasBody = status() != noContent && status() != notModified;
         const auto length = reply_->header(QNetworkRequest::ContentLengthHeader);
         return !hasBody || !length.isValid() || body_.size() >= length.toULongLong();
     }
@@ -105,6 +150,7 @@ private:
 
     QPointer<QNetworkReply> reply_; ///< null once the transfer or the whole client has ended
     QBasicTimer timeout_;
+    int redirects_ = 0;
     HttpClient::Completion completion_;
     std::size_t maximumBodyBytes_;
     std::string body_;
@@ -113,15 +159,13 @@ private:
 /// An address of another kind becomes one that cannot be fetched: Qt would also read files.
 QUrl webAddress(const std::string& text) {
     const auto url = QUrl::fromEncoded(QByteArray::fromStdString(text));
-    const bool isWeb =
-        url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
-    return isWeb ? url : QUrl();
+    return isWeb(url) ? url : QUrl();
 }
 
 QNetworkRequest networkRequest(const HttpRequest& request) {
     QNetworkRequest network(webAddress(request.url));
     network.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::NoLessSafeRedirectPolicy);
+                         QNetworkRequest::ManualRedirectPolicy);
     network.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     network.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     network.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);

@@ -99,6 +99,27 @@ TEST_F(QtHttpClientRedirect, ItsOwnBodyDoesNotCount) {
     EXPECT_EQ(response->body, "arrived");
 }
 
+TEST_F(QtHttpClientRedirect, ItsOwnLengthIsNotThatOfTheBodyItLeadsTo) {
+    const LoopbackServer goal([](const Exchange& exchange) {
+        exchange.send(test::httpResponse({}, "arrived"));
+        exchange.connection->disconnectFromHost();
+    });
+    Signpost signpost;
+    signpost.location = goal.origin().toLatin1();
+    signpost.body = QByteArray(1000, 'x');
+    for (int i = 0; i < 300; ++i)
+        ASSERT_TRUE(arrives(signpost.url("/start"))) << "the " << i << "th time";
+}
+
+TEST_F(QtHttpClientRedirect, ItsOwnBodyIsNotWaitedFor) {
+    LoopbackServer goal([](const Exchange& exchange) { exchange.respond(200, "arrived"); });
+    const LoopbackServer signpost([to = goal.origin().toLatin1()](const Exchange& exchange) {
+        exchange.send("HTTP/1.1 302 Found\r\nLocation: " + to +
+                      "\r\nContent-Length: 1000\r\n\r\nthe beginning of a page");
+    });
+    EXPECT_TRUE(arrives(signpost.origin()));
+}
+
 TEST_F(QtHttpClientRedirect, EndsWhenItGoesRoundInCircles) {
     Signpost signpost;
     signpost.location = "/again";
