@@ -1,11 +1,12 @@
 #include "faults/HostileAnswers.h"
 
+#include "platform/qt/Gzip.h"
+
 #include <QTimer>
 #include <array>
 #include <chrono>
 #include <memory>
 #include <sys/socket.h>
-#include <zlib.h>
 
 namespace brellowind::test::hostile {
 
@@ -58,27 +59,20 @@ void redirect(const Exchange& exchange, const QByteArray& location) {
         exchange.connection->disconnectFromHost();
 }
 
-QByteArray gzip(const QByteArray& body) {
-    constexpr int gzipFormat = 16;
-    constexpr int usualMemory = 8;
-    z_stream stream{};
-    deflateInit2(&stream, Z_BEST_SPEED, Z_DEFLATED, MAX_WBITS + gzipFormat, usualMemory, Z_RLE);
-    QByteArray packed(
-        static_cast<qsizetype>(deflateBound(&stream, static_cast<uLong>(body.size()))),
-        Qt::Uninitialized);
-    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(body.data()));
-    stream.avail_in = static_cast<uInt>(body.size());
-    stream.next_out = reinterpret_cast<Bytef*>(packed.data());
-    stream.avail_out = static_cast<uInt>(packed.size());
-    deflate(&stream, Z_FINISH);
-    packed.resize(static_cast<qsizetype>(stream.total_out));
-    deflateEnd(&stream);
-    return packed;
-}
-
 const QByteArray& gzipBomb() {
     static const QByteArray bomb = gzip(QByteArray(hundredMegabytes, ' '));
     return bomb;
+}
+
+QByteArray beginningOfNothing() {
+    return QByteArray::fromHex("1f8b0800000000000003");
+}
+
+QByteArray blocksOfNothing(qsizetype size) {
+    // Four blocks that end with a byte: each describes a code of its own, and ends.
+    const auto blocks =
+        QByteArray::fromBase64("BMCBAAAAAACQ/2sQAAcCAAAAAED+r0EAHAgAAAAAAPm/BgFwIAAAAAAA5P8a");
+    return blocks.repeated(size / blocks.size());
 }
 
 QByteArray zstandardBomb() {

@@ -29,13 +29,15 @@ void reset(const demo::Exchange& exchange);
 /// Leads elsewhere.
 void redirect(const demo::Exchange& exchange, const QByteArray& location);
 
-/// `body` as a gzip file.
-QByteArray gzip(const QByteArray& body);
-
 /// A gzip file of a few hundred kilobytes that unpacks to a hundred megabytes of spaces.
 const QByteArray& gzipBomb();
 
-/// The same in the Zstandard format, in a few kilobytes.
+/// The first bytes of a gzip file, and what may follow: so many bytes, or a few less, that unpack
+/// to nothing and take as long as they can to do so.
+QByteArray beginningOfNothing();
+QByteArray blocksOfNothing(qsizetype size);
+
+/// A hundred megabytes in the Zstandard format, in a few kilobytes.
 QByteArray zstandardBomb();
 
 /// The same in the Brotli format, in 77 bytes.

@@ -1,6 +1,7 @@
 #include "faults/HostileAnswers.h"
 #include "faults/HostileServer.h"
 #include "faults/NetworkMachine.h"
+#include "platform/qt/Gzip.h"
 #include "session/EventLoop.h"
 #include "session/LoopWatch.h"
 #include "settings/UpdateChecker.h"
@@ -106,6 +107,18 @@ const std::vector<Row> rows{
     {"GzipBomb", Case::failed,
      [bomb = hostile::gzipBomb()](const Exchange& e) {
          hostile::answer(e, "Content-Encoding: gzip\r\n", bomb);
+     }},
+    {"CompressedAndCutOff", Case::failed,
+     [](const Exchange& e) {
+         hostile::answer(e, "Content-Encoding: gzip\r\n", test::gzip(goodFeed).chopped(1));
+     }},
+    {"CompressedInAWayNeverAskedFor", Case::failed,
+     [](const Exchange& e) {
+         hostile::answer(e, "Content-Encoding: \x1B[2J\r\n", hostile::brotliBomb());
+     }},
+    {"Compressed", Case::available,
+     [](const Exchange& e) {
+         hostile::answer(e, "Content-Encoding: gzip\r\n", test::gzip(goodFeed));
      }},
     {"AHundredMegabytes", Case::failed,
      [](const Exchange& e) {

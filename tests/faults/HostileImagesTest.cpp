@@ -2,6 +2,7 @@
 #include "faults/HostileAnswers.h"
 #include "faults/HostileServer.h"
 #include "faults/NetworkMachine.h"
+#include "platform/qt/Gzip.h"
 #include "platform/qt/QtImageDecoder.h"
 #include "session/EventLoop.h"
 #include "session/ProcessUse.h"
@@ -155,6 +156,15 @@ const std::vector<Row>& rows() {
         {"BrotliBomb", false,
          [](const Exchange& e) {
              hostile::answer(e, "Content-Encoding: br\r\n", hostile::brotliBomb());
+         }},
+        {"Compressed", true,
+         [](const Exchange& e) {
+             hostile::answer(e, "Content-Encoding: gzip\r\n", test::gzip(png));
+         }},
+        {"CompressedAndCutOff", false,
+         [](const Exchange& e) {
+             hostile::answer(e, "Content-Encoding: gzip\r\n",
+                             test::gzip(picture("jpeg")).chopped(1));
          }},
         {"Redirected", true, [](const Exchange& e) { hostile::redirect(e, "/good"); }},
         {"RedirectedForEver", false, [](const Exchange& e) { hostile::redirect(e, "/hostile"); }},

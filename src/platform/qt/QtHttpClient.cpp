@@ -1,5 +1,7 @@
 #include "platform/qt/QtHttpClient.h"
 
+#include "platform/qt/HttpBody.h"
+
 #include <QBasicTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -9,13 +11,15 @@
 #include <QUrl>
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 namespace brellowind::platform {
 namespace {
 
 /// Of a body that comes faster than it is taken, so much waits in memory; the rest on the network.
-constexpr qint64 readAhead = 1 << 20;
+/// It is the most that one turn of the main loop has to unpack.
+constexpr qint64 readAhead = 256 << 10;
 
 // The answers that have no body, whatever length they name.
 constexpr int noContent = 204;
@@ -76,19 +80,21 @@ private:
     void read() {
         if (isRedirect())
             follow();
-        else if (!readBody())
-            complete(TransportError{"the body is too long"});
+        else if (auto error = readBody())
+            complete(std::move(*error));
     }
 
     void finish() {
         if (isRedirect() && reply_->error() == QNetworkReply::NoError)
             follow();
-        else if (!readBody())
-            complete(TransportError{"the body is too long"});
-        else if (isAnswer(status(), reply_->error()) && isWhole())
-            complete(HttpResponse{status(), std::move(body_)});
-        else
+        else if (auto error = readBody())
+            complete(std::move(*error));
+        else if (!isAnswer(status(), reply_->error()))
             complete(TransportError{reply_->errorString().toStdString()});
+        else if (!isWhole())
+            complete(TransportError{"the body was cut off"});
+        else
+            complete(HttpResponse{status(), body_->taken()});
     }
 
     /// Asks where the answer leads, whatever its body says. Every step has a reply of its own: Qt,
@@ -109,25 +115,25 @@ private:
     }
 
     /// Qt may report a body as whole that was cut off, when the connection closes in the moment in
-    /// which a part of it is taken. The length of a compressed body is not known here.
+    /// which a part of it is taken.
     bool isWhole() const {
         const bool hasBody = status() != noContent && status() != notModified;
         const auto length = reply_->header(QNetworkRequest::ContentLengthHeader);
-        return !hasBody || !length.isValid() || body_.size() >= length.toULongLong();
+        const bool hasLength = hasBody && length.isValid();
+        return (!hasLength || body_->received() >= length.toULongLong()) && body_->isWhole();
     }
 
-    /// Takes what has arrived. False when that is more than is wanted. Piece by piece, because a
-    /// compressed body may unpack to any size.
-    bool readBody() {
+    /// Takes what has arrived. What is wrong with it, if anything is.
+    std::optional<TransportError> readBody() {
+        if (!body_)
+            body_.emplace(reply_->rawHeader("Content-Encoding").toStdString(), maximumBodyBytes_);
         std::array<char, 16384> piece;
         for (;;) {
             const qint64 count = reply_->read(piece.data(), piece.size());
             if (count <= 0)
-                return true;
-            const auto size = static_cast<std::size_t>(count);
-            if (size > maximumBodyBytes_ - body_.size())
-                return false;
-            body_.append(piece.data(), size);
+                return std::nullopt;
+            if (auto error = body_->take({piece.data(), static_cast<std::size_t>(count)}))
+                return error;
         }
     }
 
@@ -153,7 +159,7 @@ private:
     int redirects_ = 0;
     HttpClient::Completion completion_;
     std::size_t maximumBodyBytes_;
-    std::string body_;
+    std::optional<HttpBody> body_; ///< of the answer that leads no further
 };
 
 /// An address of another kind becomes one that cannot be fetched: Qt would also read files.
@@ -174,6 +180,9 @@ QNetworkRequest networkRequest(const HttpRequest& request) {
                              QNetworkRequest::AlwaysNetwork);
         network.setRawHeader("Cache-Control", "no-cache"); // for the proxies on the way
     }
+    // Whoever names a compression gets the body as it was sent. Qt by itself asks for whatever it
+    // knows, and unpacks some of that in turns of the main loop that are too long.
+    network.setRawHeader("Accept-Encoding", "gzip");
     for (const auto& [name, value] : request.headers)
         network.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
     return network;

@@ -136,33 +136,6 @@ TEST_F(QtHttpClientTest, JoinsAChunkedBody) {
     EXPECT_EQ(response->body, "one two");
 }
 
-TEST_F(QtHttpClientTest, UnpacksACompressedBody) {
-    const QByteArray text(100000, 'x');
-    const QByteArray packed = qCompress(text).mid(4);
-    answer = [packed](const Exchange& exchange) {
-        exchange.send(test::httpResponse("Content-Encoding: deflate\r\nContent-Length: " +
-                                             QByteArray::number(packed.size()) + "\r\n",
-                                         packed));
-    };
-    Download download(client, url("/"));
-    const auto response = download.response();
-    ASSERT_TRUE(response.has_value());
-    EXPECT_EQ(response->body, text.toStdString());
-}
-
-TEST_F(QtHttpClientTest, UnpacksAnErrorPageThatIsShorterThanItsPackedForm) {
-    const QByteArray packed = qCompress("{}").mid(4);
-    answer = [packed](const Exchange& exchange) {
-        exchange.send("HTTP/1.1 500 Error\r\nContent-Encoding: deflate\r\nContent-Length: " +
-                      QByteArray::number(packed.size()) + "\r\n\r\n" + packed);
-    };
-    Download download(client, url("/"));
-    const auto response = download.response();
-    ASSERT_TRUE(response.has_value());
-    EXPECT_EQ(response->status, 500);
-    EXPECT_EQ(response->body, "{}");
-}
-
 TEST_F(QtHttpClientTest, KeepsBytesThatAreNoText) {
     QByteArray bytes;
     for (int byte = 0; byte < 256; ++byte)
