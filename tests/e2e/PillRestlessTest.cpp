@@ -2,6 +2,7 @@
 #include "session/LoopWatch.h"
 #include "session/ProcessUse.h"
 #include "session/x11/Monitors.h"
+#include "session/x11/XSettings.h"
 
 #include <QDBusMessage>
 #include <algorithm>
@@ -37,8 +38,9 @@ protected:
 
     /// Waits until the window hangs from the middle of the top edge of a screen.
     bool hangsFrom(const QRect& screen) {
-        const int width = std::min(screen.width(), 640);
-        const QRect place(screen.x() + (screen.width() - width + 1) / 2, screen.y(), width, 540);
+        const int width = std::min(screen.width(), 640 * scale);
+        const QRect place(screen.x() + (screen.width() - width + 1) / 2, screen.y(), width,
+                          540 * scale);
         return waitUntil([&] { return x.geometry(program->window()) == place; });
     }
 
@@ -135,6 +137,103 @@ TEST_F(PillOnAScreenThatIsSwitchedOff, ComesBackWithTheScreen) {
         EXPECT_TRUE(isShown());
     }
     enterPill();
+}
+
+class PillOnAScreenOfAnotherDensity : public PillRestless {
+protected:
+    PillOnAScreenOfAnotherDensity() : PillRestless(QStringLiteral("2880x1800x24")) {
+        service.handler = [](const demo::Exchange& exchange) {
+            exchange.respond(200, R"({"syncedLyrics":"[00:00.00]line\n[01:00.00]another line"})");
+        };
+    }
+
+    /// A person chooses so many pixels for a point.
+    void choose(int pixels) {
+        scale = pixels;
+        settings->setDotsPerInch(96 * pixels);
+    }
+
+    /// Black up to its lower edge and in its own shape, on what lies beneath.
+    bool isDrawn() {
+        const QPoint window = x.geometry(program->window()).topLeft();
+        const QRectF pill = program->rectangle("pill");
+        const QPointF edge(pill.center().x(), pill.bottom());
+        const auto at = [&](QPointF point) { return x.pixel(window + (point * scale).toPoint()); };
+        return at(edge - QPointF(0, 3)) == QColor(Qt::black) &&
+               at(edge + QPointF(0, 3)) == PlainWindow::colour();
+    }
+
+    /// That the pill hangs, looks, feels and sings as ever.
+    void expectWell() {
+        EXPECT_TRUE(hangsFrom({QPoint(0, 0), screenSize}));
+        EXPECT_TRUE(isShown());
+        EXPECT_TRUE(waitUntil([&] { return isDrawn(); }));
+        const bool isFirst = program->text() == QStringLiteral("line");
+        player->setPosition(isFirst ? 61 : 1);
+        EXPECT_TRUE(
+            program->shows(isFirst ? QStringLiteral("another line") : QStringLiteral("line")));
+        enterPill();
+        leavePill();
+    }
+
+    std::optional<XSettings> settings{std::in_place, desktop.xServer.display(), 96};
+};
+
+TEST_F(PillOnAScreenOfAnotherDensity, IsAsLargeAsThePersonChooses) {
+    startSinging();
+    below();
+    expectWell();
+    for (const int pixels : {2, 1, 3, 1}) {
+        SCOPED_TRACE(pixels);
+        choose(pixels);
+        expectWell();
+    }
+    choose(2);
+    ASSERT_TRUE(hangsFrom({QPoint(0, 0), screenSize}));
+    settings.reset(); // whoever tells of the density is gone
+    expectWell();
+}
+
+TEST_F(PillOnAScreenOfAnotherDensity, OpensItsMenuAsLargeAsThePill) {
+    startSinging();
+    const auto menuSize = [&] {
+        openMenu();
+        const QSize size = x.geometry(program->menu()).size();
+        person.pressAt({2, screenSize.height() - 2});
+        EXPECT_TRUE(waitUntil([&] { return program->menu() == 0; }));
+        leavePill();
+        return size;
+    };
+    const QSize before = menuSize();
+    choose(2);
+    ASSERT_TRUE(hangsFrom({QPoint(0, 0), screenSize}));
+    EXPECT_EQ(menuSize(), before * 2);
+    choose(1);
+    ASSERT_TRUE(hangsFrom({QPoint(0, 0), screenSize}));
+    EXPECT_EQ(menuSize(), before);
+}
+
+TEST_F(PillOnAScreenOfAnotherDensity, LeavesNothingBehindHoweverOftenItChanges) {
+    // Of a part of the window that is sent to the screen Qt keeps a copy, as large as any was.
+    constexpr qint64 copyKiB = 1280 * 1080 * 4 / 1024;
+    startSinging();
+    const auto changeAndBack = [&] {
+        for (const int pixels : {2, 1}) {
+            choose(pixels);
+            ASSERT_TRUE(hangsFrom({QPoint(0, 0), screenSize}));
+            EXPECT_TRUE(program->comesToRest());
+        }
+    };
+    for (int i = 0; i < 5; ++i)
+        changeAndBack();
+    const quint32 held = resources();
+    const qint64 descriptors = use().descriptors();
+    const qint64 memory = use().memoryKiB();
+    for (int i = 0; i < 15; ++i)
+        changeAndBack();
+    EXPECT_LE(resources(), held);
+    EXPECT_LE(use().descriptors(), descriptors);
+    EXPECT_LT(use().memoryKiB() - memory, growthWithoutLeakKiB + copyKiB);
 }
 
 TEST_F(PillRestless, OutlivesItsWindowManagerAndItsCompositingManager) {
