@@ -263,6 +263,27 @@ TEST_F(PillRestless, OutlivesItsWindowManagerAndItsCompositingManager) {
     enterPill();
 }
 
+TEST_F(PillRestless, StaysWhereItIsWhileItsWindowManagerBeginsAgain) {
+    startSinging();
+    PlainWindow& covering = below();
+    const QRect place = x.geometry(program->window());
+    const auto round = [&] {
+        windowManager->restart();
+        EXPECT_TRUE(isShown());
+        EXPECT_EQ(x.geometry(program->window()), place);
+        EXPECT_EQ(x.frameOf(program->window()), program->window()) << "it was given a frame";
+        EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), covering.id()); }));
+    };
+    round();
+    const quint32 held = resources();
+    const qint64 descriptors = use().descriptors();
+    for (int i = 0; i < 10; ++i)
+        round();
+    EXPECT_LE(resources(), held);
+    EXPECT_LE(use().descriptors(), descriptors);
+    enterPill();
+}
+
 TEST_F(PillRestless, IsNeverOverALockerHoweverOftenItComes) {
     startSinging();
     const quint32 held = resources();

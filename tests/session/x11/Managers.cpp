@@ -1,13 +1,17 @@
 #include "session/x11/Managers.h"
 
 #include "session/EventLoop.h"
+#include "session/SendSignal.h"
 
 #include <QProcessEnvironment>
+#include <csignal>
 #include <gtest/gtest.h>
 
 namespace brellowind::test {
 namespace {
 
+constexpr auto managerCheck = "_NET_SUPPORTING_WM_CHECK";
+constexpr auto oldMark = "_BRELLOWIND_TEST_OLD";
 constexpr auto compositingSelection = "_NET_WM_CM_S0";
 
 /// Without the settings and files of whoever runs the test.
@@ -22,15 +26,38 @@ QProcessEnvironment environment(const XClient& x, const QTemporaryDir& home) {
 } // namespace
 
 WindowManager::WindowManager(const XClient& x)
-    : process_(QStringLiteral("openbox"),
-               {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),
-                QStringLiteral("echo ready")},
-               environment(x, home_)) {
+    : x_(x), process_(QStringLiteral("openbox"),
+                      {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),
+                       QStringLiteral("echo ready")},
+                      environment(x, home_)) {
     QString line; // it may say other things before
     do
         line = process_.readLine();
     while (!line.isEmpty() && line != QStringLiteral("ready"));
     EXPECT_FALSE(line.isEmpty()) << "the window manager did not start";
+}
+
+/// A signal that it does not listen for yet would end it: it does once its window is there. The
+/// next window may have the same number, but not what was written on this one.
+void WindowManager::restart() {
+    ASSERT_TRUE(waitUntil([this] { return checkWindow() != XCB_WINDOW_NONE; }));
+    const std::uint32_t mark = 1;
+    xcb_change_property(x_.get(), XCB_PROP_MODE_REPLACE, checkWindow(), x_.atom(oldMark),
+                        XCB_ATOM_CARDINAL, 32, 1, &mark);
+    x_.finish();
+    sendSignal(SIGUSR1, process_);
+    EXPECT_TRUE(waitUntil([this] {
+        const auto window = checkWindow();
+        const bool isMarked = !x_.property(window, oldMark).isEmpty();
+        return window != XCB_WINDOW_NONE && !isMarked && checkWindow() == window;
+    })) << "the window manager did not begin again";
+}
+
+/// The window that says that a manager is there, which names itself.
+xcb_window_t WindowManager::checkWindow() const {
+    const auto window = x_.property(x_.root(), managerCheck).value(0);
+    const bool isThere = x_.property(window, managerCheck).value(0) == window;
+    return isThere ? window : xcb_window_t(XCB_WINDOW_NONE);
 }
 
 CompositingManager::CompositingManager(const XClient& x)

@@ -13,7 +13,13 @@ class WindowManager {
 public:
     explicit WindowManager(const XClient& x);
 
+    /// Has it begin again in the same process, and waits until it manages again.
+    void restart();
+
 private:
+    xcb_window_t checkWindow() const;
+
+    const XClient& x_;
     QTemporaryDir home_;
     demo::Companion process_;
 };
