@@ -41,12 +41,16 @@ WindowManager::WindowManager(const XClient& x)
 /// next window may have the same number, but not what was written on this one.
 void WindowManager::restart() {
     ASSERT_TRUE(waitUntil([this] { return checkWindow() != XCB_WINDOW_NONE; }));
-    const std::uint32_t mark = 1;
-    xcb_change_property(x_.get(), XCB_PROP_MODE_REPLACE, checkWindow(), x_.atom(oldMark),
-                        XCB_ATOM_CARDINAL, 32, 1, &mark);
-    x_.finish();
+    const auto write = [this](xcb_window_t window) {
+        const std::uint32_t mark = 1;
+        xcb_change_property(x_.get(), XCB_PROP_MODE_REPLACE, window, x_.atom(oldMark),
+                            XCB_ATOM_CARDINAL, 32, 1, &mark);
+        x_.finish();
+    };
+    write(checkWindow());
     sendSignal(SIGUSR1, process_);
-    EXPECT_TRUE(waitUntil([this] {
+    EXPECT_TRUE(waitUntil([&] {
+        write(x_.root()); // a manager that fell asleep as the signal came looks when it is woken
         const auto window = checkWindow();
         const bool isMarked = !x_.property(window, oldMark).isEmpty();
         return window != XCB_WINDOW_NONE && !isMarked && checkWindow() == window;
