@@ -31,8 +31,17 @@ bool readText(nlohmann::json& object, const char* key, std::optional<std::string
     return true;
 }
 
+/// What is kept of an answer while it is parsed: the two texts. To build and free a tree of all
+/// else could keep the main loop for longer than a frame may take.
+bool isLookedFor(int depth, nlohmann::json::parse_event_t event, const nlohmann::json& parsed) {
+    using Event = nlohmann::json::parse_event_t;
+    if (event == Event::key)
+        return depth == 1 && (parsed == "syncedLyrics" || parsed == "plainLyrics");
+    return event != Event::array_start && depth <= 1;
+}
+
 std::optional<Response> decode(std::string_view body) {
-    auto object = nlohmann::json::parse(body, nullptr, /*allow_exceptions=*/false);
+    auto object = nlohmann::json::parse(body, isLookedFor, /*allow_exceptions=*/false);
     Response response;
     if (!object.is_object() || !readText(object, "syncedLyrics", response.syncedLyrics) ||
         !readText(object, "plainLyrics", response.plainLyrics))
