@@ -44,8 +44,14 @@ std::string answer(const QString& lrc) {
     return QJsonDocument(QJsonObject{{QStringLiteral("syncedLyrics"), lrc}}).toJson().toStdString();
 }
 
+/// What `window` shows over black.
 QImage grabbed(SceneWindow& window) {
-    return window.grab().convertToFormat(QImage::Format_RGB32);
+    const QImage shown = window.grab();
+    QImage image(shown.size(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(shown.devicePixelRatio());
+    image.fill(Qt::black);
+    QPainter(&image).drawImage(QPointF(0, 0), shown);
+    return image;
 }
 
 } // namespace

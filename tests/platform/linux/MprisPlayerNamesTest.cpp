@@ -1,4 +1,5 @@
 #include "platform/linux/MprisSession.h"
+#include "session/EventLoop.h"
 
 #include <gmock/gmock.h>
 
@@ -10,7 +11,16 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Optional;
 
-using MprisPlayerNames = MprisSession;
+class MprisPlayerNames : public MprisSession {
+protected:
+    /// The first reading that succeeds: of a player that has gone the bus may tell the test before
+    /// it tells the adapter, whose one reading in between fails.
+    static std::optional<std::string> nextReading(MprisPlayer& reads) {
+        std::optional<std::string> text;
+        test::waitUntil([&] { return (text = reads.execute(readOut).text).has_value(); });
+        return text;
+    }
+};
 
 TEST_F(MprisPlayerNames, WithoutAPlayerNothingRunsAndAReadingIsEmpty) {
     auto reads = reader();
@@ -53,7 +63,7 @@ TEST_F(MprisPlayerNames, ThePlainNameGoesBeforeInstancesWhicheverCameFirst) {
     auto reads = reader();
     EXPECT_THAT(reads.execute(readOut).text, Optional(recordOf("Plain")));
     plain.quit();
-    EXPECT_THAT(reads.execute(readOut).text, Optional(testing::HasSubstr("instance")));
+    EXPECT_THAT(nextReading(reads), Optional(testing::HasSubstr("instance")));
 }
 
 TEST_F(MprisPlayerNames, OfSeveralInstancesTheSameOneIsReadWhoeverComesAndGoes) {
@@ -66,7 +76,7 @@ TEST_F(MprisPlayerNames, OfSeveralInstancesTheSameOneIsReadWhoeverComesAndGoes) 
         EXPECT_THAT(reads.execute(readOut).text, Optional(recordOf("1"))) << instance;
     }
     players.erase(players.begin());
-    EXPECT_THAT(reads.execute(readOut).text, Optional(recordOf("3")));
+    EXPECT_THAT(nextReading(reads), Optional(recordOf("3")));
 }
 
 class MprisPlayerOthers : public MprisSession, public testing::WithParamInterface<const char*> {};
