@@ -41,7 +41,7 @@ TEST_F(MprisPlayerNames, APlayerThatQuitsRunsNoLonger) {
     auto reads = reader();
     EXPECT_THAT(reads.bundleIdentifiers(), ElementsAre("com.spotify.client"));
     player.quit();
-    EXPECT_THAT(reads.bundleIdentifiers(), IsEmpty());
+    EXPECT_TRUE(test::waitUntil([&] { return reads.bundleIdentifiers().empty(); }));
     EXPECT_THAT(reads.execute(readOut).text, Optional(std::string()));
 }
 
