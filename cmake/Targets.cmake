@@ -52,8 +52,8 @@ function(brellowind_qt_library name)
 endfunction()
 
 # Where the library of the settings window is, beside the folder "bin" of the program: the same in a
-# build tree and in an installation.
-set(BRELLOWIND_LIBRARY_FOLDER lib/brellowind)
+# build tree and in an installation. So deep that nobody takes it for a library of the system's.
+set(BRELLOWIND_LIBRARY_FOLDER lib/brellowind/modules)
 
 # Makes a program that is all of Brellowind of the executable `target`.
 function(brellowind_program target)
