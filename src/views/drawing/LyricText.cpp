@@ -83,8 +83,9 @@ QRectF LyricText::paintedRect() const {
 }
 
 void LyricText::paint(QPainter& painter) {
-    const double left = mapFromScene(QPointF(0, 0)).x();
-    const double right = window() ? mapFromScene(QPointF(window()->width(), 0)).x() : width();
+    const QTransform fromWindow = transform().inverted();
+    const double left = fromWindow.map(QPointF(0, 0)).x();
+    const double right = window() ? fromWindow.map(QPointF(window()->width(), 0)).x() : width();
     for (auto& layer : layers_)
         layer.paint(painter, look_.color, width() / 2, 0, left, right);
 }

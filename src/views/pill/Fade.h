@@ -1,6 +1,7 @@
 #pragma once
 
 #include "views/scene/Item.h"
+
 #include <algorithm>
 
 namespace brellowind {
