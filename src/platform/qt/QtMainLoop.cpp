@@ -38,29 +38,38 @@ private:
     int id_;
 };
 
-/// Runs just before the loop rests; `awake` covers loops that are driven without resting. A request
-/// may come when the loop has already decided to rest, so each one keeps it awake for a turn.
+/// Runs just before the loop rests; `awake` covers loops that are driven without resting. The loop
+/// passes one of the two before it rests, so only what is asked for after that has to wake it.
 class QtNextTurn final : public QObject, public NextTurn {
 public:
     explicit QtNextTurn(MainLoop::Handler handler)
         : handler_(std::make_shared<MainLoop::Handler>(std::move(handler))) {
         const auto* dispatcher = QAbstractEventDispatcher::instance();
-        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &QtNextTurn::run);
+        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &QtNextTurn::runLast);
         connect(dispatcher, &QAbstractEventDispatcher::awake, this, &QtNextTurn::run);
     }
 
     void request() override {
-        if (!std::exchange(requested_, true))
+        if (!std::exchange(requested_, true) && restsNext)
             QAbstractEventDispatcher::instance()->wakeUp();
     }
 
 private:
+    void runLast() {
+        const bool before = std::exchange(restsNext, true);
+        run();
+        restsNext = before;
+    }
+
     void run() {
         if (!std::exchange(requested_, false))
             return;
         const auto handler = handler_; // it may destroy this
         (*handler)();
     }
+
+    /// The loop has decided to rest and runs the last handlers.
+    static inline thread_local bool restsNext = false;
 
     std::shared_ptr<MainLoop::Handler> handler_;
     bool requested_ = false;

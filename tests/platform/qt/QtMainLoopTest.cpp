@@ -2,6 +2,7 @@
 
 #include "session/EventLoop.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
@@ -23,6 +24,11 @@ protected:
         QTimer deadline;
         QObject::connect(&deadline, &QTimer::timeout, &deadline, [&expired] { expired = true; });
         deadline.start(20s);
+        auto* dispatcher = QAbstractEventDispatcher::instance();
+        QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &deadline, [&] {
+            if (condition()) // of the last handlers: it would rest although there is nothing left
+                dispatcher->wakeUp();
+        });
         while (!condition() && !expired)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         return !expired;
@@ -196,6 +202,25 @@ TEST_F(QtMainLoopTest, NextTurnAskedForByAnothersHandlerRunsBeforeTheLoopRests) 
     late->request();
     ASSERT_TRUE(restUntil([&] { return events.size() == 2; }));
     EXPECT_EQ(events, (std::vector<int>{1, 2})) << "only another event woke the loop";
+}
+
+TEST_F(QtMainLoopTest, NextTurnAskedForByATimerCostsTheLoopNoFurtherTurn) {
+    const auto next = loop.onNextTurn([&] { events.push_back(2); });
+    const auto rests = [&](const std::function<void()>& due) {
+        int count = 0;
+        QObject listener;
+        QObject::connect(QAbstractEventDispatcher::instance(),
+                         &QAbstractEventDispatcher::aboutToBlock, &listener, [&] { ++count; });
+        bool isOver = false;
+        const auto timer = loop.scheduleOnce(10ms, due);
+        const auto end = loop.scheduleOnce(60ms, [&] { isOver = true; });
+        EXPECT_TRUE(restUntil([&] { return isOver; }));
+        return count;
+    };
+    QCoreApplication::processEvents(); // what the application's start has left
+    const int usual = rests([] {});
+    EXPECT_EQ(rests([&] { next->request(); }), usual);
+    EXPECT_EQ(events, std::vector<int>{2});
 }
 
 TEST_F(QtMainLoopTest, NextTurnRunsInALoopThatIsDrivenWithoutResting) {
