@@ -15,8 +15,6 @@ struct Choice {
 std::array choices{
     // The pill's window is an X11 window; on a Wayland session it comes through XWayland.
     Choice{"QT_QPA_PLATFORM", "xcb"},
-    // A frame is drawn in the turn that asks for it: waiting would wake the processor once more.
-    Choice{"QT_QPA_UPDATE_IDLE_TIME", "0"},
     // And sent to the X server at once: of memory shared with the server every frame would have to
     // ask whether it is free, which wakes both and costs more than sending the few pixels.
     Choice{"QT_XCB_NO_MITSHM", "1"},

@@ -1,5 +1,7 @@
 #include "views/scene/SceneWindow.h"
 
+#include "platform/qt/QtMainLoop.h"
+
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -36,7 +38,8 @@ QRegion wholePixels(const QRegion& region, double ratio, const QRect& window) {
 
 } // namespace
 
-SceneWindow::SceneWindow(QWindow* parent) : QWindow(parent) {
+SceneWindow::SceneWindow(QWindow* parent)
+    : QWindow(parent), nextTurn_(platform::QtMainLoop().onNextTurn([this] { makeFrame(); })) {
     setSurfaceType(RasterSurface);
     auto transparent = requestedFormat();
     transparent.setAlphaBufferSize(8);
@@ -49,9 +52,7 @@ SceneWindow::~SceneWindow() {
 }
 
 void SceneWindow::requestFrame() {
-    if (std::exchange(requested_, true))
-        return;
-    requestUpdate();
+    nextTurn_->request();
 }
 
 void SceneWindow::damage(const QRectF& rect) {
@@ -77,7 +78,7 @@ QRegion SceneWindow::covering(const QRectF& rect) {
 
 bool SceneWindow::event(QEvent* event) {
     if (event->type() == QEvent::UpdateRequest)
-        makeFrame();
+        requestFrame();
     else if (event->type() == QEvent::Enter)
         pointer_.move(static_cast<QEnterEvent*>(event)->position());
     else if (event->type() == QEvent::Leave)
@@ -119,7 +120,6 @@ void SceneWindow::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void SceneWindow::makeFrame() {
-    requested_ = false;
     if (!isExposed())
         return;
     aboutToShow();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/MainLoop.h"
 #include "views/interaction/PointerFocus.h"
 #include "views/scene/Item.h"
 
@@ -8,6 +9,7 @@
 #include <QImage>
 #include <QRegion>
 #include <QWindow>
+#include <memory>
 
 namespace brellowind {
 
@@ -64,7 +66,7 @@ private:
     QBackingStore store_{this};
     double ratio_ = 0; ///< pixels in a point of what `store_` holds
     QRegion damage_;
-    bool requested_ = false;
+    std::unique_ptr<platform::NextTurn> nextTurn_; ///< makes a frame
 };
 
 } // namespace brellowind
