@@ -113,6 +113,9 @@ void BrellowindApp::prepare() {
 #ifdef __GLIBC__
     // What little other threads allocate needs no memory of each thread's own.
     mallopt(M_ARENA_MAX, 1);
+    // Covers and other large blocks are given back as they are freed, instead of leaving holes
+    // between what stays. Without this the limit would rise to the largest block that was freed.
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
