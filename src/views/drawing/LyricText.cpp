@@ -74,12 +74,13 @@ std::optional<double> LyricText::advance(double now) {
 }
 
 QRectF LyricText::paintedRect() const {
-    double widest = width();
-    for (const auto& layer : layers_)
-        widest = std::max(widest, layer.width());
-    const double overhang = TextLayer::overhang();
-    const double beside = (widest - width()) / 2 + overhang;
-    return boundingRect().adjusted(-beside, -overhang, beside, overhang);
+    QRectF all;
+    for (const auto& layer : layers_) {
+        const double overhang = layer.overhang();
+        const double beside = (layer.width() - width()) / 2 + overhang;
+        all |= boundingRect().adjusted(-beside, -overhang, beside, overhang);
+    }
+    return all;
 }
 
 void LyricText::paint(QPainter& painter) {

@@ -13,7 +13,8 @@
 namespace brellowind {
 namespace {
 
-constexpr double strongestSigma = 5;  ///< points, of a line that is away
+constexpr double strongestSigma = 5; ///< points, of a line that is away
+const double strongestReach = std::ceil(blurReach(strongestSigma));
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
 
@@ -104,16 +105,20 @@ void TextLayer::paint(QPainter& painter, QColor color, double centre, double top
     painter.setOpacity(painter.opacity() * opacity);
     // Rounding the left end, not the middle, keeps a line of any width on whole pixels.
     const QPointF origin = onPixel(painter, QPointF(centre - width_ / 2, top));
-    const double sigma = strongestSigma * (1 - opacity);
-    if (sigma < faintestSigma)
+    if (sigma() < faintestSigma)
         paintSharp(painter, color, origin);
     else
         paintBlurred(painter, color, origin, QRectF(left, top, right - left, 0));
     painter.restore();
 }
 
-double TextLayer::overhang() {
-    return std::ceil(blurReach(strongestSigma));
+double TextLayer::overhang() const {
+    constexpr double rounding = 1; // the line begins at a whole pixel
+    return std::ceil(std::max(inkOverhang, blurReach(sigma()))) + rounding;
+}
+
+double TextLayer::sigma() const {
+    return strongestSigma * (1 - std::clamp(shown_, 0.0, 1.0));
 }
 
 void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin) const {
@@ -123,19 +128,20 @@ void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin) cons
 
 void TextLayer::paintBlurred(QPainter& painter, QColor color, QPointF origin, QRectF seen) {
     const double ratio = painter.device()->devicePixelRatioF();
-    const double sigma = strongestSigma * (1 - std::clamp(shown_, 0.0, 1.0));
     // What lies further beside what is seen is not carried there by any blur.
     const QRectF line =
         layout_.boundingRect().adjusted(-inkOverhang, -inkOverhang, inkOverhang, inkOverhang);
-    const double left = std::max(line.left(), std::floor(seen.left() - origin.x() - overhang()));
-    const double right = std::min(line.right(), std::ceil(seen.right() - origin.x() + overhang()));
+    const double left =
+        std::max(line.left(), std::floor(seen.left() - origin.x() - strongestReach));
+    const double right =
+        std::min(line.right(), std::ceil(seen.right() - origin.x() + strongestReach));
     if (right <= left)
         return;
     const QRectF part(left, line.top(), right - left, line.height());
-    const double reach = std::max(0.0, blurReach(sigma) - inkOverhang);
+    const double reach = std::max(0.0, blurReach(sigma()) - inkOverhang);
     const int margin = static_cast<int>(std::ceil(reach * ratio));
     QImage image = framed(picture(part, color, ratio), margin);
-    blur(image, sigma * ratio);
+    blur(image, sigma() * ratio);
     painter.drawImage(origin + part.topLeft() - QPointF(margin, margin) / ratio,
                       image.depth() == 8 ? tinted(image, color) : image);
 }

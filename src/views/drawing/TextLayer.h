@@ -38,10 +38,11 @@ public:
     void paint(QPainter& painter, QColor color, double centre, double top, double left,
                double right);
 
-    /// How far beyond the line's own rectangle it may draw.
-    static double overhang();
+    /// How far beyond the line's own rectangle it draws at this moment.
+    double overhang() const;
 
 private:
+    double sigma() const;
     void paintSharp(QPainter& painter, QColor color, QPointF origin) const;
     void paintBlurred(QPainter& painter, QColor color, QPointF origin, QRectF seen);
     const QImage& picture(QRectF part, QColor color, double ratio);

@@ -121,7 +121,7 @@ TEST(TextLayer, IsBlurredOnItsWay) {
     const QRect soft = test::inkRect(paintedLayer(going));
     EXPECT_LT(soft.left(), sharp.left());
     EXPECT_GT(soft.right(), sharp.right());
-    const int overhang = static_cast<int>(TextLayer::overhang());
+    const int overhang = static_cast<int>(going.overhang());
     EXPECT_TRUE(sharp.adjusted(-overhang, -overhang, overhang, overhang).contains(soft));
 }
 
