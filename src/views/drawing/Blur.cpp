@@ -1,5 +1,7 @@
 #include "views/drawing/Blur.h"
 
+#include "views/drawing/Transpose.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -29,6 +31,12 @@ std::array<int, passes> boxRadii(double sigma) {
     return radii;
 }
 
+/// `stride` is bytes from line to line.
+template <typename Pixel>
+Pixels<Pixel> pixelsAt(uchar* first, std::ptrdiff_t stride) {
+    return {reinterpret_cast<Pixel*>(first), stride / static_cast<std::ptrdiff_t>(sizeof(Pixel))};
+}
+
 /// Samples line by line, without a line's end that a processor's vectors would not fill.
 struct Lines {
     Lines(std::size_t lineWidth, int lineCount)
@@ -37,6 +45,11 @@ struct Lines {
 
     uchar* line(int y) { return samples.data() + static_cast<std::size_t>(y) * width; }
     const uchar* line(int y) const { return samples.data() + static_cast<std::size_t>(y) * width; }
+
+    template <typename Pixel>
+    Pixels<Pixel> pixels() {
+        return pixelsAt<Pixel>(samples.data(), static_cast<std::ptrdiff_t>(width));
+    }
 
     std::size_t width;
     int height;
@@ -83,17 +96,6 @@ void blurDown(Lines& lines, double sigma) {
     }
 }
 
-/// Exchanges rows and columns of `width` × `height` pixels. Strides are bytes from line to line.
-template <typename Pixel>
-void transpose(const uchar* from, std::size_t fromStride, uchar* to, std::size_t toStride,
-               int width, int height) {
-    for (int x = 0; x < width; ++x, to += toStride) {
-        const uchar* pixel = from + static_cast<std::size_t>(x) * sizeof(Pixel);
-        for (int y = 0; y < height; ++y, pixel += fromStride)
-            reinterpret_cast<Pixel*>(to)[y] = *reinterpret_cast<const Pixel*>(pixel);
-    }
-}
-
 /// A filter down the columns is the same work for all samples of a line, which a processor does
 /// many at a time. So the filter along the lines is one down the columns of the image laid on its
 /// side.
@@ -101,18 +103,15 @@ template <typename Pixel>
 void blurPixels(QImage& image, double sigma) {
     const int width = image.width();
     const int height = image.height();
-    uchar* const bits = image.bits();
-    const auto stride = static_cast<std::size_t>(image.bytesPerLine());
+    const auto pixels = pixelsAt<Pixel>(image.bits(), image.bytesPerLine());
     Lines onItsSide(static_cast<std::size_t>(height) * sizeof(Pixel), width);
     Lines upright(static_cast<std::size_t>(width) * sizeof(Pixel), height);
-    transpose<Pixel>(bits, stride, onItsSide.line(0), onItsSide.width, width, height);
+    transpose(pixels, onItsSide.pixels<Pixel>(), width, height);
     blurDown(onItsSide, sigma);
-    transpose<Pixel>(onItsSide.line(0), onItsSide.width, upright.line(0), upright.width, height,
-                     width);
+    transpose(onItsSide.pixels<Pixel>(), upright.pixels<Pixel>(), height, width);
     blurDown(upright, sigma);
     for (int y = 0; y < height; ++y)
-        std::copy_n(upright.line(y), static_cast<std::size_t>(width) * sizeof(Pixel),
-                    bits + static_cast<std::size_t>(y) * stride);
+        std::copy_n(upright.pixels<Pixel>().at(0, y), width, pixels.at(0, y));
 }
 
 } // namespace

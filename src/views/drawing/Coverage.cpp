@@ -24,10 +24,12 @@ QImage coverage(const QImage& image) {
 }
 
 QImage tinted(const QImage& coverage, QColor color) {
+    const QRgb opaque = color.rgb();
+    const int strength = color.alpha();
     std::array<QRgb, 256> tints;
     for (unsigned alpha = 0; alpha < tints.size(); ++alpha) {
-        const int tint = (color.alpha() * static_cast<int>(alpha) + 127) / 255;
-        tints[alpha] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), tint));
+        const int tint = (strength * static_cast<int>(alpha) + 127) / 255;
+        tints[alpha] = qPremultiply((opaque & RGB_MASK) | static_cast<QRgb>(tint) << 24);
     }
     QImage result(coverage.size(), QImage::Format_ARGB32_Premultiplied);
     result.setDevicePixelRatio(coverage.devicePixelRatio());
