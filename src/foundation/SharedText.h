@@ -15,7 +15,10 @@ namespace brellowind {
 class SharedBytes {
 public:
     SharedBytes() = default;
-    explicit SharedBytes(std::string_view bytes);
+
+    /// Takes the bytes over; those of a long string are not copied.
+    SharedBytes(std::string bytes) : block_(new Block{1, std::move(bytes)}) {}
+
     SharedBytes(const SharedBytes& other) : block_(other.block_) {
         if (block_)
             ++block_->owners;
@@ -30,13 +33,13 @@ public:
             release();
     }
 
-    /// The first byte; null for a handle of nothing.
-    const char* get() const { return block_ ? reinterpret_cast<const char*>(block_ + 1) : nullptr; }
+    /// Valid for as long as this handle or a copy of it lives; empty for a handle of nothing.
+    std::string_view view() const { return block_ ? block_->bytes : std::string_view(); }
 
 private:
     struct Block {
         std::size_t owners;
-        // The bytes follow.
+        std::string bytes;
     };
 
     void release();
@@ -54,7 +57,7 @@ public:
 
     /// Copies `text` into a buffer of its own.
     explicit SharedText(std::string_view text)
-        : buffer_(text), slice_(buffer_.get(), text.size()) {}
+        : buffer_(std::string(text)), slice_(buffer_.view()) {}
 
     /// Shares `buffer`; `slice` must lie inside it.
     SharedText(SharedBytes buffer, std::string_view slice)

@@ -138,9 +138,9 @@ const char* find(const char* position, const char* end, char wanted) {
     return found ? static_cast<const char*>(found) : end;
 }
 
-/// The first tag that opens at or after `position`.
-Tag nextTag(const char* position, const char* end) {
-    for (auto open = find(position, end, '['); open != end; open = find(open + 1, end, '['))
+/// The first tag that opens at or after `position` and before `limit`; it may end after that.
+Tag nextTag(const char* position, const char* limit, const char* end) {
+    for (auto open = find(position, limit, '['); open != limit; open = find(open + 1, limit, '['))
         if (const auto tag = readTag(open, end))
             return tag;
     return {};
@@ -180,27 +180,49 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-/// Every tag of `text`, all of which `bytes` holds, with the words of its piece; in order of
-/// position.
-std::vector<LyricLine> readLines(const SharedBytes& bytes, std::string_view text) {
+/// What follows a tag up to the end of its piece.
+struct Rest {
+    const char* words; ///< begin behind the last of its tags
+    const char* end;
+};
+
+/// Reads the piece from the end of its first tag. A long one is looked through part by part, while
+/// each is still in the processor's nearest cache.
+Rest readRest(const char* position, const char* end) {
+    constexpr std::ptrdiff_t part = 4096;
+    for (const char* words = position;;) {
+        const char* const limit = position + std::min(part, end - position);
+        const char* const feed = endOfPiece(position, limit);
+        while (position < feed) {
+            const auto tag = nextTag(position, feed, end);
+            position = tag ? tag.end : feed;
+            words = tag ? tag.end : words;
+        }
+        if (feed != limit || limit == end)
+            return {words, feed};
+    }
+}
+
+/// Every tag of `text` with the words of its piece; in order of position.
+std::vector<LyricLine> readLines(const SharedBytes& text) {
     constexpr std::size_t usualTag = 10;   ///< bytes: [00:00.00]
     constexpr std::size_t shortestTag = 5; ///< [0:0]
     std::vector<LyricLine> lines;
-    reserve(lines, text.size() / usualTag);
-    const char* const end = text.data() + text.size();
-    for (auto tag = nextTag(text.data(), end); tag;) {
-        const char* const pieceEnd = endOfPiece(tag.end, end);
-        const char* lastTagEnd = tag.end;
-        while (const auto next = nextTag(lastTagEnd, pieceEnd))
-            lastTagEnd = next.end;
-        const SharedText words(bytes, trimmed({lastTagEnd, pieceEnd}));
-        for (; tag; tag = nextTag(tag.end, lastTagEnd)) { // nearly always this one alone
-            if (lines.size() == lines.capacity())         // unusual: for all that there may be
+    const char* const begin = text.view().data();
+    const char* const end = begin + text.view().size();
+    auto tag = nextTag(begin, end, end);
+    if (tag)
+        reserve(lines, text.view().size() / usualTag);
+    while (tag) {
+        const auto rest = readRest(tag.end, end);
+        const SharedText words(text, trimmed({rest.words, rest.end}));
+        for (; tag; tag = nextTag(tag.end, rest.words, end)) { // nearly always this one alone
+            if (lines.size() == lines.capacity())              // unusual: for all there may be
                 reserve(lines,
                         lines.size() + 1 + static_cast<std::size_t>(end - tag.end) / shortestTag);
             lines.emplace_back(tag.time, words);
         }
-        tag = nextTag(pieceEnd == end ? end : pieceEnd + 1, end);
+        tag = nextTag(rest.end == end ? end : rest.end + 1, end, end);
     }
     return lines;
 }
@@ -261,11 +283,8 @@ void sort(std::vector<LyricLine>& lines) {
 
 } // namespace
 
-std::vector<LyricLine> parse(std::string_view text) {
-    if (!nextTag(text.data(), text.data() + text.size()))
-        return {};
-    const SharedBytes copy(text); // which the words of all lines are slices of
-    auto lines = readLines(copy, {copy.get(), text.size()});
+std::vector<LyricLine> parse(const SharedBytes& text) {
+    auto lines = readLines(text);
     if (!std::ranges::is_sorted(lines, {}, &LyricLine::time))
         sort(lines);
     return lines;

@@ -116,13 +116,13 @@ LyricsState interpret(int status, std::string_view body) {
     auto response = decode(body); // of any other status: an error may answer with an object, too
     if (!response)
         return LyricsState::failed();
-    const auto& [synced, plain] = *response;
+    auto& [synced, plain] = *response;
     if (synced && !synced->empty()) {
-        auto lines = LRCParser::parse(*synced);
+        auto lines = LRCParser::parse(std::move(*synced));
         return lines.empty() ? LyricsState::notFound() : LyricsState::loaded(std::move(lines));
     }
     if (plain && !plain->empty())
-        return LyricsState::plain(std::move(*response->plainLyrics));
+        return LyricsState::plain(std::move(*plain));
     return LyricsState::notFound();
 }
 

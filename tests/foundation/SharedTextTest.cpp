@@ -21,8 +21,8 @@ TEST(SharedText, CopiesShareTheBytes) {
 TEST(SharedText, OutlivesTheBufferHandleItWasCutFrom) {
     SharedText text;
     {
-        const SharedBytes buffer("one two");
-        text = SharedText(buffer, std::string_view(buffer.get() + 4, 3));
+        const SharedBytes buffer(std::string("one two"));
+        text = SharedText(buffer, buffer.view().substr(4));
     }
     EXPECT_EQ(text, "two");
 }

@@ -26,6 +26,14 @@ public:
         return made;
     }
 
+    /// A text whose first piece is so long that its tags stand about the end of the part that the
+    /// parser looks through at a time.
+    std::u32string longText() {
+        constexpr int part = 4096;
+        const auto filling = static_cast<std::size_t>(part - below(48));
+        return U"[00:01.00]" + std::u32string(filling, U'x') + text();
+    }
+
 private:
     int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
 
@@ -152,6 +160,21 @@ TEST(LRCParserAgainstIcu, FindsWhatThePatternFinds) {
     EXPECT_GT(textsWithTags, 40'000U);
     EXPECT_GT(foreignTextsWithTags, 30'000U);
     EXPECT_GT(lineCount, 100'000U);
+}
+
+TEST(LRCParserAgainstIcu, FindsWhatThePatternFindsWhereALongPieceIsReadInParts) {
+    const PatternParser reference;
+    Generator generator;
+    std::size_t lineCount = 0;
+    for (int i = 0; i < 20'000; ++i) {
+        const auto text = utf16(generator.longText());
+        std::string bytes;
+        text.toUTF8String(bytes);
+        const auto expected = reference.parse(text);
+        ASSERT_EQ(parsed(bytes), expected) << "text " << i;
+        lineCount += expected.size();
+    }
+    EXPECT_GT(lineCount, 50'000U) << "the long piece has one line, what follows it mostly more";
 }
 
 TEST(LRCParserAgainstIcu, ReadsEveryTimeAlike) {

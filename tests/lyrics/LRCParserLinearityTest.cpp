@@ -75,7 +75,7 @@ TEST(LRCParserLinearity, TagsInReverseOrderStillShareOneText) {
         ASSERT_EQ(line.text.view().data(), lines[0].text.view().data());
 }
 
-TEST(LRCParserLinearity, TheTextsOfAllLinesLieInOneCopyOfTheInput) {
+TEST(LRCParserLinearity, TheTextsOfAllLinesLieInTheInput) {
     const auto text = repeated("[00:01.00]some words\n", million);
     const auto lines = LRCParser::parse(text);
     ASSERT_EQ(lines.size(), million);

@@ -9,16 +9,18 @@
 namespace brellowind {
 namespace {
 
+using namespace std::string_literals;
+
 using Lines = std::vector<std::pair<double, std::string>>;
 
-Lines parsed(std::string_view text) {
+Lines parsed(const std::string& text) {
     Lines lines;
     for (const auto& line : LRCParser::parse(text))
         lines.emplace_back(line.time, line.text);
     return lines;
 }
 
-double onlyTime(std::string_view text) {
+double onlyTime(const std::string& text) {
     const auto lines = LRCParser::parse(text);
     EXPECT_EQ(lines.size(), 1U) << text;
     return lines.empty() ? -1 : lines[0].time;
@@ -223,7 +225,6 @@ TEST(LRCParser, KeepsWordsOfAnyScript) {
 }
 
 TEST(LRCParser, KeepsNulCharactersInTheWords) {
-    using namespace std::string_literals;
     EXPECT_EQ(parsed("[00:01.00]a\0b\n\0[00:02.00]c"s), (Lines{{1, "a\0b"s}, {2, "c"}}));
 }
 
@@ -233,18 +234,19 @@ TEST(LRCParser, PassesOverBytesThatAreNotUtf8) {
 }
 
 TEST(LRCParser, MakesFreshIdsOnEveryParse) {
-    const auto first = LRCParser::parse("[00:01.00][00:01.00]a");
-    const auto second = LRCParser::parse("[00:01.00][00:01.00]a");
+    const std::string text = "[00:01.00][00:01.00]a";
+    const auto first = LRCParser::parse(text);
+    const auto second = LRCParser::parse(text);
     ASSERT_EQ(first.size(), 2U);
     EXPECT_NE(first[0].id, first[1].id);
     EXPECT_NE(first[0].id, second[0].id);
     EXPECT_NE(first, second);
 }
 
-TEST(LRCParser, LinesOutliveTheTextTheyCameFrom) {
-    auto text = std::make_unique<std::string>("[00:01.00]a line of more than a few words");
+TEST(LRCParser, LinesShareTheTextTheyCameFromAndOutliveIt) {
+    auto text = std::make_unique<SharedBytes>("[00:01.00]a line of more than a few words"s);
     const auto lines = LRCParser::parse(*text);
-    text->assign(text->size(), '#');
+    EXPECT_EQ(lines.at(0).text.view().data(), text->view().data() + 10);
     text.reset();
     EXPECT_EQ(lines.at(0).text, "a line of more than a few words");
 }
