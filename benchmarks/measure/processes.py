@@ -26,18 +26,14 @@ def _usage(pids):
     return usage
 
 
-class Load:
-    """The processor share of processes and their wake-ups per second since it was made."""
-
-    def __init__(self, pids):
-        self.pids, self.start, self.before = pids, time.monotonic(), _usage(pids)
-
-    def read(self):
-        passed = time.monotonic() - self.start
-        after = _usage(self.pids)
-        used, woken = (sum(now[i] - self.before.get(task, (0, 0))[i]
-                           for task, now in after.items()) for i in (0, 1))
-        return {"cpu": used / 1e9 / passed, "wakeUps": woken / passed}
+def load(pids, seconds):
+    """The processor share of processes and their wake-ups per second over the next `seconds`."""
+    start, before = time.monotonic(), _usage(pids)
+    time.sleep(seconds)
+    passed, after = time.monotonic() - start, _usage(pids)
+    used, woken = (sum(now[i] - before.get(task, (0, 0))[i] for task, now in after.items())
+                   for i in (0, 1))
+    return {"cpu": used / 1e9 / passed, "wakeUps": woken / passed}
 
 
 def memory(pids):
@@ -54,13 +50,6 @@ def memory(pids):
         private += fields["Private_Clean"] + fields["Private_Dirty"]
         anonymous += fields["Anonymous"]
     return {"pss": pss, "private": private, "anonymous": anonymous}
-
-
-def load(pids, seconds):
-    """Processor share and wake-ups per second over the next `seconds`."""
-    since = Load(pids)
-    time.sleep(seconds)
-    return since.read()
 
 
 def children_of_session(environment_mark):

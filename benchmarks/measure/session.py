@@ -193,4 +193,5 @@ class Program:
         return self.readline()
 
     def close(self):
+        self.process.stdin.close()
         end(self.process)

@@ -7,32 +7,31 @@
 
 #include <QGuiApplication>
 #include <QMetaMethod>
-#include <array>
 #include <cstdio>
+#include <iostream>
 #include <nlohmann/json.hpp>
-#include <unistd.h>
 
 namespace brellowind::benchmarks {
 
 using nlohmann::json;
 
-Commands::Commands(BrellowindApp& app, FrameLog& frames)
-    : app_(app), frames_(frames), input_(STDIN_FILENO, QSocketNotifier::Read) {
-    connect(&input_, &QSocketNotifier::activated, this, &Commands::read);
+Commands::Commands(BrellowindApp& app, FrameLog& frames) : app_(app), frames_(frames) {
     watchModel();
+    reader_ = std::thread([this] { read(); });
+}
+
+Commands::~Commands() {
+    reader_.join(); // the main loop runs until the input has ended
 }
 
 void Commands::read() {
-    std::array<char, 64> bytes{};
-    const auto count = ::read(STDIN_FILENO, bytes.data(), bytes.size());
-    if (count <= 0) {
-        QGuiApplication::quit();
-        return;
-    }
-    std::string command(bytes.data(), static_cast<std::size_t>(count));
-    command.erase(command.find_last_not_of('\n') + 1);
-    std::printf("%s\n", answer(command).c_str());
-    std::fflush(stdout);
+    std::string command;
+    while (std::getline(std::cin, command))
+        QMetaObject::invokeMethod(this, [this, command] {
+            std::printf("%s\n", answer(command).c_str());
+            std::fflush(stdout);
+        });
+    QMetaObject::invokeMethod(this, [] { QGuiApplication::quit(); });
 }
 
 std::string Commands::answer(const std::string& command) {

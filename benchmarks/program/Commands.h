@@ -2,8 +2,9 @@
 
 #include "FrameLog.h"
 
-#include <QSocketNotifier>
+#include <QObject>
 #include <string>
+#include <thread>
 
 namespace brellowind {
 class BrellowindApp;
@@ -11,12 +12,15 @@ class BrellowindApp;
 
 namespace brellowind::benchmarks {
 
-/// Does what the lines of the standard input say, and answers each with a line.
+/// Does what the lines of the standard input say, and answers each with a line. A thread waits for
+/// them, so that the main loop watches no more than it does in the program itself. The end of the
+/// input ends the program.
 class Commands : public QObject {
     Q_OBJECT
 
 public:
     Commands(BrellowindApp& app, FrameLog& frames);
+    ~Commands() override;
 
 public Q_SLOTS:
     void countChange() { ++changes_; }
@@ -30,8 +34,8 @@ private:
 
     BrellowindApp& app_;
     FrameLog& frames_;
-    QSocketNotifier input_;
     int changes_ = 0; ///< of properties that reached QML
+    std::thread reader_;
 };
 
 } // namespace brellowind::benchmarks

@@ -15,12 +15,12 @@ double processorTime() {
 } // namespace
 
 FrameLog::FrameLog(SceneWindow& window) {
-    durations_.reserve(4096);
     connect(&window, &SceneWindow::frameShown, this, &FrameLog::frame);
 }
 
 void FrameLog::start() {
     durations_.clear();
+    durations_.reserve(4096);
     last_ = processorTime();
 }
 
