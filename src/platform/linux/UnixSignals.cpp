@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::array handledSignals{SIGINT, SIGTERM, SIGHUP};
 
-/// Where the handler writes a byte, and where the main loop reads it.
+/// Where the listener reads, and where the handler writes a byte.
 std::array<int, 2> pipeEnds{-1, -1};
 
 /// Only what is allowed in a signal handler.
@@ -37,26 +37,24 @@ void handleSignals(void (*handler)(int)) {
 } // namespace
 
 UnixSignals::UnixSignals(std::function<void()> onTermination) {
-    if (::pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+    if (::pipe2(pipeEnds.data(), O_CLOEXEC) != 0)
         return; // the signals keep their meaning: they end the program at once
-    notifier_ = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated,
-                     [handler = std::move(onTermination)] {
-                         std::array<char, 16> bytes{};
-                         while (::read(pipeEnds[0], bytes.data(), bytes.size()) > 0) {
-                         }
-                         handler();
-                     });
+    ::fcntl(pipeEnds[1], F_SETFL, O_NONBLOCK);
+    listener_ = std::thread([this, handler = std::move(onTermination)] {
+        std::array<char, 16> signals{};
+        while (::read(pipeEnds[0], signals.data(), signals.size()) > 0)
+            QMetaObject::invokeMethod(&mainThread_, handler);
+    });
     handleSignals(tell);
 }
 
 UnixSignals::~UnixSignals() {
-    if (!notifier_)
+    if (!listener_.joinable())
         return;
     handleSignals(SIG_DFL);
-    notifier_.reset();
-    for (int& end : pipeEnds)
-        ::close(std::exchange(end, -1));
+    ::close(std::exchange(pipeEnds[1], -1)); // the listener's input has ended
+    listener_.join();
+    ::close(std::exchange(pipeEnds[0], -1));
 }
 
 } // namespace brellowind::platform

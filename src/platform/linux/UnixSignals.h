@@ -1,13 +1,15 @@
 #pragma once
 
-#include <QSocketNotifier>
+#include <QObject>
 #include <functional>
-#include <memory>
+#include <thread>
 
 namespace brellowind::platform {
 
 /// Turns SIGINT, SIGTERM and SIGHUP, with which a terminal or a session ends its programs, into a
 /// call on the main thread. One at a time per process.
+///
+/// A thread waits for them, so that the main loop has no file to look at on its every turn.
 class UnixSignals {
 public:
     explicit UnixSignals(std::function<void()> onTermination);
@@ -16,7 +18,8 @@ public:
     ~UnixSignals();
 
 private:
-    std::unique_ptr<QSocketNotifier> notifier_;
+    QObject mainThread_; ///< calls that have not been made by its end are dropped
+    std::thread listener_;
 };
 
 } // namespace brellowind::platform

@@ -59,7 +59,6 @@ X11Pointer::X11Pointer(MainLoop& mainLoop)
     if (xinput_ < 0)
         return;
     selectRawMotion(x11_, true);
-    qGuiApp->installEventFilter(this);
 }
 
 X11Pointer::~X11Pointer() {
@@ -95,7 +94,8 @@ void X11Pointer::handle(const xcb_generic_event_t& event) {
     const auto& generic = eventAs<xcb_ge_generic_event_t>(event);
     if (generic.extension != xinput_ || generic.event_type != XCB_INPUT_RAW_MOTION)
         return;
-    moved_ = true;
+    if (!std::exchange(moved_, true))
+        qGuiApp->installEventFilter(this);
     nextTurn_->request();
 }
 
@@ -109,6 +109,7 @@ bool X11Pointer::eventFilter(QObject* watched, QEvent* event) {
 void X11Pointer::tellMovement() {
     if (!std::exchange(moved_, false))
         return;
+    qGuiApp->removeEventFilter(this);
     if (isOverOwnWindow(query(x11_.root())))
         local_->notify();
     else
