@@ -12,6 +12,13 @@ public:
     virtual ~Timer() = default;
 };
 
+/// A timer that fires again and again.
+class RepeatingTimer : public Timer {
+public:
+    /// While it rests it keeps its beat but does not fire, and so wakes nothing. It is made awake.
+    virtual void setResting(bool resting) = 0;
+};
+
 /// Work that is wanted once before the main loop rests, however often it is asked for.
 /// Destroying it withdraws it; its handler may destroy it.
 class NextTurn {
@@ -34,8 +41,8 @@ public:
     /// `delay` counts on a monotonic clock; 0 means the next turn.
     virtual std::unique_ptr<Timer> scheduleOnce(std::chrono::milliseconds delay,
                                                 Handler handler) = 0;
-    virtual std::unique_ptr<Timer> scheduleRepeating(std::chrono::milliseconds interval,
-                                                     Handler handler) = 0;
+    virtual std::unique_ptr<RepeatingTimer> scheduleRepeating(std::chrono::milliseconds interval,
+                                                              Handler handler) = 0;
     virtual std::unique_ptr<NextTurn> onNextTurn(Handler handler) = 0;
 };
 

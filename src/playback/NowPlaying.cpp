@@ -29,6 +29,7 @@ void NowPlaying::start() {
         if (const auto self = weakSelf.lock())
             self->tick();
     });
+    ticker_->setResting(!isPlaying.get());
 }
 
 void NowPlaying::stop() {
@@ -37,7 +38,7 @@ void NowPlaying::stop() {
 }
 
 void NowPlaying::togglePlayPause() {
-    isPlaying.set(!isPlaying.get());
+    setPlaying(!isPlaying.get());
     SpotifyBridge::playPause();
     services().tasks.start(confirmToggle(shared_from_this()));
 }
@@ -51,7 +52,7 @@ void NowPlaying::poll() {
     if (!SpotifyBridge::isRunning()) {
         if (track.get()) {
             track.set(std::nullopt);
-            isPlaying.set(false);
+            setPlaying(false);
         }
         return;
     }
@@ -60,14 +61,18 @@ void NowPlaying::poll() {
         return;
     if (!track.get() || track->value().id() != reading->track.id())
         track.set(std::move(reading->track));
-    isPlaying.set(reading->isPlaying);
+    setPlaying(reading->isPlaying);
     positionSec.set(reading->positionSec);
     lastSyncDate_ = services().clock.now();
 }
 
+void NowPlaying::setPlaying(bool playing) {
+    isPlaying.set(playing);
+    if (ticker_)
+        ticker_->setResting(!playing);
+}
+
 void NowPlaying::tick() {
-    if (!isPlaying.get())
-        return;
     const auto now = services().clock.now();
     const std::chrono::duration<double> elapsed = now - lastSyncDate_;
     positionSec.set(positionSec.get() + elapsed.count());

@@ -13,7 +13,8 @@
 namespace brellowind {
 
 /// What Spotify plays, whether it plays, and where playback stands. It asks the player once a
-/// second and advances the position itself in between. Main thread only.
+/// second and advances the position itself in between; nothing ticks while nothing plays. Main
+/// thread only.
 class NowPlaying : public std::enable_shared_from_this<NowPlaying> {
 public:
     static constexpr std::chrono::milliseconds pollInterval{1000};
@@ -42,10 +43,11 @@ private:
 
     void poll();
     void tick();
+    void setPlaying(bool playing);
     static Task<void> confirmToggle(std::shared_ptr<NowPlaying> self);
 
     std::unique_ptr<platform::Timer> timer_;
-    std::unique_ptr<platform::Timer> ticker_;
+    std::unique_ptr<platform::RepeatingTimer> ticker_; ///< rests while nothing plays
     platform::WallTime lastSyncDate_; ///< when `positionSec` was last read or advanced
 };
 

@@ -199,6 +199,23 @@ TEST(NowPlayingTick, ChangesNothingWhilePaused) {
     EXPECT_EQ(journal.take(), Entries{});
 }
 
+TEST(NowPlayingTick, WakesTheProgramOnlyWhilePlaying) {
+    Monitor monitor;
+    const auto wakeUpsInTenSeconds = [&] {
+        const auto before = monitor.machine.mainLoop.wakeUps();
+        monitor.advance(10s);
+        return monitor.machine.mainLoop.wakeUps() - before;
+    };
+    monitor.nowPlaying->start();
+    EXPECT_EQ(wakeUpsInTenSeconds(), 10U); // the readings
+    monitor.spotify.state = "playing";
+    monitor.advance(1s);
+    EXPECT_EQ(wakeUpsInTenSeconds(), 210U);
+    monitor.spotify.quit();
+    monitor.advance(1s);
+    EXPECT_EQ(wakeUpsInTenSeconds(), 10U);
+}
+
 TEST(NowPlayingTick, ALateTickMakesUpForTheTimeLost) {
     Monitor monitor;
     monitor.spotify.position = "10";

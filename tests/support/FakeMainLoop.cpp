@@ -7,7 +7,7 @@ namespace brellowind::test {
 
 using std::chrono::milliseconds;
 
-class FakeMainLoop::FakeTimer final : public platform::Timer {
+class FakeMainLoop::FakeTimer final : public platform::RepeatingTimer {
 public:
     FakeTimer(FakeMainLoop& loop, milliseconds delay, milliseconds interval, Handler handler)
         : due(loop.now_ + delay), interval_(interval), loop_(loop),
@@ -17,12 +17,17 @@ public:
 
     ~FakeTimer() override { loop_.timers_.remove(this); }
 
+    void setResting(bool resting) override { resting_ = resting; }
+
     void fire() {
         const auto handler = handler_; // it may destroy this timer
         if (interval_.count() > 0)
             due += interval_;
         else
             due = milliseconds::max();
+        if (resting_)
+            return;
+        ++loop_.wakeUps_;
         (*handler)();
     }
 
@@ -32,6 +37,7 @@ public:
 
 private:
     milliseconds interval_;
+    bool resting_ = false;
     FakeMainLoop& loop_;
     std::shared_ptr<Handler> handler_;
 };
@@ -63,8 +69,8 @@ std::unique_ptr<platform::Timer> FakeMainLoop::scheduleOnce(milliseconds delay, 
     return std::make_unique<FakeTimer>(*this, delay, milliseconds(0), std::move(handler));
 }
 
-std::unique_ptr<platform::Timer> FakeMainLoop::scheduleRepeating(milliseconds interval,
-                                                                 Handler handler) {
+std::unique_ptr<platform::RepeatingTimer> FakeMainLoop::scheduleRepeating(milliseconds interval,
+                                                                          Handler handler) {
     return std::make_unique<FakeTimer>(*this, interval, interval, std::move(handler));
 }
 

@@ -11,8 +11,8 @@ class FakeMainLoop final : public platform::MainLoop {
 public:
     std::unique_ptr<platform::Timer> scheduleOnce(std::chrono::milliseconds delay,
                                                   Handler handler) override;
-    std::unique_ptr<platform::Timer> scheduleRepeating(std::chrono::milliseconds interval,
-                                                       Handler handler) override;
+    std::unique_ptr<platform::RepeatingTimer> scheduleRepeating(std::chrono::milliseconds interval,
+                                                                Handler handler) override;
     std::unique_ptr<platform::NextTurn> onNextTurn(Handler handler) override;
 
     /// Runs what is due until nothing is, without moving time.
@@ -22,6 +22,7 @@ public:
     void advance(std::chrono::milliseconds duration);
 
     std::chrono::milliseconds elapsed() const { return now_; }
+    std::size_t wakeUps() const { return wakeUps_; } ///< how often a timer has fired
     std::size_t timerCount() const { return timers_.size(); }
     std::size_t nextTurnCount() const { return nextTurns_.size(); }
 
@@ -36,6 +37,7 @@ private:
     void runNextTurns();
 
     std::chrono::milliseconds now_{0};
+    std::size_t wakeUps_ = 0;
     std::list<FakeTimer*> timers_; ///< in order of scheduling
     std::list<FakeNextTurn*> nextTurns_;
 };

@@ -8,8 +8,8 @@ namespace brellowind::platform {
 class QtMainLoop final : public MainLoop {
 public:
     std::unique_ptr<Timer> scheduleOnce(std::chrono::milliseconds delay, Handler handler) override;
-    std::unique_ptr<Timer> scheduleRepeating(std::chrono::milliseconds interval,
-                                             Handler handler) override;
+    std::unique_ptr<RepeatingTimer> scheduleRepeating(std::chrono::milliseconds interval,
+                                                      Handler handler) override;
     std::unique_ptr<NextTurn> onNextTurn(Handler handler) override;
 };
 

@@ -73,6 +73,22 @@ TEST_F(QtMainLoopTest, ARepeatingTimerFiresUntilItIsDestroyed) {
     EXPECT_EQ(fired, before);
 }
 
+TEST_F(QtMainLoopTest, ARepeatingTimerDoesNotFireWhileItRests) {
+    int fired = 0;
+    std::unique_ptr<RepeatingTimer> timer;
+    timer = loop.scheduleRepeating(1ms, [&] {
+        if (++fired == 5)
+            timer->setResting(true);
+    });
+    ASSERT_TRUE(waitUntil([&] { return fired == 5; }));
+    timer->setResting(true);
+    runFor(30ms);
+    EXPECT_EQ(fired, 5);
+    timer->setResting(false);
+    timer->setResting(false);
+    ASSERT_TRUE(waitUntil([&] { return fired >= 10; }));
+}
+
 TEST_F(QtMainLoopTest, ADestroyedTimerNeverFires) {
     int fired = 0;
     auto timer = loop.scheduleOnce(0ms, [&] { ++fired; });
