@@ -96,19 +96,40 @@ void blurDown(Lines& lines, double sigma) {
     }
 }
 
+/// The rows of `image` from the first to the last one with anything in it, as many as a multiple of
+/// `step` where there is room for that.
+std::pair<int, int> inkedRows(const QImage& image, int step) {
+    const int bytes = image.width() * image.depth() / 8;
+    const auto isClear = [&](int y) {
+        const uchar* row = image.constScanLine(y);
+        return std::all_of(row, row + bytes, [](uchar sample) { return sample == 0; });
+    };
+    int first = 0;
+    int end = image.height();
+    while (first < end && isClear(first))
+        ++first;
+    while (end > first && isClear(end - 1))
+        --end;
+    end = std::min(first + (end - first + step - 1) / step * step, image.height());
+    return {first, end};
+}
+
 /// A filter down the columns is the same work for all samples of a line, which a processor does
 /// many at a time. So the filter along the lines is one down the columns of the image laid on its
-/// side.
+/// side. Along the lines only those are filtered that show anything: a text has few.
 template <typename Pixel>
 void blurPixels(QImage& image, double sigma) {
     const int width = image.width();
     const int height = image.height();
+    const auto [first, end] = inkedRows(image, 16);
+    const int inked = end - first;
     const auto pixels = pixelsAt<Pixel>(image.bits(), image.bytesPerLine());
-    Lines onItsSide(static_cast<std::size_t>(height) * sizeof(Pixel), width);
+    Lines onItsSide(static_cast<std::size_t>(inked) * sizeof(Pixel), width);
     Lines upright(static_cast<std::size_t>(width) * sizeof(Pixel), height);
-    transpose(pixels, onItsSide.pixels<Pixel>(), width, height);
+    transpose(pixels.startingAt(0, first), onItsSide.pixels<Pixel>(), width, inked);
     blurDown(onItsSide, sigma);
-    transpose(onItsSide.pixels<Pixel>(), upright.pixels<Pixel>(), height, width);
+    transpose(onItsSide.pixels<Pixel>(), upright.pixels<Pixel>().startingAt(0, first), inked,
+              width);
     blurDown(upright, sigma);
     for (int y = 0; y < height; ++y)
         std::copy_n(upright.pixels<Pixel>().at(0, y), width, pixels.at(0, y));

@@ -105,10 +105,10 @@ void TextLayer::paint(QPainter& painter, QColor color, double centre, double top
     painter.setOpacity(painter.opacity() * opacity);
     // Rounding the left end, not the middle, keeps a line of any width on whole pixels.
     const QPointF origin = onPixel(painter, QPointF(centre - width_ / 2, top));
-    if (sigma() < faintestSigma)
+    if (resting_)
         paintSharp(painter, color, origin);
     else
-        paintBlurred(painter, color, origin, QRectF(left, top, right - left, 0));
+        paintMoving(painter, color, origin, QRectF(left, top, right - left, 0));
     painter.restore();
 }
 
@@ -118,7 +118,8 @@ double TextLayer::overhang() const {
 }
 
 double TextLayer::sigma() const {
-    return strongestSigma * (1 - std::clamp(shown_, 0.0, 1.0));
+    const double sigma = strongestSigma * (1 - std::clamp(shown_, 0.0, 1.0));
+    return sigma < faintestSigma ? 0 : sigma;
 }
 
 void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin) const {
@@ -126,7 +127,7 @@ void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin) cons
     layout_.draw(&painter, origin);
 }
 
-void TextLayer::paintBlurred(QPainter& painter, QColor color, QPointF origin, QRectF seen) {
+void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen) {
     const double ratio = painter.device()->devicePixelRatioF();
     // What lies further beside what is seen is not carried there by any blur.
     const QRectF line =
@@ -137,7 +138,9 @@ void TextLayer::paintBlurred(QPainter& painter, QColor color, QPointF origin, QR
         std::min(line.right(), std::ceil(seen.right() - origin.x() + strongestReach));
     if (right <= left)
         return;
-    const QRectF part(left, line.top(), right - left, line.height());
+    // Whole pixels, as the line's origin: a picture between pixels would look softer than the line.
+    const QPointF corner(std::floor(left * ratio) / ratio, std::floor(line.top() * ratio) / ratio);
+    const QRectF part(corner, QPointF(right, line.bottom()));
     const double reach = std::max(0.0, blurReach(sigma()) - inkOverhang);
     const int margin = static_cast<int>(std::ceil(reach * ratio));
     QImage image = framed(picture(part, color, ratio), margin);

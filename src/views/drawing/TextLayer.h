@@ -44,7 +44,7 @@ public:
 private:
     double sigma() const;
     void paintSharp(QPainter& painter, QColor color, QPointF origin) const;
-    void paintBlurred(QPainter& painter, QColor color, QPointF origin, QRectF seen);
+    void paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen);
     const QImage& picture(QRectF part, QColor color, double ratio);
 
     QString text_;

@@ -10,6 +10,8 @@ template <typename Pixel>
 struct Pixels {
     Pixel* at(int x, int y) const { return first + static_cast<std::ptrdiff_t>(y) * stride + x; }
 
+    Pixels startingAt(int x, int y) const { return {at(x, y), stride}; }
+
     Pixel* first;
     std::ptrdiff_t stride; ///< pixels from line to line
 };

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace brellowind {
 namespace {
@@ -17,6 +18,10 @@ constexpr std::array<double, WaveformGlyph::barCount> heights{0.36, 0.74, 1, 0.5
 constexpr double barWidth = 2; ///< of 16
 constexpr double gapWidth = 1; ///< with bars on whole points, which keeps them sharp
 constexpr double faintest = 0.35;
+
+double phase(int step) {
+    return static_cast<double>(step) / stepsInARound;
+}
 
 } // namespace
 
@@ -34,8 +39,10 @@ void WaveformGlyph::setStep(int step) {
     step %= stepsInARound;
     if (step == step_)
         return;
-    step_ = step;
-    update();
+    const int before = std::exchange(step_, step);
+    for (int i = 0; i < barCount; ++i)
+        if (strength(i, phase(step)) != strength(i, phase(before)))
+            return update();
 }
 
 double WaveformGlyph::strength(int index, double phase) {
@@ -51,17 +58,28 @@ void WaveformGlyph::paint(QPainter& painter) {
     const double ratio = painter.device()->devicePixelRatioF();
     if (bars_.devicePixelRatio() != ratio || bars_.deviceIndependentSize() != size())
         bars_ = paintedBars(ratio);
-    if (!active_) {
-        painter.drawImage(QPointF(0, 0), bars_);
-        return;
-    }
-    const double phase = static_cast<double>(step_) / stepsInARound;
-    const double opacity = painter.opacity();
+    painter.drawImage(QPointF(0, 0), active_ ? wave(phase(step_)) : bars_);
+}
+
+/// The bars, each at its strength. Their pixels are white and premultiplied: all channels equal.
+QImage WaveformGlyph::wave(double phase) const {
+    const double ratio = bars_.devicePixelRatio();
+    QImage image(bars_.size(), bars_.format());
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
     for (int i = 0; i < barCount; ++i) {
+        const auto opacity = static_cast<unsigned>(std::lround(255 * strength(i, phase)));
         const QRectF rect = column(i);
-        painter.setOpacity(opacity * strength(i, phase));
-        painter.drawImage(rect, bars_, QRectF(rect.topLeft() * ratio, rect.size() * ratio));
+        const int left = static_cast<int>(std::floor(rect.left() * ratio));
+        const int right = static_cast<int>(std::ceil(rect.right() * ratio));
+        for (int y = 0; y < image.height(); ++y) {
+            const auto* from = reinterpret_cast<const QRgb*>(bars_.constScanLine(y));
+            auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+            for (int x = left; x < right; ++x)
+                to[x] = ((from[x] >> 24) * opacity + 127) / 255 * 0x01010101U;
+        }
     }
+    return image;
 }
 
 /// The room of one bar, from top to bottom.

@@ -36,6 +36,7 @@ private:
     void follow();
     QRectF column(int index) const;
     QImage paintedBars(double ratio) const;
+    QImage wave(double phase) const;
 
     bool active_ = false;
     int step_ = 0;

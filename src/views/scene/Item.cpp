@@ -3,6 +3,7 @@
 #include "views/scene/SceneWindow.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace brellowind {
 
@@ -37,7 +38,7 @@ void Item::stackBefore(const Item& sibling) {
 }
 
 void Item::makeStale() {
-    stale_ = true;
+    stale_ = changed_ = true;
     for (auto* child : children_)
         child->makeStale();
 }
@@ -92,8 +93,11 @@ void Item::update() {
 }
 
 void Item::requestFrame() {
-    if (auto* shownIn = window())
-        shownIn->requestFrame();
+    changed_ = true;
+    if (parent_)
+        parent_->requestFrame();
+    else if (window_)
+        window_->requestFrame();
 }
 
 double Item::pixelRatio() const {
@@ -101,24 +105,27 @@ double Item::pixelRatio() const {
     return shownIn ? shownIn->devicePixelRatio() : 1;
 }
 
-/// Notes how the next frame shows this and all in it, whose surroundings look like `around`, and
-/// adds what differs from the last frame to `damage`. Nothing is seen around an empty
-/// `around.rect`.
-void Item::takeLook(const Look& around, QRegion& damage) {
+/// Notes how the next frame shows this and all in it that has changed or whose surroundings have,
+/// which look like `around`, and adds what differs from the last frame to `damage`. Nothing is seen
+/// around an empty `around.rect`.
+void Item::takeLook(const Look& around, bool isAroundNew, QRegion& damage) {
+    if (!isAroundNew && !changed_)
+        return;
     Look look{transformToParent() * around.transform, around.opacity * opacity_, around.clip, {}};
     const bool seen = visible_ && look.opacity > 0 && !around.rect.isEmpty();
     if (seen)
         look.rect = look.transform.mapRect(paintedRect()) & around.rect;
     if (stale_ || look != look_)
         damage |= SceneWindow::covering(look_.rect) | SceneWindow::covering(look.rect);
-    stale_ = false;
+    stale_ = changed_ = false;
     look_ = look;
 
     look.rect = seen ? around.rect : QRectF();
     if (seen && clip_)
         look.clip = look.rect = look.transform.mapRect(boundingRect()) & around.rect;
+    const bool isInsideNew = look != std::exchange(inside_, look);
     for (auto* child : children_)
-        child->takeLook(look, damage);
+        child->takeLook(look, isInsideNew, damage);
 }
 
 /// Draws what the last look found within `region` of the window.

@@ -116,7 +116,7 @@ private:
     void tellVisibility();
     void makeStale();
     QTransform transformToParent() const;
-    void takeLook(const Look& around, QRegion& damage);
+    void takeLook(const Look& around, bool isAroundNew, QRegion& damage);
     void draw(QPainter& painter, const QRegion& region);
 
     Item* parent_;
@@ -130,8 +130,10 @@ private:
     TransformOrigin origin_ = Centre;
     bool clip_ = false;
     bool visible_ = true;
-    bool stale_ = true; ///< has to be drawn even where it looks as in the last frame
-    Look look_;         ///< in the last frame
+    bool stale_ = true;   ///< has to be drawn even where it looks as in the last frame
+    bool changed_ = true; ///< it or something in it, since the last frame
+    Look look_;           ///< in the last frame
+    Look inside_;         ///< what its children saw around them then
 };
 
 /// An item that draws itself all over its rectangle.

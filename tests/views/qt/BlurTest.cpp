@@ -79,6 +79,14 @@ QImage blurred(QImage image, double sigma) {
     return image;
 }
 
+QImage onItsSide(const QImage& image) {
+    QImage result = clearAlpha(image.height(), image.width());
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            result.scanLine(x)[y] = image.constScanLine(y)[x];
+    return result;
+}
+
 TEST(Blur, IsNearAGaussian) {
     // Boxes are whole pixels wide, so the narrowest blurs are the roughest.
     const std::pair<double, int> tolerances[] = {{1, 30}, {1.5, 10}, {2, 10}, {3, 10},
@@ -115,6 +123,19 @@ TEST(Blur, IsTheSameFromEverySide) {
     const QImage result = blurred(image, 4);
     EXPECT_EQ(blurred(image.mirrored(true, false), 4), result.mirrored(true, false));
     EXPECT_EQ(blurred(image.mirrored(false, true), 4), result.mirrored(false, true));
+}
+
+TEST(Blur, IsTheSameAlongAndAcrossWhereverTheInkIs) {
+    for (const int height : {1, 3, 16, 17})
+        for (const int above : {0, 1, 15, 40})
+            for (const int below : {0, 1, 15, 40}) {
+                QImage image = clearAlpha(51, above + height + below);
+                QPainter(&image).fillRect(20, above, 9, height, Qt::black);
+                EXPECT_LE(test::largestDifference(onItsSide(blurred(image, 3)),
+                                                  blurred(onItsSide(image), 3)),
+                          2)
+                    << above << " rows above " << height << ", " << below << " below";
+            }
 }
 
 TEST(Blur, ReachesNoFurtherThanItSays) {

@@ -70,6 +70,27 @@ TEST(TextLayer, DrawsControlCharactersAndLineBreaksAsSpacesInOneLine) {
     }
 }
 
+TEST(TextLayer, ComesToRestWithoutAJump) {
+    for (const double ratio : {1.0, 1.25, 2.0})
+        for (const char16_t* text : {u"Hamburgefons", u"夜に駆ける", u"one 🎤 two"}) {
+            TextLayer line = layer(QString::fromUtf16(text), 0);
+            const auto look = [&] {
+                return test::painted(
+                    room,
+                    [&](QPainter& painter) {
+                        line.paint(painter, Qt::white, 200.3, 30.4, 0, room.width());
+                    },
+                    ratio);
+            };
+            line.comeIn(0);
+            double now = 0;
+            QImage before = look();
+            while (line.advance(now += 0.01)) // is there where it returns no speed
+                before = look();
+            EXPECT_LE(test::largestDifference(before, look()), 3) << qPrintable(line.text());
+        }
+}
+
 TEST(TextLayer, IsSharpWhereverItsMiddleFalls) {
     const auto at = [](double centre) {
         TextLayer line = layer(QStringLiteral("HHHHHH"));

@@ -1,8 +1,10 @@
 #include "views/drawing/WaveformGlyph.h"
 #include "views/qt/Painting.h"
+#include "views/scene/SceneWindow.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
+#include <QTest>
 #include <QTimerEvent>
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -113,6 +115,36 @@ TEST(WaveformGlyph, ShowsTheWaveWhileItIsActive) {
     }
     EXPECT_GT(looks.size(), 8U);
     EXPECT_TRUE(looks.contains(opacities(paintedGlyph(glyph)))) << "a round later it begins anew";
+}
+
+TEST(WaveformGlyph, AsksForAFrameOnlyWhereTheWaveLooksOtherThanBefore) {
+    SceneWindow window;
+    window.resize(16, 16);
+    WaveformGlyph glyph(&window.root());
+    glyph.setSize({16, 16});
+    glyph.setActive(true);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.isExposed(); }));
+    int frames = 0;
+    QObject::connect(&window, &SceneWindow::frameShown, [&] { ++frames; });
+    const auto frameAtStep = [&](int step) {
+        glyph.setStep(step);
+        frames = 0;
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        return frames;
+    };
+    frameAtStep(0);
+    QImage shown = window.grab();
+    int same = 0;
+    for (int step = 1; step <= 15; ++step) {
+        const int made = frameAtStep(step);
+        const QImage now = window.grab();
+        EXPECT_EQ(made, now == shown ? 0 : 1) << step;
+        same += now == shown ? 1 : 0;
+        shown = now;
+    }
+    EXPECT_EQ(same, 1) << "while the wave is out of the symbol";
 }
 
 TEST(WaveformGlyph, StandsInTheMiddleOfItsRectangle) {
