@@ -15,7 +15,8 @@ public:
 /// A timer that fires again and again.
 class RepeatingTimer : public Timer {
 public:
-    /// While it rests it keeps its beat but does not fire, and so wakes nothing. It is made awake.
+    /// While it rests it does not fire, and wakes nothing; after that it fires within an interval.
+    /// It is made awake.
     virtual void setResting(bool resting) = 0;
 };
 

@@ -99,7 +99,8 @@ void X11Pointer::handle(const xcb_generic_event_t& event) {
     nextTurn_->request();
 }
 
-/// What a window is about to be told of a movement, the monitors hear first.
+/// What a window is about to be told of a movement, the monitors hear first. Between movements
+/// there is no filter, since it sees every event of the program.
 bool X11Pointer::eventFilter(QObject* watched, QEvent* event) {
     if (moved_ && (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter))
         tellMovement();
