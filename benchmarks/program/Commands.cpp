@@ -21,7 +21,7 @@ Commands::Commands(BrellowindApp& app, FrameLog& frames) : app_(app), frames_(fr
 }
 
 Commands::~Commands() {
-    reader_.join(); // the main loop runs until the input has ended
+    reader_.join(); // who ends the program ends its input first
 }
 
 void Commands::read() {
