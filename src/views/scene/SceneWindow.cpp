@@ -152,7 +152,7 @@ void SceneWindow::paintStore(const QRegion& region) {
 }
 
 void SceneWindow::takeLooks() {
-    root_.takeLook({{}, 1, {}, QRectF(QPointF(0, 0), size())}, ratio_ == 0, damage_);
+    root_.takeLook({{}, 1, {}, QRectF(QPointF(0, 0), size())}, true, damage_);
 }
 
 } // namespace brellowind
