@@ -186,13 +186,24 @@ struct Rest {
     const char* end;
 };
 
-/// Reads the piece from the end of its first tag. A long one is looked through part by part, while
-/// each is still in the processor's nearest cache.
+/// Has `begin` up to `end` brought nearer to the processor, which by itself looks no page ahead.
+void prefetch(const char* begin, const char* end) {
+    constexpr std::ptrdiff_t cacheLine = 64;
+    for (; begin < end; begin += cacheLine)
+        __builtin_prefetch(begin);
+}
+
+/// Reads the piece from the end of its first tag. A long one is looked through part by part, first
+/// for its end, then for tags while the part is still in the processor's nearest cache; meanwhile
+/// one that lies ahead arrives from memory.
 Rest readRest(const char* position, const char* end) {
-    constexpr std::ptrdiff_t part = 4096;
+    constexpr std::ptrdiff_t part = 2048;
+    constexpr std::ptrdiff_t ahead = 8 * part;
     for (const char* words = position;;) {
         const char* const limit = position + std::min(part, end - position);
         const char* const feed = endOfPiece(position, limit);
+        if (feed == limit && end - limit > ahead)
+            prefetch(limit + ahead - part, limit + ahead);
         while (position < feed) {
             const auto tag = nextTag(position, feed, end);
             position = tag ? tag.end : feed;

@@ -26,11 +26,11 @@ public:
         return made;
     }
 
-    /// A text whose first piece is so long that its tags stand about the end of the part that the
-    /// parser looks through at a time.
+    /// A text whose first piece is so long that its tags stand about the end of one of the parts
+    /// that the parser looks through at a time.
     std::u32string longText() {
-        constexpr int part = 4096;
-        const auto filling = static_cast<std::size_t>(part - below(48));
+        constexpr int part = 2048;
+        const auto filling = static_cast<std::size_t>(part * (1 + below(12)) - below(48));
         return U"[00:01.00]" + std::u32string(filling, U'x') + text();
     }
 
