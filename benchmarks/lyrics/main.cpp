@@ -51,9 +51,8 @@ json parsing(const std::string& text, double seconds) {
             {"icu", times[1]},      {"memchr", times[2]}, {"allocations", times[3]}};
 }
 
-/// Seconds per byte at each size from 1 KB to 16 MB, and how they grow beside those of nothing but
-/// a look at every byte.
-json growth(const texts::Family& family) {
+/// Seconds per byte at each size from 1 KB to 16 MB.
+json sizes(const texts::Family& family) {
     json sizes = json::array();
     for (std::size_t bytes = 1024; bytes <= 16 << 20; bytes *= 4) {
         const SharedBytes text(family.make(bytes));
@@ -61,38 +60,65 @@ json growth(const texts::Family& family) {
         sizes.push_back(
             {{"bytes", text.view().size()}, {"perByte", time / static_cast<double>(bytes)}});
     }
-    // The largest must be measured once more beside the one it is compared with.
+    return {{"name", family.name}, {"sizes", sizes}};
+}
+
+/// Seconds per byte of 64 KB and of 16 MB, side by side, and those of nothing but a look at every
+/// byte.
+json growth(const texts::Family& family) {
     const SharedBytes small(family.make(64 << 10));
     const SharedBytes large(family.make(16 << 20));
     const auto times = race(
         {[&] { keep(LRCParser::parse(small)); }, [&] { keep(LRCParser::parse(large)); },
          [&] { keep(countBrackets(small.view())); }, [&] { keep(countBrackets(large.view())); }},
-        1);
-    const double timesLarger =
-        static_cast<double>(large.view().size()) / static_cast<double>(small.view().size());
+        0.5);
+    const auto smallBytes = static_cast<double>(small.view().size());
+    const auto largeBytes = static_cast<double>(large.view().size());
     return {{"name", family.name},
-            {"sizes", sizes},
-            {"ratio", times[1] / times[0] / timesLarger},
-            {"memchrRatio", times[3] / times[2] / timesLarger}};
+            {"small", times[0] / smallBytes},
+            {"large", times[1] / largeBytes},
+            {"memchrSmall", times[2] / smallBytes},
+            {"memchrLarge", times[3] / largeBytes}};
+}
+
+json ofFamilies(json (*measure)(const texts::Family&)) {
+    json results = json::array();
+    for (const auto& family : texts::families())
+        results.push_back(measure(family));
+    return results;
+}
+
+json everythingElse() {
+    return {{"typical", parsing(texts::typical(), 1.5)},
+            {"large", parsing(texts::large(1 << 20), 2.5)},
+            {"search", searching()},
+            {"tick", ticking()},
+            {"sizes", ofFamilies(sizes)}};
+}
+
+/// For the parsers in other languages.
+void writeTexts(const std::string& folder) {
+    std::ofstream(folder + "/typical.lrc") << texts::typical();
+    std::ofstream(folder + "/large.lrc") << texts::large(1 << 20);
+}
+
+int usage() {
+    std::fputs("lyrics_benchmark: usage: lyrics_benchmark [--growth | --texts FOLDER]\n", stderr);
+    return 2;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 3 && std::string_view(argv[1]) == "--texts") { // for the parsers in other languages
-        const std::string folder = argv[2];
-        std::ofstream(folder + "/typical.lrc") << texts::typical();
-        std::ofstream(folder + "/large.lrc") << texts::large(1 << 20);
-        return 0;
-    }
     std::thread([] {
     }).join(); // the program has threads, so counting owners may cost what it does there
-    json result;
-    result["typical"] = parsing(texts::typical(), 1.5);
-    result["large"] = parsing(texts::large(1 << 20), 2.5);
-    result["search"] = searching();
-    result["tick"] = ticking();
-    for (const auto& family : texts::families())
-        result["growth"].push_back(growth(family));
-    std::printf("%s\n", result.dump(2).c_str());
+    const std::string_view what = argc > 1 ? argv[1] : "";
+    if (argc == 1)
+        std::printf("%s\n", everythingElse().dump(2).c_str());
+    else if (argc == 2 && what == "--growth")
+        std::printf("%s\n", ofFamilies(growth).dump(2).c_str());
+    else if (argc == 3 && what == "--texts")
+        writeTexts(argv[2]);
+    else
+        return usage();
 }

@@ -9,7 +9,7 @@ import time
 from pathlib import Path
 
 from . import peers, table
-from .program import Bench
+from .program import Bench, best
 
 PARSERS = ["lrc-kit@1.2.1", "clrc@3.1.4"]
 
@@ -22,6 +22,26 @@ def machine():
             "memoryKB": int(memory), "kernel": platform.release(),
             "system": platform.freedesktop_os_release().get("PRETTY_NAME"),
             "loadBefore": os.getloadavg()[0], "date": time.strftime("%Y-%m-%d")}
+
+
+class Lyrics:
+    """The parser and the search for the active line."""
+
+    def __init__(self, build):
+        self.program = f"{build}/benchmarks/lyrics/lyrics_benchmark"
+        self.looks = []
+
+    def run(self, *arguments):
+        return json.loads(subprocess.run([self.program, *arguments], check=True,
+                                         stdout=subprocess.PIPE).stdout)
+
+    def growth(self):
+        """The best of this look and those before: how much memory gives changes in minutes with
+        what the machine's host does beside, so there is one now and then in the run."""
+        self.looks.append(self.run("--growth"))
+        return [{"name": family[0]["name"]} | best([
+            {key: seconds for key, seconds in look.items() if key != "name"} for look in family])
+            for family in zip(*self.looks)]
 
 
 def npm(build, folder):
@@ -47,19 +67,22 @@ def main(build, folder, quick):
     folder.mkdir(parents=True, exist_ok=True)
     bench = Bench(build, quick)
     results = {"machine": machine(), "quick": quick}
-    steps = {
-        "lyrics": lambda: json.loads(subprocess.run(
-            [f"{build}/benchmarks/lyrics/lyrics_benchmark"], check=True, capture_output=True).stdout),
-        "npm": lambda: npm(build, folder / "npm"),
-        "start": bench.start,
-        "sideBySide": bench.side_by_side,
-        "osdlyrics": lambda: peers.osdlyrics(bench.programs, bench.seconds, folder),
-        "memory": bench.memory,
-        "frames": bench.frames,
-        "instructions": bench.instructions,
-        "lateness": bench.lateness,
-    }
-    for name, step in steps.items():
+    lyrics = Lyrics(build)
+    steps = [
+        ("lyrics", lyrics.run),
+        ("growth", lyrics.growth),
+        ("npm", lambda: npm(build, folder / "npm")),
+        ("start", bench.start),
+        ("sideBySide", bench.side_by_side),
+        ("growth", lyrics.growth),
+        ("osdlyrics", lambda: peers.osdlyrics(bench.programs, bench.seconds, folder)),
+        ("memory", bench.memory),
+        ("frames", bench.frames),
+        ("instructions", bench.instructions),
+        ("lateness", bench.lateness),
+        ("growth", lyrics.growth),
+    ]
+    for name, step in steps:
         print(f"bench: {name}…", file=sys.stderr, flush=True)
         results[name] = step()
     if results["osdlyrics"] and not results["osdlyrics"]["showsLines"]:
