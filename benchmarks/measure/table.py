@@ -34,8 +34,12 @@ def parser_rows(results):
     for family in results["growth"]:
         ratio = family["large"] / family["small"]
         memchr = family["memchrLarge"] / family["memchrSmall"]
+        # Without a bracket there is nothing to do but that pass.
+        target, limit = (("as the pass", 1.1 * memchr) if family["name"] == "blank lines" else
+                         ("1.5", 1.5))
         rows.append((f"growth, {family['name']}: time per byte at 16 MB by that at 64 KB",
-                     f"{ratio:.2f} (of a memchr pass alone: {memchr:.2f})", "1.5", ratio <= 1.5))
+                     f"{ratio:.2f} (of a memchr pass alone: {memchr:.2f})", target,
+                     ratio <= limit))
     for search in results["lyrics"]["search"]:
         ratio = search["activeIndex"] / search["upperBound"]
         rows.append((f"activeIndex of {search['lines']} lines by upper_bound",
