@@ -16,10 +16,17 @@ struct NotchShape {
     /// out negative when none is left.
     Path path(const Rect& rect) const;
 
+    /// Whether all of `part` is within that outline in `rect` and reaches into neither flare.
+    bool contains(const Rect& rect, const Rect& part) const;
+
     bool operator==(const NotchShape&) const = default;
 
     double topRadius;    ///< of the outward flare at each top corner
     double bottomRadius; ///< of each bottom corner
+
+private:
+    double flare(const Rect& rect) const;
+    double round(const Rect& rect) const;
 };
 
 } // namespace brellowind

@@ -97,6 +97,38 @@ TEST(NotchShape, WithoutRadiiIsItsRectangle) {
                             curve({100, 0}, {100, 0}), close));
 }
 
+TEST(NotchShape, ContainsWhatItsSidesAndCornersLeaveRoomFor) {
+    const NotchShape shape(8, 12);
+    const Rect rect{100, -30, 280, 59};
+    EXPECT_TRUE(shape.contains(rect, {108, -30, 264, 47})) << "down to where the corners begin";
+    EXPECT_TRUE(shape.contains(rect, {120, -30, 240, 59})) << "between the corners";
+    EXPECT_TRUE(shape.contains(rect, {111, 0, 258, 26})) << "both roots are a half";
+    EXPECT_FALSE(shape.contains(rect, {110.9, 0, 258, 26})) << "into the left corner";
+    EXPECT_FALSE(shape.contains(rect, {111.1, 0, 258, 26})) << "into the right corner";
+    EXPECT_FALSE(shape.contains(rect, {111, 0, 258, 26.1})) << "into both";
+    EXPECT_FALSE(shape.contains(rect, {107.9, 0, 10, 10})) << "beyond the left side";
+    EXPECT_FALSE(shape.contains(rect, {362.1, 0, 10, 10})) << "beyond the right side";
+    EXPECT_FALSE(shape.contains(rect, {200, -30.1, 10, 10})) << "above";
+    EXPECT_FALSE(shape.contains(rect, {200, 20, 10, 9.1})) << "below";
+}
+
+TEST(NotchShape, ContainsUpToTheCurveItself) {
+    const NotchShape shape(8, 12);
+    const Rect rect{0, 0, 280, 59};
+    for (double t = 0; t <= 1; t += 1.0 / 64) { // of the curve from (8, 47) by (8, 59) to (20, 59)
+        const Point onCurve{8 + 12 * t * t, 59 - 12 * (1 - t) * (1 - t)};
+        const auto upTo = [&](double beyond) {
+            return Rect{onCurve.x - beyond, 10, 100, onCurve.y + beyond - 10};
+        };
+        EXPECT_TRUE(shape.contains(rect, upTo(-0.001))) << t;
+        EXPECT_FALSE(shape.contains(rect, upTo(0.001))) << t;
+    }
+}
+
+TEST(NotchShape, WithoutRoomForItsFlareContainsNothing) {
+    EXPECT_FALSE(NotchShape(8, 12).contains({0, 0, 280, 6}, {100, 1, 10, 1}));
+}
+
 TEST(NotchShape, TakesItsRadiiInTheOrderTopThenBottom) {
     const NotchShape shape(8, 12);
     EXPECT_EQ(shape.topRadius, 8);

@@ -20,9 +20,14 @@ constexpr double shadowDrop = 10;
 
 const double shadowReach = std::ceil(blurReach(shadowSigma));
 
+const NotchShape shape(topRadius, bottomRadius);
+
+Rect rectOf(const QRectF& rect) {
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
 QPainterPath notchPath(QSizeF size) {
-    return painterPath(
-        NotchShape(topRadius, bottomRadius).path({0, 0, size.width(), size.height()}));
+    return painterPath(shape.path({0, 0, size.width(), size.height()}));
 }
 
 /// The blurred alpha of a pill as high as `size` and just so wide that its middle column knows
@@ -95,10 +100,10 @@ QRectF PillShape::paintedRect() const {
 }
 
 void PillShape::paint(QPainter& painter) {
-    // Where only the middle is drawn anew there is neither outline nor shadow.
-    const QRectF middle = boundingRect().adjusted(topRadius, 0, -topRadius, -bottomRadius);
-    if (painter.hasClipping() && middle.contains(painter.clipBoundingRect())) {
-        painter.fillRect(middle, Qt::black);
+    // Where only what is inside is drawn anew there is neither outline nor shadow.
+    if (painter.hasClipping() &&
+        shape.contains(rectOf(boundingRect()), rectOf(painter.clipBoundingRect()))) {
+        painter.fillRect(boundingRect(), Qt::black);
         return;
     }
     if (lift_ > 0)

@@ -6,6 +6,14 @@
 #include <utility>
 
 namespace brellowind {
+namespace {
+
+void clipWindow(QPainter& painter, const QRegion& region) {
+    painter.setTransform({});
+    painter.setClipRegion(region);
+}
+
+} // namespace
 
 Item::Item(Item* parent) : parent_(parent) {
     if (!parent_)
@@ -128,17 +136,18 @@ void Item::takeLook(const Look& around, bool isAroundNew, QRegion& damage) {
         child->takeLook(look, isInsideNew, damage);
 }
 
-/// Draws what the last look found within `region` of the window.
+/// Draws what the last look found within `region` of the window, which `painter` is clipped to.
 void Item::draw(QPainter& painter, const QRegion& region) {
     if (region.intersects(look_.rect.toAlignedRect())) {
-        painter.setTransform({}); // clips are of the window
-        painter.setClipRegion(look_.clip.isNull() ? region
-                                                  : region & SceneWindow::covering(look_.clip));
+        if (!look_.clip.isNull())
+            clipWindow(painter, region & SceneWindow::covering(look_.clip));
         painter.setTransform(look_.transform);
         painter.setOpacity(look_.opacity);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                                QPainter::SmoothPixmapTransform);
         paint(painter);
+        if (!look_.clip.isNull())
+            clipWindow(painter, region);
     }
     for (auto* child : children_)
         child->draw(painter, region);

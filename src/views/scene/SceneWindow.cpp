@@ -68,7 +68,9 @@ QImage SceneWindow::grab() {
     image.setDevicePixelRatio(ratio);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    root_.draw(painter, QRect(QPoint(0, 0), size()));
+    const QRect whole(QPoint(0, 0), size());
+    painter.setClipRect(whole);
+    root_.draw(painter, whole);
     return image;
 }
 
@@ -148,6 +150,7 @@ void SceneWindow::paintStore(const QRegion& region) {
     for (const QRect& rect : region)
         painter.fillRect(rect, Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setClipRegion(region);
     root_.draw(painter, region);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace brellowind {
 namespace {
@@ -41,6 +42,40 @@ TEST(PillShape, IsOpaqueBlackAndAllThereIsAtRest) {
     EXPECT_EQ(qAlpha(image.pixel(68, 30)), 255);
     EXPECT_EQ(qAlpha(image.pixel(331, 30)), 255);
     EXPECT_EQ(qAlpha(image.pixel(332, 30)), 0) << "beside the right side";
+}
+
+TEST(PillShape, LooksInAnyPartAsItDoesInTheWhole) {
+    std::mt19937 random(7);
+    const auto below = [&random](int limit) {
+        return static_cast<int>(random() % static_cast<unsigned>(limit));
+    };
+    for (const double ratio : {1.0, 2.0})
+        for (const double lift : {0.0, 1.0}) {
+            PillShape pill;
+            pill.setSize({280, 59});
+            pill.setLift(lift);
+            const auto paint = [&](const QRect& part) {
+                return test::painted(
+                    room,
+                    [&](QPainter& painter) {
+                        painter.setClipRect(part);
+                        painter.translate(origin);
+                        pill.paint(painter);
+                    },
+                    ratio);
+            };
+            const QImage whole = paint(QRect({}, room));
+            for (int i = 0; i < 200; ++i) {
+                // The left and the lower end about a corner, or anywhere.
+                const QPoint corner(60 + below(30), below(4) ? 59 - below(16) : below(100));
+                const QRect part(QPoint(corner.x(), below(corner.y() + 1)),
+                                 QPoint(corner.x() + below(270), corner.y()));
+                const QRect pixels(part.topLeft() * ratio, part.size() * ratio);
+                ASSERT_LE(test::largestDifference(paint(part).copy(pixels), whole.copy(pixels)), 1)
+                    << part.left() << ' ' << part.top() << ' ' << part.width() << " x "
+                    << part.height();
+            }
+        }
 }
 
 TEST(PillShape, PaintsBeyondItsRectangleOnlyWhileItIsLifted) {
