@@ -18,6 +18,10 @@ const double strongestReach = std::ceil(blurReach(strongestSigma));
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
 
+/// How far a line may swing beyond its end and come back by less than a 255th: each swing of its
+/// spring is a 26th of the one before.
+constexpr double unseenSwing = 0.1;
+
 /// Points by which marks of some scripts stand out of the line, and slanted letters at its ends.
 constexpr double inkOverhang = 6;
 
@@ -86,8 +90,13 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double maximumWidth
     layout_.endLayout();
 }
 
+void TextLayer::moveTo(double presence, double now) {
+    presence_.retarget(presence, now);
+    resting_ = false;
+}
+
 std::optional<double> TextLayer::advance(double now) {
-    resting_ = presence_.isSettled(now, tolerance);
+    resting_ = resting_ || isAtRest(now);
     shown_ = resting_ ? presence_.target() : presence_.value(now);
     if (resting_) {
         picture_ = QImage();
@@ -110,6 +119,13 @@ void TextLayer::paint(QPainter& painter, QColor color, double centre, double top
     else
         paintMoving(painter, color, origin, QRectF(left, top, right - left, 0));
     painter.restore();
+}
+
+/// Beyond its end a line looks as it does there.
+bool TextLayer::isAtRest(double now) const {
+    const double value = presence_.value(now);
+    const bool isBeyond = presence_.target() > 0 ? value >= 1 : value <= 0;
+    return presence_.isSettled(now, isBeyond ? unseenSwing : tolerance);
 }
 
 double TextLayer::overhang() const {

@@ -24,8 +24,8 @@ public:
     const QString& text() const { return text_; }
     double width() const { return width_; }
 
-    void comeIn(double now) { presence_.retarget(1, now); }
-    void goAway(double now) { presence_.retarget(0, now); }
+    void comeIn(double now) { moveTo(1, now); }
+    void goAway(double now) { moveTo(0, now); }
 
     /// Shows the moment `now` and tells how fast it changes, as what is `Animated` does.
     std::optional<double> advance(double now);
@@ -42,6 +42,8 @@ public:
     double overhang() const;
 
 private:
+    void moveTo(double presence, double now);
+    bool isAtRest(double now) const;
     double sigma() const;
     void paintSharp(QPainter& painter, QColor color, QPointF origin) const;
     void paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen);
@@ -52,9 +54,9 @@ private:
     double width_ = 0;
     Spring presence_;
     double shown_;
-    bool resting_ = true;
-    QImage picture_;  ///< what is blurred: `pictured_` of the line, sharp; null while it rests
-    QRectF pictured_; ///< from the line's own origin
+    bool resting_ = true; ///< shows no change any more
+    QImage picture_;      ///< what is blurred: `pictured_` of the line, sharp; null while it rests
+    QRectF pictured_;     ///< from the line's own origin
     QColor picturedColor_;
 };
 

@@ -1,4 +1,5 @@
 #include "views/drawing/TextLayer.h"
+#include "views/motion/Springs.h"
 #include "views/qt/Painting.h"
 
 #include <QFontMetricsF>
@@ -83,12 +84,37 @@ TEST(TextLayer, ComesToRestWithoutAJump) {
                     ratio);
             };
             line.comeIn(0);
-            double now = 0;
-            QImage before = look();
-            while (line.advance(now += 0.01)) // is there where it returns no speed
+            double now = 0.2; // just before it is there
+            QImage before;
+            while (line.advance(now += 0.001)) // is there where it returns no speed
                 before = look();
+            ASSERT_FALSE(before.isNull());
             EXPECT_LE(test::largestDifference(before, look()), 3) << qPrintable(line.text());
         }
+}
+
+TEST(TextLayer, RestsOnceNoSwingOfItsSpringShows) {
+    const auto restOf = [](TextLayer& line) {
+        double now = 0;
+        while (line.advance(now))
+            now += 0.001;
+        return now;
+    };
+    TextLayer coming = layer(QStringLiteral("one"), 0);
+    TextLayer going = layer(QStringLiteral("one"), 1);
+    coming.comeIn(0);
+    going.goAway(0);
+    const double rest = restOf(coming);
+    EXPECT_DOUBLE_EQ(restOf(going), rest);
+    EXPECT_TRUE(going.isGone());
+
+    Spring presence(springs::morph, 0);
+    presence.retarget(1, 0);
+    EXPECT_LT(presence.value(rest - 0.002), 1) << "not before it is there";
+    for (double later = rest; later < rest + 1; later += 0.001)
+        EXPECT_GT(presence.value(later), 1 - 1.0 / 255) << later;
+    EXPECT_FALSE(presence.isSettled(rest + 0.2, 1e-3)) << "though it is still swinging";
+    EXPECT_FALSE(coming.advance(rest + 0.35)) << "not even while it is back on this side";
 }
 
 TEST(TextLayer, IsSharpWhereverItsMiddleFalls) {
