@@ -2,7 +2,7 @@
 
 #include "foundation/Task.h"
 #include "lyrics/LyricsState.h"
-#include "playback/Track.h"
+#include "platform/Track.h"
 
 #include <cstddef>
 #include <optional>

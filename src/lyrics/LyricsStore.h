@@ -4,7 +4,7 @@
 #include "foundation/Task.h"
 #include "lyrics/LyricsState.h"
 #include "platform/TaskRunner.h"
-#include "playback/Track.h"
+#include "platform/Track.h"
 
 #include <cstddef>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Services.h"
+#include "platform/MainLoop.h"
 
 #include <coroutine>
 #include <functional>
@@ -14,15 +14,15 @@ namespace brellowind::platform {
 ///
 /// `begin` starts it and returns its owner; destroying the owner abandons it. The awaiting task
 /// resumes with what the machine reports, or, when it is cancelled first, with `cancelled` on the
-/// next turn of the main loop: the operation itself is abandoned at once.
+/// next turn of `mainLoop`: the operation itself is abandoned at once.
 template <typename Owner, typename Result>
 class Operation {
 public:
     using Finish = std::function<void(Result)>;
     using Begin = std::function<std::unique_ptr<Owner>(Finish)>;
 
-    Operation(Begin begin, Result cancelled)
-        : begin_(std::move(begin)), cancelled_(std::move(cancelled)) {}
+    Operation(MainLoop& mainLoop, Begin begin, Result cancelled)
+        : mainLoop_(mainLoop), begin_(std::move(begin)), cancelled_(std::move(cancelled)) {}
     Operation(const Operation&) = delete;
     Operation& operator=(const Operation&) = delete;
 
@@ -56,10 +56,11 @@ private:
     void abandon() {
         owner_.reset();
         result_ = std::move(cancelled_);
-        resumption_ = services().mainLoop.scheduleOnce(std::chrono::milliseconds(0),
-                                                       [this] { awaiting_.resume(); });
+        resumption_ =
+            mainLoop_.scheduleOnce(std::chrono::milliseconds(0), [this] { awaiting_.resume(); });
     }
 
+    MainLoop& mainLoop_;
     Begin begin_;
     Result cancelled_;
     std::coroutine_handle<> awaiting_;

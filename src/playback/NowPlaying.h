@@ -4,7 +4,7 @@
 #include "foundation/Task.h"
 #include "platform/Clock.h"
 #include "platform/MainLoop.h"
-#include "playback/Track.h"
+#include "platform/Track.h"
 
 #include <chrono>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "playback/Track.h"
+#include "platform/Track.h"
 
 #include <optional>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "playback/Track.h"
+#include "platform/Track.h"
 
 #include <gtest/gtest.h>
 #include <limits>

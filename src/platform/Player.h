@@ -1,0 +1,46 @@
+#pragma once
+
+#include "foundation/Task.h"
+#include "platform/Track.h"
+
+#include <variant>
+
+namespace brellowind::platform {
+
+/// The player application. Main thread only; nothing here blocks.
+class Player {
+public:
+    /// One reading.
+    struct Snapshot {
+        bool operator==(const Snapshot&) const = default;
+
+        Track track;
+        bool isPlaying;
+        double positionSec; ///< seconds at the moment of the answer; 0 when unreadable
+    };
+
+    /// The player does not run, or has no track loaded.
+    struct NotRunning {
+        bool operator==(const NotRunning&) const = default;
+    };
+
+    /// The player runs but its answer cannot be used.
+    struct Unreadable {
+        bool operator==(const Unreadable&) const = default;
+    };
+
+    using Answer = std::variant<NotRunning, Unreadable, Snapshot>;
+
+    virtual ~Player() = default;
+
+    /// Asks once what is playing. Ends when the player answers, however late that is, and at once
+    /// when it quits. Ask again only after the previous question has ended. The first of several
+    /// failures in a row, and a player that takes long to answer, are written to the system log.
+    virtual Task<Answer> read() = 0;
+
+    /// Sends the play/pause command. Ends when the player has taken it. A failure is written to the
+    /// system log.
+    virtual Task<void> playPause() = 0;
+};
+
+} // namespace brellowind::platform
