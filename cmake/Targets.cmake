@@ -60,6 +60,5 @@ function(brellowind_program target)
   target_link_libraries(${target} PRIVATE brellowind_app brellowind_qt_options)
   add_dependencies(${target} brellowind_settings_library)
   set_target_properties(${target} PROPERTIES
-    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin
-    ENABLE_EXPORTS ON) # to that library
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 endfunction()

@@ -3,7 +3,7 @@
 #include "Allocations.h"
 #include "Stopwatch.h"
 #include "Texts.h"
-#include "support/FakeSpotify.h"
+#include "support/TestMachine.h"
 #include "views/NotchRootView.h"
 
 #include <algorithm>
@@ -20,7 +20,7 @@ using nlohmann::json;
 /// A view whose song plays, with the lyrics `lrc`.
 struct PlayingView {
     PlayingView(const std::string& lrc, const char* position) {
-        player.state = "playing";
+        player.plays = true;
         player.position = position;
         view->appear();
         machine.mainLoop.runTurns();
@@ -29,7 +29,7 @@ struct PlayingView {
     }
 
     test::TestMachine machine;
-    test::FakeSpotify player{machine};
+    test::FakePlayer player{machine};
     std::shared_ptr<NotchRootView> view =
         NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
 };

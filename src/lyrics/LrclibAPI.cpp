@@ -3,7 +3,6 @@
 #include "foundation/FatalError.h"
 #include "foundation/Utf8.h"
 #include "lyrics/LRCParser.h"
-#include "platform/Services.h"
 
 #include <cmath>
 #include <cstdint>
@@ -73,8 +72,8 @@ std::int64_t wholeSeconds(double durationMs) {
     return static_cast<std::int64_t>(seconds);
 }
 
-std::optional<platform::HttpRequest> lyricsRequest(const Track& track) {
-    const auto& constants = platform::services().constants;
+std::optional<platform::HttpRequest> lyricsRequest(const platform::ProductConstants& constants,
+                                                   const Track& track) {
     auto url = requestURL(constants.lyricsOrigin, track);
     if (!url)
         return std::nullopt;
@@ -126,11 +125,12 @@ LyricsState interpret(int status, std::string_view body) {
     return LyricsState::notFound();
 }
 
-Task<LyricsState> fetch(Track track) {
-    auto request = lyricsRequest(track);
+Task<LyricsState> fetch(platform::HttpClient& http, const platform::ProductConstants& constants,
+                        Track track) {
+    auto request = lyricsRequest(constants, track);
     if (!request)
         co_return LyricsState::failed();
-    const auto result = co_await platform::fetch(std::move(*request));
+    const auto result = co_await http.fetch(std::move(*request));
     const auto* response = std::get_if<platform::HttpResponse>(&result);
     co_return response ? interpret(response->status, response->body) : LyricsState::failed();
 }

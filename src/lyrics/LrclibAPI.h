@@ -2,6 +2,8 @@
 
 #include "foundation/Task.h"
 #include "lyrics/LyricsState.h"
+#include "platform/HttpClient.h"
+#include "platform/ProductConstants.h"
 #include "platform/Track.h"
 
 #include <cstddef>
@@ -24,8 +26,10 @@ std::optional<std::string> requestURL(std::string_view origin, const Track& trac
 /// What an answer of the service means: `loaded`, `plain`, `notFound` or `failed`.
 LyricsState interpret(int status, std::string_view body);
 
-/// Asks the service once for the lyrics of `track`. Every failure, cancellation included, is
-/// `failed`; nothing is retried.
-Task<LyricsState> fetch(Track track);
+/// Asks the service, whose origin is among `constants`, once for the lyrics of `track`. Every
+/// failure, cancellation included, is `failed`; nothing is retried. The referred objects must
+/// outlive the task.
+Task<LyricsState> fetch(platform::HttpClient& http, const platform::ProductConstants& constants,
+                        Track track);
 
 } // namespace brellowind::LrclibAPI

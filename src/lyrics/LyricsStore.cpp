@@ -1,15 +1,19 @@
 #include "lyrics/LyricsStore.h"
 
 #include "lyrics/LrclibAPI.h"
-#include "platform/Services.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace brellowind {
 
-std::shared_ptr<LyricsStore> LyricsStore::create() {
-    return std::shared_ptr<LyricsStore>(new LyricsStore);
+LyricsStore::LyricsStore(TaskRunner& tasks, platform::HttpClient& http,
+                         const platform::ProductConstants& constants)
+    : tasks_(tasks), http_(http), constants_(constants) {}
+
+std::shared_ptr<LyricsStore> LyricsStore::create(TaskRunner& tasks, platform::HttpClient& http,
+                                                 const platform::ProductConstants& constants) {
+    return std::shared_ptr<LyricsStore>(new LyricsStore(tasks, http, constants));
 }
 
 void LyricsStore::load(const Track& track) {
@@ -20,7 +24,7 @@ void LyricsStore::load(const Track& track) {
     if (task_)
         task_->cancel();
     state.set(State::loading());
-    task_ = platform::services().tasks.start(fetchInto(weak_from_this(), track));
+    task_ = tasks_.start(fetchInto(weak_from_this(), LrclibAPI::fetch(http_, constants_, track)));
 }
 
 void LyricsStore::clear() {
@@ -30,8 +34,8 @@ void LyricsStore::clear() {
     state.set(State::idle());
 }
 
-Task<void> LyricsStore::fetchInto(std::weak_ptr<LyricsStore> weakStore, Track track) {
-    auto result = co_await LrclibAPI::fetch(std::move(track));
+Task<void> LyricsStore::fetchInto(std::weak_ptr<LyricsStore> weakStore, Task<LyricsState> fetch) {
+    auto result = co_await std::move(fetch);
     // A later load or clear has cancelled this task before it resumes: its answer is stale.
     if ((co_await CurrentStopToken{}).stop_requested())
         co_return;

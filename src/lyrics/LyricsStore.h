@@ -3,6 +3,8 @@
 #include "foundation/Published.h"
 #include "foundation/Task.h"
 #include "lyrics/LyricsState.h"
+#include "platform/HttpClient.h"
+#include "platform/ProductConstants.h"
 #include "platform/TaskRunner.h"
 #include "platform/Track.h"
 
@@ -20,7 +22,9 @@ class LyricsStore : public std::enable_shared_from_this<LyricsStore> {
 public:
     using State = LyricsState;
 
-    static std::shared_ptr<LyricsStore> create();
+    /// The services and the constants must outlive it and the tasks that it starts.
+    static std::shared_ptr<LyricsStore> create(TaskRunner& tasks, platform::HttpClient& http,
+                                               const platform::ProductConstants& constants);
 
     /// Starts to load the lyrics of `track`. Does nothing when its `id` is the current one, however
     /// the earlier load ended.
@@ -39,9 +43,14 @@ public:
     Published<State, LyricsStore> state{State::idle()};
 
 private:
-    LyricsStore() = default;
+    LyricsStore(TaskRunner& tasks, platform::HttpClient& http,
+                const platform::ProductConstants& constants);
 
-    static Task<void> fetchInto(std::weak_ptr<LyricsStore> store, Track track);
+    static Task<void> fetchInto(std::weak_ptr<LyricsStore> store, Task<LyricsState> fetch);
+
+    TaskRunner& tasks_;
+    platform::HttpClient& http_;
+    const platform::ProductConstants& constants_;
 
     std::optional<std::string> currentTrackID_;
     std::optional<TaskHandle> task_;

@@ -1,7 +1,6 @@
 #include "notch/HoverMonitor.h"
 
 #include "notch/NotchScreens.h"
-#include "platform/Services.h"
 
 namespace brellowind {
 namespace {
@@ -10,23 +9,21 @@ constexpr double margin = 8;
 
 } // namespace
 
-using platform::services;
-
 Rect hoverRectangle(const Rect& screenFrame, Size contentSize) {
     const double width = contentSize.width + 2 * margin;
     const double height = contentSize.height + margin;
     return {screenFrame.midX() - width / 2, screenFrame.maxY() - height, width, height};
 }
 
-std::shared_ptr<HoverMonitor> HoverMonitor::create() {
-    return std::shared_ptr<HoverMonitor>(new HoverMonitor);
+std::shared_ptr<HoverMonitor> HoverMonitor::create(platform::Pointer& pointer,
+                                                   platform::Screens& screens) {
+    return std::shared_ptr<HoverMonitor>(new HoverMonitor(pointer, screens));
 }
 
 void HoverMonitor::start() {
     stop();
-    auto& pointer = services().pointer;
-    globalMonitor_ = pointer.addGlobalMonitor(evaluation());
-    localMonitor_ = pointer.addLocalMonitor(evaluation());
+    globalMonitor_ = pointer_.addGlobalMonitor(evaluation());
+    localMonitor_ = pointer_.addLocalMonitor(evaluation());
     evaluate();
 }
 
@@ -43,10 +40,10 @@ platform::Pointer::Handler HoverMonitor::evaluation() {
 }
 
 void HoverMonitor::evaluate() {
-    const auto screen = pillScreen(services().screens);
+    const auto screen = pillScreen(screens_);
     if (!screen)
         return;
-    const auto location = services().pointer.location();
+    const auto location = pointer_.location();
     const bool inside = location && hoverRectangle(screen->frame, currentSize).contains(*location);
     if (inside != isInside.get())
         isInside.set(inside);

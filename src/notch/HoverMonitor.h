@@ -4,6 +4,7 @@
 #include "foundation/Published.h"
 #include "notch/NotchMetrics.h"
 #include "platform/Pointer.h"
+#include "platform/Screens.h"
 
 #include <memory>
 
@@ -17,8 +18,9 @@ Rect hoverRectangle(const Rect& screenFrame, Size contentSize);
 /// under the pill lets most of them fall through. Main thread only.
 class HoverMonitor : public std::enable_shared_from_this<HoverMonitor> {
 public:
-    /// Stopped: the pointer is not asked before `start()`.
-    static std::shared_ptr<HoverMonitor> create();
+    /// Stopped: the pointer is not asked before `start()`. The services must outlive it.
+    static std::shared_ptr<HoverMonitor> create(platform::Pointer& pointer,
+                                                platform::Screens& screens);
 
     /// Begins watching, and looks at once. Watching already, it begins anew.
     void start();
@@ -34,11 +36,14 @@ public:
     Size currentSize{280, NotchMetrics::collapsedHeight};
 
 private:
-    HoverMonitor() = default;
+    HoverMonitor(platform::Pointer& pointer, platform::Screens& screens)
+        : pointer_(pointer), screens_(screens) {}
 
     platform::Pointer::Handler evaluation();
     void evaluate();
 
+    platform::Pointer& pointer_;
+    platform::Screens& screens_;
     std::unique_ptr<platform::PointerMonitor> globalMonitor_; ///< absent when refused
     std::unique_ptr<platform::PointerMonitor> localMonitor_;  ///< absent when refused
 };

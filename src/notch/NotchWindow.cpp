@@ -2,7 +2,6 @@
 
 #include "notch/NotchMetrics.h"
 #include "notch/NotchScreens.h"
-#include "platform/Services.h"
 
 #include <algorithm>
 
@@ -19,7 +18,8 @@ Rect notchWindowFrame(const Rect& screenFrame) {
     return {screenFrame.midX() - width / 2, screenFrame.maxY() - height, width, height};
 }
 
-NotchWindow::NotchWindow(platform::OverlayWindow& window) : window_(window) {
+NotchWindow::NotchWindow(platform::OverlayWindow& window, platform::Screens& screens)
+    : window_(window), screens_(screens) {
     window_.setIgnoresMouseEvents(true);
 }
 
@@ -29,7 +29,7 @@ void NotchWindow::show() {
 }
 
 void NotchWindow::repositionToNotch() {
-    if (const auto screen = pillScreen(platform::services().screens))
+    if (const auto screen = pillScreen(screens_))
         window_.setFrame(notchWindowFrame(screen->frame));
 }
 

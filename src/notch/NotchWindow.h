@@ -2,6 +2,7 @@
 
 #include "foundation/Geometry.h"
 #include "platform/OverlayWindow.h"
+#include "platform/Screens.h"
 
 namespace brellowind {
 
@@ -12,8 +13,8 @@ Rect notchWindowFrame(const Rect& screenFrame);
 /// The one window that hangs over the notch. Main thread only.
 class NotchWindow {
 public:
-    /// Makes `window`, which must outlive this, click-through; it is neither placed nor shown yet.
-    explicit NotchWindow(platform::OverlayWindow& window);
+    /// Makes `window` click-through; it is neither placed nor shown yet. Both must outlive this.
+    NotchWindow(platform::OverlayWindow& window, platform::Screens& screens);
     NotchWindow(const NotchWindow&) = delete;
     NotchWindow& operator=(const NotchWindow&) = delete;
 
@@ -26,6 +27,7 @@ public:
 
 private:
     platform::OverlayWindow& window_;
+    platform::Screens& screens_;
 };
 
 } // namespace brellowind

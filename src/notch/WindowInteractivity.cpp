@@ -1,14 +1,11 @@
 #include "notch/WindowInteractivity.h"
 
-#include "platform/Services.h"
-
 #include <utility>
 
 namespace brellowind {
 
-WindowInteractivity::WindowInteractivity(WindowFinder window)
-    : window_(std::move(window)),
-      nextTurn_(platform::services().mainLoop.onNextTurn([this] { apply(); })) {}
+WindowInteractivity::WindowInteractivity(platform::MainLoop& mainLoop, WindowFinder window)
+    : window_(std::move(window)), nextTurn_(mainLoop.onNextTurn([this] { apply(); })) {}
 
 void WindowInteractivity::update(bool interactive) {
     interactive_ = interactive;

@@ -15,7 +15,7 @@ public:
     /// The window that the element stands in at the moment of the call, null when in none.
     using WindowFinder = std::function<platform::OverlayWindow*()>;
 
-    explicit WindowInteractivity(WindowFinder window);
+    WindowInteractivity(platform::MainLoop& mainLoop, WindowFinder window);
     WindowInteractivity(const WindowInteractivity&) = delete;
     WindowInteractivity& operator=(const WindowInteractivity&) = delete;
 

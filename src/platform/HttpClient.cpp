@@ -1,16 +1,13 @@
 #include "platform/HttpClient.h"
 
 #include "platform/Operation.h"
-#include "platform/Services.h"
 
 namespace brellowind::platform {
 
-Task<HttpResult> fetch(HttpRequest request) {
+Task<HttpResult> HttpClient::fetch(HttpRequest request) {
     Operation<Transfer, HttpResult> operation(
-        services().mainLoop,
-        [&request](HttpClient::Completion completion) {
-            return services().http.send(request, std::move(completion));
-        },
+        mainLoop_,
+        [this, &request](Completion completion) { return send(request, std::move(completion)); },
         TransportError{"cancelled"});
     co_return co_await operation;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Task.h"
+#include "platform/MainLoop.h"
 
 #include <chrono>
 #include <cstddef>
@@ -53,15 +54,21 @@ class HttpClient {
 public:
     using Completion = std::function<void(HttpResult)>;
 
+    /// `mainLoop` must outlive it.
+    explicit HttpClient(MainLoop& mainLoop) : mainLoop_(mainLoop) {}
+    HttpClient(const HttpClient&) = delete;
+    HttpClient& operator=(const HttpClient&) = delete;
     virtual ~HttpClient() = default;
+
+    /// Sends `request`. Cancelling the task aborts the transfer and gives a transport error.
+    Task<HttpResult> fetch(HttpRequest request);
 
     /// Calls `completion` once, later, on the main thread, unless the transfer is destroyed first;
     /// `completion` may destroy the transfer.
     virtual std::unique_ptr<Transfer> send(const HttpRequest& request, Completion completion) = 0;
-};
 
-/// Sends `request` through the process-wide client. Cancelling the task aborts the transfer and
-/// gives a transport error.
-Task<HttpResult> fetch(HttpRequest request);
+private:
+    MainLoop& mainLoop_;
+};
 
 } // namespace brellowind::platform

@@ -16,9 +16,10 @@ class ImageDecoder {
 public:
     virtual ~ImageDecoder() = default;
 
-    /// The image that `bytes` encode. Null when they encode none, or one that would take too much
-    /// memory to decode.
-    virtual std::shared_ptr<const Image> decode(std::string_view bytes) = 0;
+    /// The middle square of the image that `bytes` encode, scaled down to what is sharp when it is
+    /// drawn with sides of up to `largestPoints`. Null when they encode no image, or one that would
+    /// take too much memory to decode.
+    virtual std::shared_ptr<const Image> decode(std::string_view bytes, int largestPoints) = 0;
 };
 
 } // namespace brellowind::platform

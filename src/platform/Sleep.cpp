@@ -1,16 +1,14 @@
 #include "platform/Sleep.h"
 
 #include "platform/Operation.h"
-#include "platform/Services.h"
 
 namespace brellowind::platform {
 
-Task<bool> sleep(std::chrono::milliseconds duration) {
+Task<bool> sleep(MainLoop& mainLoop, std::chrono::milliseconds duration) {
     Operation<Timer, bool> operation(
-        services().mainLoop,
-        [duration](Operation<Timer, bool>::Finish finish) {
-            return services().mainLoop.scheduleOnce(duration,
-                                                    [finish = std::move(finish)] { finish(true); });
+        mainLoop,
+        [&mainLoop, duration](Operation<Timer, bool>::Finish finish) {
+            return mainLoop.scheduleOnce(duration, [finish = std::move(finish)] { finish(true); });
         },
         false);
     co_return co_await operation;

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "foundation/Task.h"
+#include "platform/MainLoop.h"
 
 #include <chrono>
 
 namespace brellowind::platform {
 
 /// Suspends the task for `duration`. False when the task was cancelled first.
-Task<bool> sleep(std::chrono::milliseconds duration);
+Task<bool> sleep(MainLoop& mainLoop, std::chrono::milliseconds duration);
 
 } // namespace brellowind::platform

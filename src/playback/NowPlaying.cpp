@@ -1,31 +1,33 @@
 #include "playback/NowPlaying.h"
 
-#include "platform/Services.h"
 #include "platform/Sleep.h"
-#include "playback/SpotifyBridge.h"
 
 #include <utility>
+#include <variant>
 
 namespace brellowind {
 
-using platform::services;
+using platform::Player;
 
-std::shared_ptr<NowPlaying> NowPlaying::create() {
-    return std::shared_ptr<NowPlaying>(new NowPlaying);
+std::shared_ptr<NowPlaying> NowPlaying::create(platform::MainLoop& mainLoop, TaskRunner& tasks,
+                                               const platform::Clock& clock, Player& player) {
+    return std::shared_ptr<NowPlaying>(new NowPlaying(mainLoop, tasks, clock, player));
 }
 
-NowPlaying::NowPlaying() : lastSyncDate_(services().clock.now()) {}
+NowPlaying::NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks,
+                       const platform::Clock& clock, Player& player)
+    : mainLoop_(mainLoop), tasks_(tasks), clock_(clock), player_(player),
+      lastSyncDate_(clock.now()) {}
 
 void NowPlaying::start() {
     stop();
     poll();
-    auto& mainLoop = services().mainLoop;
     // Weak, so that timers keep no monitor alive; locked, so that an observer may release it.
-    timer_ = mainLoop.scheduleRepeating(pollInterval, [weakSelf = weak_from_this()] {
+    timer_ = mainLoop_.scheduleRepeating(pollInterval, [weakSelf = weak_from_this()] {
         if (const auto self = weakSelf.lock())
             self->poll();
     });
-    ticker_ = mainLoop.scheduleRepeating(tickInterval, [weakSelf = weak_from_this()] {
+    ticker_ = mainLoop_.scheduleRepeating(tickInterval, [weakSelf = weak_from_this()] {
         if (const auto self = weakSelf.lock())
             self->tick();
     });
@@ -35,35 +37,57 @@ void NowPlaying::start() {
 void NowPlaying::stop() {
     timer_.reset();
     ticker_.reset();
+    if (question_)
+        question_->cancel();
+    question_.reset();
 }
 
 void NowPlaying::togglePlayPause() {
     setPlaying(!isPlaying.get());
-    SpotifyBridge::playPause();
-    services().tasks.start(confirmToggle(shared_from_this()));
+    toggledSinceQuestion_ = true;
+    tasks_.start(player_.playPause());
+    tasks_.start(confirmToggle(shared_from_this()));
 }
 
 Task<void> NowPlaying::confirmToggle(std::shared_ptr<NowPlaying> self) {
-    co_await platform::sleep(confirmationDelay);
+    co_await platform::sleep(self->mainLoop_, confirmationDelay);
     self->poll();
 }
 
 void NowPlaying::poll() {
-    if (!SpotifyBridge::isRunning()) {
-        if (track.get()) {
-            track.set(std::nullopt);
-            setPlaying(false);
-        }
+    if (question_)
         return;
-    }
-    auto reading = SpotifyBridge::snapshot();
-    if (!reading)
+    toggledSinceQuestion_ = false;
+    question_ = tasks_.start(ask(weak_from_this(), player_));
+}
+
+Task<void> NowPlaying::ask(std::weak_ptr<NowPlaying> monitor, Player& player) {
+    auto answer = co_await player.read();
+    const bool cancelled = (co_await CurrentStopToken{}).stop_requested();
+    const auto self = monitor.lock();
+    if (!self || cancelled)
+        co_return;
+    self->question_.reset();
+    if (auto* reading = std::get_if<Player::Snapshot>(&answer))
+        self->apply(std::move(*reading));
+    else if (std::holds_alternative<Player::NotRunning>(answer))
+        self->playerQuit();
+}
+
+void NowPlaying::playerQuit() {
+    if (!track.get())
         return;
-    if (!track.get() || track->value().id() != reading->track.id())
-        track.set(std::move(reading->track));
-    setPlaying(reading->isPlaying);
-    positionSec.set(reading->positionSec);
-    lastSyncDate_ = services().clock.now();
+    track.set(std::nullopt);
+    setPlaying(false);
+}
+
+void NowPlaying::apply(Player::Snapshot reading) {
+    if (!track.get() || track->value().id() != reading.track.id())
+        track.set(std::move(reading.track));
+    if (!toggledSinceQuestion_) // otherwise the answer may be older than the toggle
+        setPlaying(reading.isPlaying);
+    positionSec.set(reading.positionSec);
+    lastSyncDate_ = clock_.now();
 }
 
 void NowPlaying::setPlaying(bool playing) {
@@ -73,7 +97,7 @@ void NowPlaying::setPlaying(bool playing) {
 }
 
 void NowPlaying::tick() {
-    const auto now = services().clock.now();
+    const auto now = clock_.now();
     const std::chrono::duration<double> elapsed = now - lastSyncDate_;
     positionSec.set(positionSec.get() + elapsed.count());
     lastSyncDate_ = now;

@@ -4,6 +4,8 @@
 #include "foundation/Task.h"
 #include "platform/Clock.h"
 #include "platform/MainLoop.h"
+#include "platform/Player.h"
+#include "platform/TaskRunner.h"
 #include "platform/Track.h"
 
 #include <chrono>
@@ -13,21 +15,24 @@
 namespace brellowind {
 
 /// What Spotify plays, whether it plays, and where playback stands. It asks the player once a
-/// second and advances the position itself in between; nothing ticks while nothing plays. Main
-/// thread only.
+/// second, one question at a time, and advances the position itself in between; nothing ticks while
+/// nothing plays. Main thread only.
 class NowPlaying : public std::enable_shared_from_this<NowPlaying> {
 public:
     static constexpr std::chrono::milliseconds pollInterval{1000};
     static constexpr std::chrono::milliseconds tickInterval{50};
     static constexpr std::chrono::milliseconds confirmationDelay{150};
 
-    /// Idle: the player is not asked before `start()`.
-    static std::shared_ptr<NowPlaying> create();
+    /// Idle: the player is not asked before `start()`. All services must outlive it.
+    static std::shared_ptr<NowPlaying> create(platform::MainLoop& mainLoop, TaskRunner& tasks,
+                                              const platform::Clock& clock,
+                                              platform::Player& player);
 
     /// Begins monitoring with a reading at once. Monitoring already, it begins anew.
     void start();
 
-    /// Ends monitoring; the published properties keep their values.
+    /// Ends monitoring; the published properties keep their values, and the answer to a question
+    /// that is open is dropped.
     void stop();
 
     /// Flips `isPlaying` at once, sends the play/pause command, and asks the player 150 ms later
@@ -39,13 +44,23 @@ public:
     Published<double, NowPlaying> positionSec{0}; ///< seconds; never clamped to the duration
 
 private:
-    NowPlaying();
+    NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks, const platform::Clock& clock,
+               platform::Player& player);
 
     void poll();
     void tick();
+    void playerQuit();
+    void apply(platform::Player::Snapshot reading);
     void setPlaying(bool playing);
+    static Task<void> ask(std::weak_ptr<NowPlaying> monitor, platform::Player& player);
     static Task<void> confirmToggle(std::shared_ptr<NowPlaying> self);
 
+    platform::MainLoop& mainLoop_;
+    TaskRunner& tasks_;
+    const platform::Clock& clock_;
+    platform::Player& player_;
+    std::optional<TaskHandle> question_; ///< present while the player has not answered it
+    bool toggledSinceQuestion_ = false;
     std::unique_ptr<platform::Timer> timer_;
     std::unique_ptr<platform::RepeatingTimer> ticker_; ///< rests while nothing plays
     platform::WallTime lastSyncDate_; ///< when `positionSec` was last read or advanced

@@ -1,32 +1,28 @@
 #include "settings/GeneralSettings.h"
 
 #include "foundation/AbsoluteURL.h"
-#include "platform/Services.h"
-#include "settings/AppInfo.h"
 #include "settings/UpdateCard.h"
-#include "settings/UpdateChecker.h"
 
 namespace brellowind {
 namespace {
 
-using platform::services;
-
 constexpr std::string_view feedbackSubject = "Brellowind%20Feedback"; // escaped for a query
 
-bool isLoginItemEnabled() {
-    return services().loginItem.status() == platform::LoginItem::Status::enabled;
-}
-
-TaskHandle startCheck() {
-    return services().tasks.start(UpdateChecker::shared().check());
+bool isEnabled(platform::LoginItem& item) {
+    return item.status() == platform::LoginItem::Status::enabled;
 }
 
 } // namespace
 
-GeneralSettings::GeneralSettings() : launchAtLogin(isLoginItemEnabled()) {}
+GeneralSettings::GeneralSettings(const SettingsServices& services)
+    : launchAtLogin(isEnabled(services.loginItem)), services_(services) {}
 
 void GeneralSettings::appear() {
     check_ = startCheck();
+}
+
+TaskHandle GeneralSettings::startCheck() {
+    return services_.tasks.start(services_.updater.check());
 }
 
 void GeneralSettings::disappear() {
@@ -40,21 +36,21 @@ void GeneralSettings::setLaunchAtLogin(bool enabled) {
     launchAtLogin.set(enabled);
     if (!changes)
         return;
-    auto& item = services().loginItem;
+    auto& item = services_.loginItem;
     if (const auto error = enabled ? item.registerItem() : item.unregisterItem()) {
-        services().log.write("Launch-at-login error: " + *error);
-        setLaunchAtLogin(isLoginItemEnabled());
+        services_.log.write("Launch-at-login error: " + *error);
+        setLaunchAtLogin(isEnabled(item));
     }
 }
 
 void GeneralSettings::sendFeedback() const {
-    if (const auto url = feedbackURL(AppInfo::feedbackEmail()))
-        services().links.open(*url);
+    if (const auto url = feedbackURL(services_.constants.feedbackEmail))
+        services_.links.open(*url);
 }
 
 void GeneralSettings::pressUpdateButton() {
-    auto& updater = UpdateChecker::shared();
-    switch (updateCard(updater.state.get(), UpdateChecker::currentVersion()).buttonAction) {
+    auto& updater = services_.updater;
+    switch (updateCard(updater.state.get(), updater.currentVersion()).buttonAction) {
     case UpdateCard::Action::openDownload:
         updater.openDownload();
         break;
@@ -67,7 +63,7 @@ void GeneralSettings::pressUpdateButton() {
 }
 
 void GeneralSettings::quit() {
-    services().application.terminate();
+    services_.application.terminate();
 }
 
 std::optional<std::string> feedbackURL(std::string_view email) {

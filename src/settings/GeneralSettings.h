@@ -2,6 +2,7 @@
 
 #include "foundation/Published.h"
 #include "platform/TaskRunner.h"
+#include "settings/SettingsServices.h"
 
 #include <optional>
 #include <string>
@@ -13,7 +14,7 @@ namespace brellowind {
 /// login item's status is then. Main thread only.
 class GeneralSettings {
 public:
-    GeneralSettings();
+    explicit GeneralSettings(const SettingsServices& services);
     GeneralSettings(const GeneralSettings&) = delete;
     GeneralSettings& operator=(const GeneralSettings&) = delete;
 
@@ -38,6 +39,9 @@ public:
     Published<bool, GeneralSettings> launchAtLogin; ///< the value of the switch
 
 private:
+    TaskHandle startCheck();
+
+    SettingsServices services_;
     std::optional<TaskHandle> check_; ///< the one that the last appearance started
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/SettingsServices.h"
+
 namespace brellowind {
 
 /// What can be asked of the settings window from outside the library that it lives in.
@@ -14,8 +16,9 @@ public:
     virtual void open() = 0;
 };
 
-/// The function of the library that makes one, owned by the caller, and its name there.
-using MakeSettingsOpener = SettingsOpener*();
+/// The function of the library that makes one, owned by the caller, and its name there. What the
+/// services refer to must outlive it.
+using MakeSettingsOpener = SettingsOpener*(const SettingsServices& services);
 inline constexpr auto makeSettingsOpenerName = "brellowindMakeSettingsOpener";
 
 } // namespace brellowind

@@ -11,16 +11,9 @@ enum class SettingsTab { general, about };
 /// writes back what the user picks. Main thread only.
 class SettingsRouter {
 public:
-    /// The one instance. It belongs to the installed services: made on first use, dropped with
-    /// them.
-    static SettingsRouter& shared();
-
     void setSelectedTab(SettingsTab tab) { selectedTab.set(tab); }
 
     Published<SettingsTab, SettingsRouter> selectedTab{SettingsTab::general};
-
-private:
-    SettingsRouter() = default;
 };
 
 } // namespace brellowind

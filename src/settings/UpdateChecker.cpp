@@ -1,50 +1,25 @@
 #include "settings/UpdateChecker.h"
 
-#include "platform/Services.h"
-#include "platform/SharedInstance.h"
-#include "settings/AppInfo.h"
 #include "settings/UpdateFeed.h"
 #include "settings/VersionOrder.h"
 
-#include <string_view>
 #include <utility>
 
 namespace brellowind {
-namespace {
 
-using platform::services;
-
-UpdateState failure(std::string_view description) {
-    std::string line = "Update check failed: ";
-    line += description;
-    services().log.write(line);
-    return UpdateState::failed();
+std::shared_ptr<UpdateChecker> UpdateChecker::create(platform::HttpClient& http, platform::Log& log,
+                                                     platform::LinkOpener& links,
+                                                     const platform::ProductConstants& constants) {
+    return std::shared_ptr<UpdateChecker>(new UpdateChecker(http, log, links, constants));
 }
 
-/// What the answer to the request for the feed means. The HTTP status is not looked at: an error
-/// page is no feed.
-UpdateState outcome(const platform::HttpResult& result) {
-    if (const auto* error = std::get_if<platform::TransportError>(&result))
-        return failure(error->description);
-    auto feed = UpdateFeed::decode(std::get<platform::HttpResponse>(result).body);
-    if (const auto* undecodable = std::get_if<UpdateFeed::Undecodable>(&feed))
-        return failure(undecodable->description);
-    auto& release = std::get<Release>(feed);
-    if (!isNewer(release.version, UpdateChecker::currentVersion()))
-        return UpdateState::upToDate();
-    return UpdateState::available(std::move(release));
-}
+UpdateChecker::UpdateChecker(platform::HttpClient& http, platform::Log& log,
+                             platform::LinkOpener& links,
+                             const platform::ProductConstants& constants)
+    : http_(http), log_(log), links_(links), constants_(constants) {}
 
-} // namespace
-
-UpdateChecker& UpdateChecker::shared() {
-    return platform::sharedInstance<UpdateChecker>(
-        [] { return std::shared_ptr<UpdateChecker>(new UpdateChecker); });
-}
-
-std::string UpdateChecker::currentVersion() {
-    const auto& version = services().constants.version;
-    return version.empty() ? "0" : version;
+std::string UpdateChecker::currentVersion() const {
+    return constants_.version.empty() ? "0" : constants_.version;
 }
 
 Task<void> UpdateChecker::check() {
@@ -53,17 +28,37 @@ Task<void> UpdateChecker::check() {
 
 Task<void> UpdateChecker::run(std::shared_ptr<UpdateChecker> self) {
     self->state.set(State::checking());
-    platform::HttpRequest request{.url = AppInfo::updateFeedURL(),
+    platform::HttpRequest request{.url = self->constants_.updateFeedURL,
                                   .headers = {},
                                   .maximumBodyBytes = maximumBodyBytes,
                                   .cachePolicy = platform::CachePolicy::reload};
-    const auto result = co_await platform::fetch(std::move(request));
-    self->state.set(outcome(result));
+    const auto result = co_await self->http_.fetch(std::move(request));
+    self->state.set(self->outcome(result));
+}
+
+/// The HTTP status is not looked at: an error page is no feed.
+UpdateState UpdateChecker::outcome(const platform::HttpResult& result) const {
+    if (const auto* error = std::get_if<platform::TransportError>(&result))
+        return failure(error->description);
+    auto feed = UpdateFeed::decode(std::get<platform::HttpResponse>(result).body);
+    if (const auto* undecodable = std::get_if<UpdateFeed::Undecodable>(&feed))
+        return failure(undecodable->description);
+    auto& release = std::get<Release>(feed);
+    if (!isNewer(release.version, currentVersion()))
+        return State::upToDate();
+    return State::available(std::move(release));
+}
+
+UpdateState UpdateChecker::failure(std::string_view description) const {
+    std::string line = "Update check failed: ";
+    line += description;
+    log_.write(line);
+    return State::failed();
 }
 
 void UpdateChecker::openDownload() const {
     if (const auto& release = state->release())
-        services().links.open(release->url);
+        links_.open(release->url);
 }
 
 } // namespace brellowind

@@ -2,11 +2,16 @@
 
 #include "foundation/Published.h"
 #include "foundation/Task.h"
+#include "platform/HttpClient.h"
+#include "platform/LinkOpener.h"
+#include "platform/Log.h"
+#include "platform/ProductConstants.h"
 #include "settings/UpdateState.h"
 
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace brellowind {
 
@@ -20,12 +25,13 @@ public:
     /// A longer feed counts as a transport failure.
     static constexpr std::size_t maximumBodyBytes = 1024 * 1024;
 
-    /// The one instance. It belongs to the installed services: made on first use, dropped with
-    /// them. A test that installs a machine therefore begins with a checker that is idle.
-    static UpdateChecker& shared();
+    /// Idle. The services and the constants must outlive it and its checks.
+    static std::shared_ptr<UpdateChecker> create(platform::HttpClient& http, platform::Log& log,
+                                                 platform::LinkOpener& links,
+                                                 const platform::ProductConstants& constants);
 
     /// The program's own short version; "0" in a build without one.
-    static std::string currentVersion();
+    std::string currentVersion() const;
 
     /// One check, from `checking` to its outcome. A failed one, cancellation included, writes one
     /// line to the log. A check that begins while another runs sends its own request, and each
@@ -38,9 +44,17 @@ public:
     Published<State, UpdateChecker> state{State::idle()};
 
 private:
-    UpdateChecker() = default;
+    UpdateChecker(platform::HttpClient& http, platform::Log& log, platform::LinkOpener& links,
+                  const platform::ProductConstants& constants);
 
     static Task<void> run(std::shared_ptr<UpdateChecker> self);
+    State outcome(const platform::HttpResult& result) const;
+    State failure(std::string_view description) const;
+
+    platform::HttpClient& http_;
+    platform::Log& log_;
+    platform::LinkOpener& links_;
+    const platform::ProductConstants& constants_;
 };
 
 } // namespace brellowind

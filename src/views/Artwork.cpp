@@ -1,38 +1,44 @@
 #include "views/Artwork.h"
 
 #include "foundation/AbsoluteURL.h"
-#include "platform/Services.h"
 
 #include <utility>
 
 namespace brellowind {
 
-std::shared_ptr<Artwork> Artwork::create() {
-    return std::shared_ptr<Artwork>(new Artwork);
+Artwork::Artwork(TaskRunner& tasks, platform::HttpClient& http, platform::LocalFiles& files,
+                 platform::ImageDecoder& images)
+    : tasks_(tasks), http_(http), files_(files), images_(images) {}
+
+std::shared_ptr<Artwork> Artwork::create(TaskRunner& tasks, platform::HttpClient& http,
+                                         platform::LocalFiles& files,
+                                         platform::ImageDecoder& images) {
+    return std::shared_ptr<Artwork>(new Artwork(tasks, http, files, images));
 }
 
 void Artwork::load(const std::optional<std::string>& url) {
     if (url && isAbsoluteURL(*url))
-        platform::services().tasks.start(fetchInto(weak_from_this(), *url));
+        tasks_.start(fetchInto(weak_from_this(), fetchBytes(http_, files_, *url)));
     else
         image.set(nullptr);
 }
 
-Task<void> Artwork::fetchInto(std::weak_ptr<Artwork> weakArtwork, std::string url) {
-    const auto bytes = co_await fetchBytes(std::move(url));
+Task<void> Artwork::fetchInto(std::weak_ptr<Artwork> weakArtwork, Task<Bytes> fetch) {
+    const auto bytes = co_await std::move(fetch);
     const auto artwork = weakArtwork.lock();
     if (!bytes || !artwork)
         co_return;
-    if (auto decoded = platform::services().images.decode(*bytes))
+    if (auto decoded = artwork->images_.decode(*bytes, largestPoints))
         artwork->image.set(std::move(decoded));
 }
 
-Task<std::optional<std::string>> Artwork::fetchBytes(std::string url) {
+Task<Artwork::Bytes> Artwork::fetchBytes(platform::HttpClient& http, platform::LocalFiles& files,
+                                         std::string url) {
     if (url.starts_with("file:"))
-        co_return platform::services().files.read(url, maximumBytes);
+        co_return files.read(url, maximumBytes);
     platform::HttpRequest request{
         .url = std::move(url), .headers = {}, .maximumBodyBytes = maximumBytes};
-    auto result = co_await platform::fetch(std::move(request));
+    auto result = co_await http.fetch(std::move(request));
     auto* response = std::get_if<platform::HttpResponse>(&result);
     co_return response ? std::optional(std::move(response->body)) : std::nullopt;
 }

@@ -2,7 +2,10 @@
 
 #include "foundation/Published.h"
 #include "foundation/Task.h"
+#include "platform/HttpClient.h"
 #include "platform/Images.h"
+#include "platform/LocalFiles.h"
+#include "platform/TaskRunner.h"
 
 #include <cstddef>
 #include <memory>
@@ -17,7 +20,13 @@ public:
     /// A longer file is left alone like one that is no image.
     static constexpr std::size_t maximumBytes = 16 * 1024 * 1024;
 
-    static std::shared_ptr<Artwork> create();
+    /// The side of the largest square that it is drawn in.
+    static constexpr int largestPoints = 320;
+
+    /// The services must outlive it and the tasks that it starts.
+    static std::shared_ptr<Artwork> create(TaskRunner& tasks, platform::HttpClient& http,
+                                           platform::LocalFiles& files,
+                                           platform::ImageDecoder& images);
 
     /// Fetches the image at `url`, over HTTP or from a file, and shows it once it is there; until
     /// then, and for good when it cannot be had, the present one stays. Without a valid location
@@ -27,10 +36,19 @@ public:
     Published<std::shared_ptr<const platform::Image>, Artwork> image{nullptr}; ///< null: none
 
 private:
-    Artwork() = default;
+    using Bytes = std::optional<std::string>;
 
-    static Task<void> fetchInto(std::weak_ptr<Artwork> artwork, std::string url);
-    static Task<std::optional<std::string>> fetchBytes(std::string url);
+    Artwork(TaskRunner& tasks, platform::HttpClient& http, platform::LocalFiles& files,
+            platform::ImageDecoder& images);
+
+    static Task<void> fetchInto(std::weak_ptr<Artwork> artwork, Task<Bytes> fetch);
+    static Task<Bytes> fetchBytes(platform::HttpClient& http, platform::LocalFiles& files,
+                                  std::string url);
+
+    TaskRunner& tasks_;
+    platform::HttpClient& http_;
+    platform::LocalFiles& files_;
+    platform::ImageDecoder& images_;
 };
 
 } // namespace brellowind

@@ -1,9 +1,6 @@
 #include "views/NotchRootView.h"
 
-#include "platform/Services.h"
 #include "platform/Sleep.h"
-#include "settings/SettingsRouter.h"
-#include "settings/UpdateChecker.h"
 
 #include <utility>
 
@@ -18,42 +15,41 @@ constexpr std::chrono::milliseconds pulseDuration{100};
 
 } // namespace
 
-using platform::services;
-
 std::shared_ptr<NotchRootView> NotchRootView::create(Environment environment) {
     return std::shared_ptr<NotchRootView>(new NotchRootView(std::move(environment)));
 }
 
 NotchRootView::NotchRootView(Environment environment)
-    : interactivity_(std::move(environment.window)),
-      openSettings_(std::move(environment.openSettings)),
-      nextTurn_(services().mainLoop.onNextTurn([this] { refresh(); })) {
+    : environment_(std::move(environment)),
+      interactivity_(environment_.mainLoop, environment_.window),
+      nextTurn_(environment_.mainLoop.onNextTurn([this] { refresh(); })) {
     const auto redrawNextTurn = [this] { nextTurn_->request(); };
-    subscriptions_.push_back(nowPlaying_->track.observe(redrawNextTurn));
-    subscriptions_.push_back(nowPlaying_->isPlaying.observe(redrawNextTurn));
-    subscriptions_.push_back(nowPlaying_->positionSec.observe(redrawNextTurn));
-    subscriptions_.push_back(lyrics_->state.observe(redrawNextTurn));
-    subscriptions_.push_back(hover_->isInside.observe(redrawNextTurn));
-    subscriptions_.push_back(artwork_->image.observe(redrawNextTurn));
+    subscriptions_.push_back(environment_.nowPlaying->track.observe(redrawNextTurn));
+    subscriptions_.push_back(environment_.nowPlaying->isPlaying.observe(redrawNextTurn));
+    subscriptions_.push_back(environment_.nowPlaying->positionSec.observe(redrawNextTurn));
+    subscriptions_.push_back(environment_.lyrics->state.observe(redrawNextTurn));
+    subscriptions_.push_back(environment_.hover->isInside.observe(redrawNextTurn));
+    subscriptions_.push_back(environment_.artwork->image.observe(redrawNextTurn));
 }
 
 void NotchRootView::appear() {
-    nowPlaying_->start();
-    hover_->start();
+    environment_.nowPlaying->start();
+    environment_.hover->start();
 }
 
 std::string_view NotchRootView::currentLineText() const {
-    const auto& track = nowPlaying_->track.get();
+    const auto& track = environment_.nowPlaying->track.get();
     if (!track)
         return noMusicText;
-    switch (lyrics_->state->which()) {
+    switch (environment_.lyrics->state->which()) {
     case LyricsState::Case::loading:
         return loadingText;
     case LyricsState::Case::loaded: {
-        const auto active = lyrics_->activeIndex(nowPlaying_->positionSec.get());
-        if (!active || lyrics_->lines()[*active].text.empty())
+        const auto active =
+            environment_.lyrics->activeIndex(environment_.nowPlaying->positionSec.get());
+        if (!active || environment_.lyrics->lines()[*active].text.empty())
             return noteText;
-        return lyrics_->lines()[*active].text;
+        return environment_.lyrics->lines()[*active].text;
     }
     case LyricsState::Case::idle:
     case LyricsState::Case::plain:
@@ -90,7 +86,7 @@ void NotchRootView::tapCover() {
 }
 
 void NotchRootView::tapWaveform() {
-    nowPlaying_->togglePlayPause();
+    environment_.nowPlaying->togglePlayPause();
 }
 
 void NotchRootView::tapGrabber() {
@@ -111,42 +107,42 @@ void NotchRootView::tapBackground() {
 }
 
 void NotchRootView::openSettings() {
-    services().application.activate();
-    openSettings_();
+    environment_.application.activate();
+    environment_.openSettings();
 }
 
 void NotchRootView::checkForUpdates() {
-    services().application.activate();
-    SettingsRouter::shared().setSelectedTab(SettingsTab::general);
-    openSettings_();
-    services().tasks.start(UpdateChecker::shared().check());
+    environment_.application.activate();
+    environment_.router.setSelectedTab(SettingsTab::general);
+    environment_.openSettings();
+    environment_.tasks.start(environment_.updater.check());
 }
 
 void NotchRootView::quit() {
-    services().application.terminate();
+    environment_.application.terminate();
 }
 
 void NotchRootView::refresh() {
-    if (nowPlaying_->track.get() != seenTrack_)
+    if (environment_.nowPlaying->track.get() != seenTrack_)
         trackChanged();
-    const bool inside = hover_->isInside.get();
+    const bool inside = environment_.hover->isInside.get();
     if (inside != std::exchange(seenInside_, inside)) {
         form_.hovered = inside;
         interactivity_.update(inside);
     }
-    const bool playing = nowPlaying_->isPlaying.get();
+    const bool playing = environment_.nowPlaying->isPlaying.get();
     if (playing != std::exchange(seenPlaying_, playing))
         isPlayingChanged();
     redraw_->notify();
 }
 
 void NotchRootView::trackChanged() {
-    seenTrack_ = nowPlaying_->track.get();
+    seenTrack_ = environment_.nowPlaying->track.get();
     loadArtwork(seenTrack_ ? seenTrack_->artworkURL : std::nullopt);
     if (seenTrack_)
-        lyrics_->load(*seenTrack_);
+        environment_.lyrics->load(*seenTrack_);
     else
-        lyrics_->clear();
+        environment_.lyrics->clear();
 }
 
 void NotchRootView::isPlayingChanged() {
@@ -155,11 +151,12 @@ void NotchRootView::isPlayingChanged() {
     else if (!seenInside_)
         form_.isMinimized = true; // a pill that is being looked at does not shrink
     form_.playPulse = true;
-    services().tasks.start(endPulse(weak_from_this()));
+    environment_.tasks.start(endPulse(environment_.mainLoop, weak_from_this()));
 }
 
-Task<void> NotchRootView::endPulse(std::weak_ptr<NotchRootView> weakView) {
-    co_await platform::sleep(pulseDuration);
+Task<void> NotchRootView::endPulse(platform::MainLoop& mainLoop,
+                                   std::weak_ptr<NotchRootView> weakView) {
+    co_await platform::sleep(mainLoop, pulseDuration);
     if (const auto view = weakView.lock()) {
         view->form_.playPulse = false;
         view->nextTurn_->request();

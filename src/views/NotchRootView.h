@@ -6,8 +6,12 @@
 #include "lyrics/LyricsStore.h"
 #include "notch/HoverMonitor.h"
 #include "notch/WindowInteractivity.h"
+#include "platform/Application.h"
 #include "platform/MainLoop.h"
+#include "platform/TaskRunner.h"
 #include "playback/NowPlaying.h"
+#include "settings/SettingsRouter.h"
+#include "settings/UpdateChecker.h"
 #include "views/Artwork.h"
 
 #include <functional>
@@ -35,8 +39,18 @@ public:
         bool operator==(const Form&) const = default;
     };
 
-    /// What the view asks of those around it.
+    /// What the view shows and what it acts on. The references must outlive it and the tasks that
+    /// it starts; the state of the notch is its own.
     struct Environment {
+        platform::MainLoop& mainLoop;
+        TaskRunner& tasks;
+        platform::Application& application;
+        SettingsRouter& router;
+        UpdateChecker& updater;
+        std::shared_ptr<NowPlaying> nowPlaying;
+        std::shared_ptr<LyricsStore> lyrics;
+        std::shared_ptr<HoverMonitor> hover;
+        std::shared_ptr<Artwork> artwork;
         WindowInteractivity::WindowFinder window; ///< finds the window that the pill is shown in
         std::function<void()> openSettings;       ///< opens the settings window, or raises it
     };
@@ -54,16 +68,16 @@ public:
     std::string_view currentLineText() const;
 
     const Form& form() const { return form_; }
-    const NowPlaying& nowPlaying() const { return *nowPlaying_; }
-    const LyricsStore& lyrics() const { return *lyrics_; }
-    const Artwork& artwork() const { return *artwork_; }
+    const NowPlaying& nowPlaying() const { return *environment_.nowPlaying; }
+    const LyricsStore& lyrics() const { return *environment_.lyrics; }
+    const Artwork& artwork() const { return *environment_.artwork; }
 
     /// Calls `redraw` on each turn of the main loop in which something that the view shows may have
     /// changed.
     Subscription onRedraw(Observers::Callback redraw);
 
     /// The size of the pill as it is laid out, whenever that changes.
-    void sizeChanged(Size size) { hover_->currentSize = size; }
+    void sizeChanged(Size size) { environment_.hover->currentSize = size; }
 
     void hoverCover(bool inside);
     void hoverGrabber(bool inside);
@@ -86,15 +100,11 @@ private:
     void refresh();
     void trackChanged();
     void isPlayingChanged();
-    static Task<void> endPulse(std::weak_ptr<NotchRootView> view);
-    void loadArtwork(const std::optional<std::string>& url) { artwork_->load(url); }
+    static Task<void> endPulse(platform::MainLoop& mainLoop, std::weak_ptr<NotchRootView> view);
+    void loadArtwork(const std::optional<std::string>& url) { environment_.artwork->load(url); }
 
-    std::shared_ptr<NowPlaying> nowPlaying_ = NowPlaying::create();
-    std::shared_ptr<LyricsStore> lyrics_ = LyricsStore::create();
-    std::shared_ptr<HoverMonitor> hover_ = HoverMonitor::create();
-    std::shared_ptr<Artwork> artwork_ = Artwork::create();
+    Environment environment_;
     WindowInteractivity interactivity_;
-    std::function<void()> openSettings_;
     Form form_;
     std::optional<Track> seenTrack_;
     bool seenInside_ = false;

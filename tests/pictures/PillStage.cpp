@@ -88,7 +88,7 @@ void PillStage::play(const QString& title, const QString& artist, const QString&
     spotify_.playSong(title.toStdString());
     spotify_.artist = artist.toStdString();
     spotify_.artwork = withCover ? "https://covers.example/cover.png" : "";
-    spotify_.state = "playing";
+    spotify_.plays = true;
     spotify_.launch();
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/qt/QtImageDecoder.h"
-#include "support/FakeSpotify.h"
 #include "support/TestMachine.h"
 #include "views/NotchRootView.h"
 #include "views/NotchView.h"
@@ -65,7 +64,7 @@ private:
     TestMachine machine_;
     platform::QtImageDecoder images_;
     platform::ServicesScope scope_;
-    FakeSpotify spotify_{machine_};
+    FakePlayer spotify_{machine_};
     std::shared_ptr<NotchRootView> root_;
     std::unique_ptr<NotchView> content_;
     std::string lyrics_;

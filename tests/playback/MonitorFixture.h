@@ -1,7 +1,7 @@
 #pragma once
 
 #include "playback/NowPlaying.h"
-#include "support/FakeSpotify.h"
+#include "support/TestMachine.h"
 
 #include <cmath>
 #include <memory>
@@ -16,8 +16,21 @@ inline constexpr double tolerance = 1e-9; ///< seconds
 /// A monitor and the player it watches.
 struct Monitor {
     TestMachine machine;
-    FakeSpotify spotify{machine};
-    std::shared_ptr<NowPlaying> nowPlaying = NowPlaying::create();
+    FakePlayer& spotify = machine.player;
+    std::shared_ptr<NowPlaying> nowPlaying =
+        NowPlaying::create(machine.mainLoop, machine.tasks, machine.clock, machine.player);
+
+    /// Starts the monitor, and lets the player answer where it does so at once.
+    void start() {
+        nowPlaying->start();
+        machine.mainLoop.runTurns();
+    }
+
+    void toggle() {
+        nowPlaying->togglePlayPause();
+        machine.mainLoop.runTurns();
+    }
+
 
     void advance(std::chrono::milliseconds duration) { machine.mainLoop.advance(duration); }
     double position() const { return nowPlaying->positionSec.get(); }

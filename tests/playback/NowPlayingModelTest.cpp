@@ -21,8 +21,6 @@ struct Step {
         launch,
         quit,
         fail,
-        answerNothing,
-        answerHalf,
         succeed,
         disobey,
         obey,
@@ -37,9 +35,9 @@ struct Step {
 
 std::ostream& operator<<(std::ostream& out, const Step& step) {
     const char* const kinds[] = {
-        "advance by ms",   "play song",    "seek to", "play",    "pause", "launch", "quit",  "fail",
-        "answer nothing",  "answer half",  "succeed", "disobey", "obey",  "toggle", "start", "stop",
-        "put clock by ms", "answer in ms",
+        "advance by ms", "play song", "seek to",         "play",         "pause", "launch",
+        "quit",          "fail",      "succeed",         "disobey",      "obey",  "toggle",
+        "start",         "stop",      "put clock by ms", "answer in ms",
     };
     return out << kinds[step.kind] << ' ' << step.number;
 }
@@ -64,18 +62,15 @@ Step anyStep(test::Chance& chance) {
     case 8:
         return {chance.oneOf<Step::Kind>({Step::play, Step::play, Step::pause})};
     default:
-        return {
-            chance.oneOf<Step::Kind>({Step::launch, Step::quit, Step::fail, Step::answerNothing,
-                                      Step::answerHalf, Step::succeed, Step::disobey, Step::obey})};
+        return {chance.oneOf<Step::Kind>(
+            {Step::launch, Step::quit, Step::fail, Step::succeed, Step::disobey, Step::obey})};
     }
 }
 
 /// The player as it is, for the program and for the model.
 struct Player {
-    enum class Manner { truth, error, nothing, half };
-
     bool runs = true;
-    Manner manner = Manner::truth;
+    bool readable = true;
     bool obeys = true;
     bool plays = false;
     int song = 0; ///< 2 and 3 are one song with two lengths
@@ -104,16 +99,21 @@ public:
         poll();
         alarms_.push_back({now_ + 1000, 1000, &Model::poll});
         alarms_.push_back({now_ + 50, 50, &Model::tick});
+        runDue();
     }
 
     void stop() {
-        std::erase_if(alarms_, [](const Alarm& alarm) { return alarm.interval > 0; });
+        std::erase_if(alarms_, [](const Alarm& alarm) {
+            return alarm.interval > 0 || alarm.action == &Model::answer;
+        });
+        asking_ = false;
     }
 
     void toggle() {
         assignments += 'p';
         isPlaying = !isPlaying;
-        if (player.manner != Player::Manner::error && player.obeys)
+        toggledSinceQuestion_ = true;
+        if (player.readable && player.obeys)
             player.plays = !player.plays;
         alarms_.push_back({now_ + 150, 0, &Model::poll});
     }
@@ -122,18 +122,23 @@ public:
         for (; milliseconds > 0; --milliseconds) {
             ++now_;
             ++clockMs;
-            for (std::size_t i = 0; i < alarms_.size(); ++i)
-                if (alarms_[i].due == now_) {
-                    alarms_[i].due += alarms_[i].interval;
-                    (this->*alarms_[i].action)();
-                }
-            std::erase_if(alarms_, [this](const Alarm& alarm) { return alarm.due == now_; });
+            runDue();
         }
     }
 
     std::size_t alarms() const { return alarms_.size(); }
 
 private:
+    /// What becomes due meanwhile at the same moment runs last.
+    void runDue() {
+        for (std::size_t i = 0; i < alarms_.size(); ++i)
+            if (alarms_[i].due == now_) {
+                alarms_[i].due += alarms_[i].interval;
+                (this->*alarms_[i].action)();
+            }
+        std::erase_if(alarms_, [this](const Alarm& alarm) { return alarm.due == now_; });
+    }
+
     struct Alarm {
         int due;
         int interval; ///< 0: once
@@ -141,6 +146,23 @@ private:
     };
 
     void poll() {
+        if (asking_)
+            return;
+        asking_ = true;
+        toggledSinceQuestion_ = false;
+        alarms_.push_back({now_, 0, &Model::ask});
+    }
+
+    void ask() {
+        ++readings;
+        if (player.answerMs > 0)
+            alarms_.push_back({now_ + player.answerMs, 0, &Model::answer});
+        else
+            answer();
+    }
+
+    void answer() {
+        asking_ = false;
         if (!player.runs) {
             if (title != "absent") {
                 title = "absent";
@@ -149,18 +171,19 @@ private:
             }
             return;
         }
-        ++readings;
-        if (player.manner != Player::Manner::truth)
+        if (!player.readable)
             return;
-        clockMs += player.answerMs;
         if (title != player.title()) {
             title = player.title();
             lengthMs = 1000.0 * player.song;
             assignments += 't';
         }
-        isPlaying = player.plays;
+        if (!toggledSinceQuestion_) {
+            isPlaying = player.plays;
+            assignments += 'p';
+        }
         position = player.position;
-        assignments += "ps";
+        assignments += 's';
         syncedMs_ = clockMs;
     }
 
@@ -172,6 +195,8 @@ private:
         assignments += 's';
     }
 
+    bool asking_ = false;
+    bool toggledSinceQuestion_ = false;
     int now_ = 0;
     int syncedMs_ = 0;
     std::vector<Alarm> alarms_; ///< in the order in which they were set
@@ -204,16 +229,16 @@ private:
             model_.advance(step.number);
             break;
         case Step::toggle:
-            nowPlaying().togglePlayPause();
-            monitor_.machine.mainLoop.runTurns();
+            monitor_.toggle();
             model_.toggle();
             break;
         case Step::start:
-            nowPlaying().start();
+            monitor_.start();
             model_.start();
             break;
         case Step::stop:
             nowPlaying().stop();
+            monitor_.machine.mainLoop.runTurns();
             model_.stop();
             break;
         default:
@@ -243,16 +268,8 @@ private:
             player.runs = step.kind == Step::launch;
             break;
         case Step::fail:
-            player.manner = Player::Manner::error;
-            break;
-        case Step::answerNothing:
-            player.manner = Player::Manner::nothing;
-            break;
-        case Step::answerHalf:
-            player.manner = Player::Manner::half;
-            break;
         case Step::succeed:
-            player.manner = Player::Manner::truth;
+            player.readable = step.kind == Step::succeed;
             break;
         case Step::disobey:
         case Step::obey:
@@ -273,19 +290,12 @@ private:
         auto& spotify = monitor_.spotify;
         player.runs ? spotify.launch() : spotify.quit();
         spotify.title = player.title();
-        spotify.duration = std::to_string(1000 * player.song);
-        spotify.position = std::to_string(player.position);
-        spotify.state = player.plays ? "playing" : "paused";
+        spotify.durationMs = 1000 * player.song;
+        spotify.position = player.position;
+        spotify.plays = player.plays;
         spotify.obeysToggles = player.obeys;
         spotify.answerTime = std::chrono::milliseconds(player.answerMs);
-        spotify.error.reset();
-        if (player.manner == Player::Manner::error)
-            spotify.error = "as the test says";
-        spotify.record.reset();
-        if (player.manner == Player::Manner::nothing)
-            spotify.record = "";
-        if (player.manner == Player::Manner::half)
-            spotify.record = "Half\x1F of a\x1F record";
+        spotify.readable = player.readable;
     }
 
     test::Disagreement difference() const {

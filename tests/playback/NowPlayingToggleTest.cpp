@@ -13,11 +13,11 @@ using test::tolerance;
 
 TEST(NowPlayingToggle, WhilePlayingPausesAtOnceAndTellsThePlayer) {
     Monitor monitor;
-    monitor.spotify.position = "10";
-    monitor.spotify.state = "playing";
-    monitor.nowPlaying->start();
+    monitor.spotify.position = 10;
+    monitor.spotify.plays = true;
+    monitor.start();
     Journal journal(*monitor.nowPlaying);
-    monitor.nowPlaying->togglePlayPause();
+    monitor.toggle();
     EXPECT_FALSE(monitor.nowPlaying->isPlaying.get());
     EXPECT_EQ(journal.take(), Entries{"isPlaying: Song, playing, 10000 ms"});
     EXPECT_EQ(monitor.spotify.toggles(), 1U);
@@ -26,23 +26,37 @@ TEST(NowPlayingToggle, WhilePlayingPausesAtOnceAndTellsThePlayer) {
 
 TEST(NowPlayingToggle, FlipsTheFlagBeforeTheCommandIsSent) {
     Monitor monitor;
-    monitor.nowPlaying->start();
-    bool flippedBefore = false;
-    monitor.machine.scripting.answer = [&](const auto&) {
-        flippedBefore = monitor.nowPlaying->isPlaying.get();
-        return platform::ScriptOutcome{};
-    };
-    monitor.nowPlaying->togglePlayPause();
-    EXPECT_TRUE(flippedBefore);
+    monitor.start();
+    std::size_t commandsBefore = 1;
+    const auto subscription =
+        monitor.nowPlaying->isPlaying.observe([&] { commandsBefore = monitor.spotify.toggles(); });
+    monitor.toggle();
+    EXPECT_EQ(commandsBefore, 0U);
+    EXPECT_EQ(monitor.spotify.toggles(), 1U);
+}
+
+TEST(NowPlayingToggle, IsNotUndoneByAnAnswerThatWasAskedForBeforeIt) {
+    Monitor monitor;
+    monitor.start();
+    monitor.spotify.answerTime = 600ms;
+    monitor.spotify.obeysToggles = false; // the answers tell of a player that is still paused
+    monitor.advance(1s);
+    monitor.spotify.position = 5;
+    monitor.toggle();
+    monitor.advance(600ms);
+    EXPECT_EQ(monitor.position(), 5);
+    EXPECT_TRUE(monitor.nowPlaying->isPlaying.get());
+    monitor.advance(1s); // the next question has been answered
+    EXPECT_FALSE(monitor.nowPlaying->isPlaying.get());
 }
 
 TEST(NowPlayingToggle, IsConfirmedByAReading150MillisecondsLater) {
     Monitor monitor;
-    monitor.spotify.state = "playing";
-    monitor.nowPlaying->start();
+    monitor.spotify.plays = true;
+    monitor.start();
     monitor.advance(300ms);
     monitor.spotify.obeysToggles = false;
-    monitor.nowPlaying->togglePlayPause();
+    monitor.toggle();
     monitor.advance(149ms);
     EXPECT_EQ(monitor.spotify.readings(), 1U);
     EXPECT_FALSE(monitor.nowPlaying->isPlaying.get());
@@ -54,24 +68,24 @@ TEST(NowPlayingToggle, IsConfirmedByAReading150MillisecondsLater) {
 
 TEST(NowPlayingToggle, ThatThePlayerObeysStays) {
     Monitor monitor;
-    monitor.spotify.state = "playing";
-    monitor.nowPlaying->start();
-    monitor.nowPlaying->togglePlayPause();
+    monitor.spotify.plays = true;
+    monitor.start();
+    monitor.toggle();
     monitor.advance(3s);
     EXPECT_FALSE(monitor.nowPlaying->isPlaying.get());
-    EXPECT_EQ(monitor.spotify.state, "paused");
+    EXPECT_FALSE(monitor.spotify.plays);
 }
 
 TEST(NowPlayingToggle, WhilePausedAdvancesByTheTimeSinceTheLastReadingUntilConfirmed) {
     Monitor monitor;
-    monitor.spotify.position = "10";
-    monitor.nowPlaying->start();
+    monitor.spotify.position = 10;
+    monitor.start();
     monitor.advance(400ms);
-    monitor.nowPlaying->togglePlayPause();
+    monitor.toggle();
     EXPECT_EQ(monitor.position(), 10);
     monitor.advance(50ms);
     EXPECT_NEAR(monitor.position(), 10.45, tolerance);
-    monitor.spotify.position = "10.15";
+    monitor.spotify.position = 10.15;
     monitor.advance(100ms);
     EXPECT_NEAR(monitor.position(), 10.15, tolerance);
     monitor.advance(50ms);
@@ -80,23 +94,22 @@ TEST(NowPlayingToggle, WhilePausedAdvancesByTheTimeSinceTheLastReadingUntilConfi
 
 TEST(NowPlayingToggle, WhoseConfirmationFailsStaysUntilAReadingSucceeds) {
     Monitor monitor;
-    monitor.nowPlaying->start();
-    monitor.spotify.error = "not allowed";
-    monitor.nowPlaying->togglePlayPause();
+    monitor.start();
+    monitor.spotify.readable = false;
+    monitor.toggle();
     monitor.advance(900ms);
     EXPECT_TRUE(monitor.nowPlaying->isPlaying.get());
-    EXPECT_EQ(monitor.machine.log.lines.size(), 2U); // the command and the confirmation
-    monitor.spotify.error.reset();
+    monitor.spotify.readable = true;
     monitor.advance(100ms);
     EXPECT_FALSE(monitor.nowPlaying->isPlaying.get());
 }
 
 TEST(NowPlayingToggle, TwiceInARowConfirmsTwice) {
     Monitor monitor;
-    monitor.nowPlaying->start();
-    monitor.nowPlaying->togglePlayPause();
+    monitor.start();
+    monitor.toggle();
     monitor.advance(100ms);
-    monitor.nowPlaying->togglePlayPause();
+    monitor.toggle();
     EXPECT_FALSE(monitor.nowPlaying->isPlaying.get());
     monitor.advance(50ms);
     EXPECT_EQ(monitor.spotify.readings(), 2U);
@@ -108,8 +121,8 @@ TEST(NowPlayingToggle, TwiceInARowConfirmsTwice) {
 TEST(NowPlayingToggle, WithThePlayerGoneClearsNothingMoreThanAReadingDoes) {
     Monitor monitor;
     monitor.spotify.quit();
-    monitor.nowPlaying->start();
-    monitor.nowPlaying->togglePlayPause();
+    monitor.start();
+    monitor.toggle();
     monitor.advance(150ms);
     EXPECT_EQ(monitor.spotify.toggles(), 1U);
     EXPECT_TRUE(monitor.nowPlaying->isPlaying.get()); // without a track there is nothing to take
@@ -117,7 +130,7 @@ TEST(NowPlayingToggle, WithThePlayerGoneClearsNothingMoreThanAReadingDoes) {
 
 TEST(NowPlayingToggle, ConfirmsAlsoWhenStopped) {
     Monitor monitor;
-    monitor.nowPlaying->togglePlayPause();
+    monitor.toggle();
     monitor.advance(150ms);
     EXPECT_EQ(monitor.spotify.readings(), 1U);
     EXPECT_EQ(monitor.title(), "Song");

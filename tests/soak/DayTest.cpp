@@ -59,10 +59,10 @@ public:
         checks_.cancel();
         view_.machine.mainLoop.runTurns();
         view_.spotify.launch();
-        view_.spotify.error.reset();
+        view_.spotify.readable = true;
         view_.spotify.record.reset();
         view_.spotify.artwork.clear();
-        view_.spotify.state = "paused";
+        view_.spotify.plays = false;
         answerAll();
         view_.spotify.playSong("At the end");
         view_.view.checkForUpdates();
@@ -138,10 +138,10 @@ private:
 
     void failOrSucceed() {
         auto& spotify = view_.spotify;
-        spotify.error.reset();
+        spotify.readable = true;
         spotify.record.reset();
         if (chance_.onceIn(4))
-            spotify.error = "as the test says";
+            spotify.readable = false;
         else if (chance_.onceIn(4))
             spotify.record = "half a record";
     }

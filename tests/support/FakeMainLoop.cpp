@@ -27,7 +27,8 @@ public:
             due = milliseconds::max();
         if (resting_)
             return;
-        ++loop_.wakeUps_;
+        if (std::exchange(loop_.lastWakeUp_, loop_.now_) != loop_.now_)
+            ++loop_.wakeUps_;
         (*handler)();
     }
 

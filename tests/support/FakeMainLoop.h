@@ -22,7 +22,7 @@ public:
     void advance(std::chrono::milliseconds duration);
 
     std::chrono::milliseconds elapsed() const { return now_; }
-    std::size_t wakeUps() const { return wakeUps_; } ///< how often a timer has fired
+    std::size_t wakeUps() const { return wakeUps_; } ///< at how many moments timers have fired
     std::size_t timerCount() const { return timers_.size(); }
     std::size_t nextTurnCount() const { return nextTurns_.size(); }
 
@@ -38,6 +38,7 @@ private:
 
     std::chrono::milliseconds now_{0};
     std::size_t wakeUps_ = 0;
+    std::chrono::milliseconds lastWakeUp_{-1};
     std::list<FakeTimer*> timers_; ///< in order of scheduling
     std::list<FakeNextTurn*> nextTurns_;
 };

@@ -22,10 +22,6 @@ private:
 
 } // namespace
 
-std::size_t FakeScripting::count(std::string_view source) const {
-    return static_cast<std::size_t>(std::ranges::count(executed, source));
-}
-
 std::unique_ptr<platform::Transfer> FakeHttpClient::send(const platform::HttpRequest& request,
                                                          Completion completion) {
     requests.push_back(std::make_shared<Pending>(request, std::move(completion)));
@@ -49,45 +45,6 @@ std::optional<std::string> FakeLoginItem::attempt(std::string_view name,
     if (!error)
         current = outcome;
     return error;
-}
-
-TestMachine::TestMachine()
-    : constants{.version = "1.0",
-                .lyricsOrigin = "https://lyrics.example",
-                .websiteURL = "https://brellowind.example",
-                .socialURL = "https://social.example/brellowind",
-                .privacyPolicyURL = "https://brellowind.example/privacy",
-                .termsURL = "https://brellowind.example/terms",
-                .feedbackEmail = "feedback@brellowind.example",
-                .updateFeedURL = "https://brellowind.example/latest.json",
-                .legalNotice = "© brellowind.example"},
-      scope_(services(mainLoop, tasks, images)) {}
-
-platform::Services TestMachine::with(platform::MainLoop& otherLoop, TaskRunner& otherTasks) {
-    return services(otherLoop, otherTasks, images);
-}
-
-platform::Services TestMachine::with(platform::ImageDecoder& otherImages) {
-    return services(mainLoop, tasks, otherImages);
-}
-
-platform::Services TestMachine::services(platform::MainLoop& anyLoop, TaskRunner& anyTasks,
-                                         platform::ImageDecoder& anyImages) {
-    return {.mainLoop = anyLoop,
-            .tasks = anyTasks,
-            .clock = clock,
-            .log = log,
-            .http = http,
-            .images = anyImages,
-            .files = files,
-            .scripting = scripting,
-            .runningApplications = runningApplications,
-            .screens = screens,
-            .pointer = pointer,
-            .application = application,
-            .links = links,
-            .loginItem = loginItem,
-            .constants = constants};
 }
 
 } // namespace brellowind::test

@@ -1,11 +1,20 @@
 #pragma once
 
-#include "platform/Services.h"
+#include "platform/Application.h"
+#include "platform/Clock.h"
+#include "platform/HttpClient.h"
+#include "platform/Images.h"
+#include "platform/LinkOpener.h"
+#include "platform/LocalFiles.h"
+#include "platform/Log.h"
+#include "platform/LoginItem.h"
+#include "platform/ProductConstants.h"
+#include "platform/TaskRunner.h"
 #include "support/FakeMainLoop.h"
+#include "support/FakePlayer.h"
 #include "support/FakePointer.h"
 #include "support/FakeScreens.h"
 
-#include <functional>
 #include <list>
 #include <map>
 #include <optional>
@@ -35,37 +44,11 @@ public:
     std::vector<std::string> lines;
 };
 
-/// Answers every script with what `answer` returns and remembers the scripts.
-class FakeScripting final : public platform::Scripting {
-public:
-    platform::ScriptOutcome execute(std::string_view source) override {
-        executed.emplace_back(source);
-        return answer(executed.back());
-    }
-
-    /// How often `source` was executed.
-    std::size_t count(std::string_view source) const;
-
-    std::function<platform::ScriptOutcome(const std::string&)> answer = [](const auto&) {
-        return platform::ScriptOutcome{};
-    };
-    std::vector<std::string> executed;
-};
-
-class FakeRunningApplications final : public platform::RunningApplications {
-public:
-    std::vector<std::optional<std::string>> bundleIdentifiers() override {
-        ++readings;
-        return running;
-    }
-
-    std::vector<std::optional<std::string>> running;
-    int readings = 0;
-};
-
 /// Holds every request until the test answers it.
 class FakeHttpClient final : public platform::HttpClient {
 public:
+    using platform::HttpClient::HttpClient;
+
     struct Pending {
         platform::HttpRequest request;
         Completion completion;
@@ -140,7 +123,8 @@ public:
 /// Decodes whatever begins with "image".
 class FakeImageDecoder final : public platform::ImageDecoder {
 public:
-    std::shared_ptr<const platform::Image> decode(std::string_view bytes) override {
+    std::shared_ptr<const platform::Image> decode(std::string_view bytes,
+                                                  int /*largestPoints*/) override {
         return bytes.starts_with("image") ? std::make_shared<FakeImage>(bytes) : nullptr;
     }
 };
@@ -158,37 +142,32 @@ public:
     std::map<std::string, std::string> contents;
 };
 
-/// The whole machine of one test, installed for as long as it lives.
-class TestMachine {
-public:
-    TestMachine();
-
+/// The whole machine of one test.
+struct TestMachine {
     FakeMainLoop mainLoop;
     TaskRunner tasks{mainLoop};
     FakeClock clock{mainLoop};
     FakeLog log;
-    FakeHttpClient http;
+    FakeHttpClient http{mainLoop};
     FakeImageDecoder images;
     FakeLocalFiles files;
-    FakeScripting scripting;
-    FakeRunningApplications runningApplications;
+    FakePlayer player{mainLoop};
     FakeScreens screens; ///< none at first
     FakePointer pointer;
     FakeApplication application;
     FakeLinkOpener links;
     FakeLoginItem loginItem;
-    platform::ProductConstants constants;
-
-    /// The services of this machine with another main loop and its tasks, or with another decoder,
-    /// for a scope of the test's own.
-    platform::Services with(platform::MainLoop& otherLoop, TaskRunner& otherTasks);
-    platform::Services with(platform::ImageDecoder& otherImages);
-
-private:
-    platform::Services services(platform::MainLoop& anyLoop, TaskRunner& anyTasks,
-                                platform::ImageDecoder& anyImages);
-
-    platform::ServicesScope scope_;
+    platform::ProductConstants constants{
+        .version = "1.0",
+        .lyricsOrigin = "https://lyrics.example",
+        .websiteURL = "https://brellowind.example",
+        .socialURL = "https://social.example/brellowind",
+        .privacyPolicyURL = "https://brellowind.example/privacy",
+        .termsURL = "https://brellowind.example/terms",
+        .feedbackEmail = "feedback@brellowind.example",
+        .updateFeedURL = "https://brellowind.example/latest.json",
+        .legalNotice = "© brellowind.example",
+    };
 };
 
 } // namespace brellowind::test

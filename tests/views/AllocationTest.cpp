@@ -1,4 +1,4 @@
-#include "support/FakeSpotify.h"
+#include "support/TestMachine.h"
 #include "views/NotchRootView.h"
 
 #include <cstddef>
@@ -90,8 +90,8 @@ std::size_t allocationsDuring(Work work) {
 struct PlayingView {
     PlayingView() {
         spotify.title = "A title that is too long for the small buffer of a string";
-        spotify.state = "playing";
-        spotify.position = "12";
+        spotify.plays = true;
+        spotify.position = 12;
         view.appear();
         machine.mainLoop.runTurns();
         machine.http.answer(0, platform::HttpResponse{200, body()});
@@ -107,7 +107,7 @@ struct PlayingView {
     }
 
     test::TestMachine machine;
-    test::FakeSpotify spotify{machine};
+    test::FakePlayer& spotify = machine.player;
     std::shared_ptr<NotchRootView> root =
         NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
     NotchRootView& view = *root;
@@ -157,7 +157,7 @@ TEST(Allocation, TicksThatChangeNoLineMakeNone) {
 
 TEST(Allocation, TicksThatChangeTheLineMakeNoneEither) {
     PlayingView playing;
-    playing.spotify.position = "19.5";
+    playing.spotify.position = 19.5;
     playing.machine.mainLoop.advance(1s);
     const std::string before(playing.view.currentLineText());
     EXPECT_EQ(allocationsDuring([&] { playing.machine.mainLoop.advance(950ms); }), 0U);
@@ -166,7 +166,7 @@ TEST(Allocation, TicksThatChangeTheLineMakeNoneEither) {
 
 TEST(Allocation, TicksOfAPausedPlayerMakeNone) {
     PlayingView playing;
-    playing.spotify.state = "paused";
+    playing.spotify.plays = false;
     playing.machine.mainLoop.advance(1s);
     ASSERT_FALSE(playing.view.nowPlaying().isPlaying.get());
     EXPECT_EQ(allocationsDuring([&] { playing.machine.mainLoop.advance(999ms); }), 0U);

@@ -97,7 +97,7 @@ TEST_F(NotchRootViewArtwork, IsRedrawnWhenItArrives) {
 
 TEST_F(NotchRootViewArtwork, IsFetchedOncePerSong) {
     view.advance(10s);
-    view.spotify.state = "playing";
+    view.spotify.plays = true;
     view.spotify.artwork = cover("late");
     view.advance(10s);
     EXPECT_EQ(fetches().size(), 1U);

@@ -272,7 +272,7 @@ TEST_F(NotchRootViewPulse, ComesWithEveryPlayAndEveryPause) {
 }
 
 TEST_F(NotchRootViewPulse, ComesWithAChangeThatTheReadingFinds) {
-    view.spotify.state = "playing";
+    view.spotify.plays = true;
     view.advance(1s);
     EXPECT_TRUE(pulses());
 }

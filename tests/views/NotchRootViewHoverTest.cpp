@@ -144,7 +144,7 @@ TEST(NotchRootViewInteractivity, IsSwitchedOnATurnAfterTheRedraw) {
 
 TEST(NotchRootViewInteractivity, IsLeftAloneWhileThePointerStaysInOrOut) {
     View view;
-    view.spotify.state = "playing";
+    view.spotify.plays = true;
     view.appear();
     view.movePointer(View::overThePill);
     ASSERT_EQ(view.window.calls.size(), 1U);

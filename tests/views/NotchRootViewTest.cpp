@@ -51,7 +51,7 @@ TEST(NotchRootViewText, SaysThatLyricsAreLoading) {
 
 TEST(NotchRootViewText, FollowsTheSongLineByLine) {
     View view;
-    view.spotify.state = "playing";
+    view.spotify.plays = true;
     view.appearAnswered(synced(R"([00:00.20]one\n[00:00.40]\n[00:00.60]three)"));
     EXPECT_EQ(view.text(), "♪") << "before the first line";
     view.advance(150ms);
@@ -66,24 +66,24 @@ TEST(NotchRootViewText, FollowsTheSongLineByLine) {
 
 TEST(NotchRootViewText, StaysOnTheLastLineToTheEnd) {
     View view;
-    view.spotify.position = "100000";
+    view.spotify.position = 100000;
     view.appearAnswered(synced(R"([00:01.00]one\n[00:02.00]last)"));
     EXPECT_EQ(view.text(), "last");
 }
 
 TEST(NotchRootViewText, ShowsALineUnchanged) {
     View view;
-    view.spotify.position = "5";
+    view.spotify.position = 5;
     view.appearAnswered(synced("[00:01.00]\\u200b 夜に駆ける 🎵 \\r"));
     EXPECT_EQ(view.text(), "\u200B 夜に駆ける 🎵 \r");
 }
 
 TEST(NotchRootViewText, GoesBackWithThePlayer) {
     View view;
-    view.spotify.position = "5";
+    view.spotify.position = 5;
     view.appearAnswered(synced(R"([00:01.00]one\n[00:04.00]two)"));
     EXPECT_EQ(view.text(), "two");
-    view.spotify.position = "2";
+    view.spotify.position = 2;
     view.advance(1s);
     EXPECT_EQ(view.text(), "one");
 }
@@ -97,7 +97,7 @@ TEST(NotchRootViewText, IsTheTitleWithoutSyncedLyrics) {
     };
     for (const auto& [answer, state] : answers) {
         View view;
-        view.spotify.position = "5";
+        view.spotify.position = 5;
         view.appearAnswered(answer);
         EXPECT_EQ(view.lyricsCase(), state);
         EXPECT_EQ(view.text(), "Song");
@@ -113,7 +113,7 @@ TEST(NotchRootViewText, OfAnUntitledSongWithoutLyricsIsEmpty) {
 
 TEST(NotchRootViewText, SaysThatNothingPlaysFromTheReadingThatMissesThePlayer) {
     View view;
-    view.spotify.position = "5";
+    view.spotify.position = 5;
     view.appearAnswered(synced("[00:01.00]one"));
     ASSERT_EQ(view.text(), "one");
     view.spotify.quit();
@@ -125,12 +125,12 @@ TEST(NotchRootViewText, SaysThatNothingPlaysFromTheReadingThatMissesThePlayer) {
 
 TEST(NotchRootViewLoad, IsStartedOncePerSong) {
     View view;
-    view.spotify.state = "playing";
+    view.spotify.plays = true;
     view.appearAnswered(TransportError{"no route"});
     view.advance(10s);
-    view.spotify.duration = "1";
+    view.spotify.durationMs = 1;
     view.spotify.artwork = "https://covers.example/late";
-    view.spotify.state = "paused";
+    view.spotify.plays = false;
     view.advance(10s);
     EXPECT_EQ(view.spotify.readings(), 21U);
     EXPECT_EQ(view.requests(), 1U);
@@ -141,7 +141,7 @@ TEST(NotchRootViewLoad, FollowsTheSongAndDropsTheEarlierOne) {
     view.view.appear();
     view.runTurns();
     view.spotify.playSong("Next");
-    view.spotify.position = "5";
+    view.spotify.position = 5;
     view.advance(1s);
     EXPECT_EQ(view.text(), "Loading lyrics…");
     ASSERT_EQ(view.requests(), 2U);
@@ -154,10 +154,10 @@ TEST(NotchRootViewLoad, FollowsTheSongAndDropsTheEarlierOne) {
 
 TEST(NotchRootViewLoad, ASongChangeTakesTheOldLinesAway) {
     View view;
-    view.spotify.position = "5";
+    view.spotify.position = 5;
     view.appearAnswered(synced("[00:01.00]line of song"));
     view.spotify.playSong("Next");
-    view.spotify.position = "5";
+    view.spotify.position = 5;
     view.advance(1s);
     EXPECT_EQ(view.text(), "Loading lyrics…");
     EXPECT_TRUE(view.view.lyrics().lines().empty());
@@ -212,7 +212,7 @@ TEST(NotchRootViewRedraw, ComesOnceATurnHoweverMuchChanges) {
 
 TEST(NotchRootViewRedraw, ComesWithEveryTickWhilePlaying) {
     View view;
-    view.spotify.state = "playing";
+    view.spotify.plays = true;
     view.appearAnswered(HttpResponse{404, ""});
     view.advance(100ms); // the pulse of the beginning ends
     int redraws = 0;
@@ -251,7 +251,7 @@ TEST(NotchRootViewRedraw, FindsTheLoadOfANewSongUnderWay) {
 
 TEST(NotchRootViewRedraw, EndsWithItsSubscription) {
     View view;
-    view.spotify.state = "playing";
+    view.spotify.plays = true;
     view.view.appear();
     int redraws = 0;
     auto subscription = view.view.onRedraw([&] { ++redraws; });
@@ -265,7 +265,7 @@ TEST(NotchRootViewRedraw, EndsWithItsSubscription) {
 
 TEST(NotchRootViewLifetime, EndsWithAllItsTimers) {
     test::TestMachine machine;
-    test::FakeSpotify spotify(machine);
+    test::FakePlayer spotify(machine);
     {
         const auto view =
             NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});

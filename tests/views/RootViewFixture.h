@@ -1,7 +1,7 @@
 #pragma once
 
 #include "support/FakeOverlayWindow.h"
-#include "support/FakeSpotify.h"
+#include "support/TestMachine.h"
 #include "views/NotchRootView.h"
 
 #include <chrono>
@@ -29,7 +29,7 @@ struct View {
     }
 
     TestMachine machine;
-    FakeSpotify spotify{machine};
+    FakePlayer& spotify = machine.player;
     FakeOverlayWindow window;
     int settingsOpenings = 0;
     std::function<void()> onSettingsOpening = [] {};
@@ -70,13 +70,13 @@ struct View {
 
     /// The player begins, or goes on, to play; the next reading finds out.
     void resume() {
-        spotify.state = "playing";
+        spotify.plays = true;
         advance(std::chrono::seconds(1));
     }
 
     /// The player pauses; the next reading finds out.
     void pause() {
-        spotify.state = "paused";
+        spotify.plays = false;
         advance(std::chrono::seconds(1));
     }
 };

@@ -9,6 +9,8 @@ namespace brellowind::platform {
 /// HTTP through one `QNetworkAccessManager`.
 class QtHttpClient final : public HttpClient {
 public:
+    using HttpClient::HttpClient;
+
     std::unique_ptr<Transfer> send(const HttpRequest& request, Completion completion) override;
 
 private:

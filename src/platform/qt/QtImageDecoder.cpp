@@ -51,11 +51,11 @@ QRect middleSquare(QSize size) {
 
 } // namespace
 
-QtImageDecoder::QtImageDecoder(int largestPoints) : largestPoints_(largestPoints) {
+QtImageDecoder::QtImageDecoder() {
     QImageReader::setAllocationLimit(maximumDecodedBytes / (1024 * 1024));
 }
 
-std::shared_ptr<const Image> QtImageDecoder::decode(std::string_view bytes) {
+std::shared_ptr<const Image> QtImageDecoder::decode(std::string_view bytes, int largestPoints) {
     const QByteArray format = formatOf(bytes);
     if (format.isEmpty())
         return nullptr;
@@ -68,7 +68,7 @@ std::shared_ptr<const Image> QtImageDecoder::decode(std::string_view bytes) {
     const QSize size = reader.size();
     if (size.isEmpty() || decodedBytes(reader, isAnimation(bytes)) > maximumDecodedBytes)
         return nullptr;
-    const int side = static_cast<int>(std::ceil(largestPoints_ * qGuiApp->devicePixelRatio()));
+    const int side = static_cast<int>(std::ceil(largestPoints * qGuiApp->devicePixelRatio()));
     const double scale = static_cast<double>(side) / std::min(size.width(), size.height());
     if (scale < 1)
         reader.setScaledSize((QSizeF(size) * scale).toSize().expandedTo({1, 1}));

@@ -21,14 +21,10 @@ public:
     /// An image that would need more memory than this to decode is refused.
     static constexpr qint64 maximumDecodedBytes = 64 * 1024 * 1024;
 
-    /// `largestPoints` is the side of the largest square that an image is drawn in. What that is in
-    /// pixels follows the screens that are there when an image is decoded.
-    explicit QtImageDecoder(int largestPoints);
+    QtImageDecoder();
 
-    std::shared_ptr<const Image> decode(std::string_view bytes) override;
-
-private:
-    int largestPoints_;
+    /// The sharpest of the screens that are there decides how many pixels a point has.
+    std::shared_ptr<const Image> decode(std::string_view bytes, int largestPoints) override;
 };
 
 } // namespace brellowind::platform

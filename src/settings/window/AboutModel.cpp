@@ -1,24 +1,19 @@
 #include "settings/window/AboutModel.h"
 
-#include "platform/Services.h"
 #include "settings/AppInfo.h"
 #include "settings/window/Text.h"
 
 namespace brellowind {
-namespace {
 
-void openLink(const std::string& url) {
-    platform::services().links.open(url);
-}
-
-} // namespace
+AboutModel::AboutModel(const SettingsServices& services)
+    : constants_(services.constants), links_(services.links) {}
 
 QString AboutModel::name() const {
     return toQString(AppInfo::name);
 }
 
 QString AboutModel::version() const {
-    return toQString(AppInfo::version());
+    return toQString(AppInfo::version(constants_.version));
 }
 
 QString AboutModel::description() const {
@@ -26,23 +21,23 @@ QString AboutModel::description() const {
 }
 
 QString AboutModel::legalNotice() const {
-    return toQString(AppInfo::legalNotice());
+    return toQString(constants_.legalNotice);
 }
 
 void AboutModel::openWebsite() const {
-    openLink(AppInfo::websiteURL());
+    links_.open(constants_.websiteURL);
 }
 
 void AboutModel::openSocialProfile() const {
-    openLink(AppInfo::socialURL());
+    links_.open(constants_.socialURL);
 }
 
 void AboutModel::openPrivacyPolicy() const {
-    openLink(AppInfo::privacyPolicyURL());
+    links_.open(constants_.privacyPolicyURL);
 }
 
 void AboutModel::openTerms() const {
-    openLink(AppInfo::termsURL());
+    links_.open(constants_.termsURL);
 }
 
 } // namespace brellowind

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/SettingsServices.h"
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -17,6 +19,8 @@ class AboutModel : public QObject {
     Q_PROPERTY(QString legalNotice READ legalNotice CONSTANT FINAL)
 
 public:
+    explicit AboutModel(const SettingsServices& services);
+
     QString name() const;
     QString version() const;
     QString description() const;
@@ -27,6 +31,10 @@ public:
     Q_INVOKABLE void openSocialProfile() const;
     Q_INVOKABLE void openPrivacyPolicy() const;
     Q_INVOKABLE void openTerms() const;
+
+private:
+    const platform::ProductConstants& constants_;
+    platform::LinkOpener& links_;
 };
 
 } // namespace brellowind

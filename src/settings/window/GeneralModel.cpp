@@ -1,26 +1,22 @@
 #include "settings/window/GeneralModel.h"
 
-#include "platform/Services.h"
-#include "settings/UpdateChecker.h"
 #include "settings/window/Text.h"
 
 #include <utility>
 
 namespace brellowind {
-namespace {
 
-UpdateCard publishedCard() {
-    return updateCard(UpdateChecker::shared().state.get(), UpdateChecker::currentVersion());
-}
-
-} // namespace
-
-GeneralModel::GeneralModel()
-    : launchAtLogin_(settings_.launchAtLogin.get()), card_(publishedCard()),
-      nextTurn_(platform::services().mainLoop.onNextTurn([this] { refresh(); })) {
+GeneralModel::GeneralModel(const SettingsServices& services)
+    : updater_(services.updater), settings_(services),
+      launchAtLogin_(settings_.launchAtLogin.get()), card_(publishedCard()),
+      nextTurn_(services.mainLoop.onNextTurn([this] { refresh(); })) {
     const auto refreshNextTurn = [this] { nextTurn_->request(); };
     subscriptions_.push_back(settings_.launchAtLogin.observe(refreshNextTurn));
-    subscriptions_.push_back(UpdateChecker::shared().state.observe(refreshNextTurn));
+    subscriptions_.push_back(updater_.state.observe(refreshNextTurn));
+}
+
+UpdateCard GeneralModel::publishedCard() const {
+    return updateCard(updater_.state.get(), updater_.currentVersion());
 }
 
 void GeneralModel::refresh() {

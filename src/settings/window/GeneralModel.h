@@ -32,7 +32,7 @@ public:
     enum CardColor { Yellow, Teal, Red, Green };
     Q_ENUM(CardColor)
 
-    GeneralModel();
+    explicit GeneralModel(const SettingsServices& services);
 
     /// The tab is shown: each time, an update check starts.
     void appear() { settings_.appear(); }
@@ -68,6 +68,9 @@ Q_SIGNALS:
     void cardVersionChanged();
 
 private:
+    UpdateCard publishedCard() const;
+
+    UpdateChecker& updater_;
     GeneralSettings settings_;
     bool launchAtLogin_;
     UpdateCard card_;

@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 /// What `MakeSettingsOpener` is in the library that holds the settings window.
-extern "C" Q_DECL_EXPORT brellowind::SettingsOpener* brellowindMakeSettingsOpener() {
-    return new brellowind::SettingsWindow;
+extern "C" Q_DECL_EXPORT brellowind::SettingsOpener*
+brellowindMakeSettingsOpener(const brellowind::SettingsServices& services) {
+    return new brellowind::SettingsWindow(services);
 }

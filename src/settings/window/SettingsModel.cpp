@@ -1,21 +1,11 @@
 #include "settings/window/SettingsModel.h"
 
-#include "platform/Services.h"
-
 namespace brellowind {
-namespace {
 
-SettingsModel::Tab routedTab() {
-    const bool about = SettingsRouter::shared().selectedTab.get() == SettingsTab::about;
-    return about ? SettingsModel::About : SettingsModel::General;
-}
-
-} // namespace
-
-SettingsModel::SettingsModel()
-    : tab_(routedTab()), nextTurn_(platform::services().mainLoop.onNextTurn([this] { refresh(); })),
-      selectedTab_(SettingsRouter::shared().selectedTab.observe([this] { nextTurn_->request(); })) {
-}
+SettingsModel::SettingsModel(const SettingsServices& services)
+    : router_(services.router), general_(services), about_(services), tab_(routedTab()),
+      nextTurn_(services.mainLoop.onNextTurn([this] { refresh(); })),
+      selectedTab_(router_.selectedTab.observe([this] { nextTurn_->request(); })) {}
 
 SettingsModel::~SettingsModel() {
     setShown(false);
@@ -35,8 +25,11 @@ void SettingsModel::refresh() {
 }
 
 void SettingsModel::selectTab(Tab tab) {
-    SettingsRouter::shared().setSelectedTab(tab == About ? SettingsTab::about
-                                                         : SettingsTab::general);
+    router_.setSelectedTab(tab == About ? SettingsTab::about : SettingsTab::general);
+}
+
+SettingsModel::Tab SettingsModel::routedTab() const {
+    return router_.selectedTab.get() == SettingsTab::about ? About : General;
 }
 
 void SettingsModel::updateAppearance() {

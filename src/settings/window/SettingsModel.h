@@ -26,7 +26,7 @@ public:
     enum Tab { General, About };
     Q_ENUM(Tab)
 
-    SettingsModel();
+    explicit SettingsModel(const SettingsServices& services);
     ~SettingsModel() override;
 
     /// Whether the window can be seen, and with it the tab that is selected.
@@ -45,8 +45,10 @@ Q_SIGNALS:
     void tabChanged();
 
 private:
+    Tab routedTab() const;
     void updateAppearance();
 
+    SettingsRouter& router_;
     GeneralModel general_;
     AboutModel about_;
     Tab tab_;

@@ -1,6 +1,5 @@
 #include "settings/window/SettingsWindow.h"
 
-#include "platform/Services.h"
 #include "settings/AppInfo.h"
 #include "settings/window/SettingsModel.h"
 #include "settings/window/Text.h"
@@ -58,13 +57,14 @@ private:
 
 /// Destroyed from the bottom up: what draws goes before what it draws from.
 struct SettingsWindow::Content {
-    explicit Content(std::function<void()> hidden) : view(std::move(hidden)) {}
+    Content(const SettingsServices& services, std::function<void()> hidden)
+        : model(services), view(std::move(hidden)) {}
 
     SettingsModel model;
     View view;
 };
 
-SettingsWindow::SettingsWindow() = default;
+SettingsWindow::SettingsWindow(const SettingsServices& services) : services_(services) {}
 
 SettingsWindow::~SettingsWindow() = default;
 
@@ -87,7 +87,7 @@ QQuickWindow* SettingsWindow::window() const {
 
 void SettingsWindow::build() {
     prepareQtQuick();
-    content_ = std::make_unique<Content>([this] { closed(); });
+    content_ = std::make_unique<Content>(services_, [this] { closed(); });
     auto& [model, view] = *content_;
     view.setTitle(toQString(AppInfo::name));
     view.setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -106,7 +106,7 @@ void SettingsWindow::build() {
 void SettingsWindow::closed() {
     content_->model.setShown(false);
     // The window is still busy with going; it is given back on the next turn.
-    release_ = platform::services().mainLoop.scheduleOnce(std::chrono::milliseconds(0), [this] {
+    release_ = services_.mainLoop.scheduleOnce(std::chrono::milliseconds(0), [this] {
         content_.reset();
         release_.reset();
     });

@@ -10,11 +10,11 @@ class QQuickWindow;
 namespace brellowind {
 
 /// The program's only ordinary window. It is built when it is opened and given back, with all its
-/// memory, when it closes. A `QGuiApplication` and the platform's services must outlive it; closing
-/// it ends the program unless `QGuiApplication::quitOnLastWindowClosed` is off.
+/// memory, when it closes. A `QGuiApplication` and what the services refer to must outlive it;
+/// closing it ends the program unless `QGuiApplication::quitOnLastWindowClosed` is off.
 class SettingsWindow : public SettingsOpener {
 public:
-    SettingsWindow();
+    explicit SettingsWindow(const SettingsServices& services);
     ~SettingsWindow() override;
 
     void open() override;
@@ -28,6 +28,7 @@ private:
     void build();
     void closed();
 
+    SettingsServices services_;
     std::unique_ptr<Content> content_;
     std::unique_ptr<platform::Timer> release_; ///< there between closing and giving back
 };

@@ -43,7 +43,7 @@ protected:
 };
 
 TEST_F(PillAccessibility, LetsTheCurrentLineBeRead) {
-    machine.spotify.position = "5";
+    machine.spotify.position = 5;
     machine.appearAnswered(test::synced("[00:01.00]the line being sung"));
     settle();
     EXPECT_NE(named("the line being sung", QAccessible::StaticText), nullptr);

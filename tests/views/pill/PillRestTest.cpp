@@ -50,7 +50,7 @@ TEST_F(PillRest, IsReachedAgainAfterEveryMotion) {
 }
 
 TEST_F(PillRest, IsNotDisturbedByTicksThatChangeNoLine) {
-    machine.spotify.state = "playing";
+    machine.spotify.plays = true;
     machine.appearAnswered(platform::HttpResponse{404, ""});
     machine.view.hoverWaveform(true); // no wave runs then
     machine.advance(200ms);

@@ -1,29 +1,17 @@
-#include "playback/SpotifyBridge.h"
-
-#include "platform/Services.h"
+#include "platform/macos/SpotifyBridge.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <string>
 #include <utility>
 
-namespace brellowind::SpotifyBridge {
+namespace brellowind::platform::SpotifyBridge {
 namespace {
 
-constexpr std::string_view logPrefix = "Spotify AppleScript error: ";
 constexpr std::size_t fieldCount = 7;
 using Fields = std::array<std::string_view, fieldCount>;
-
-std::optional<std::string> run(std::string_view source) {
-    auto& services = platform::services();
-    auto outcome = services.scripting.execute(source);
-    if (outcome.error) {
-        services.log.write(std::string(logPrefix) + *outcome.error);
-        return std::nullopt;
-    }
-    return std::move(outcome.text);
-}
 
 /// The first seven fields of `record`; absent when it has fewer. What follows them is ignored.
 std::optional<Fields> split(std::string_view record) {
@@ -65,34 +53,26 @@ std::string withDecimalPoint(std::string_view text) {
     return repaired;
 }
 
-} // namespace
-
-Snapshot::Snapshot(Track track_, bool isPlaying_, double positionSec_)
-    : track(std::move(track_)), isPlaying(isPlaying_), positionSec(positionSec_) {}
-
-bool isRunning() {
-    const auto identifiers = platform::services().runningApplications.bundleIdentifiers();
-    return std::ranges::any_of(identifiers,
-                               [](const auto& running) { return running == bundleIdentifier; });
+/// Milliseconds whose whole seconds fit 64 bits, else 0.
+double readableDuration(double milliseconds) {
+    constexpr double limit = 9.2e21;
+    return std::abs(milliseconds) < limit ? milliseconds : 0;
 }
 
-std::optional<Snapshot> snapshot() {
-    const auto answer = run(readOutScript);
-    if (!answer || answer->empty())
-        return std::nullopt;
-    const auto fields = split(*answer);
+} // namespace
+
+std::optional<Player::Snapshot> snapshot(std::string_view answer) {
+    const auto fields = split(answer);
     if (!fields)
         return std::nullopt;
     const auto& [title, artist, album, duration, artwork, position, state] = *fields;
 
     // Only the position may come with a decimal comma: the duration is read as it stands.
-    Track track(std::string(title), std::string(artist), std::string(album), number(duration),
+    Track track(std::string(title), std::string(artist), std::string(album),
+                readableDuration(number(duration)),
                 artwork.empty() ? std::nullopt : std::optional<std::string>(artwork));
-    return Snapshot(std::move(track), state == playingState, number(withDecimalPoint(position)));
+    return Player::Snapshot{std::move(track), state == playingState,
+                            number(withDecimalPoint(position))};
 }
 
-void playPause() {
-    run(playPauseScript);
-}
-
-} // namespace brellowind::SpotifyBridge
+} // namespace brellowind::platform::SpotifyBridge

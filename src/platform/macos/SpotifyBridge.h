@@ -1,13 +1,12 @@
 #pragma once
 
-#include "platform/Track.h"
+#include "platform/Player.h"
 
 #include <optional>
 #include <string_view>
 
-/// The only place that talks to the Spotify application. Stateless; every call is independent and
-/// synchronous, and fails by an absent result.
-namespace brellowind::SpotifyBridge {
+/// The scripts that drive the Spotify application, and the record that it answers them with.
+namespace brellowind::platform::SpotifyBridge {
 
 inline constexpr std::string_view bundleIdentifier = "com.spotify.client";
 
@@ -38,25 +37,9 @@ inline constexpr std::string_view readOutScript = R"(tell application "Spotify"
     end if
 end tell)";
 
-/// One reading of the player.
-struct Snapshot {
-    Snapshot(Track track, bool isPlaying, double positionSec);
+/// The reading that an answer to `readOutScript` holds. Absent when the answer has fewer than seven
+/// fields; further ones are ignored. A number that cannot be read is 0, and so is a duration that
+/// no track has (its seconds would not fit 64 bits).
+std::optional<Player::Snapshot> snapshot(std::string_view answer);
 
-    bool operator==(const Snapshot&) const = default;
-
-    Track track;
-    bool isPlaying;
-    double positionSec; ///< seconds; 0 when unreadable
-};
-
-/// Whether an application with Spotify's bundle identifier runs at this moment.
-bool isRunning();
-
-/// Reads the player once. Absent when Spotify does not run, when the script fails (one line is then
-/// written to the system log), or when the answer has fewer than seven fields.
-std::optional<Snapshot> snapshot();
-
-/// Sends the play/pause command. A failure shows in the system log only.
-void playPause();
-
-} // namespace brellowind::SpotifyBridge
+} // namespace brellowind::platform::SpotifyBridge

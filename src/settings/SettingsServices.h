@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/Application.h"
+#include "platform/LinkOpener.h"
+#include "platform/Log.h"
+#include "platform/LoginItem.h"
+#include "platform/MainLoop.h"
+#include "platform/ProductConstants.h"
+#include "platform/TaskRunner.h"
+#include "settings/SettingsRouter.h"
+#include "settings/UpdateChecker.h"
+
+namespace brellowind {
+
+/// What the settings are shown from and act on. It owns none of it.
+struct SettingsServices {
+    platform::MainLoop& mainLoop;
+    TaskRunner& tasks;
+    platform::Log& log;
+    platform::LoginItem& loginItem;
+    platform::LinkOpener& links;
+    platform::Application& application;
+    const platform::ProductConstants& constants;
+    SettingsRouter& router;
+    UpdateChecker& updater;
+};
+
+} // namespace brellowind
