@@ -3,7 +3,7 @@
 #include "Allocations.h"
 #include "Stopwatch.h"
 #include "Texts.h"
-#include "support/TestMachine.h"
+#include "support/RootViewParts.h"
 #include "views/NotchRootView.h"
 
 #include <algorithm>
@@ -19,7 +19,7 @@ using nlohmann::json;
 
 /// A view whose song plays, with the lyrics `lrc`.
 struct PlayingView {
-    PlayingView(const std::string& lrc, const char* position) {
+    PlayingView(const std::string& lrc, double position) {
         player.plays = true;
         player.position = position;
         view->appear();
@@ -29,9 +29,9 @@ struct PlayingView {
     }
 
     test::TestMachine machine;
-    test::FakePlayer player{machine};
-    std::shared_ptr<NotchRootView> view =
-        NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
+    test::FakePlayer& player = machine.player;
+    test::RootViewParts parts{machine};
+    std::shared_ptr<NotchRootView> view = parts.make();
 };
 
 /// A function that is called, as the other is.
@@ -44,7 +44,7 @@ struct PlayingView {
 }
 
 json searchOf(const std::string& text, double length) {
-    const PlayingView playing(text, "0");
+    const PlayingView playing(text, 0);
     const auto& store = playing.view->lyrics();
     std::mt19937 random(1);
     std::uniform_real_distribution<double> anywhere(0, length);
@@ -77,7 +77,7 @@ json searching() {
 json ticking() {
     using namespace std::chrono_literals;
     constexpr int ticks = 19; // up to the next reading of the player
-    PlayingView playing("[00:01.00]A line of quite a few words\n[50:00.00]Far", "12");
+    PlayingView playing("[00:01.00]A line of quite a few words\n[50:00.00]Far", 12);
     int redraws = 0;
     const auto redrawn = playing.view->onRedraw([&] {
         ++redraws;

@@ -180,7 +180,9 @@ TEST(LrclibRequestURL, IsAbsentForATextThatIsNotUtf8) {
 struct Fetch {
     explicit Fetch(const Track& track) : handle(machine.tasks.start(run(track))) {}
 
-    Task<void> run(Track track) { result = co_await LrclibAPI::fetch(std::move(track)); }
+    Task<void> run(Track track) {
+        result = co_await LrclibAPI::fetch(machine.http, machine.constants, std::move(track));
+    }
 
     const platform::HttpRequest& request() const { return machine.http.requests.at(0)->request; }
     Case outcome() const { return result.value().which(); }

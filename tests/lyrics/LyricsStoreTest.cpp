@@ -34,7 +34,8 @@ HttpResponse synced(const std::string& lrc) {
 
 struct Store {
     test::TestMachine machine;
-    std::shared_ptr<LyricsStore> lyrics = LyricsStore::create();
+    std::shared_ptr<LyricsStore> lyrics =
+        LyricsStore::create(machine.tasks, machine.http, machine.constants);
 
     Case which() const { return lyrics->state->which(); }
     std::size_t requests() const { return machine.http.requests.size(); }

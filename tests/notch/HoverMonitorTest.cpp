@@ -57,7 +57,7 @@ protected:
     }
 
     test::TestMachine machine;
-    std::shared_ptr<HoverMonitor> hover = HoverMonitor::create();
+    std::shared_ptr<HoverMonitor> hover = HoverMonitor::create(machine.pointer, machine.screens);
 };
 
 TEST_F(HoverMonitorTest, BeginsOutsideWithTheSizeOfTheCollapsedPill) {

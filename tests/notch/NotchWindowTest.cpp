@@ -53,13 +53,13 @@ protected:
 };
 
 TEST_F(NotchWindowTest, IsClickThroughFromTheBeginning) {
-    const NotchWindow window(overlay);
+    const NotchWindow window(overlay, machine.screens);
     EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetIgnoresMouseEvents{true}));
 }
 
 TEST_F(NotchWindowTest, IsPlacedBeforeItIsBroughtToTheFront) {
     connect({{.frame = {0, 0, 1512, 982}, .topSafeAreaInset = 32}});
-    NotchWindow window(overlay);
+    NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.show();
     EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetFrame{{436, 442, 640, 540}},
@@ -69,7 +69,7 @@ TEST_F(NotchWindowTest, IsPlacedBeforeItIsBroughtToTheFront) {
 TEST_F(NotchWindowTest, IsPlacedOnTheNotchedScreenAndNotOnTheMainOne) {
     connect(
         {{.frame = {0, 0, 1000, 700}}, {.frame = {1000, 0, 1512, 982}, .topSafeAreaInset = 32}});
-    NotchWindow window(overlay);
+    NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.repositionToNotch();
     EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetFrame{{1436, 442, 640, 540}}));
@@ -77,21 +77,21 @@ TEST_F(NotchWindowTest, IsPlacedOnTheNotchedScreenAndNotOnTheMainOne) {
 
 TEST_F(NotchWindowTest, IsPlacedOnTheMainScreenWhenNoneHasANotch) {
     connect({{.frame = {0, 0, 1920, 1080}}, {.frame = {1920, 0, 1000, 700}}});
-    NotchWindow window(overlay);
+    NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.repositionToNotch();
     EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetFrame{{640, 540, 640, 540}}));
 }
 
 TEST_F(NotchWindowTest, StaysWhereItIsWithoutAScreen) {
-    NotchWindow window(overlay);
+    NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.repositionToNotch();
     EXPECT_THAT(overlay.calls, IsEmpty());
 }
 
 TEST_F(NotchWindowTest, IsBroughtToTheFrontAlsoWithoutAScreen) {
-    NotchWindow window(overlay);
+    NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.show();
     EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::OrderFront{}));
@@ -99,7 +99,7 @@ TEST_F(NotchWindowTest, IsBroughtToTheFrontAlsoWithoutAScreen) {
 
 TEST_F(NotchWindowTest, FollowsAScreenThatChanges) {
     connect({{.frame = {0, 0, 1512, 982}, .topSafeAreaInset = 32}});
-    NotchWindow window(overlay);
+    NotchWindow window(overlay, machine.screens);
     window.show();
     overlay.calls.clear();
     connect({{.frame = {0, 0, 1800, 1169}, .topSafeAreaInset = 38}});

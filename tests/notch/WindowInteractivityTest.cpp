@@ -22,7 +22,8 @@ protected:
     test::TestMachine machine;
     FakeOverlayWindow window;
     FakeOverlayWindow* current = &window;
-    std::optional<WindowInteractivity> element{std::in_place, [this] { return current; }};
+    std::optional<WindowInteractivity> element{std::in_place, std::ref(machine.mainLoop),
+                                               [this] { return current; }};
 };
 
 TEST_F(WindowInteractivityTest, MakesTheWindowAcceptMouseEvents) {

@@ -8,17 +8,20 @@ namespace brellowind::platform {
 namespace {
 
 struct Fetcher {
+    explicit Fetcher(HttpClient& http_) : http(http_) {}
+
     Task<void> run() {
         HttpRequest request{.url = "https://host.example/", .headers = {}, .maximumBodyBytes = 9};
-        result = co_await fetch(std::move(request));
+        result = co_await http.fetch(std::move(request));
     }
 
+    HttpClient& http;
     std::optional<HttpResult> result;
 };
 
 TEST(HttpFetch, GivesTheResponse) {
     test::TestMachine machine;
-    Fetcher fetcher;
+    Fetcher fetcher(machine.http);
     machine.tasks.start(fetcher.run());
     machine.mainLoop.runTurns();
     ASSERT_EQ(machine.http.requests.size(), 1U);
@@ -30,7 +33,7 @@ TEST(HttpFetch, GivesTheResponse) {
 
 TEST(HttpFetch, CancellationAbortsTheTransferAtOnceAndGivesATransportErrorOnTheNextTurn) {
     test::TestMachine machine;
-    Fetcher fetcher;
+    Fetcher fetcher(machine.http);
     auto task = machine.tasks.start(fetcher.run());
     machine.mainLoop.runTurns();
     task.cancel();
@@ -43,7 +46,7 @@ TEST(HttpFetch, CancellationAbortsTheTransferAtOnceAndGivesATransportErrorOnTheN
 
 TEST(HttpFetch, SendsNothingInACancelledTask) {
     test::TestMachine machine;
-    Fetcher fetcher;
+    Fetcher fetcher(machine.http);
     machine.tasks.start(fetcher.run()).cancel();
     machine.mainLoop.runTurns();
     EXPECT_TRUE(machine.http.requests.empty());

@@ -10,14 +10,19 @@ namespace {
 using namespace std::chrono_literals;
 
 struct Sleeper {
-    Task<void> run(std::chrono::milliseconds duration) { finished = co_await sleep(duration); }
+    explicit Sleeper(MainLoop& mainLoop_) : mainLoop(mainLoop_) {}
 
+    Task<void> run(std::chrono::milliseconds duration) {
+        finished = co_await sleep(mainLoop, duration);
+    }
+
+    MainLoop& mainLoop;
     std::optional<bool> finished;
 };
 
 TEST(Sleep, LastsItsDuration) {
     test::TestMachine machine;
-    Sleeper sleeper;
+    Sleeper sleeper(machine.mainLoop);
     machine.tasks.start(sleeper.run(150ms));
     machine.mainLoop.advance(149ms);
     EXPECT_EQ(sleeper.finished, std::nullopt);
@@ -27,7 +32,7 @@ TEST(Sleep, LastsItsDuration) {
 
 TEST(Sleep, EndsOnTheNextTurnWhenCancelled) {
     test::TestMachine machine;
-    Sleeper sleeper;
+    Sleeper sleeper(machine.mainLoop);
     auto task = machine.tasks.start(sleeper.run(150ms));
     machine.mainLoop.advance(10ms);
     task.cancel();
@@ -39,7 +44,7 @@ TEST(Sleep, EndsOnTheNextTurnWhenCancelled) {
 
 TEST(Sleep, DoesNotBeginInACancelledTask) {
     test::TestMachine machine;
-    Sleeper sleeper;
+    Sleeper sleeper(machine.mainLoop);
     machine.tasks.start(sleeper.run(150ms)).cancel();
     machine.mainLoop.runTurns();
     EXPECT_EQ(sleeper.finished, false);

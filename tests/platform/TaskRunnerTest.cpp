@@ -67,8 +67,10 @@ TEST(TaskRunner, ItsEndDestroysSuspendedTasksAndWhatTheyWaitFor) {
     test::TestMachine machine;
     {
         TaskRunner runner(machine.mainLoop);
-        const auto body = [](std::shared_ptr<int>) -> Task<void> { co_await platform::sleep(1h); };
-        runner.start(body(held));
+        const auto body = [](platform::MainLoop& mainLoop, std::shared_ptr<int>) -> Task<void> {
+            co_await platform::sleep(mainLoop, 1h);
+        };
+        runner.start(body(machine.mainLoop, held));
         machine.mainLoop.runTurns();
         EXPECT_EQ(held.use_count(), 2);
         EXPECT_EQ(machine.mainLoop.timerCount(), 2U); // the spent start timer and the sleep

@@ -1,6 +1,6 @@
 #include "settings/GeneralSettings.h"
 #include "settings/UpdateChecker.h"
-#include "support/TestMachine.h"
+#include "support/SettingsParts.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ using State = UpdateChecker::State;
 
 class GeneralSettingsTest : public testing::Test {
 protected:
-    State checkState() const { return UpdateChecker::shared().state.get(); }
+    State checkState() const { return parts.updater->state.get(); }
 
     void answerLast(const std::string& body) {
         machine.http.answer(machine.http.requests.size() - 1, HttpResponse{200, body});
@@ -29,21 +29,22 @@ protected:
     }
 
     test::TestMachine machine;
+    test::SettingsParts parts{machine};
 };
 
 TEST_F(GeneralSettingsTest, TheSwitchBeginsOnOnlyWhenTheLoginItemIsEnabled) {
     machine.loginItem.current = LoginItem::Status::enabled;
-    EXPECT_TRUE(GeneralSettings().launchAtLogin.get());
+    EXPECT_TRUE(GeneralSettings(parts.services()).launchAtLogin.get());
     for (const auto status : {LoginItem::Status::notRegistered, LoginItem::Status::requiresApproval,
                               LoginItem::Status::notFound}) {
         machine.loginItem.current = status;
-        EXPECT_FALSE(GeneralSettings().launchAtLogin.get());
+        EXPECT_FALSE(GeneralSettings(parts.services()).launchAtLogin.get());
     }
     EXPECT_THAT(machine.loginItem.attempts, IsEmpty());
 }
 
 TEST_F(GeneralSettingsTest, TurningTheSwitchOnRegisters) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     settings.setLaunchAtLogin(true);
     EXPECT_TRUE(settings.launchAtLogin.get());
     EXPECT_THAT(machine.loginItem.attempts, ElementsAre("register"));
@@ -52,7 +53,7 @@ TEST_F(GeneralSettingsTest, TurningTheSwitchOnRegisters) {
 
 TEST_F(GeneralSettingsTest, TurningTheSwitchOffUnregisters) {
     machine.loginItem.current = LoginItem::Status::enabled;
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     settings.setLaunchAtLogin(false);
     EXPECT_FALSE(settings.launchAtLogin.get());
     EXPECT_THAT(machine.loginItem.attempts, ElementsAre("unregister"));
@@ -60,7 +61,7 @@ TEST_F(GeneralSettingsTest, TurningTheSwitchOffUnregisters) {
 }
 
 TEST_F(GeneralSettingsTest, AssigningTheSwitchItsOwnValueLeavesTheLoginItemAlone) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     int notifications = 0;
     const auto subscription = settings.launchAtLogin.observe([&] { ++notifications; });
     settings.setLaunchAtLogin(false);
@@ -70,7 +71,7 @@ TEST_F(GeneralSettingsTest, AssigningTheSwitchItsOwnValueLeavesTheLoginItemAlone
 
 TEST_F(GeneralSettingsTest, AFailedRegistrationTurnsTheSwitchBackAndWritesOneLine) {
     machine.loginItem.registrationError = "the disk is full";
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     std::vector<bool> before;
     const auto subscription =
         settings.launchAtLogin.observe([&] { before.push_back(settings.launchAtLogin.get()); });
@@ -82,7 +83,7 @@ TEST_F(GeneralSettingsTest, AFailedRegistrationTurnsTheSwitchBackAndWritesOneLin
 
 TEST_F(GeneralSettingsTest, TheCorrectionAfterAFailureIsHandledAsAChangeOfTheSwitch) {
     machine.loginItem.registrationError = "no";
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     settings.setLaunchAtLogin(true);
     EXPECT_THAT(machine.loginItem.attempts, ElementsAre("register", "unregister"));
 }
@@ -90,7 +91,7 @@ TEST_F(GeneralSettingsTest, TheCorrectionAfterAFailureIsHandledAsAChangeOfTheSwi
 TEST_F(GeneralSettingsTest, AFailedUnregistrationTurnsTheSwitchBackOn) {
     machine.loginItem.current = LoginItem::Status::enabled;
     machine.loginItem.unregistrationError = "the folder is read-only";
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     settings.setLaunchAtLogin(false);
     EXPECT_TRUE(settings.launchAtLogin.get());
     EXPECT_THAT(machine.loginItem.attempts, ElementsAre("unregister", "register"));
@@ -98,7 +99,7 @@ TEST_F(GeneralSettingsTest, AFailedUnregistrationTurnsTheSwitchBackOn) {
 }
 
 TEST_F(GeneralSettingsTest, ARegistrationThatFailsOnAnEnabledItemLeavesTheSwitchOn) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     machine.loginItem.current = LoginItem::Status::enabled; // by somebody else, meanwhile
     machine.loginItem.registrationError = "already there";
     settings.setLaunchAtLogin(true);
@@ -110,7 +111,7 @@ TEST_F(GeneralSettingsTest, ARegistrationThatFailsOnAnEnabledItemLeavesTheSwitch
 TEST_F(GeneralSettingsTest, AFailedCorrectionWritesItsOwnLineAndEndsThere) {
     machine.loginItem.registrationError = "first";
     machine.loginItem.unregistrationError = "second";
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     settings.setLaunchAtLogin(true);
     EXPECT_FALSE(settings.launchAtLogin.get());
     EXPECT_THAT(machine.log.lines,
@@ -118,7 +119,7 @@ TEST_F(GeneralSettingsTest, AFailedCorrectionWritesItsOwnLineAndEndsThere) {
 }
 
 TEST_F(GeneralSettingsTest, EachAppearanceStartsACheck) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     EXPECT_THAT(machine.http.requests, IsEmpty());
     appear(settings);
     EXPECT_EQ(machine.http.requests.size(), 1U);
@@ -129,7 +130,7 @@ TEST_F(GeneralSettingsTest, EachAppearanceStartsACheck) {
 }
 
 TEST_F(GeneralSettingsTest, DisappearingCancelsTheCheckOfTheAppearance) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     appear(settings);
     settings.disappear();
     EXPECT_TRUE(machine.http.requests[0]->aborted);
@@ -139,7 +140,7 @@ TEST_F(GeneralSettingsTest, DisappearingCancelsTheCheckOfTheAppearance) {
 }
 
 TEST_F(GeneralSettingsTest, DisappearingAfterTheCheckKeepsItsOutcome) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     settings.disappear();
     appear(settings);
     answerLast(R"({"version": "1.0", "url": "a:b"})");
@@ -151,7 +152,7 @@ TEST_F(GeneralSettingsTest, DisappearingAfterTheCheckKeepsItsOutcome) {
 
 TEST_F(GeneralSettingsTest, TheButtonStartsACheckThatOutlivesTheTab) {
     {
-        GeneralSettings settings;
+        GeneralSettings settings(parts.services());
         settings.pressUpdateButton();
         EXPECT_EQ(checkState(), State::idle()); // the press itself returns at once
         machine.mainLoop.runTurns();
@@ -163,7 +164,7 @@ TEST_F(GeneralSettingsTest, TheButtonStartsACheckThatOutlivesTheTab) {
 }
 
 TEST_F(GeneralSettingsTest, TheButtonDoesNothingWhileChecking) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     appear(settings);
     settings.pressUpdateButton();
     machine.mainLoop.runTurns();
@@ -172,7 +173,7 @@ TEST_F(GeneralSettingsTest, TheButtonDoesNothingWhileChecking) {
 }
 
 TEST_F(GeneralSettingsTest, TheButtonOpensTheDownloadOfAnAvailableReleaseInsteadOfChecking) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     appear(settings);
     answerLast(R"({"version": "2.0", "url": "https://brellowind.example/2.0"})");
     settings.pressUpdateButton();
@@ -182,7 +183,7 @@ TEST_F(GeneralSettingsTest, TheButtonOpensTheDownloadOfAnAvailableReleaseInstead
 }
 
 TEST_F(GeneralSettingsTest, TheButtonTriesAgainAfterAFailure) {
-    GeneralSettings settings;
+    GeneralSettings settings(parts.services());
     appear(settings);
     answerLast("nonsense");
     settings.pressUpdateButton();
@@ -192,7 +193,7 @@ TEST_F(GeneralSettingsTest, TheButtonTriesAgainAfterAFailure) {
 }
 
 TEST_F(GeneralSettingsTest, FeedbackOpensANewMessageToTheMaker) {
-    GeneralSettings().sendFeedback();
+    GeneralSettings(parts.services()).sendFeedback();
     EXPECT_THAT(machine.links.opened,
                 ElementsAre("mailto:feedback@brellowind.example?subject=Brellowind%20Feedback"));
 }
@@ -200,14 +201,14 @@ TEST_F(GeneralSettingsTest, FeedbackOpensANewMessageToTheMaker) {
 TEST_F(GeneralSettingsTest, FeedbackToAnAddressThatMakesNoLinkOpensNothingAndSaysNothing) {
     for (const auto* email : {"some one@brellowind.example", "<a@b>", "50%@brellowind.example"}) {
         machine.constants.feedbackEmail = email;
-        GeneralSettings().sendFeedback();
+        GeneralSettings(parts.services()).sendFeedback();
     }
     EXPECT_THAT(machine.links.opened, IsEmpty());
     EXPECT_THAT(machine.log.lines, IsEmpty());
 }
 
 TEST_F(GeneralSettingsTest, QuitTerminatesTheProgram) {
-    GeneralSettings().quit();
+    GeneralSettings(parts.services()).quit();
     EXPECT_EQ(machine.application.terminations, 1);
 }
 

@@ -1,5 +1,4 @@
 #include "settings/UpdateChecker.h"
-#include "settings/AppInfo.h"
 #include "support/TestMachine.h"
 
 #include <gmock/gmock.h>
@@ -42,22 +41,14 @@ protected:
     }
 
     test::TestMachine machine;
-    UpdateChecker& checker = UpdateChecker::shared();
+    std::shared_ptr<UpdateChecker> shared =
+        UpdateChecker::create(machine.http, machine.log, machine.links, machine.constants);
+    UpdateChecker& checker = *shared;
 };
 
-TEST_F(UpdateCheckerTest, IsOneForEverybodyAndBeginsIdle) {
-    EXPECT_EQ(&UpdateChecker::shared(), &checker);
+TEST_F(UpdateCheckerTest, BeginsIdle) {
     EXPECT_EQ(checker.state.get(), State::idle());
     EXPECT_THAT(machine.http.requests, IsEmpty());
-}
-
-TEST_F(UpdateCheckerTest, AFreshMachineHasAFreshCheckerThatIsIdle) {
-    EXPECT_EQ(outcome(HttpResponse{200, feed("1.3")}), State::available(release("1.3")));
-    {
-        const test::TestMachine other;
-        EXPECT_EQ(UpdateChecker::shared().state.get(), State::idle());
-    }
-    EXPECT_EQ(UpdateChecker::shared().state.get(), State::available(release("1.3")));
 }
 
 TEST_F(UpdateCheckerTest, AsksNothingBeforeTheTaskRuns) {
@@ -125,13 +116,13 @@ TEST_F(UpdateCheckerTest, LooksAtTheFeedAndNotAtTheStatus) {
 
 TEST_F(UpdateCheckerTest, ABuildWithoutVersionComparesAsZero) {
     machine.constants.version.clear();
-    EXPECT_EQ(UpdateChecker::currentVersion(), "0");
+    EXPECT_EQ(checker.currentVersion(), "0");
     EXPECT_EQ(outcome(HttpResponse{200, feed("0")}), State::upToDate());
     EXPECT_EQ(outcome(HttpResponse{200, feed("0.1")}), State::available(release("0.1")));
 }
 
 TEST_F(UpdateCheckerTest, ItsCurrentVersionIsTheProgramsShortVersion) {
-    EXPECT_EQ(UpdateChecker::currentVersion(), "1.2");
+    EXPECT_EQ(checker.currentVersion(), "1.2");
 }
 
 TEST_F(UpdateCheckerTest, ATransportErrorFailsWithItsDescriptionInOneLine) {
@@ -227,8 +218,10 @@ TEST(UpdateCheckerEnd, AMachineMayEndWhileACheckIsUnderWay) {
     std::weak_ptr<UpdateChecker> checker;
     {
         test::TestMachine machine;
-        checker = UpdateChecker::shared().weak_from_this();
-        machine.tasks.start(UpdateChecker::shared().check());
+        const auto shared =
+            UpdateChecker::create(machine.http, machine.log, machine.links, machine.constants);
+        checker = shared;
+        machine.tasks.start(shared->check());
         machine.mainLoop.runTurns();
         EXPECT_FALSE(checker.expired());
     }

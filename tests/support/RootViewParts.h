@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/TestMachine.h"
+#include "support/SettingsParts.h"
 #include "views/NotchRootView.h"
 
 #include <functional>
@@ -10,33 +10,28 @@
 namespace brellowind::test {
 
 /// What a root view is made of, on a machine of the test's own.
-struct RootViewParts {
-    explicit RootViewParts(TestMachine& machine_) : machine(machine_) {}
+struct RootViewParts : SettingsParts {
+    using SettingsParts::SettingsParts;
 
     std::shared_ptr<NotchRootView> make(
         WindowInteractivity::WindowFinder window = [] { return nullptr; },
         std::function<void()> openSettings = [] {}) {
-        auto& [mainLoop, tasks, clock, log, http, images, files, player, screens, pointer,
-               application, links, loginItem, constants] = machine;
+        auto& m = machine;
         return NotchRootView::create(
-            {.mainLoop = mainLoop,
-             .tasks = tasks,
-             .application = application,
+            {.mainLoop = m.mainLoop,
+             .tasks = m.tasks,
+             .application = m.application,
              .router = router,
              .updater = *updater,
-             .nowPlaying = NowPlaying::create(mainLoop, tasks, clock, player),
-             .lyrics = LyricsStore::create(tasks, http, constants),
-             .hover = HoverMonitor::create(pointer, screens),
-             .artwork = Artwork::create(tasks, http, files, decoder ? *decoder : images),
+             .nowPlaying = NowPlaying::create(m.mainLoop, m.tasks, m.clock, m.player),
+             .lyrics = LyricsStore::create(m.tasks, m.http, m.constants),
+             .hover = HoverMonitor::create(m.pointer, m.screens),
+             .artwork = Artwork::create(m.tasks, m.http, m.files, decoder ? *decoder : m.images),
              .window = std::move(window),
              .openSettings = std::move(openSettings)});
     }
 
-    TestMachine& machine;
     platform::ImageDecoder* decoder = nullptr; ///< in place of the machine's
-    SettingsRouter router;
-    std::shared_ptr<UpdateChecker> updater =
-        UpdateChecker::create(machine.http, machine.log, machine.links, machine.constants);
 };
 
 } // namespace brellowind::test

@@ -1,4 +1,4 @@
-#include "support/TestMachine.h"
+#include "support/RootViewParts.h"
 #include "views/NotchRootView.h"
 
 #include <cstddef>
@@ -108,8 +108,8 @@ struct PlayingView {
 
     test::TestMachine machine;
     test::FakePlayer& spotify = machine.player;
-    std::shared_ptr<NotchRootView> root =
-        NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
+    test::RootViewParts parts{machine};
+    std::shared_ptr<NotchRootView> root = parts.make();
     NotchRootView& view = *root;
 };
 

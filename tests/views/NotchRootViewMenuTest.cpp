@@ -11,27 +11,27 @@ using test::View;
 
 TEST(NotchRootViewMenu, OpensTheSettingsAfterTheProgramHasComeToTheFront) {
     View view;
-    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    view.parts.router.setSelectedTab(SettingsTab::about);
     int activations = 0;
     view.onSettingsOpening = [&] { activations = view.machine.application.activations; };
     view.view.openSettings();
     EXPECT_EQ(view.settingsOpenings, 1);
     EXPECT_EQ(activations, 1);
     EXPECT_EQ(view.machine.application.activations, 1);
-    EXPECT_EQ(SettingsRouter::shared().selectedTab.get(), SettingsTab::about)
+    EXPECT_EQ(view.parts.router.selectedTab.get(), SettingsTab::about)
         << "the tab stays as it was left";
     EXPECT_EQ(view.requests(), 0U);
 }
 
 TEST(NotchRootViewMenu, ChecksForUpdatesOnTheGeneralTabOfTheOpenSettings) {
     View view;
-    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    view.parts.router.setSelectedTab(SettingsTab::about);
     int activations = 0;
     auto tab = SettingsTab::about;
     std::size_t requests = 1;
     view.onSettingsOpening = [&] {
         activations = view.machine.application.activations;
-        tab = SettingsRouter::shared().selectedTab.get();
+        tab = view.parts.router.selectedTab.get();
         requests = view.requests();
     };
     view.view.checkForUpdates();
@@ -42,7 +42,7 @@ TEST(NotchRootViewMenu, ChecksForUpdatesOnTheGeneralTabOfTheOpenSettings) {
     EXPECT_EQ(requests, 0U) << "asked after the settings have opened";
     ASSERT_EQ(view.requests(), 1U);
     EXPECT_EQ(view.machine.http.requests[0]->request.url, "https://brellowind.example/latest.json");
-    EXPECT_EQ(UpdateChecker::shared().state.get(), UpdateState::checking());
+    EXPECT_EQ(view.parts.updater->state.get(), UpdateState::checking());
 }
 
 TEST(NotchRootViewMenu, LetsTheCheckEndWithoutTheView) {
@@ -53,7 +53,7 @@ TEST(NotchRootViewMenu, LetsTheCheckEndWithoutTheView) {
     view.machine.http.answer(
         0, platform::HttpResponse{200, R"({"version":"0.1","url":"https://x.example"})"});
     view.runTurns();
-    EXPECT_EQ(UpdateChecker::shared().state.get(), UpdateState::upToDate());
+    EXPECT_EQ(view.parts.updater->state.get(), UpdateState::upToDate());
     EXPECT_EQ(view.machine.tasks.running(), 0U);
 }
 

@@ -169,8 +169,8 @@ private:
         for (int passed = 0; passed < milliseconds; passed += sliceMs) {
             view_.advance(std::chrono::milliseconds(sliceMs));
             model_.pass(sliceMs);
+            model_.endPulses(); // a reading of the same moment comes a turn later
             model_.turn(plays(), inside_);
-            model_.endPulses();
             if (auto disagreement = difference())
                 return disagreement;
         }
@@ -249,13 +249,13 @@ private:
         switch (step.kind) {
         case Step::play:
         case Step::pause:
-            spotify.state = step.kind == Step::play ? "playing" : "paused";
+            spotify.plays = step.kind == Step::play;
             break;
         case Step::playSong:
             spotify.playSong("Song " + std::to_string(step.number));
             break;
         case Step::seek:
-            spotify.position = std::to_string(step.number);
+            spotify.position = step.number;
             break;
         case Step::quit:
             spotify.quit();

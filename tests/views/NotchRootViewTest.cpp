@@ -35,9 +35,10 @@ TEST(NotchRootViewText, SaysSoWhenNothingPlaysAndAsksForNoLyrics) {
 
 TEST(NotchRootViewText, IsTheTitleUntilTheLoadBegins) {
     View view;
-    view.view.appear();
-    EXPECT_EQ(view.lyricsCase(), Case::idle);
-    EXPECT_EQ(view.text(), "Song");
+    std::string text;
+    const auto subscription = view.view.nowPlaying().isPlaying.observe([&] { text = view.text(); });
+    view.appear();
+    EXPECT_EQ(text, "Song");
 }
 
 TEST(NotchRootViewText, SaysThatLyricsAreLoading) {
@@ -265,17 +266,16 @@ TEST(NotchRootViewRedraw, EndsWithItsSubscription) {
 
 TEST(NotchRootViewLifetime, EndsWithAllItsTimers) {
     test::TestMachine machine;
-    test::FakePlayer spotify(machine);
     {
-        const auto view =
-            NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}});
+        test::RootViewParts parts(machine);
+        const auto view = parts.make();
         view->appear();
         machine.mainLoop.advance(100ms);
         machine.http.answer(0, HttpResponse{404, ""});
     }
     EXPECT_EQ(machine.mainLoop.timerCount(), 0U);
     machine.mainLoop.advance(2s);
-    EXPECT_EQ(spotify.readings(), 1U);
+    EXPECT_EQ(machine.player.readings(), 1U);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "support/FakeOverlayWindow.h"
-#include "support/TestMachine.h"
+#include "support/RootViewParts.h"
 #include "views/NotchRootView.h"
 
 #include <chrono>
@@ -33,14 +33,12 @@ struct View {
     FakeOverlayWindow window;
     int settingsOpenings = 0;
     std::function<void()> onSettingsOpening = [] {};
-    std::shared_ptr<NotchRootView> root = NotchRootView::create({
-        .window = [this] { return &window; },
-        .openSettings =
-            [this] {
-                ++settingsOpenings;
-                onSettingsOpening();
-            },
-    });
+    RootViewParts parts{machine};
+    std::shared_ptr<NotchRootView> root = parts.make([this] { return &window; },
+                                                     [this] {
+                                                         ++settingsOpenings;
+                                                         onSettingsOpening();
+                                                     });
     NotchRootView& view = *root;
 
     void advance(std::chrono::milliseconds duration) { machine.mainLoop.advance(duration); }

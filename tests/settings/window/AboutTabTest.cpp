@@ -9,7 +9,7 @@ using testing::ElementsAre;
 class AboutTabTest : public SettingsFixture {
 protected:
     void openAbout() {
-        SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+        parts.router.setSelectedTab(SettingsTab::about);
         open();
     }
 };

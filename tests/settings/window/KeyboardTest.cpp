@@ -35,7 +35,7 @@ TEST_F(SettingsKeyboardTest, TabGoesThroughTheGeneralTabFromTopToBottom) {
 }
 
 TEST_F(SettingsKeyboardTest, TabGoesThroughTheAboutTabFromTopToBottom) {
-    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    parts.router.setSelectedTab(SettingsTab::about);
     open();
     EXPECT_THAT(tabThrough(6), ElementsAre("About", "Visit our website", "Follow on X",
                                            "Privacy Policy", "Terms of Use", "About"));
@@ -50,14 +50,14 @@ TEST_F(SettingsKeyboardTest, LeftAndRightGoFromTabToTab) {
     open();
     tabTo("General");
     press(Qt::Key_Right);
-    EXPECT_EQ(SettingsRouter::shared().selectedTab.get(), SettingsTab::about);
+    EXPECT_EQ(parts.router.selectedTab.get(), SettingsTab::about);
     EXPECT_TRUE(item("aboutPage")->isVisible());
     EXPECT_EQ(focused(), "About");
     EXPECT_TRUE(hasFocusRing(item("aboutTab")));
     press(Qt::Key_Right);
     EXPECT_EQ(focused(), "About");
     press(Qt::Key_Left);
-    EXPECT_EQ(SettingsRouter::shared().selectedTab.get(), SettingsTab::general);
+    EXPECT_EQ(parts.router.selectedTab.get(), SettingsTab::general);
     EXPECT_EQ(focused(), "General");
     press(Qt::Key_Left);
     EXPECT_EQ(focused(), "General");
@@ -66,7 +66,7 @@ TEST_F(SettingsKeyboardTest, LeftAndRightGoFromTabToTab) {
 TEST_F(SettingsKeyboardTest, FollowsTheRouterFromTabToTab) {
     open();
     tabTo("General");
-    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    parts.router.setSelectedTab(SettingsTab::about);
     turn();
     EXPECT_EQ(focused(), "About");
     EXPECT_TRUE(hasFocusRing(item("aboutTab")));

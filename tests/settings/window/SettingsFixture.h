@@ -1,7 +1,7 @@
 #pragma once
 
 #include "settings/window/SettingsWindow.h"
-#include "support/TestMachine.h"
+#include "support/SettingsParts.h"
 
 #include <QAccessible>
 #include <QColor>
@@ -52,7 +52,8 @@ protected:
     static QAccessibleInterface* accessible(QQuickItem* item);
 
     test::TestMachine machine;
-    SettingsWindow settings;
+    test::SettingsParts parts{machine};
+    SettingsWindow settings{parts.services()};
 };
 
 } // namespace brellowind

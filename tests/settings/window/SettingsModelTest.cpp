@@ -1,5 +1,5 @@
 #include "settings/window/SettingsModel.h"
-#include "support/TestMachine.h"
+#include "support/SettingsParts.h"
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>
@@ -9,7 +9,8 @@ namespace {
 
 struct Model {
     test::TestMachine machine;
-    SettingsModel model;
+    test::SettingsParts parts{machine};
+    SettingsModel model{parts.services()};
 
     void turn() { machine.mainLoop.runTurns(); }
 };
@@ -17,7 +18,7 @@ struct Model {
 TEST(SettingsModel, NotifiesOfTheTabOnceAndOnlyWhenItDiffers) {
     Model test;
     const QSignalSpy changes(&test.model, &SettingsModel::tabChanged);
-    auto& router = SettingsRouter::shared();
+    auto& router = test.parts.router;
     router.setSelectedTab(SettingsTab::general);
     test.turn();
     EXPECT_EQ(changes.size(), 0);
@@ -32,7 +33,7 @@ TEST(SettingsModel, NotifiesOfTheTabOnceAndOnlyWhenItDiffers) {
 
 TEST(SettingsModel, ChecksOnlyWhileTheGeneralTabIsReallyShown) {
     Model test;
-    auto& router = SettingsRouter::shared();
+    auto& router = test.parts.router;
     router.setSelectedTab(SettingsTab::about);
     test.turn();
     router.setSelectedTab(SettingsTab::general);

@@ -26,8 +26,8 @@ protected:
     void open() {
         settings.open();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(settings.window()));
-        ASSERT_TRUE(QTest::qWaitFor(
-            [] { return UpdateChecker::shared().state.get() == UpdateState::checking(); }));
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return updater->state.get() == UpdateState::checking(); }));
     }
 
     void close() {
@@ -39,15 +39,26 @@ protected:
     test::TestMachine machine;
     platform::QtMainLoop mainLoop;
     TaskRunner tasks{mainLoop};
-    platform::ServicesScope scope{machine.with(mainLoop, tasks)};
-    SettingsWindow settings;
+    test::FakeHttpClient http{mainLoop};
+    SettingsRouter router;
+    std::shared_ptr<UpdateChecker> updater =
+        UpdateChecker::create(http, machine.log, machine.links, machine.constants);
+    SettingsWindow settings{{.mainLoop = mainLoop,
+                             .tasks = tasks,
+                             .log = machine.log,
+                             .loginItem = machine.loginItem,
+                             .links = machine.links,
+                             .application = machine.application,
+                             .constants = machine.constants,
+                             .router = router,
+                             .updater = *updater}};
 };
 
 TEST_F(SettingsWindowOnQtsLoop, OpensAndClosesAgainAndAgain) {
     for (int time = 1; time <= 3; ++time) {
         openAndClose();
-        ASSERT_EQ(machine.http.requests.size(), static_cast<std::size_t>(time));
-        EXPECT_TRUE(machine.http.requests.back()->aborted);
+        ASSERT_EQ(http.requests.size(), static_cast<std::size_t>(time));
+        EXPECT_TRUE(http.requests.back()->aborted);
     }
 }
 

@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 class SettingsWindowTest : public SettingsFixture {
 protected:
-    static void choose(SettingsTab tab) { SettingsRouter::shared().setSelectedTab(tab); }
+    static void choose(SettingsTab tab) { parts.router.setSelectedTab(tab); }
 };
 
 TEST_F(SettingsWindowTest, IsNotThereBeforeItIsOpened) {
@@ -110,10 +110,10 @@ TEST_F(SettingsWindowTest, OpeningItAgainBringsItBackToTheFront) {
 TEST_F(SettingsWindowTest, WritesThePickedTabBackToTheRouter) {
     open();
     click(pressable(QStringLiteral("About")));
-    EXPECT_EQ(SettingsRouter::shared().selectedTab.get(), SettingsTab::about);
+    EXPECT_EQ(parts.router.selectedTab.get(), SettingsTab::about);
     EXPECT_TRUE(item("aboutPage")->isVisible());
     click(pressable(QStringLiteral("General")));
-    EXPECT_EQ(SettingsRouter::shared().selectedTab.get(), SettingsTab::general);
+    EXPECT_EQ(parts.router.selectedTab.get(), SettingsTab::general);
     EXPECT_TRUE(item("generalPage")->isVisible());
 }
 

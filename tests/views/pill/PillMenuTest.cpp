@@ -87,11 +87,11 @@ TEST_F(PillMenuTest, OpensTheSettings) {
 }
 
 TEST_F(PillMenuTest, ChecksForUpdates) {
-    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    machine.parts.router.setSelectedTab(SettingsTab::about);
     const auto before = machine.requests();
     choose(1);
     EXPECT_EQ(machine.settingsOpenings, 1);
-    EXPECT_EQ(SettingsRouter::shared().selectedTab.get(), SettingsTab::general);
+    EXPECT_EQ(machine.parts.router.selectedTab.get(), SettingsTab::general);
     EXPECT_EQ(machine.requests(), before + 1);
     EXPECT_FALSE(menu()->isVisible());
 }
