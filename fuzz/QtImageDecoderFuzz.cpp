@@ -34,8 +34,8 @@ int LLVMFuzzerInitialize(int* argc, char*** argv) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brellowind;
-    static platform::QtImageDecoder decoder(fuzz::largestSide);
-    if (const auto image = decoder.decode(fuzz::text(data, size)))
+    static platform::QtImageDecoder decoder;
+    if (const auto image = decoder.decode(fuzz::text(data, size), fuzz::largestSide))
         fuzz::requireCover(dynamic_cast<const platform::QtImage&>(*image).image);
     return 0;
 }

@@ -2,26 +2,24 @@
 
 #include "foundation/Observers.h"
 #include "notch/NotchWindow.h"
-#include "platform/linux/x11/X11OverlayWindow.h"
+#include "platform/WindowSystem.h"
+#include "views/NotchRootView.h"
 #include "views/NotchView.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 
 namespace brellowind {
 
-class NotchRootView;
-
 /// Creates the one notch window when launching has finished, and keeps it over the notch whenever
 /// the screens change.
 class AppDelegate {
 public:
-    /// `screenLock` outlives this; `openSettings` opens the settings window, or raises it.
-    AppDelegate(platform::ScreenLock& screenLock, std::function<void()> openSettings);
+    /// `windowSystem` must outlive this. What the window is to show is complete but for the window
+    /// itself, which is filled in here.
+    AppDelegate(platform::WindowSystem& windowSystem, NotchRootView::Environment content);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
-    ~AppDelegate();
 
     void applicationDidFinishLaunching();
 
@@ -29,18 +27,17 @@ public:
     NotchView& window() { return notch_->content; } ///< there once launched
 
 private:
-    /// The window's three sides: what it draws, what the system shows, where it hangs.
+    /// The window's two sides: what it draws, and where it hangs.
     struct Notch {
-        Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock);
+        Notch(std::shared_ptr<NotchRootView> rootView, platform::WindowSystem& windowSystem);
 
         NotchView content;
-        platform::X11OverlayWindow overlay;
         NotchWindow window;
     };
 
     void screenParametersChanged();
 
-    platform::ScreenLock& screenLock_;
+    platform::WindowSystem& windowSystem_;
     std::shared_ptr<NotchRootView> rootView_;
     std::optional<Notch> notch_;
     Subscription screenChange_;

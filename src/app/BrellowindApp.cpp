@@ -1,145 +1,56 @@
 #include "app/BrellowindApp.h"
 
-#include "app/AppDelegate.h"
 #include "app/CompiledConstants.h"
-#include "app/SettingsLibrary.h"
-#include "platform/Services.h"
-#include "platform/linux/FontLookup.h"
-#include "platform/linux/MprisPlayer.h"
-#include "platform/linux/ScreenLock.h"
-#include "platform/linux/SingleInstance.h"
-#include "platform/linux/StderrLog.h"
-#include "platform/linux/UnixSignals.h"
-#include "platform/linux/XdgLoginItem.h"
-#include "platform/linux/screens/QtScreens.h"
-#include "platform/linux/x11/X11Pointer.h"
-#include "platform/qt/QtApplication.h"
-#include "platform/qt/QtHttpClient.h"
-#include "platform/qt/QtImageDecoder.h"
-#include "platform/qt/QtLinkOpener.h"
-#include "platform/qt/QtLocalFiles.h"
-#include "platform/qt/QtMainLoop.h"
-#include "platform/qt/QtStartEnvironment.h"
-#include "platform/qt/SystemClock.h"
-#include "playback/SpotifyBridge.h"
-#include "views/NotchRootView.h"
 
-#include <QDBusConnection>
-#include <QGuiApplication>
-#include <QStandardPaths>
-#include <cstdlib>
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-#include <sstream>
+#include <QCoreApplication>
+#include <utility>
 
 namespace brellowind {
 namespace {
-
-/// The side of the enlarged artwork.
-constexpr int largestArtworkPoints = 320;
-
-platform::XdgLoginItem makeLoginItem() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return {folder.toStdString(), QCoreApplication::applicationFilePath().toStdString(),
-            qEnvironmentVariable("PATH").toStdString()};
-}
 
 std::string settingsPath() {
     return QCoreApplication::applicationDirPath().toStdString() + '/' + settingsLibrary;
 }
 
-platform::MprisVocabulary mprisVocabulary() {
-    platform::MprisVocabulary vocabulary{
-        .bundleIdentifier = std::string(SpotifyBridge::bundleIdentifier),
-        .readOutScript = std::string(SpotifyBridge::readOutScript),
-        .playPauseScript = std::string(SpotifyBridge::playPauseScript),
-        .players = {},
-    };
-    std::istringstream names(mprisPlayers);
-    for (std::string name; std::getline(names, name, ';');)
-        vocabulary.players.push_back(name);
-    return vocabulary;
-}
-
 } // namespace
 
-/// Destroyed from the bottom up: suspended tasks go before the services that they wait for.
-struct BrellowindApp::Machine {
-    explicit Machine(const platform::ProductConstants& productConstants)
-        : constants(productConstants) {}
+BrellowindApp::BrellowindApp(platform::Machine& machine, platform::ProductConstants constants)
+    : machine_(machine), constants_(std::move(constants)),
+      updater_(UpdateChecker::create(machine.http(), machine.log(), machine.links(), constants_)),
+      tasks_(machine.mainLoop()), settings_(settingsPath(), settingsServices()),
+      delegate_(machine.windowSystem(), notchContent()) {}
 
-    platform::FontLookup fonts;
-    platform::ProductConstants constants;
-    platform::QtMainLoop mainLoop;
-    platform::SystemClock clock;
-    platform::StderrLog log;
-    platform::QtHttpClient http;
-    platform::QtImageDecoder images{largestArtworkPoints};
-    platform::QtLocalFiles files;
-    platform::MprisPlayer player{platform::BusConnection(), mprisVocabulary()};
-    platform::QtScreens screens{mainLoop};
-    platform::X11Pointer pointer{mainLoop};
-    platform::QtApplication application;
-    platform::QtLinkOpener links;
-    platform::XdgLoginItem loginItem = makeLoginItem();
-    platform::ScreenLock screenLock{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
-    TaskRunner tasks{mainLoop};
-    platform::ServicesScope scope{{.mainLoop = mainLoop,
-                                   .tasks = tasks,
-                                   .clock = clock,
-                                   .log = log,
-                                   .http = http,
-                                   .images = images,
-                                   .files = files,
-                                   .scripting = player,
-                                   .runningApplications = player,
-                                   .screens = screens,
-                                   .pointer = pointer,
-                                   .application = application,
-                                   .links = links,
-                                   .loginItem = loginItem,
-                                   .constants = constants}};
-    platform::UnixSignals signals{[this] { application.terminate(); }};
-    SettingsLibrary settings{settingsPath()};
-    AppDelegate delegate{screenLock, [this] { settings.open(); }};
-    platform::SingleInstance instance{QDBusConnection::sessionBus(),
-                                      qEnvironmentVariable("DISPLAY"),
-                                      [this] { delegate.rootView().openSettings(); }};
-};
-
-void BrellowindApp::prepare() {
-    platform::QtStartEnvironment::choose();
-#ifdef __GLIBC__
-    // What little other threads allocate needs no memory of each thread's own.
-    mallopt(M_ARENA_MAX, 1);
-    // Covers and other large blocks are given back as they are freed, instead of leaving holes
-    // between what stays. Without this the limit would rise to the largest block that was freed.
-    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
-#endif
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+bool BrellowindApp::claimSession() {
+    return machine_.claimSession([this] { rootView().openSettings(); });
 }
 
-bool BrellowindApp::claimDisplay() {
-    return machine_->instance.claim();
+SettingsServices BrellowindApp::settingsServices() {
+    return {.mainLoop = machine_.mainLoop(),
+            .tasks = tasks_,
+            .log = machine_.log(),
+            .loginItem = machine_.loginItem(),
+            .links = machine_.links(),
+            .application = machine_.application(),
+            .constants = constants_,
+            .router = router_,
+            .updater = *updater_};
 }
 
-BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)
-    : machine_(std::make_unique<Machine>(constants)) {}
-
-BrellowindApp::~BrellowindApp() = default;
-
-void BrellowindApp::launch() {
-    machine_->fonts.wait();
-    machine_->delegate.applicationDidFinishLaunching();
-}
-
-NotchRootView& BrellowindApp::rootView() {
-    return machine_->delegate.rootView();
-}
-
-NotchView& BrellowindApp::window() {
-    return machine_->delegate.window();
+NotchRootView::Environment BrellowindApp::notchContent() {
+    auto& mainLoop = machine_.mainLoop();
+    auto& windowSystem = machine_.windowSystem();
+    return {.mainLoop = mainLoop,
+            .tasks = tasks_,
+            .application = machine_.application(),
+            .router = router_,
+            .updater = *updater_,
+            .nowPlaying = NowPlaying::create(mainLoop, tasks_, machine_.clock(), machine_.player()),
+            .lyrics = LyricsStore::create(tasks_, machine_.http(), constants_),
+            .hover = HoverMonitor::create(windowSystem.pointer(), windowSystem.screens()),
+            .artwork =
+                Artwork::create(tasks_, machine_.http(), machine_.files(), machine_.images()),
+            .window = {},
+            .openSettings = [this] { settings_.open(); }};
 }
 
 } // namespace brellowind

@@ -1,14 +1,13 @@
 #include "app/SettingsLibrary.h"
 
-#include <cstdio>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace brellowind {
 
-SettingsLibrary::SettingsLibrary(const std::string& path)
-    : path_(path), file_(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
+SettingsLibrary::SettingsLibrary(const std::string& path, const SettingsServices& services)
+    : path_(path), file_(::open(path.c_str(), O_RDONLY | O_CLOEXEC)), services_(services) {}
 
 SettingsLibrary::~SettingsLibrary() {
     if (file_ >= 0)
@@ -28,9 +27,9 @@ void SettingsLibrary::load() {
     void* library = dlopen(file_ < 0 ? path_.c_str() : held.c_str(), RTLD_NOW | RTLD_LOCAL);
     void* make = library ? dlsym(library, makeSettingsOpenerName) : nullptr;
     if (make)
-        window_.reset(reinterpret_cast<MakeSettingsOpener*>(make)());
+        window_.reset(reinterpret_cast<MakeSettingsOpener*>(make)(services_));
     else
-        std::fprintf(stderr, "brellowind: the settings cannot be opened: %s\n", dlerror());
+        services_.log.write(std::string("brellowind: the settings cannot be opened: ") + dlerror());
 }
 
 } // namespace brellowind

@@ -12,12 +12,13 @@ namespace brellowind {
 /// the library's file is held open from the beginning.
 class SettingsLibrary {
 public:
-    explicit SettingsLibrary(const std::string& path);
+    /// What `services` refers to must outlive it.
+    SettingsLibrary(const std::string& path, const SettingsServices& services);
     SettingsLibrary(const SettingsLibrary&) = delete;
     SettingsLibrary& operator=(const SettingsLibrary&) = delete;
     ~SettingsLibrary();
 
-    /// Opens the window. Where the library is missing or broken it says so on standard error.
+    /// Opens the window. Where the library is missing or broken it says so in the log.
     void open();
 
 private:
@@ -25,6 +26,7 @@ private:
 
     std::string path_;
     int file_; ///< below 0: it cannot be opened
+    SettingsServices services_;
     std::unique_ptr<SettingsOpener> window_;
 };
 

@@ -1,18 +1,15 @@
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
 
-#include <QGuiApplication>
-
-int main(int argc, char** argv) {
-    argc = 1; // the program has no command line
-    brellowind::BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
-    // The desktop finds the icon of the settings window through it.
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.brellowind.Brellowind"));
-    brellowind::BrellowindApp app(brellowind::compiledConstants());
-    if (!app.claimDisplay())
+int main(int /*argc*/, char** argv) {
+    using namespace brellowind;
+    const auto constants = compiledConstants();
+    const auto machine = platform::makeMachine(1, argv, constants); // it has no command line
+    if (!machine)
+        return 1;
+    BrellowindApp app(*machine, constants);
+    if (!app.claimSession())
         return 0;
     app.launch();
-    return QGuiApplication::exec();
+    return machine->run();
 }

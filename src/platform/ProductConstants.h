@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace brellowind::platform {
 
@@ -15,6 +16,10 @@ struct ProductConstants {
     std::string feedbackEmail;
     std::string updateFeedURL; ///< https, of a document named latest.json
     std::string legalNotice;   ///< one line
+
+    /// The players that count as Spotify: bus names after "org.mpris.MediaPlayer2.", the preferred
+    /// one first. For systems whose players are on a message bus.
+    std::vector<std::string> mprisPlayers;
 };
 
 } // namespace brellowind::platform

@@ -42,13 +42,14 @@ protected:
             exchange.respond(200, goodFeed);
     }};
     test::NetworkMachine machine{server.origin()};
+    std::shared_ptr<UpdateChecker> checker =
+        UpdateChecker::create(machine.http, machine.log, machine.standIns.links, machine.constants);
 
     Case check() {
-        auto& checker = UpdateChecker::shared();
-        machine.tasks.start(checker.check());
-        EXPECT_TRUE(test::waitUntil([&] { return checker.state->which() == Case::checking; }));
-        EXPECT_TRUE(test::waitUntil([&] { return checker.state->which() != Case::checking; }));
-        return checker.state->which();
+        machine.tasks.start(checker->check());
+        EXPECT_TRUE(test::waitUntil([&] { return checker->state->which() == Case::checking; }));
+        EXPECT_TRUE(test::waitUntil([&] { return checker->state->which() != Case::checking; }));
+        return checker->state->which();
     }
 };
 

@@ -74,9 +74,10 @@ protected:
         else
             GetParam().handler(exchange);
     }};
-    platform::QtImageDecoder decoder{320};
-    test::NetworkMachine machine{server.origin(), decoder};
-    std::shared_ptr<Artwork> artwork = Artwork::create();
+    platform::QtImageDecoder decoder;
+    test::NetworkMachine machine{server.origin()};
+    std::shared_ptr<Artwork> artwork =
+        Artwork::create(machine.tasks, machine.http, machine.standIns.files, decoder);
 
     /// Loads what is at `path`, until that has ended. Whether there is an image then.
     bool shows(const char* path) {

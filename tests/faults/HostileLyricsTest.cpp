@@ -48,7 +48,8 @@ public:
     }
 
     test::NetworkMachine machine;
-    std::shared_ptr<LyricsStore> lyrics = LyricsStore::create();
+    std::shared_ptr<LyricsStore> lyrics =
+        LyricsStore::create(machine.tasks, machine.http, machine.constants);
 
 private:
     int songs_ = 0;

@@ -13,6 +13,9 @@ namespace brellowind::test {
 /// The real HTTP client, which waits for an answer no longer than a test has time for.
 class ImpatientHttpClient final : public platform::HttpClient {
 public:
+    explicit ImpatientHttpClient(platform::MainLoop& mainLoop)
+        : HttpClient(mainLoop), client_(mainLoop) {}
+
     std::unique_ptr<platform::Transfer> send(const platform::HttpRequest& request,
                                              Completion completion) override {
         auto hurried = request;
@@ -28,46 +31,20 @@ private:
     platform::QtHttpClient client_;
 };
 
-/// The machine of a test whose main loop, network and log are real; the rest are stand-ins. Lyrics
-/// and feed are looked for at `origin`.
-class NetworkMachine {
-public:
-    explicit NetworkMachine(const QString& origin)
-        : constants(standIns.constants), scope_(services(origin, standIns.images)) {}
-
-    /// With a decoder of images that is real, too.
-    NetworkMachine(const QString& origin, platform::ImageDecoder& images)
-        : constants(standIns.constants), scope_(services(origin, images)) {}
-
-    TestMachine standIns;
-    platform::ProductConstants constants;
-    platform::QtMainLoop mainLoop;
-    platform::StderrLog log;
-    ImpatientHttpClient http;
-    TaskRunner tasks{mainLoop};
-
-private:
-    platform::Services services(const QString& origin, platform::ImageDecoder& images) {
+/// What a test needs of a machine whose main loop, network and log are real. Lyrics and feed are
+/// looked for at `origin`.
+struct NetworkMachine {
+    explicit NetworkMachine(const QString& origin) {
         constants.lyricsOrigin = origin.toStdString();
         constants.updateFeedURL = constants.lyricsOrigin + "/latest.json";
-        return {.mainLoop = mainLoop,
-                .tasks = tasks,
-                .clock = standIns.clock,
-                .log = log,
-                .http = http,
-                .images = images,
-                .files = standIns.files,
-                .scripting = standIns.scripting,
-                .runningApplications = standIns.runningApplications,
-                .screens = standIns.screens,
-                .pointer = standIns.pointer,
-                .application = standIns.application,
-                .links = standIns.links,
-                .loginItem = standIns.loginItem,
-                .constants = constants};
     }
 
-    platform::ServicesScope scope_;
+    TestMachine standIns;
+    platform::ProductConstants constants = standIns.constants;
+    platform::QtMainLoop mainLoop;
+    platform::StderrLog log;
+    ImpatientHttpClient http{mainLoop};
+    TaskRunner tasks{mainLoop};
 };
 
 } // namespace brellowind::test

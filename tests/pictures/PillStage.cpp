@@ -2,7 +2,6 @@
 
 #include "app/BrellowindApp.h"
 #include "backdrop/Desktop.h"
-#include "platform/Services.h"
 #include "service/DemoSong.h"
 #include "views/drawing/PillShape.h"
 #include "views/drawing/WaveformGlyph.h"
@@ -23,7 +22,6 @@ namespace {
 constexpr int framesPerSecond = 60;
 constexpr int framesToRest = 198; ///< the wave then stands in the middle of the waveform symbol
 constexpr int waveformStepsPerSecond = 10;
-constexpr int largestArtworkPoints = 320;
 constexpr double screenWidth = 1512;
 constexpr double screenHeight = 982;
 
@@ -62,9 +60,9 @@ void prepareForPictures() {
     BrellowindApp::prepare();
 }
 
-PillStage::PillStage()
-    : images_(largestArtworkPoints), scope_(machine_.with(images_)),
-      root_(NotchRootView::create({.window = [] { return nullptr; }, .openSettings = [] {}})) {
+PillStage::PillStage() {
+    parts_.decoder = &images_;
+    root_ = parts_.make();
     FrameDriver::shared().freeze(0);
     const platform::Screen screen{.frame = {0, 0, screenWidth, screenHeight}};
     machine_.screens.connected = {screen};
@@ -116,8 +114,8 @@ void PillStage::step() {
     };
     machine_.mainLoop.advance(at(frames_ + 1) - at(frames_));
     ++frames_;
-    if (spotify_.state == "playing")
-        spotify_.position = std::to_string(songFrames_++ / double(framesPerSecond));
+    if (spotify_.plays)
+        spotify_.position = songFrames_++ / double(framesPerSecond);
     runTurns();
     for (auto* glyph : content_->root().findChildren<WaveformGlyph*>())
         if (glyph->isActive())

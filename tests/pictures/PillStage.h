@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/qt/QtImageDecoder.h"
-#include "support/TestMachine.h"
+#include "support/RootViewParts.h"
 #include "views/NotchRootView.h"
 #include "views/NotchView.h"
 
@@ -63,8 +63,8 @@ private:
 
     TestMachine machine_;
     platform::QtImageDecoder images_;
-    platform::ServicesScope scope_;
-    FakePlayer spotify_{machine_};
+    RootViewParts parts_{machine_};
+    FakePlayer& spotify_ = machine_.player;
     std::shared_ptr<NotchRootView> root_;
     std::unique_ptr<NotchView> content_;
     std::string lyrics_;

@@ -1,7 +1,7 @@
 #include "pictures/KeptPicture.h"
 #include "settings/SettingsRouter.h"
 #include "settings/window/SettingsWindow.h"
-#include "support/TestMachine.h"
+#include "support/SettingsParts.h"
 
 #include <QCoreApplication>
 #include <QQuickItem>
@@ -41,7 +41,8 @@ protected:
     }
 
     TestMachine machine;
-    SettingsWindow settings;
+    SettingsParts parts{machine};
+    SettingsWindow settings{parts.services()};
 };
 
 TEST_F(SettingsPictures, Checking) {
@@ -70,13 +71,13 @@ TEST_F(SettingsPictures, KeyboardOnTheSwitch) {
 }
 
 TEST_F(SettingsPictures, About) {
-    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    parts.router.setSelectedTab(SettingsTab::about);
     machine.mainLoop.runTurns();
     expectLook("about");
 }
 
 TEST_F(SettingsPictures, KeyboardOnALink) {
-    SettingsRouter::shared().setSelectedTab(SettingsTab::about);
+    parts.router.setSelectedTab(SettingsTab::about);
     machine.mainLoop.runTurns();
     focus("websiteButton");
     expectLook("keyboard-on-link");
@@ -85,7 +86,8 @@ TEST_F(SettingsPictures, KeyboardOnALink) {
 /// Before the first check: a machine whose turns have not come.
 TEST(SettingsPicturesAtFirst, Idle) {
     TestMachine machine;
-    SettingsWindow settings;
+    SettingsParts parts{machine};
+    SettingsWindow settings{parts.services()};
     settings.open();
     QCoreApplication::processEvents();
     expectKept(settings.window()->grabWindow().convertToFormat(QImage::Format_RGB32),

@@ -1,4 +1,5 @@
 #include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtMainLoop.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -50,7 +51,8 @@ std::string sentWith(CachePolicy policy) {
     int argc = 0;
     const QCoreApplication application(argc, nullptr);
     LoopbackServer server;
-    QtHttpClient client;
+    QtMainLoop mainLoop;
+    QtHttpClient client{mainLoop};
     const HttpRequest request{.url = server.url(),
                               .headers = {},
                               .maximumBodyBytes = 0,

@@ -60,7 +60,6 @@ public:
         view_.machine.mainLoop.runTurns();
         view_.spotify.launch();
         view_.spotify.readable = true;
-        view_.spotify.record.reset();
         view_.spotify.artwork.clear();
         view_.spotify.plays = false;
         answerAll();
@@ -95,10 +94,10 @@ private:
             playSong();
             break;
         case 1:
-            spotify.position = std::to_string(chance_.below(300));
+            spotify.position = chance_.below(300);
             break;
         case 2:
-            spotify.state = chance_.onceIn(3) ? "paused" : "playing";
+            spotify.plays = !chance_.onceIn(3);
             break;
         case 3:
             chance_.onceIn(3) ? spotify.quit() : spotify.launch();
@@ -136,15 +135,7 @@ private:
             chance_.onceIn(3) ? "" : "https://covers.example/" + std::to_string(songs);
     }
 
-    void failOrSucceed() {
-        auto& spotify = view_.spotify;
-        spotify.readable = true;
-        spotify.record.reset();
-        if (chance_.onceIn(4))
-            spotify.readable = false;
-        else if (chance_.onceIn(4))
-            spotify.record = "half a record";
-    }
+    void failOrSucceed() { view_.spotify.readable = !chance_.onceIn(3); }
 
     /// Lyrics, covers and feeds, good ones and bad ones; at the end of an hour none.
     void answerAll() {
@@ -201,7 +192,7 @@ private:
             checks_.cancel();
         } else {
             settings_.emplace();
-            checks_ = UpdateChecker::shared().state.observe([this] { ++redraws; });
+            checks_ = view_.parts.updater->state.observe([this] { ++redraws; });
             settings_->appear();
             settings_->setLaunchAtLogin(chance_.onceIn(2));
         }

@@ -1,6 +1,7 @@
 #include "loopback/LoopbackServer.h"
 #include "platform/qt/Download.h"
 #include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtMainLoop.h"
 
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -48,7 +49,8 @@ protected:
         connection = exchange.connection;
         answer(exchange);
     }};
-    QtHttpClient client;
+    QtMainLoop mainLoop;
+    QtHttpClient client{mainLoop};
 };
 
 /// Sends `byte` again and again, each a moment after the one before.
@@ -190,7 +192,7 @@ TEST_F(QtHttpClientAbort, TheCompletionNeverComesFromTheCallThatSends) {
 }
 
 TEST_F(QtHttpClientAbort, TheClientMayGoBeforeItsTransfers) {
-    auto shortLived = std::make_unique<QtHttpClient>();
+    auto shortLived = std::make_unique<QtHttpClient>(mainLoop);
     Download download(*shortLived, request());
     ASSERT_TRUE(isAsked());
     shortLived.reset();

@@ -2,6 +2,7 @@
 #include "platform/qt/Download.h"
 #include "platform/qt/Gzip.h"
 #include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtMainLoop.h"
 
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -39,7 +40,8 @@ protected:
         asked = exchange.header("accept-encoding");
         handler(exchange);
     }};
-    QtHttpClient client;
+    QtMainLoop mainLoop;
+    QtHttpClient client{mainLoop};
 };
 
 TEST_F(QtHttpClientGzip, IsAllThatIsAskedFor) {

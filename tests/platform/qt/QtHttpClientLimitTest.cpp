@@ -2,6 +2,7 @@
 #include "platform/qt/Download.h"
 #include "platform/qt/Gzip.h"
 #include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtMainLoop.h"
 #include "session/ProcessUse.h"
 
 #include <QRandomGenerator>
@@ -65,7 +66,8 @@ protected:
         if (closes)
             exchange.connection->disconnectFromHost();
     }};
-    QtHttpClient client;
+    QtMainLoop mainLoop;
+    QtHttpClient client{mainLoop};
 };
 
 TEST_F(QtHttpClientLimit, ABodyOfExactlyTheLimitPasses) {

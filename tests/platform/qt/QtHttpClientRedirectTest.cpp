@@ -2,6 +2,7 @@
 #include "platform/qt/Certificate.h"
 #include "platform/qt/Download.h"
 #include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtMainLoop.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -58,7 +59,8 @@ protected:
         return configuration;
     }
 
-    QtHttpClient client;
+    QtMainLoop mainLoop;
+    QtHttpClient client{mainLoop};
 };
 
 TEST_F(QtHttpClientRedirect, IsFollowedWhateverItsKind) {

@@ -1,4 +1,5 @@
 #include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtMainLoop.h"
 
 #include "loopback/LoopbackServer.h"
 #include "platform/qt/Download.h"
@@ -27,7 +28,8 @@ protected:
         exchanges.push_back(exchange);
         answer(exchange);
     }};
-    QtHttpClient client;
+    QtMainLoop mainLoop;
+    QtHttpClient client{mainLoop};
 };
 
 TEST_F(QtHttpClientTest, SendsTheBytesOfTheURLUnchanged) {

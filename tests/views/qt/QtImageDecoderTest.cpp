@@ -39,8 +39,8 @@ std::string encoded(const QImage& image, const char* format) {
 
 /// What the program would show of `bytes`; null when that is nothing.
 QImage decoded(std::string_view bytes) {
-    QtImageDecoder decoder(largestPoints);
-    const auto image = decoder.decode(bytes);
+    QtImageDecoder decoder;
+    const auto image = decoder.decode(bytes, largestPoints);
     return image ? dynamic_cast<const QtImage&>(*image).image : QImage();
 }
 

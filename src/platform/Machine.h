@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/Application.h"
+#include "platform/Clock.h"
+#include "platform/HttpClient.h"
+#include "platform/Images.h"
+#include "platform/LinkOpener.h"
+#include "platform/LocalFiles.h"
+#include "platform/Log.h"
+#include "platform/LoginItem.h"
+#include "platform/MainLoop.h"
+#include "platform/Player.h"
+#include "platform/ProductConstants.h"
+#include "platform/WindowSystem.h"
+
+#include <functional>
+#include <memory>
+
+namespace brellowind::platform {
+
+/// All services of the system that the program runs on. Main thread only.
+class Machine {
+public:
+    virtual ~Machine() = default;
+
+    virtual MainLoop& mainLoop() = 0;
+    virtual Clock& clock() = 0;
+    virtual Log& log() = 0;
+    virtual HttpClient& http() = 0;
+    virtual ImageDecoder& images() = 0;
+    virtual LocalFiles& files() = 0;
+    virtual Player& player() = 0;
+    virtual WindowSystem& windowSystem() = 0;
+    virtual Application& application() = 0;
+    virtual LinkOpener& links() = 0;
+    virtual LoginItem& loginItem() = 0;
+
+    /// Makes this process the only one of the program in its session. `onSecondStart` runs whenever
+    /// another process has found this one there. False when another process was first: that one has
+    /// been told, and this one should end. Called once.
+    virtual bool claimSession(std::function<void()> onSecondStart) = 0;
+
+    /// Runs the main loop until the application terminates. Returns the exit status of the process.
+    virtual int run() = 0;
+};
+
+/// Makes the machine of this process, once. Null, after one line on standard error, where there is
+/// no window system that the program can be shown on. What `argv` points to must outlive it.
+std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& constants);
+
+} // namespace brellowind::platform

@@ -1,0 +1,101 @@
+#include "platform/Machine.h"
+#include "platform/linux/MprisPlayer.h"
+#include "platform/linux/ScreenLock.h"
+#include "platform/linux/SingleInstance.h"
+#include "platform/linux/XdgLoginItem.h"
+#include "platform/linux/x11/X11WindowSystem.h"
+#include "platform/qt/QtApplication.h"
+#include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtImageDecoder.h"
+#include "platform/qt/QtLinkOpener.h"
+#include "platform/qt/QtLocalFiles.h"
+#include "platform/qt/QtMainLoop.h"
+#include "platform/qt/SystemClock.h"
+#include "platform/unix/StderrLog.h"
+#include "platform/unix/UnixSignals.h"
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+#include <QStandardPaths>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+#include <optional>
+#include <utility>
+
+namespace brellowind::platform {
+namespace {
+
+XdgLoginItem makeLoginItem() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return {folder.toStdString(), QCoreApplication::applicationFilePath().toStdString(),
+            qEnvironmentVariable("PATH").toStdString()};
+}
+
+/// Destroyed from the bottom up.
+class LinuxMachine final : public Machine {
+public:
+    LinuxMachine(std::unique_ptr<QGuiApplication> guiApplication, const ProductConstants& constants)
+        : guiApplication_(std::move(guiApplication)),
+          player_(QDBusConnection::sessionBus(), constants.mprisPlayers, mainLoop_, log_) {
+        QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
+        // The desktop finds the icon of the settings window through it.
+        QGuiApplication::setDesktopFileName(QStringLiteral("org.brellowind.Brellowind"));
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+    }
+
+    MainLoop& mainLoop() override { return mainLoop_; }
+    Clock& clock() override { return clock_; }
+    Log& log() override { return log_; }
+    HttpClient& http() override { return http_; }
+    ImageDecoder& images() override { return images_; }
+    LocalFiles& files() override { return files_; }
+    Player& player() override { return player_; }
+    WindowSystem& windowSystem() override { return *windowSystem_; }
+    Application& application() override { return application_; }
+    LinkOpener& links() override { return links_; }
+    LoginItem& loginItem() override { return loginItem_; }
+
+    bool claimSession(std::function<void()> onSecondStart) override {
+        instance_.emplace(QDBusConnection::sessionBus(), windowSystem_->sessionName(),
+                          std::move(onSecondStart));
+        return instance_->claim();
+    }
+
+    int run() override { return QGuiApplication::exec(); }
+
+private:
+    std::unique_ptr<QGuiApplication> guiApplication_;
+    QtMainLoop mainLoop_;
+    SystemClock clock_;
+    StderrLog log_;
+    QtHttpClient http_{mainLoop_};
+    QtImageDecoder images_;
+    QtLocalFiles files_;
+    MprisPlayer player_;
+    ScreenLock screenLock_{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
+    std::unique_ptr<WindowSystem> windowSystem_ = makeWindowSystem(mainLoop_, screenLock_);
+    QtApplication application_;
+    QtLinkOpener links_;
+    XdgLoginItem loginItem_ = makeLoginItem();
+    UnixSignals signals_{[this] { application_.terminate(); }};
+    std::optional<SingleInstance> instance_;
+};
+
+} // namespace
+
+std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& constants) {
+#ifdef __GLIBC__
+    // What little other threads allocate needs no memory of each thread's own.
+    mallopt(M_ARENA_MAX, 1);
+    // Covers and other large blocks are given back as they are freed, instead of leaving holes
+    // between what stays. Without this the limit would rise to the largest block that was freed.
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+#endif
+    auto application = makeGuiApplication(argc, argv);
+    if (!application)
+        return nullptr;
+    return std::make_unique<LinuxMachine>(std::move(application), constants);
+}
+
+} // namespace brellowind::platform
