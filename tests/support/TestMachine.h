@@ -167,6 +167,7 @@ struct TestMachine {
         .feedbackEmail = "feedback@brellowind.example",
         .updateFeedURL = "https://brellowind.example/latest.json",
         .legalNotice = "© brellowind.example",
+        .mprisPlayers = {"spotify"},
     };
 };
 
