@@ -29,7 +29,7 @@ void NowPlaying::start() {
         if (const auto self = weakSelf.lock())
             self->tick();
     });
-    ticker_->setResting(!isPlaying.get());
+    ticker_->setPaused(!isPlaying.get());
 }
 
 void NowPlaying::stop() {
@@ -69,7 +69,7 @@ void NowPlaying::poll() {
 void NowPlaying::setPlaying(bool playing) {
     isPlaying.set(playing);
     if (ticker_)
-        ticker_->setResting(!playing);
+        ticker_->setPaused(!playing);
 }
 
 void NowPlaying::tick() {
