@@ -4,12 +4,9 @@
 #include "app/CompiledConstants.h"
 #include "app/SettingsLibrary.h"
 #include "platform/Services.h"
-#include "platform/linux/FontLookup.h"
 #include "platform/linux/MprisPlayer.h"
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/SingleInstance.h"
-#include "platform/linux/StderrLog.h"
-#include "platform/linux/UnixSignals.h"
 #include "platform/linux/XdgLoginItem.h"
 #include "platform/linux/screens/QtScreens.h"
 #include "platform/linux/x11/X11Pointer.h"
@@ -21,6 +18,8 @@
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtStartEnvironment.h"
 #include "platform/qt/SystemClock.h"
+#include "platform/unix/StderrLog.h"
+#include "platform/unix/UnixSignals.h"
 #include "playback/SpotifyBridge.h"
 #include "views/NotchRootView.h"
 
@@ -69,7 +68,6 @@ struct BrellowindApp::Machine {
     explicit Machine(const platform::ProductConstants& productConstants)
         : constants(productConstants) {}
 
-    platform::FontLookup fonts;
     platform::ProductConstants constants;
     platform::QtMainLoop mainLoop;
     platform::SystemClock clock;
@@ -130,7 +128,6 @@ BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)
 BrellowindApp::~BrellowindApp() = default;
 
 void BrellowindApp::launch() {
-    machine_->fonts.wait();
     machine_->delegate.applicationDidFinishLaunching();
 }
 
