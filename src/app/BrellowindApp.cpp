@@ -31,6 +31,7 @@
 #include <malloc.h>
 #endif
 #include <sstream>
+#include <utility>
 
 namespace brellowind {
 namespace {
@@ -65,8 +66,8 @@ platform::MprisVocabulary mprisVocabulary() {
 
 /// Destroyed from the bottom up: suspended tasks go before the services that they wait for.
 struct BrellowindApp::Machine {
-    explicit Machine(const platform::ProductConstants& productConstants)
-        : constants(productConstants) {}
+    Machine(const platform::ProductConstants& productConstants, QProcessEnvironment environment)
+        : constants(productConstants), links(std::move(environment)) {}
 
     platform::ProductConstants constants;
     platform::QtMainLoop mainLoop;
@@ -106,8 +107,8 @@ struct BrellowindApp::Machine {
                                       [this] { delegate.rootView().openSettings(); }};
 };
 
-void BrellowindApp::prepare() {
-    platform::QtStartEnvironment::choose();
+QProcessEnvironment BrellowindApp::prepare() {
+    auto environment = platform::QtStartEnvironment::choose();
 #ifdef __GLIBC__
     // What little other threads allocate needs no memory of each thread's own.
     mallopt(M_ARENA_MAX, 1);
@@ -116,14 +117,16 @@ void BrellowindApp::prepare() {
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    return environment;
 }
 
 bool BrellowindApp::claimDisplay() {
     return machine_->instance.claim();
 }
 
-BrellowindApp::BrellowindApp(const platform::ProductConstants& constants)
-    : machine_(std::make_unique<Machine>(constants)) {}
+BrellowindApp::BrellowindApp(const platform::ProductConstants& constants,
+                             QProcessEnvironment environment)
+    : machine_(std::make_unique<Machine>(constants, std::move(environment))) {}
 
 BrellowindApp::~BrellowindApp() = default;
 

@@ -2,6 +2,7 @@
 
 #include "platform/ProductConstants.h"
 
+#include <QProcessEnvironment>
 #include <memory>
 
 namespace brellowind {
@@ -13,10 +14,12 @@ class NotchRootView;
 /// must live longer.
 class BrellowindApp {
 public:
-    /// What Qt wants to be told before its application object exists.
-    static void prepare();
+    /// What Qt wants to be told before its application object exists. Returns the environment as it
+    /// was before.
+    static QProcessEnvironment prepare();
 
-    explicit BrellowindApp(const platform::ProductConstants& constants);
+    /// `environment` is for the programs that this one starts.
+    BrellowindApp(const platform::ProductConstants& constants, QProcessEnvironment environment);
     BrellowindApp(const BrellowindApp&) = delete;
     BrellowindApp& operator=(const BrellowindApp&) = delete;
     ~BrellowindApp();
