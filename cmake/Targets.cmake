@@ -1,28 +1,10 @@
 # Makers of the project's own targets, so that every one has the same warnings and include root.
-include(CheckCXXCompilerFlag)
-
 add_library(brellowind_options INTERFACE)
 target_compile_options(brellowind_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
   # Compiled QML shadows its own parameters.
   $<$<NOT:$<BOOL:$<TARGET_PROPERTY:BRELLOWIND_COMPILES_QML>>>:-Wshadow>
   $<$<BOOL:${BRELLOWIND_WARNINGS_AS_ERRORS}>:-Werror>)
-
-# A bent return address or an overrun buffer ends the program instead of steering it.
-target_compile_options(brellowind_options INTERFACE -fstack-protector-strong)
-foreach(flag IN ITEMS -fstack-clash-protection -fcf-protection) # not on every processor
-  string(MAKE_C_IDENTIFIER "BRELLOWIND_HAS${flag}" has_flag)
-  check_cxx_compiler_flag(${flag} ${has_flag})
-  if(${has_flag})
-    target_compile_options(brellowind_options INTERFACE ${flag})
-  endif()
-endforeach()
-target_link_options(brellowind_options INTERFACE "LINKER:-z,relro,-z,now,-z,noexecstack")
-if(NOT BRELLOWIND_SANITIZE) # the sanitizers watch the plain functions, not the checked ones
-  # Without optimisation there are no checked functions. Packagers define the macro, too.
-  target_compile_options(brellowind_options INTERFACE
-    $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>)
-endif()
 
 if(BRELLOWIND_SANITIZE)
   target_compile_options(brellowind_options INTERFACE

@@ -27,18 +27,18 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "${BRELLOWIND_WEBSITE_URL}")
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 
-# The libraries are computed. QML modules and plugins are loaded while the program runs, and the bus
-# and the certificates belong to the system: nothing can compute them. Qt 6.4 looks for the last of
-# the modules only, since the library of Qt Quick brings the types of the others; that is its own
-# affair, so what the QML imports is named whole.
+# The libraries are computed. QML modules and plugins are loaded while the program runs, links are
+# opened by a command, and the bus and the certificates belong to the system: nothing can compute
+# them. Qt 6.4 looks for the last of the modules only, since the library of Qt Quick brings the types
+# of the others; that is its own affair, so what the QML imports is named whole.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
   qml6-module-qtquick qml6-module-qtqml qml6-module-qtqml-workerscript
-  ca-certificates
+  ca-certificates xdg-utils
   "default-dbus-session-bus | dbus-session-bus")
-# Covers in WebP; links and feedback in the desktop's own programs; texts of most scripts.
+# Covers in WebP; texts of most scripts.
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_RECOMMENDS
-  qt6-image-formats-plugins xdg-utils fonts-noto-core)
+  qt6-image-formats-plugins fonts-noto-core)
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_SUGGESTS fonts-inter fonts-noto-cjk)
 
 include(CPack)

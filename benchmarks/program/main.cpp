@@ -6,11 +6,12 @@
 
 #include <QGuiApplication>
 #include <cstdio>
+#include <utility>
 
 using namespace brellowind;
 
 int main(int argc, char** argv) {
-    BrellowindApp::prepare();
+    auto environment = BrellowindApp::prepare();
     QGuiApplication application(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: brellowind-measured LYRICS-ORIGIN\n");
@@ -19,7 +20,7 @@ int main(int argc, char** argv) {
     auto constants = compiledConstants();
     constants.lyricsOrigin = argv[1];
     constants.updateFeedURL = constants.lyricsOrigin + "/latest.json"; // nothing leaves the machine
-    BrellowindApp app(constants);
+    BrellowindApp app(constants, std::move(environment));
     if (!app.claimDisplay())
         return 1;
     app.launch();

@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <memory>
 #include <optional>
+#include <utility>
 
 using namespace brellowind;
 using namespace brellowind::demo;
@@ -46,7 +47,7 @@ QStringList playerArguments(const DemoSong& song, const QString& origin) {
 } // namespace
 
 int main(int argc, char** argv) {
-    BrellowindApp::prepare();
+    auto environment = BrellowindApp::prepare();
     QGuiApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows the pill singing a built-in song."));
@@ -74,7 +75,7 @@ int main(int argc, char** argv) {
 
     auto constants = compiledConstants();
     constants.lyricsOrigin = origin.toStdString();
-    BrellowindApp app(constants);
+    BrellowindApp app(constants, std::move(environment));
     Recorder recorder(app);
     std::optional<Backdrop> backdrop;
     if (parser.isSet(picturesOption)) {

@@ -24,7 +24,7 @@ enum class CachePolicy {
 struct HttpRequest {
     std::string url; ///< absolute and percent-encoded
     std::vector<std::pair<std::string, std::string>> headers;
-    std::size_t maximumBodyBytes; ///< a longer body, packed or not, is a transport failure
+    std::size_t maximumBodyBytes; ///< a longer body is a transport failure
     std::chrono::milliseconds timeout = std::chrono::seconds(60); ///< for the whole transfer
     CachePolicy cachePolicy = CachePolicy::protocol;
 };
@@ -35,7 +35,7 @@ struct HttpResponse {
 };
 
 /// No answer arrived: no connection, time-out, cancellation, a redirect that is unsafe or leads
-/// nowhere, a body too long, cut off or compressed otherwise than by gzip.
+/// nowhere, a body too long, cut off or compressed.
 struct TransportError {
     std::string description;
 };

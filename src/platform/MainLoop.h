@@ -6,28 +6,27 @@
 
 namespace brellowind::platform {
 
-/// A scheduled timer. Destroying it unschedules it; its handler may destroy it.
+/// A scheduled timer. Destroying it cancels it; its handler may destroy it.
 class Timer {
 public:
     virtual ~Timer() = default;
 };
 
-/// A timer that fires again and again.
+/// A timer that fires at regular intervals.
 class RepeatingTimer : public Timer {
 public:
-    /// While it rests it does not fire, and wakes nothing; after that it fires within an interval.
-    /// It is made awake.
-    virtual void setResting(bool resting) = 0;
+    /// Pauses or resumes the timer. Timers start running. A resumed timer fires after at most one
+    /// interval.
+    virtual void setPaused(bool paused) = 0;
 };
 
-/// Work that is wanted once before the main loop rests, however often it is asked for.
-/// Destroying it withdraws it; its handler may destroy it.
+/// A handler that can be queued to run on the next turn of the main loop. Destroying this cancels a
+/// pending run; the handler may destroy it.
 class NextTurn {
 public:
     virtual ~NextTurn() = default;
 
-    /// Asks for the handler to run on the next turn of the main loop. Asking again before it has
-    /// run changes nothing. Allocates nothing.
+    /// Queues the handler. Does nothing if it is queued already.
     virtual void request() = 0;
 };
 

@@ -31,7 +31,7 @@ void NowPlaying::start() {
         if (const auto self = weakSelf.lock())
             self->tick();
     });
-    ticker_->setResting(!isPlaying.get());
+    ticker_->setPaused(!isPlaying.get());
 }
 
 void NowPlaying::stop() {
@@ -93,7 +93,7 @@ void NowPlaying::apply(Player::Snapshot reading) {
 void NowPlaying::setPlaying(bool playing) {
     isPlaying.set(playing);
     if (ticker_)
-        ticker_->setResting(!playing);
+        ticker_->setPaused(!playing);
 }
 
 void NowPlaying::tick() {

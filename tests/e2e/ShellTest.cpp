@@ -144,6 +144,16 @@ TEST_P(ShellGetsSignal, EndsWithoutAFault) {
     EXPECT_EQ(program->process().finish(), 0);
 }
 
+TEST_F(Shell, SurvivesItsTerminalWhenStartedByNohup) {
+    auto& started = program.emplace(desktop, service.origin(), environment,
+                                    QStringList{QStringLiteral("nohup")});
+    send(SIGHUP);
+    EXPECT_TRUE(started.comesToRest());
+    EXPECT_TRUE(started.process().isRunning());
+    send(SIGTERM);
+    EXPECT_EQ(started.process().finish(), 0);
+}
+
 TEST_P(ShellGetsSignal, EndsWithoutAFaultWhileSettingsAreOpenAndACheckWaits) {
     feed.hold();
     startWithSettings();

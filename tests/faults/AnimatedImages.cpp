@@ -1,7 +1,6 @@
 #include "faults/AnimatedImages.h"
 
 #include <QtEndian>
-#include <zlib.h>
 
 namespace brellowind::test::hostile {
 namespace {
@@ -22,11 +21,21 @@ QByteArray riffChunk(const char* name, const QByteArray& data) {
     return name + little(static_cast<int>(data.size()), 4) + data + padding;
 }
 
+/// The checksum of PNG's chunks.
+quint32 crc32(const QByteArray& bytes) {
+    constexpr quint32 polynomial = 0xEDB88320;
+    quint32 sum = ~0U;
+    for (const char byte : bytes) {
+        sum ^= static_cast<unsigned char>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = sum >> 1U ^ ((sum & 1U) != 0 ? polynomial : 0);
+    }
+    return ~sum;
+}
+
 QByteArray pngChunk(const QByteArray& name, const QByteArray& data) {
     const QByteArray checked = name + data;
-    const auto sum =
-        crc32(0, reinterpret_cast<const Bytef*>(checked.data()), static_cast<uInt>(checked.size()));
-    return big(static_cast<quint32>(data.size())) + checked + big(static_cast<quint32>(sum));
+    return big(static_cast<quint32>(data.size())) + checked + big(crc32(checked));
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "faults/HostileAnswers.h"
 
-#include "platform/qt/Gzip.h"
-
 #include <QTimer>
 #include <array>
 #include <chrono>
@@ -57,35 +55,6 @@ void redirect(const Exchange& exchange, const QByteArray& location) {
                   "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
     if (exchange.connection)
         exchange.connection->disconnectFromHost();
-}
-
-const QByteArray& gzipBomb() {
-    static const QByteArray bomb = gzip(QByteArray(hundredMegabytes, ' '));
-    return bomb;
-}
-
-QByteArray beginningOfNothing() {
-    return QByteArray::fromHex("1f8b0800000000000003");
-}
-
-QByteArray blocksOfNothing(qsizetype size) {
-    // Four blocks that end with a byte: each describes a code of its own, and ends.
-    const auto blocks =
-        QByteArray::fromBase64("BMCBAAAAAACQ/2sQAAcCAAAAAED+r0EAHAgAAAAAAPm/BgFwIAAAAAAA5P8a");
-    return blocks.repeated(size / blocks.size());
-}
-
-QByteArray zstandardBomb() {
-    constexpr qsizetype blockSize = 128 << 10;
-    constexpr char windowOfOneBlock = 7 << 3;
-    // A block says that one byte comes again and again: in three bytes its size, that it does, and
-    // whether it is the last.
-    constexpr quint32 repeated = blockSize << 3 | 1 << 1;
-    const auto block = [](quint32 head) {
-        return QByteArray(reinterpret_cast<const char*>(&head), 3) + ' ';
-    };
-    return QByteArray("\x28\xB5\x2F\xFD\x00", 5) + windowOfOneBlock +
-           block(repeated).repeated(hundredMegabytes / blockSize) + block(repeated | 1);
 }
 
 QByteArray brotliBomb() {

@@ -29,18 +29,7 @@ void reset(const demo::Exchange& exchange);
 /// Leads elsewhere.
 void redirect(const demo::Exchange& exchange, const QByteArray& location);
 
-/// A gzip file of a few hundred kilobytes that unpacks to a hundred megabytes of spaces.
-const QByteArray& gzipBomb();
-
-/// The first bytes of a gzip file, and what may follow: so many bytes, or a few less, that unpack
-/// to nothing and take as long as they can to do so.
-QByteArray beginningOfNothing();
-QByteArray blocksOfNothing(qsizetype size);
-
-/// A hundred megabytes in the Zstandard format, in a few kilobytes.
-QByteArray zstandardBomb();
-
-/// The same in the Brotli format, in 77 bytes.
+/// A hundred megabytes of spaces in the Brotli format, in 77 bytes.
 QByteArray brotliBomb();
 
 } // namespace brellowind::test::hostile

@@ -1,7 +1,6 @@
 #include "faults/HostileAnswers.h"
 #include "faults/HostileServer.h"
 #include "faults/NetworkMachine.h"
-#include "platform/qt/Gzip.h"
 #include "session/EventLoop.h"
 #include "session/LoopWatch.h"
 #include "settings/UpdateChecker.h"
@@ -105,21 +104,9 @@ const std::vector<Row> rows{
     {"RedirectLoop", Case::failed, [](const Exchange& e) { hostile::redirect(e, "/latest.json"); }},
     {"RedirectToAStrangePlace", Case::failed,
      [](const Exchange& e) { hostile::redirect(e, "strange:\x1B[2J%0Aplace"); }},
-    {"GzipBomb", Case::failed,
-     [bomb = hostile::gzipBomb()](const Exchange& e) {
-         hostile::answer(e, "Content-Encoding: gzip\r\n", bomb);
-     }},
-    {"CompressedAndCutOff", Case::failed,
-     [](const Exchange& e) {
-         hostile::answer(e, "Content-Encoding: gzip\r\n", test::gzip(goodFeed).chopped(1));
-     }},
     {"CompressedInAWayNeverAskedFor", Case::failed,
      [](const Exchange& e) {
          hostile::answer(e, "Content-Encoding: \x1B[2J\r\n", hostile::brotliBomb());
-     }},
-    {"Compressed", Case::available,
-     [](const Exchange& e) {
-         hostile::answer(e, "Content-Encoding: gzip\r\n", test::gzip(goodFeed));
      }},
     {"AHundredMegabytes", Case::failed,
      [](const Exchange& e) {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/linux/StderrLog.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtMainLoop.h"
+#include "platform/unix/StderrLog.h"
 #include "support/TestMachine.h"
 
 #include <QString>

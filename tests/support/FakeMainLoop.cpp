@@ -17,7 +17,7 @@ public:
 
     ~FakeTimer() override { loop_.timers_.remove(this); }
 
-    void setResting(bool resting) override { resting_ = resting; }
+    void setPaused(bool paused) override { paused_ = paused; }
 
     void fire() {
         const auto handler = handler_; // it may destroy this timer
@@ -25,7 +25,7 @@ public:
             due += interval_;
         else
             due = milliseconds::max();
-        if (resting_)
+        if (paused_)
             return;
         if (std::exchange(loop_.lastWakeUp_, loop_.now_) != loop_.now_)
             ++loop_.wakeUps_;
@@ -38,7 +38,7 @@ public:
 
 private:
     milliseconds interval_;
-    bool resting_ = false;
+    bool paused_ = false;
     FakeMainLoop& loop_;
     std::shared_ptr<Handler> handler_;
 };

@@ -8,8 +8,8 @@
 #include <new>
 #include <string>
 
-// The pill is redrawn twenty times a second for as long as music plays. What happens then must not
-// touch the heap, so this program counts every call of the global operator new.
+// The pill is redrawn twenty times a second for as long as music plays. What the logic does then
+// must not touch the heap, so this program counts every call of the global operator new.
 
 namespace {
 

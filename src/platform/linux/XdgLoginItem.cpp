@@ -1,9 +1,10 @@
 #include "platform/linux/XdgLoginItem.h"
 
 #include "foundation/Utf8.h"
-#include "platform/linux/AtomicFile.h"
 #include "platform/linux/DesktopEntry.h"
 
+#include <QFile>
+#include <QSaveFile>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -16,6 +17,8 @@ namespace brellowind::platform {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr const char* entryName = "brellowind.desktop";
 
 /// The entry's keys; none when there is no readable file.
 std::map<std::string, std::string> readEntry(const fs::path& path) {
@@ -47,10 +50,22 @@ bool isExecutableFile(const fs::path& path) {
     return fs::is_regular_file(path, error) && ::access(path.c_str(), X_OK) == 0;
 }
 
-std::string failure(std::string_view action, const fs::path& path, const std::error_code& error) {
-    std::string description = "cannot ";
-    description += action;
-    return description + ' ' + path.native() + ": " + error.message();
+std::string failure(const char* action, const fs::path& path, const std::string& reason) {
+    return std::string("cannot ") + action + ' ' + path.native() + ": " + reason;
+}
+
+/// Makes `folder` and what is missing of the path to it, for the user alone.
+std::error_code makeFolders(const fs::path& folder) {
+    fs::path made;
+    std::error_code error;
+    for (const auto& part : folder) {
+        made /= part;
+        if (fs::create_directory(made, error))
+            fs::permissions(made, fs::perms::owner_all, error);
+        if (error)
+            break;
+    }
+    return error;
 }
 
 /// The path does not fit the format: it is not text, or the format cannot hold an equal sign in
@@ -88,8 +103,15 @@ std::optional<std::string> XdgLoginItem::registerItem() {
         return "an autostart entry cannot name the program " + executable_.native();
     if (!isExecutableFile(executable_))
         return "there is no program at " + executable_.native();
-    if (const auto error = replaceFile(entry_, entryText(executable_)))
-        return failure("write", entry_, error);
+    if (const auto error = makeFolders(entry_.parent_path()))
+        return failure("write", entry_, error.message());
+    std::error_code error;
+    if (fs::is_symlink(entry_, error))
+        fs::remove(entry_, error); // the file that it leads to is somebody else's
+    QSaveFile file(QFile::decodeName(entry_.c_str()));
+    const auto text = QByteArray::fromStdString(entryText(executable_));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0 || !file.commit())
+        return failure("write", entry_, file.errorString().toStdString());
     return std::nullopt;
 }
 
@@ -99,7 +121,7 @@ std::optional<std::string> XdgLoginItem::unregisterItem() {
     std::error_code error;
     fs::remove(entry_, error);
     if (error)
-        return failure("remove", entry_, error);
+        return failure("remove", entry_, error.message());
     return std::nullopt;
 }
 

@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 
 namespace brellowind::platform {
 
@@ -13,8 +12,6 @@ namespace brellowind::platform {
 /// program. Entries that do not are the user's own matter: only a registration replaces them.
 class XdgLoginItem final : public LoginItem {
 public:
-    static constexpr std::string_view entryName = "brellowind.desktop";
-
     /// `configurationFolder` is the user's, usually ~/.config; `executable` is the absolute path
     /// of this program; `searchPath` lists the folders, separated by colons, in which the session
     /// finds programs by their bare names.

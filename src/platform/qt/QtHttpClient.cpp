@@ -1,7 +1,5 @@
 #include "platform/qt/QtHttpClient.h"
 
-#include "platform/qt/HttpBody.h"
-
 #include <QBasicTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -12,13 +10,13 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace brellowind::platform {
 namespace {
 
-/// Of a body that comes faster than it is taken, so much waits in memory; the rest on the network.
-/// It is the most that one turn of the main loop has to unpack.
+/// How much of a body Qt buffers ahead of us; the rest waits in the network.
 constexpr qint64 readAhead = 256 << 10;
 
 // The answers that have no body, whatever length they name.
@@ -46,6 +44,12 @@ bool isWeb(const QUrl& url) {
 /// Whether what was asked for under an encrypted address would be sent in the clear.
 bool isLessSafe(const QUrl& to, const QUrl& from) {
     return from.scheme() == QLatin1String("https") && to.scheme() != QLatin1String("https");
+}
+
+/// Whether a body with this Content-Encoding is as its origin wrote it.
+bool isPlain(const QByteArray& contentEncoding) {
+    const QByteArray encoding = contentEncoding.trimmed().toLower();
+    return encoding.isEmpty() || encoding == "identity";
 }
 
 class QtTransfer final : public QObject, public Transfer {
@@ -94,7 +98,7 @@ private:
         else if (!isWhole())
             complete(TransportError{"the body was cut off"});
         else
-            complete(HttpResponse{status(), body_->taken()});
+            complete(HttpResponse{status(), std::move(body_)});
     }
 
     /// Asks where the answer leads, whatever its body says. Every step has a reply of its own: Qt,
@@ -115,25 +119,25 @@ private:
     }
 
     /// Qt may report a body as whole that was cut off, when the connection closes in the moment in
-    /// which a part of it is taken.
+    /// which a part of it is taken. Of a chunked body nothing else tells.
     bool isWhole() const {
         const bool hasBody = status() != noContent && status() != notModified;
         const auto length = reply_->header(QNetworkRequest::ContentLengthHeader);
-        const bool hasLength = hasBody && length.isValid();
-        return (!hasLength || body_->received() >= length.toULongLong()) && body_->isWhole();
+        return !hasBody || !length.isValid() || body_.size() >= length.toULongLong();
     }
 
-    /// Takes what has arrived. What is wrong with it, if anything is.
+    /// Takes what has arrived. Returns an error if the body is of no use.
     std::optional<TransportError> readBody() {
-        if (!body_)
-            body_.emplace(reply_->rawHeader("Content-Encoding").toStdString(), maximumBodyBytes_);
         std::array<char, 16384> piece;
         for (;;) {
             const qint64 count = reply_->read(piece.data(), piece.size());
             if (count <= 0)
                 return std::nullopt;
-            if (auto error = body_->take({piece.data(), static_cast<std::size_t>(count)}))
-                return error;
+            if (!isPlain(reply_->rawHeader("Content-Encoding")))
+                return TransportError{"the body is compressed, which was not asked for"};
+            if (static_cast<std::size_t>(count) > maximumBodyBytes_ - body_.size())
+                return TransportError{"the body is too long"};
+            body_.append(piece.data(), static_cast<std::size_t>(count));
         }
     }
 
@@ -159,7 +163,7 @@ private:
     int redirects_ = 0;
     HttpClient::Completion completion_;
     std::size_t maximumBodyBytes_;
-    std::optional<HttpBody> body_; ///< of the answer that leads no further
+    std::string body_; ///< what has arrived of the answer that leads no further
 };
 
 /// An address of another kind becomes one that cannot be fetched: Qt would also read files.
@@ -180,9 +184,9 @@ QNetworkRequest networkRequest(const HttpRequest& request) {
                              QNetworkRequest::AlwaysNetwork);
         network.setRawHeader("Cache-Control", "no-cache"); // for the proxies on the way
     }
-    // Whoever names a compression gets the body as it was sent. Qt by itself asks for whatever it
-    // knows, and unpacks some of that in turns of the main loop that are too long.
-    network.setRawHeader("Accept-Encoding", "gzip");
+    // By default Qt asks for every compression that it knows, and unpacks some bodies in turns of
+    // the main loop that are too long. With a header of our own it leaves the body as it was sent.
+    network.setRawHeader("Accept-Encoding", "identity");
     for (const auto& [name, value] : request.headers)
         network.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
     return network;

@@ -1,22 +1,21 @@
 #pragma once
 
 #include "platform/LinkOpener.h"
-#include "platform/qt/QtStartEnvironment.h"
 
-#include <QByteArray>
-#include <QDesktopServices>
-#include <QUrl>
+#include <QProcessEnvironment>
 
 namespace brellowind::platform {
 
-/// The desktop's own handlers of links.
+/// Opens links with `xdg-open`, the freedesktop.org command for it.
 class QtLinkOpener final : public LinkOpener {
 public:
-    bool open(std::string_view url) override {
-        QtStartEnvironment::takeBack(); // the program that opens it chooses for itself
-        const QByteArray encoded(url.data(), static_cast<qsizetype>(url.size()));
-        return QDesktopServices::openUrl(QUrl::fromEncoded(encoded));
-    }
+    /// `environment` is what the programs that open links get.
+    explicit QtLinkOpener(QProcessEnvironment environment);
+
+    bool open(std::string_view url) override;
+
+private:
+    QProcessEnvironment environment_;
 };
 
 } // namespace brellowind::platform

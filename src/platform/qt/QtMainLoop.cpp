@@ -1,8 +1,5 @@
 #include "platform/qt/QtMainLoop.h"
 
-#include "foundation/Observers.h"
-
-#include <QAbstractEventDispatcher>
 #include <QObject>
 #include <QTimerEvent>
 #include <utility>
@@ -17,13 +14,13 @@ public:
     QtTimer(std::chrono::milliseconds interval, Repeat repeat, MainLoop::Handler handler)
         : handler_(std::make_shared<MainLoop::Handler>(std::move(handler))), interval_(interval),
           repeat_(repeat) {
-        setResting(false);
+        setPaused(false);
     }
 
-    void setResting(bool resting) override {
-        if (resting == (id_ == 0))
+    void setPaused(bool paused) override {
+        if (paused == (id_ == 0))
             return;
-        if (resting)
+        if (paused)
             killTimer(std::exchange(id_, 0));
         else
             id_ = startTimer(interval_, timerType(repeat_));
@@ -34,7 +31,7 @@ protected:
         if (event->timerId() != id_)
             return;
         if (repeat_ == Repeat::never)
-            setResting(true);
+            setPaused(true);
         const auto handler = handler_; // it may destroy this timer
         (*handler)();
     }
@@ -49,69 +46,30 @@ private:
     std::shared_ptr<MainLoop::Handler> handler_;
     std::chrono::milliseconds interval_;
     Repeat repeat_;
-    int id_ = 0; ///< of Qt's timer; 0 while this one rests
+    int id_ = 0; ///< of Qt's timer; 0 while this one is paused
 };
 
-/// The turns of this thread's loop. A turn ends just before the loop rests; `awake` covers loops
-/// that are driven without resting. The loop passes one of the two before it rests, so only what is
-/// asked for after that has to wake it.
-class QtTurns final : public QObject, public std::enable_shared_from_this<QtTurns> {
-public:
-    static std::shared_ptr<QtTurns> ofThisThread() {
-        static thread_local std::weak_ptr<QtTurns> turns;
-        auto current = turns.lock();
-        if (!current)
-            turns = current = std::make_shared<QtTurns>();
-        return current;
-    }
-
-    QtTurns() {
-        const auto* dispatcher = QAbstractEventDispatcher::instance();
-        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] { end(true); });
-        connect(dispatcher, &QAbstractEventDispatcher::awake, this, [this] { end(false); });
-    }
-
-    /// What observes the ends of those turns in which something was requested.
-    Subscription add(Observers::Callback callback) { return ends_->add(std::move(callback)); }
-
-    void request() {
-        requested_ = true;
-        if (restsNext_)
-            QAbstractEventDispatcher::instance()->wakeUp();
-    }
-
-private:
-    void end(bool restsNext) {
-        if (!std::exchange(requested_, false))
-            return;
-        const auto self = shared_from_this(); // an observer may be the last owner
-        const bool before = std::exchange(restsNext_, restsNext);
-        ends_->notify();
-        restsNext_ = before;
-    }
-
-    std::shared_ptr<Observers> ends_ = std::make_shared<Observers>();
-    bool requested_ = false;
-    bool restsNext_ = false; ///< the loop has decided to rest and runs the last handlers
-};
-
-class QtNextTurn final : public NextTurn {
+/// Qt drops queued calls to an object that has been destroyed.
+class QtNextTurn final : public QObject, public NextTurn {
 public:
     explicit QtNextTurn(MainLoop::Handler handler)
-        : subscription_(turns_->add([this, handler = std::move(handler)] {
-              if (std::exchange(requested_, false))
-                  handler();
-          })) {}
+        : handler_(std::make_shared<MainLoop::Handler>(std::move(handler))) {}
 
     void request() override {
         if (!std::exchange(requested_, true))
-            turns_->request();
+            QMetaObject::invokeMethod(
+                this, [this] { run(); }, Qt::QueuedConnection);
     }
 
 private:
-    std::shared_ptr<QtTurns> turns_ = QtTurns::ofThisThread();
+    void run() {
+        requested_ = false;
+        const auto handler = handler_; // it may destroy this
+        (*handler)();
+    }
+
+    std::shared_ptr<MainLoop::Handler> handler_;
     bool requested_ = false;
-    Subscription subscription_;
 };
 
 } // namespace

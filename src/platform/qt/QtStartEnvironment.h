@@ -1,13 +1,12 @@
 #pragma once
 
-/// What Qt can be told only through the environment, and only while it starts.
+#include <QProcessEnvironment>
+
+/// What Qt can be told only through the environment.
 namespace brellowind::platform::QtStartEnvironment {
 
-/// To be called before there is an application object. What the user has set stays as it is.
-void choose();
-
-/// Takes back what was chosen, for the programs that this one starts. To be called once windows
-/// are shown: Qt has looked by then.
-void takeBack();
+/// Chooses what the person has not set. Call before there is an application object, while the
+/// process has one thread. Returns the environment as it was before, for programs that are started.
+QProcessEnvironment choose();
 
 } // namespace brellowind::platform::QtStartEnvironment

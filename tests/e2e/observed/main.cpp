@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <cstdio>
 #include <string>
+#include <utility>
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -16,13 +17,13 @@ int main(int argc, char** argv) {
     }
     const std::string origin = argv[1];
     argc = 1;
-    brellowind::BrellowindApp::prepare();
+    auto environment = brellowind::BrellowindApp::prepare();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
     auto constants = brellowind::compiledConstants();
     constants.lyricsOrigin = origin;
     constants.updateFeedURL = origin + "/latest.json";
-    brellowind::BrellowindApp app(constants);
+    brellowind::BrellowindApp app(constants, std::move(environment));
     if (!app.claimDisplay())
         return 0;
     app.launch();

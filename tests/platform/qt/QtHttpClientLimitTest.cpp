@@ -1,11 +1,8 @@
 #include "loopback/LoopbackServer.h"
 #include "platform/qt/Download.h"
-#include "platform/qt/Gzip.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtMainLoop.h"
-#include "session/ProcessUse.h"
 
-#include <QRandomGenerator>
 #include <arpa/inet.h>
 #include <atomic>
 #include <gtest/gtest.h>
@@ -21,7 +18,6 @@ namespace {
 using demo::Exchange;
 using demo::LoopbackServer;
 using test::Download;
-using test::gzip;
 using test::httpResponse;
 using test::waitUntil;
 
@@ -83,16 +79,6 @@ TEST_F(QtHttpClientLimit, ABodyOfExactlyTheLimitInChunksPasses) {
     expectPasses(body);
 }
 
-TEST_F(QtHttpClientLimit, ABodyOfExactlyTheLimitThatHardlyShrinksPassesCompressed) {
-    QByteArray body(limit, '\0');
-    QRandomGenerator generator(1);
-    generator.fillRange(reinterpret_cast<quint32*>(body.data()), limit / 4 - 1000);
-    const QByteArray packed = gzip(body);
-    ASSERT_GT(packed.size(), limit / 2);
-    bytes = httpResponse("Content-Encoding: gzip\r\n" + contentLength(packed.size()), packed);
-    expectPasses(body);
-}
-
 TEST_F(QtHttpClientLimit, OneByteMoreFails) {
     bytes = httpResponse(contentLength(limit + 1), QByteArray(limit + 1, 'x'));
     expectFails();
@@ -141,33 +127,6 @@ TEST_F(QtHttpClientLimit, MayBeNothing) {
     EXPECT_TRUE(Download(client, request).response().has_value());
     bytes = httpResponse(contentLength(1), "x");
     EXPECT_TRUE(Download(client, request).fails());
-}
-
-TEST_F(QtHttpClientLimit, CountsTheBytesThatACompressedBodyUnpacksTo) {
-    const QByteArray body(limit, 'x');
-    QByteArray packed = gzip(body);
-    bytes = httpResponse("Content-Encoding: gzip\r\n" + contentLength(packed.size()), packed);
-    expectPasses(body);
-    packed = gzip(body + 'x');
-    bytes = httpResponse("Content-Encoding: gzip\r\n" + contentLength(packed.size()), packed);
-    expectFails();
-}
-
-TEST_F(QtHttpClientLimit, CountsTheBytesThatACompressedBodyIsPackedInto) {
-    const QByteArray packed = gzip({}).repeated(limit / gzip({}).size() + 1); // of nothing
-    bytes = httpResponse("Content-Encoding: gzip\r\n", packed);               // and never an end
-    expectFailsAndCloses();
-}
-
-TEST_F(QtHttpClientLimit, ABodyThatUnpacksToAHundredTimesTheLimitTakesNoSuchMemory) {
-    constexpr qsizetype unpacked = 100 * limit;
-    const QByteArray packed = gzip(QByteArray(unpacked, 'x'));
-    bytes = httpResponse("Content-Encoding: gzip\r\n" + contentLength(packed.size()), packed);
-    const test::ProcessUse use;
-    use.forgetPeakMemory();
-    const qint64 before = use.peakMemoryKiB();
-    expectFails();
-    EXPECT_LT(use.peakMemoryKiB() - before, unpacked / 1024 / 4);
 }
 
 TEST_F(QtHttpClientLimit, ABodyWithoutEndFailsWithoutReadingAhead) {

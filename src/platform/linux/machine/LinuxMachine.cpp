@@ -10,6 +10,7 @@
 #include "platform/qt/QtLinkOpener.h"
 #include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
+#include "platform/qt/QtStartEnvironment.h"
 #include "platform/qt/SystemClock.h"
 #include "platform/unix/StderrLog.h"
 #include "platform/unix/UnixSignals.h"
@@ -92,10 +93,12 @@ std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstan
     // between what stays. Without this the limit would rise to the largest block that was freed.
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
+    auto environment = QtStartEnvironment::choose();
     auto application = makeGuiApplication(argc, argv);
     if (!application)
         return nullptr;
-    return std::make_unique<LinuxMachine>(std::move(application), constants);
+    return std::make_unique<LinuxMachine>(std::move(application), constants,
+                                          std::move(environment));
 }
 
 } // namespace brellowind::platform

@@ -1,0 +1,78 @@
+#include "platform/unix/UnixSignals.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+#include <utility>
+
+namespace brellowind::platform {
+namespace {
+
+/// Where the handler writes. A handler is given nothing but the signal's number and can reach no
+/// object, so this descriptor is global.
+volatile std::sig_atomic_t writeEnd = -1;
+
+/// Only what is allowed in a signal handler.
+void notify(int /*signal*/) {
+    const int error = errno;
+    const char byte = 0;
+    if (::write(writeEnd, &byte, 1) < 0) {
+        // The pipe is full of earlier signals, which are enough.
+    }
+    errno = error;
+}
+
+bool isIgnored(int signal) {
+    struct sigaction action {};
+    return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+void setHandler(int signal, void (*handler)(int)) {
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    ::sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+UnixSignals::UnixSignals(std::function<void()> onTermination) {
+    std::array<int, 2> ends{};
+    if (::pipe(ends.data()) != 0)
+        return; // the signals keep their meaning: they end the program at once
+    for (const int end : ends) {
+        ::fcntl(end, F_SETFD, FD_CLOEXEC);
+        ::fcntl(end, F_SETFL, O_NONBLOCK);
+    }
+    readEnd_ = ends[0];
+    writeEnd = ends[1];
+    notifier_.emplace(readEnd_, QSocketNotifier::Read);
+    QObject::connect(&*notifier_, &QSocketNotifier::activated, &*notifier_,
+                     [this, handler = std::move(onTermination)] {
+                         std::array<char, 16> bytes{};
+                         while (::read(readEnd_, bytes.data(), bytes.size()) > 0) {
+                         }
+                         handler();
+                     });
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        if (!isIgnored(signal)) {
+            setHandler(signal, notify);
+            handled_.push_back(signal);
+        }
+}
+
+UnixSignals::~UnixSignals() {
+    for (const int signal : handled_)
+        setHandler(signal, SIG_DFL);
+    if (!notifier_)
+        return;
+    notifier_.reset();
+    ::close(std::exchange(readEnd_, -1));
+    ::close(writeEnd);
+    writeEnd = -1;
+}
+
+} // namespace brellowind::platform

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QSocketNotifier>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace brellowind::platform {
+
+/// Turns SIGINT, SIGTERM and SIGHUP, with which a terminal or a session ends its programs, into
+/// calls on the main thread. One instance at a time per process.
+///
+/// A signal that is ignored at construction stays ignored, as `nohup` and shells expect.
+class UnixSignals {
+public:
+    explicit UnixSignals(std::function<void()> onTermination);
+    UnixSignals(const UnixSignals&) = delete;
+    UnixSignals& operator=(const UnixSignals&) = delete;
+    ~UnixSignals();
+
+private:
+    std::vector<int> handled_;
+    int readEnd_ = -1; ///< of the pipe that the handler writes to
+    std::optional<QSocketNotifier> notifier_;
+};
+
+} // namespace brellowind::platform
