@@ -36,9 +36,12 @@ XdgLoginItem makeLoginItem() {
 /// Destroyed from the bottom up.
 class LinuxMachine final : public Machine {
 public:
-    LinuxMachine(std::unique_ptr<QGuiApplication> guiApplication, const ProductConstants& constants)
+    /// `environment` is for the programs that this one starts.
+    LinuxMachine(std::unique_ptr<QGuiApplication> guiApplication, const ProductConstants& constants,
+                 QProcessEnvironment environment)
         : guiApplication_(std::move(guiApplication)),
-          player_(QDBusConnection::sessionBus(), constants.mprisPlayers, mainLoop_, log_) {
+          player_(QDBusConnection::sessionBus(), constants.mprisPlayers, mainLoop_, log_),
+          links_(std::move(environment)) {
         QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
         // The desktop finds the icon of the settings window through it.
         QGuiApplication::setDesktopFileName(QStringLiteral("org.brellowind.Brellowind"));
