@@ -10,12 +10,13 @@
 using namespace brellowind;
 
 int main(int argc, char** argv) {
-    BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: brellowind-measured LYRICS-ORIGIN\n");
         return 2;
     }
+    const auto application = BrellowindApp::makeApplication(1, argv);
+    if (!application)
+        return 1;
     auto constants = compiledConstants();
     constants.lyricsOrigin = argv[1];
     constants.updateFeedURL = constants.lyricsOrigin + "/latest.json"; // nothing leaves the machine

@@ -46,15 +46,16 @@ QStringList playerArguments(const DemoSong& song, const QString& origin) {
 } // namespace
 
 int main(int argc, char** argv) {
-    BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
+    const auto application = BrellowindApp::makeApplication(argc, argv);
+    if (!application)
+        return 1;
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows the pill singing a built-in song."));
     parser.addHelpOption();
     parser.addOptions({{secondsOption, QStringLiteral("End after N seconds"), QStringLiteral("N")},
                        {picturesOption, QStringLiteral("Save pictures into a folder"),
                         QStringLiteral("folder")}});
-    parser.process(application);
+    parser.process(*application);
     bool isNumber = true;
     const int seconds =
         parser.isSet(secondsOption) ? parser.value(secondsOption).toInt(&isNumber) : 0;
@@ -86,15 +87,16 @@ int main(int argc, char** argv) {
     app.launch();
 
     std::unique_ptr<Companion> player;
-    QTimer::singleShot(silence, &application, [&] {
+    QTimer::singleShot(silence, application.get(), [&] {
         player = std::make_unique<Companion>(QStringLiteral(BRELLOWIND_DEMO_PLAYER),
                                              playerArguments(*song, origin));
     });
     if (seconds > 0)
-        QTimer::singleShot(std::chrono::seconds(seconds), &application, &QGuiApplication::quit);
+        QTimer::singleShot(std::chrono::seconds(seconds), application.get(),
+                           &QGuiApplication::quit);
     if (backdrop) { // nobody is there to press anything
         const auto press = [&](std::chrono::milliseconds songTime, auto what) {
-            QTimer::singleShot(silence + songTime, &application,
+            QTimer::singleShot(silence + songTime, application.get(),
                                [&app, what] { (app.rootView().*what)(); });
         };
         press(artworkOpens, &NotchRootView::tapCover);

@@ -9,24 +9,21 @@ namespace brellowind {
 
 using platform::services;
 
-AppDelegate::Notch::Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock)
-    : content(std::move(rootView)), overlay(content, services().mainLoop, screenLock),
-      window(overlay) {
-    QObject::connect(&content, &NotchView::outlineChanged, &overlay,
-                     &platform::X11OverlayWindow::setContentOutline);
-}
+AppDelegate::Notch::Notch(std::shared_ptr<NotchRootView> rootView,
+                          platform::WindowSystem& windowSystem)
+    : content(std::move(rootView), windowSystem), window(content.overlay()) {}
 
-AppDelegate::AppDelegate(platform::ScreenLock& screenLock, std::function<void()> openSettings)
-    : screenLock_(screenLock),
-      rootView_(NotchRootView::create({.window = [this]() -> platform::OverlayWindow* {
-                                           return notch_ ? &notch_->overlay : nullptr;
+AppDelegate::AppDelegate(platform::WindowSystem& windowSystem, std::function<void()> openSettings)
+    : windowSystem_(windowSystem),
+      rootView_(NotchRootView::create({.window = [this]() -> platform::Overlay* {
+                                           return notch_ ? &notch_->content.overlay() : nullptr;
                                        },
                                        .openSettings = std::move(openSettings)})) {}
 
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
-    notch_.emplace(rootView_, screenLock_);
+    notch_.emplace(rootView_, windowSystem_);
     notch_->window.show();
     rootView_->appear();
     screenChange_ = services().screens.onChange([this] { screenParametersChanged(); });

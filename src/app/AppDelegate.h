@@ -2,7 +2,6 @@
 
 #include "foundation/Observers.h"
 #include "notch/NotchWindow.h"
-#include "platform/linux/x11/X11OverlayWindow.h"
 #include "views/NotchView.h"
 
 #include <functional>
@@ -17,8 +16,8 @@ class NotchRootView;
 /// the screens change.
 class AppDelegate {
 public:
-    /// `screenLock` outlives this; `openSettings` opens the settings window, or raises it.
-    AppDelegate(platform::ScreenLock& screenLock, std::function<void()> openSettings);
+    /// `windowSystem` outlives this; `openSettings` opens the settings window, or raises it.
+    AppDelegate(platform::WindowSystem& windowSystem, std::function<void()> openSettings);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
     ~AppDelegate();
@@ -29,18 +28,17 @@ public:
     NotchView& window() { return notch_->content; } ///< there once launched
 
 private:
-    /// The window's three sides: what it draws, what the system shows, where it hangs.
+    /// The window's two sides: what it draws, where it hangs.
     struct Notch {
-        Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock);
+        Notch(std::shared_ptr<NotchRootView> rootView, platform::WindowSystem& windowSystem);
 
         NotchView content;
-        platform::X11OverlayWindow overlay;
         NotchWindow window;
     };
 
     void screenParametersChanged();
 
-    platform::ScreenLock& screenLock_;
+    platform::WindowSystem& windowSystem_;
     std::shared_ptr<NotchRootView> rootView_;
     std::optional<Notch> notch_;
     Subscription screenChange_;

@@ -11,8 +11,7 @@
 #include "platform/linux/StderrLog.h"
 #include "platform/linux/UnixSignals.h"
 #include "platform/linux/XdgLoginItem.h"
-#include "platform/linux/screens/QtScreens.h"
-#include "platform/linux/x11/X11Pointer.h"
+#include "platform/linux/desktop/SessionWindowSystem.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"
@@ -78,12 +77,12 @@ struct BrellowindApp::Machine {
     platform::QtImageDecoder images{largestArtworkPoints};
     platform::QtLocalFiles files;
     platform::MprisPlayer player{platform::BusConnection(), mprisVocabulary()};
-    platform::QtScreens screens{mainLoop};
-    platform::X11Pointer pointer{mainLoop};
+    platform::ScreenLock screenLock{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
+    std::unique_ptr<platform::WindowSystem> windowSystem =
+        platform::makeWindowSystem(mainLoop, screenLock);
     platform::QtApplication application;
     platform::QtLinkOpener links;
     platform::XdgLoginItem loginItem = makeLoginItem();
-    platform::ScreenLock screenLock{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
     TaskRunner tasks{mainLoop};
     platform::ServicesScope scope{{.mainLoop = mainLoop,
                                    .tasks = tasks,
@@ -94,17 +93,16 @@ struct BrellowindApp::Machine {
                                    .files = files,
                                    .scripting = player,
                                    .runningApplications = player,
-                                   .screens = screens,
-                                   .pointer = pointer,
+                                   .screens = windowSystem->screens(),
+                                   .pointer = windowSystem->pointer(),
                                    .application = application,
                                    .links = links,
                                    .loginItem = loginItem,
                                    .constants = constants}};
     platform::UnixSignals signals{[this] { application.terminate(); }};
     SettingsLibrary settings{settingsPath()};
-    AppDelegate delegate{screenLock, [this] { settings.open(); }};
-    platform::SingleInstance instance{QDBusConnection::sessionBus(),
-                                      qEnvironmentVariable("DISPLAY"),
+    AppDelegate delegate{*windowSystem, [this] { settings.open(); }};
+    platform::SingleInstance instance{QDBusConnection::sessionBus(), windowSystem->sessionName(),
                                       [this] { delegate.rootView().openSettings(); }};
 };
 
@@ -118,6 +116,11 @@ void BrellowindApp::prepare() {
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
     QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+std::unique_ptr<QGuiApplication> BrellowindApp::makeApplication(int argc, char** argv) {
+    prepare();
+    return platform::makeGuiApplication(argc, argv);
 }
 
 bool BrellowindApp::claimDisplay() {

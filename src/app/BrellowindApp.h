@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class QGuiApplication;
+
 namespace brellowind {
 
 class NotchView;
@@ -13,7 +15,11 @@ class NotchRootView;
 /// must live longer.
 class BrellowindApp {
 public:
-    /// What Qt wants to be told before its application object exists.
+    /// Prepares for and makes the Qt application. Null, and one line on standard error, when there
+    /// is nothing to show the pill on. What `argv` points to outlives the application.
+    static std::unique_ptr<QGuiApplication> makeApplication(int argc, char** argv);
+
+    /// What Qt wants to be told before its application object exists, for those who make their own.
     static void prepare();
 
     explicit BrellowindApp(const platform::ProductConstants& constants);
@@ -21,7 +27,7 @@ public:
     BrellowindApp& operator=(const BrellowindApp&) = delete;
     ~BrellowindApp();
 
-    /// False when this program runs already for this user on this display: that one has been asked
+    /// False when this program runs already for this user in this session: that one has been asked
     /// to show its settings window, and this one should end.
     bool claimDisplay();
 

@@ -2,11 +2,13 @@
 #include "app/CompiledConstants.h"
 
 #include <QGuiApplication>
+#include <algorithm>
 
 int main(int argc, char** argv) {
-    argc = 1; // the program has no command line
-    brellowind::BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
+    argc = std::min(argc, 1); // the program has no command line
+    const auto application = brellowind::BrellowindApp::makeApplication(argc, argv);
+    if (!application)
+        return 1;
     QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
     // The desktop finds the icon of the settings window through it.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.brellowind.Brellowind"));

@@ -19,7 +19,7 @@ Rect notchWindowFrame(const Rect& screenFrame) {
     return {screenFrame.midX() - width / 2, screenFrame.maxY() - height, width, height};
 }
 
-NotchWindow::NotchWindow(platform::OverlayWindow& window) : window_(window) {
+NotchWindow::NotchWindow(platform::Overlay& window) : window_(window) {
     window_.setIgnoresMouseEvents(true);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Geometry.h"
-#include "platform/OverlayWindow.h"
+#include "platform/Overlay.h"
 
 namespace brellowind {
 
@@ -13,7 +13,7 @@ Rect notchWindowFrame(const Rect& screenFrame);
 class NotchWindow {
 public:
     /// Makes `window`, which must outlive this, click-through; it is neither placed nor shown yet.
-    explicit NotchWindow(platform::OverlayWindow& window);
+    explicit NotchWindow(platform::Overlay& window);
     NotchWindow(const NotchWindow&) = delete;
     NotchWindow& operator=(const NotchWindow&) = delete;
 
@@ -25,7 +25,7 @@ public:
     void repositionToNotch();
 
 private:
-    platform::OverlayWindow& window_;
+    platform::Overlay& window_;
 };
 
 } // namespace brellowind

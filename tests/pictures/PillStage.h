@@ -3,6 +3,7 @@
 #include "platform/qt/QtImageDecoder.h"
 #include "support/FakeSpotify.h"
 #include "support/TestMachine.h"
+#include "views/FakeWindowSystem.h"
 #include "views/NotchRootView.h"
 #include "views/NotchView.h"
 
@@ -67,6 +68,7 @@ private:
     platform::ServicesScope scope_;
     FakeSpotify spotify_{machine_};
     std::shared_ptr<NotchRootView> root_;
+    FakeWindowSystem windowSystem_{machine_.screens, machine_.pointer};
     std::unique_ptr<NotchView> content_;
     std::string lyrics_;
     bool answersLyrics_ = true;

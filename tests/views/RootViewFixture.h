@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FakeOverlayWindow.h"
+#include "support/FakeOverlay.h"
 #include "support/FakeSpotify.h"
 #include "views/NotchRootView.h"
 
@@ -30,7 +30,7 @@ struct View {
 
     TestMachine machine;
     FakeSpotify spotify{machine};
-    FakeOverlayWindow window;
+    FakeOverlay window;
     int settingsOpenings = 0;
     std::function<void()> onSettingsOpening = [] {};
     std::shared_ptr<NotchRootView> root = NotchRootView::create({

@@ -13,9 +13,8 @@ struct Choice {
 };
 
 std::array choices{
-    // The pill's window is an X11 window; on a Wayland session it comes through XWayland.
-    Choice{"QT_QPA_PLATFORM", "xcb"},
-    // And sent to the X server at once: of memory shared with the server every frame would have to
+    // Frames are sent to the X server at once: of memory shared with the server every frame would
+    // have to
     // ask whether it is free, which wakes both and costs more than sending the few pixels.
     Choice{"QT_XCB_NO_MITSHM", "1"},
     // Qt's own event loop costs less each time it wakes than the one that it borrows from GLib.

@@ -15,9 +15,9 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::string origin = argv[1];
-    argc = 1;
-    brellowind::BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
+    const auto application = brellowind::BrellowindApp::makeApplication(1, argv);
+    if (!application)
+        return 1;
     QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
     auto constants = brellowind::compiledConstants();
     constants.lyricsOrigin = origin;
