@@ -141,7 +141,7 @@ class Session:
         home = self.folder.name
         self.environment = {
             "PATH": os.environ["PATH"], "LANG": "C.UTF-8", "HOME": home, "XDG_RUNTIME_DIR": home,
-            "DISPLAY": ":" + display, "QT_QPA_PLATFORM": "xcb",
+            "DISPLAY": ":" + display,
         }
         self.bus = subprocess.Popen(
             ["dbus-daemon", "--session", "--nofork", "--nosyslog", "--print-address=1"],

@@ -2,17 +2,12 @@
 #include "FrameLog.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
-#include "views/NotchView.h"
 
-#include <QGuiApplication>
 #include <cstdio>
-#include <utility>
 
 using namespace brellowind;
 
 int main(int argc, char** argv) {
-    auto environment = BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: brellowind-measured LYRICS-ORIGIN\n");
         return 2;
@@ -20,11 +15,14 @@ int main(int argc, char** argv) {
     auto constants = compiledConstants();
     constants.lyricsOrigin = argv[1];
     constants.updateFeedURL = constants.lyricsOrigin + "/latest.json"; // nothing leaves the machine
-    BrellowindApp app(constants, std::move(environment));
-    if (!app.claimDisplay())
+    const auto machine = platform::makeMachine(1, argv, constants);
+    if (!machine)
+        return 1;
+    BrellowindApp app(*machine, constants);
+    if (!app.claimSession())
         return 1;
     app.launch();
     benchmarks::FrameLog frames(app.window());
     benchmarks::Commands commands(app, frames);
-    return QGuiApplication::exec();
+    return machine->run();
 }

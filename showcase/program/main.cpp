@@ -47,15 +47,17 @@ QStringList playerArguments(const DemoSong& song, const QString& origin) {
 } // namespace
 
 int main(int argc, char** argv) {
-    auto environment = BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
+    auto constants = compiledConstants();
+    const auto machine = platform::makeMachine(argc, argv, constants);
+    if (!machine)
+        return 1;
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows the pill singing a built-in song."));
     parser.addHelpOption();
     parser.addOptions({{secondsOption, QStringLiteral("End after N seconds"), QStringLiteral("N")},
                        {picturesOption, QStringLiteral("Save pictures into a folder"),
                         QStringLiteral("folder")}});
-    parser.process(application);
+    parser.process(*qApp);
     bool isNumber = true;
     const int seconds =
         parser.isSet(secondsOption) ? parser.value(secondsOption).toInt(&isNumber) : 0;
@@ -73,9 +75,8 @@ int main(int argc, char** argv) {
     if (origin.isEmpty())
         return complain("the demo lyrics service did not start");
 
-    auto constants = compiledConstants();
     constants.lyricsOrigin = origin.toStdString();
-    BrellowindApp app(constants, std::move(environment));
+    BrellowindApp app(*machine, constants);
     Recorder recorder(app);
     std::optional<Backdrop> backdrop;
     if (parser.isSet(picturesOption)) {
@@ -87,21 +88,21 @@ int main(int argc, char** argv) {
     app.launch();
 
     std::unique_ptr<Companion> player;
-    QTimer::singleShot(silence, &application, [&] {
+    QTimer::singleShot(silence, qApp, [&] {
         player = std::make_unique<Companion>(QStringLiteral(BRELLOWIND_DEMO_PLAYER),
                                              playerArguments(*song, origin));
     });
     if (seconds > 0)
-        QTimer::singleShot(std::chrono::seconds(seconds), &application, &QGuiApplication::quit);
+        QTimer::singleShot(std::chrono::seconds(seconds), qApp, &QGuiApplication::quit);
     if (backdrop) { // nobody is there to press anything
         const auto press = [&](std::chrono::milliseconds songTime, auto what) {
-            QTimer::singleShot(silence + songTime, &application,
+            QTimer::singleShot(silence + songTime, qApp,
                                [&app, what] { (app.rootView().*what)(); });
         };
         press(artworkOpens, &NotchRootView::tapCover);
         press(artworkCloses, &NotchRootView::tapArtwork);
     }
-    const int status = QGuiApplication::exec();
+    const int status = machine->run();
     if (recorder.failed())
         return complain("a picture could not be saved");
     return status;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Geometry.h"
-#include "notch/Path.h"
+#include "foundation/Path.h"
 
 namespace brellowind {
 

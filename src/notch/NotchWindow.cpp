@@ -18,7 +18,7 @@ Rect notchWindowFrame(const Rect& screenFrame) {
     return {screenFrame.midX() - width / 2, screenFrame.maxY() - height, width, height};
 }
 
-NotchWindow::NotchWindow(platform::OverlayWindow& window, platform::Screens& screens)
+NotchWindow::NotchWindow(platform::Overlay& window, platform::Screens& screens)
     : window_(window), screens_(screens) {
     window_.setIgnoresMouseEvents(true);
 }

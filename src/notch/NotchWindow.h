@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Geometry.h"
-#include "platform/OverlayWindow.h"
+#include "platform/Overlay.h"
 #include "platform/Screens.h"
 
 namespace brellowind {
@@ -14,7 +14,7 @@ Rect notchWindowFrame(const Rect& screenFrame);
 class NotchWindow {
 public:
     /// Makes `window` click-through; it is neither placed nor shown yet. Both must outlive this.
-    NotchWindow(platform::OverlayWindow& window, platform::Screens& screens);
+    NotchWindow(platform::Overlay& window, platform::Screens& screens);
     NotchWindow(const NotchWindow&) = delete;
     NotchWindow& operator=(const NotchWindow&) = delete;
 
@@ -26,7 +26,7 @@ public:
     void repositionToNotch();
 
 private:
-    platform::OverlayWindow& window_;
+    platform::Overlay& window_;
     platform::Screens& screens_;
 };
 

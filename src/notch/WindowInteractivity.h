@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/MainLoop.h"
-#include "platform/OverlayWindow.h"
+#include "platform/Overlay.h"
 
 #include <functional>
 #include <memory>
@@ -13,7 +13,7 @@ namespace brellowind {
 class WindowInteractivity {
 public:
     /// The window that the element stands in at the moment of the call, null when in none.
-    using WindowFinder = std::function<platform::OverlayWindow*()>;
+    using WindowFinder = std::function<platform::Overlay*()>;
 
     WindowInteractivity(platform::MainLoop& mainLoop, WindowFinder window);
     WindowInteractivity(const WindowInteractivity&) = delete;

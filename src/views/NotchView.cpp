@@ -9,8 +9,9 @@
 
 namespace brellowind {
 
-NotchView::NotchView(std::shared_ptr<NotchRootView> rootView)
-    : pill_(new Pill(*new NotchRootModel(std::move(rootView), this), &root())) {
+NotchView::NotchView(std::shared_ptr<NotchRootView> rootView, platform::WindowSystem& windowSystem)
+    : overlay_(windowSystem.makeOverlay(*this)),
+      pill_(new Pill(*new NotchRootModel(std::move(rootView), this), windowSystem, &root())) {
     installAccessibility();
 }
 
@@ -27,7 +28,10 @@ void NotchView::aboutToShow() {
     if (rect == pillRect_)
         return;
     pillRect_ = rect;
-    Q_EMIT outlineChanged(shape.transform().map(shape.outline()));
+    overlay_->setOutline(shape.outline().mapped([transform = shape.transform()](Point point) {
+        const QPointF mapped = transform.map(QPointF(point.x, point.y));
+        return Point{mapped.x(), mapped.y()};
+    }));
 }
 
 } // namespace brellowind

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/WindowSystem.h"
 #include "views/scene/SceneWindow.h"
 
-#include <QPainterPath>
 #include <memory>
 
 namespace brellowind {
@@ -15,20 +15,19 @@ class NotchView : public SceneWindow {
     Q_OBJECT
 
 public:
-    explicit NotchView(std::shared_ptr<NotchRootView> rootView);
+    /// `windowSystem`, whose overlay the window becomes, must outlive it.
+    NotchView(std::shared_ptr<NotchRootView> rootView, platform::WindowSystem& windowSystem);
     ~NotchView() override;
 
     Pill& pill() { return *pill_; }
-
-Q_SIGNALS:
-    /// The outline of the pill as the next frame will show it, in points of the window.
-    void outlineChanged(const QPainterPath& outline);
+    platform::Overlay& overlay() { return *overlay_; }
 
 protected:
     void aboutToShow() override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    std::unique_ptr<platform::Overlay> overlay_;
     Pill* pill_;
     QRectF pillRect_;
 };

@@ -1,5 +1,5 @@
 #include "notch/NotchWindow.h"
-#include "support/FakeOverlayWindow.h"
+#include "support/FakeOverlay.h"
 #include "support/PrintGeometry.h"
 #include "support/TestMachine.h"
 
@@ -8,7 +8,7 @@
 namespace brellowind {
 namespace {
 
-using test::FakeOverlayWindow;
+using test::FakeOverlay;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -49,12 +49,12 @@ protected:
     }
 
     test::TestMachine machine;
-    FakeOverlayWindow overlay;
+    FakeOverlay overlay;
 };
 
 TEST_F(NotchWindowTest, IsClickThroughFromTheBeginning) {
     const NotchWindow window(overlay, machine.screens);
-    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetIgnoresMouseEvents{true}));
+    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlay::SetIgnoresMouseEvents{true}));
 }
 
 TEST_F(NotchWindowTest, IsPlacedBeforeItIsBroughtToTheFront) {
@@ -62,8 +62,8 @@ TEST_F(NotchWindowTest, IsPlacedBeforeItIsBroughtToTheFront) {
     NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.show();
-    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetFrame{{436, 442, 640, 540}},
-                                           FakeOverlayWindow::OrderFront{}));
+    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlay::SetFrame{{436, 442, 640, 540}},
+                                           FakeOverlay::OrderFront{}));
 }
 
 TEST_F(NotchWindowTest, IsPlacedOnTheNotchedScreenAndNotOnTheMainOne) {
@@ -72,7 +72,7 @@ TEST_F(NotchWindowTest, IsPlacedOnTheNotchedScreenAndNotOnTheMainOne) {
     NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.repositionToNotch();
-    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetFrame{{1436, 442, 640, 540}}));
+    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlay::SetFrame{{1436, 442, 640, 540}}));
 }
 
 TEST_F(NotchWindowTest, IsPlacedOnTheMainScreenWhenNoneHasANotch) {
@@ -80,7 +80,7 @@ TEST_F(NotchWindowTest, IsPlacedOnTheMainScreenWhenNoneHasANotch) {
     NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.repositionToNotch();
-    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetFrame{{640, 540, 640, 540}}));
+    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlay::SetFrame{{640, 540, 640, 540}}));
 }
 
 TEST_F(NotchWindowTest, StaysWhereItIsWithoutAScreen) {
@@ -94,7 +94,7 @@ TEST_F(NotchWindowTest, IsBroughtToTheFrontAlsoWithoutAScreen) {
     NotchWindow window(overlay, machine.screens);
     overlay.calls.clear();
     window.show();
-    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::OrderFront{}));
+    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlay::OrderFront{}));
 }
 
 TEST_F(NotchWindowTest, FollowsAScreenThatChanges) {
@@ -104,7 +104,7 @@ TEST_F(NotchWindowTest, FollowsAScreenThatChanges) {
     overlay.calls.clear();
     connect({{.frame = {0, 0, 1800, 1169}, .topSafeAreaInset = 38}});
     window.repositionToNotch();
-    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlayWindow::SetFrame{{580, 629, 640, 540}}));
+    EXPECT_THAT(overlay.calls, ElementsAre(FakeOverlay::SetFrame{{580, 629, 640, 540}}));
 }
 
 } // namespace

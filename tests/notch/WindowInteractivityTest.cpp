@@ -1,5 +1,5 @@
 #include "notch/WindowInteractivity.h"
-#include "support/FakeOverlayWindow.h"
+#include "support/FakeOverlay.h"
 #include "support/TestMachine.h"
 
 #include <gmock/gmock.h>
@@ -8,7 +8,7 @@
 namespace brellowind {
 namespace {
 
-using test::FakeOverlayWindow;
+using test::FakeOverlay;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -16,12 +16,12 @@ class WindowInteractivityTest : public testing::Test {
 protected:
     /// The last thing that the window was told.
     bool ignoresMouseEvents() const {
-        return std::get<FakeOverlayWindow::SetIgnoresMouseEvents>(window.calls.back()).ignores;
+        return std::get<FakeOverlay::SetIgnoresMouseEvents>(window.calls.back()).ignores;
     }
 
     test::TestMachine machine;
-    FakeOverlayWindow window;
-    FakeOverlayWindow* current = &window;
+    FakeOverlay window;
+    FakeOverlay* current = &window;
     std::optional<WindowInteractivity> element{std::in_place, std::ref(machine.mainLoop),
                                                [this] { return current; }};
 };
@@ -29,7 +29,7 @@ protected:
 TEST_F(WindowInteractivityTest, MakesTheWindowAcceptMouseEvents) {
     element->update(true);
     machine.mainLoop.runTurns();
-    EXPECT_THAT(window.calls, ElementsAre(FakeOverlayWindow::SetIgnoresMouseEvents{false}));
+    EXPECT_THAT(window.calls, ElementsAre(FakeOverlay::SetIgnoresMouseEvents{false}));
 }
 
 TEST_F(WindowInteractivityTest, MakesTheWindowClickThroughAgain) {
@@ -82,16 +82,16 @@ TEST_F(WindowInteractivityTest, NextUpdateAfterItsPlacementInAWindowCounts) {
     current = &window;
     element->update(true);
     machine.mainLoop.runTurns();
-    EXPECT_THAT(window.calls, ElementsAre(FakeOverlayWindow::SetIgnoresMouseEvents{false}));
+    EXPECT_THAT(window.calls, ElementsAre(FakeOverlay::SetIgnoresMouseEvents{false}));
 }
 
 TEST_F(WindowInteractivityTest, LooksForTheWindowOnlyWhenTheTurnHasCome) {
-    FakeOverlayWindow later;
+    FakeOverlay later;
     element->update(true);
     current = &later;
     machine.mainLoop.runTurns();
     EXPECT_THAT(window.calls, IsEmpty());
-    EXPECT_THAT(later.calls, ElementsAre(FakeOverlayWindow::SetIgnoresMouseEvents{false}));
+    EXPECT_THAT(later.calls, ElementsAre(FakeOverlay::SetIgnoresMouseEvents{false}));
 }
 
 TEST_F(WindowInteractivityTest, DoesNothingWhenItIsGoneByThen) {

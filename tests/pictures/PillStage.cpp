@@ -68,7 +68,7 @@ PillStage::PillStage() {
     machine_.screens.connected = {screen};
     machine_.screens.mainScreen = screen;
     spotify_.quit();
-    content_ = std::make_unique<NotchView>(root_);
+    content_ = std::make_unique<NotchView>(root_, windowSystem_);
     content_->resize(640, NotchMetrics::windowHeight);
     content_->pill().fill(content_->size());
     content_->root().setSize(content_->size());

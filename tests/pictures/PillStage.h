@@ -2,6 +2,7 @@
 
 #include "platform/qt/QtImageDecoder.h"
 #include "support/RootViewParts.h"
+#include "views/FakeWindowSystem.h"
 #include "views/NotchRootView.h"
 #include "views/NotchView.h"
 
@@ -66,6 +67,7 @@ private:
     RootViewParts parts_{machine_};
     FakePlayer& spotify_ = machine_.player;
     std::shared_ptr<NotchRootView> root_;
+    FakeWindowSystem windowSystem_{machine_.screens, machine_.pointer};
     std::unique_ptr<NotchView> content_;
     std::string lyrics_;
     bool answersLyrics_ = true;

@@ -8,14 +8,14 @@ namespace brellowind {
 namespace {
 
 using namespace std::chrono_literals;
-using test::FakeOverlayWindow;
+using test::FakeOverlay;
 using test::View;
 
 /// Whether the window ignored mouse events after its last call; nothing before the first one.
 std::optional<bool> ignoresMouse(const View& view) {
     std::optional<bool> ignores;
     for (const auto& call : view.window.calls)
-        if (const auto* set = std::get_if<FakeOverlayWindow::SetIgnoresMouseEvents>(&call))
+        if (const auto* set = std::get_if<FakeOverlay::SetIgnoresMouseEvents>(&call))
             ignores = set->ignores;
     return ignores;
 }

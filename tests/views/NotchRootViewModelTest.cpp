@@ -324,7 +324,7 @@ private:
     bool ignoresMouse() const {
         if (view_.window.calls.empty())
             return true; // as its owner made it
-        return std::get<test::FakeOverlayWindow::SetIgnoresMouseEvents>(view_.window.calls.back())
+        return std::get<test::FakeOverlay::SetIgnoresMouseEvents>(view_.window.calls.back())
             .ignores;
     }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FakeOverlayWindow.h"
+#include "support/FakeOverlay.h"
 #include "support/RootViewParts.h"
 #include "views/NotchRootView.h"
 
@@ -30,7 +30,7 @@ struct View {
 
     TestMachine machine;
     FakePlayer& spotify = machine.player;
-    FakeOverlayWindow window;
+    FakeOverlay window;
     int settingsOpenings = 0;
     std::function<void()> onSettingsOpening = [] {};
     RootViewParts parts{machine};

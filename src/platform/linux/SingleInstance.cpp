@@ -1,20 +1,19 @@
 #include "platform/linux/SingleInstance.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <utility>
 
 namespace brellowind::platform {
 namespace {
 
-constexpr int patienceMs = 2000;
-
 const QLatin1String interfaceName("org.brellowind.Brellowind");
 const QLatin1String objectPath("/org/brellowind/Brellowind");
 
 /// `text` as an element of a bus name.
-QString nameElement(const QString& text) {
+QString nameElement(std::string_view text) {
     QString element = QStringLiteral("display");
-    for (const char byte : text.toUtf8())
+    for (const char byte : text)
         element += (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') ||
                            (byte >= 'a' && byte <= 'z')
                        ? QString(QLatin1Char(byte))
@@ -25,9 +24,9 @@ QString nameElement(const QString& text) {
 
 } // namespace
 
-SingleInstance::SingleInstance(QDBusConnection bus, const QString& display,
+SingleInstance::SingleInstance(QDBusConnection bus, std::string_view session,
                                std::function<void()> onSecondStart)
-    : bus_(std::move(bus)), name_(interfaceName + u'.' + nameElement(display)),
+    : bus_(std::move(bus)), name_(interfaceName + u'.' + nameElement(session)),
       onSecondStart_(std::move(onSecondStart)) {}
 
 SingleInstance::~SingleInstance() {
@@ -39,9 +38,9 @@ bool SingleInstance::claim() {
     bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
     if (!bus_.isConnected() || bus_.registerService(name_))
         return true;
-    bus_.call(
-        QDBusMessage::createMethodCall(name_, objectPath, interfaceName, QStringLiteral("Open")),
-        QDBus::Block, patienceMs);
+    bus_.send(
+        QDBusMessage::createMethodCall(name_, objectPath, interfaceName, QStringLiteral("Open")));
+    bus_.interface()->isServiceRegistered(name_); // by its answer the bus has the message before
     return false;
 }
 

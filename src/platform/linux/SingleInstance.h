@@ -3,24 +3,26 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <functional>
+#include <string_view>
 
 namespace brellowind::platform {
 
-/// Makes one process of this program the only one of its user on a display, by owning a name on the
+/// Makes one process of this program the only one of its user in a session, by owning a name on the
 /// session bus.
 class SingleInstance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.brellowind.Brellowind")
 
 public:
-    /// `display` tells one display of the user from another. `onSecondStart` runs whenever another
-    /// process found this one there.
-    SingleInstance(QDBusConnection bus, const QString& display,
+    /// `session` is the name of the session, in any characters; one bus may serve several sessions.
+    /// `onSecondStart` runs whenever another process found this one there.
+    SingleInstance(QDBusConnection bus, std::string_view session,
                    std::function<void()> onSecondStart);
     ~SingleInstance() override;
 
     /// True when this process is the only one from now on, or when no bus is there to tell.
-    /// Otherwise the other one has been told, and this one should end.
+    /// Otherwise the other one will be told, and this one should end. Waits for the bus, but not
+    /// for the other process.
     bool claim();
 
 public Q_SLOTS:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "notch/Path.h"
+#include "foundation/Path.h"
 
 #include <QPainterPath>
 

@@ -26,8 +26,8 @@ Rect rectOf(const QRectF& rect) {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
 }
 
-QPainterPath notchPath(QSizeF size) {
-    return painterPath(shape.path({0, 0, size.width(), size.height()}));
+Path notchPath(QSizeF size) {
+    return shape.path({0, 0, size.width(), size.height()});
 }
 
 /// The blurred alpha of a pill as high as `size` and just so wide that its middle column knows
@@ -42,7 +42,8 @@ QImage narrowShadow(QSizeF size, double ratio) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(ratio, ratio);
     painter.translate(shadowReach, shadowReach);
-    painter.fillPath(notchPath(pill), QColor(0, 0, 0, static_cast<int>(255 * shadowOpacity)));
+    painter.fillPath(painterPath(notchPath(pill)),
+                     QColor(0, 0, 0, static_cast<int>(255 * shadowOpacity)));
     painter.end();
     blur(alpha, shadowSigma * ratio);
     return alpha;
@@ -89,7 +90,7 @@ void PillShape::setLift(double lift) {
     update();
 }
 
-QPainterPath PillShape::outline() const {
+Path PillShape::outline() const {
     return notchPath(size());
 }
 
@@ -110,7 +111,7 @@ void PillShape::paint(QPainter& painter) {
         paintShadow(painter);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);
-    painter.drawPath(outline());
+    painter.drawPath(painterPath(outline()));
 }
 
 void PillShape::paintShadow(QPainter& painter) {

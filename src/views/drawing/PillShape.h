@@ -1,9 +1,9 @@
 #pragma once
 
+#include "foundation/Path.h"
 #include "views/scene/Item.h"
 
 #include <QImage>
-#include <QPainterPath>
 
 namespace brellowind {
 
@@ -22,7 +22,7 @@ public:
     void setLift(double lift);
 
     /// The outline, in the item's coordinates.
-    QPainterPath outline() const;
+    Path outline() const;
 
     void paint(QPainter& painter) override;
     QRectF paintedRect() const override;

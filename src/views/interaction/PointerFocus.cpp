@@ -34,11 +34,11 @@ void PointerFocus::press(QPointF position, Qt::MouseButton button) {
     button_ = button;
 }
 
-void PointerFocus::release(QPointF position, QPointF desktopPosition, Qt::MouseButton button) {
+void PointerFocus::release(QPointF position, Qt::MouseButton button) {
     if (pressed_ && button == button_) {
         TapArea& area = *std::exchange(pressed_, nullptr);
         if (area.contains(area.mapFromScene(position))) // otherwise it was taken back
-            area.tap(button, desktopPosition);
+            area.tap(button, position);
     }
     move(position);
 }

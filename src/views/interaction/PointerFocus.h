@@ -20,7 +20,7 @@ public:
 
     // Positions are points of the window.
     void press(QPointF position, Qt::MouseButton button);
-    void release(QPointF position, QPointF desktopPosition, Qt::MouseButton button);
+    void release(QPointF position, Qt::MouseButton button);
     void move(QPointF position);
 
     /// The pointer is not over the window any more.

@@ -25,7 +25,7 @@ public:
     void mindHovering() { mindsHovering_ = true; }
     void setHovered(bool hovered);
 
-    /// Pressed and released at a point of the desktop.
+    /// Pressed and released at a point of the window.
     void tap(Qt::MouseButton button, QPointF position);
 
     QAccessible::Role accessibleRole() const override { return role_; }
@@ -40,7 +40,7 @@ Q_SIGNALS:
     /// The pointer came or went; for areas that mind hovering.
     void hoveredChanged(bool hovered);
 
-    /// A tap of the right button, for areas that take it, at a point of the desktop.
+    /// A tap of the right button, for areas that take it, at a point of the window.
     void menuRequested(QPointF position);
 
 protected:

@@ -38,8 +38,9 @@ void centre(Item& item, double width) {
 
 } // namespace
 
-Pill::Pill(NotchRootModel& model, Item* parent)
-    : Item(parent), model_(model), shape_(named(new PillShape(this), "pill")),
+Pill::Pill(NotchRootModel& model, platform::WindowSystem& windowSystem, Item* parent)
+    : Item(parent), model_(model), windowSystem_(windowSystem),
+      shape_(named(new PillShape(this), "pill")),
       background_(new TapArea(QAccessible::Grouping, this)), inside_(new Item(this)),
       line_(named(new LyricText(lineLook(), model.currentLineText(), !model.isMinimized(), inside_),
                   "lyricLine")),
@@ -66,8 +67,10 @@ Pill::~Pill() {
 void Pill::openMenu(QPointF position) {
     if (!menu_)
         menu_ = std::make_unique<PillMenu>(model_);
-    menu_->setTransientParent(window());
-    menu_->popup(position.toPoint());
+    windowSystem_.popUp({.window = *menu_,
+                         .overlay = *window(),
+                         .at = {position.x(), position.y()},
+                         .cornerRadius = menu_->radius()});
 }
 
 void Pill::fill(QSizeF size) {

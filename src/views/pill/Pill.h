@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/WindowSystem.h"
 #include "views/motion/FrameDriver.h"
 #include "views/pill/PillMotion.h"
-
 #include "views/scene/Item.h"
+
 #include <memory>
 
 namespace brellowind {
@@ -23,8 +24,8 @@ class Pill : public Item, private Animated {
     Q_OBJECT
 
 public:
-    /// `model` must outlive it.
-    Pill(NotchRootModel& model, Item* parent);
+    /// `model` and `windowSystem`, which shows the context menu, must outlive it.
+    Pill(NotchRootModel& model, platform::WindowSystem& windowSystem, Item* parent);
     ~Pill() override;
 
     /// Hangs in a window of that size.
@@ -35,7 +36,7 @@ public:
     /// The context menu; null until it was first wanted.
     PillMenu* menu() { return menu_.get(); }
 
-    /// Opens the context menu at a point of the desktop.
+    /// Opens the context menu at a point of the window.
     void openMenu(QPointF position);
 
 private:
@@ -50,6 +51,7 @@ private:
     double panelHeight() const;
 
     NotchRootModel& model_;
+    platform::WindowSystem& windowSystem_;
     PillShape* shape_;
     TapArea* background_;
     Item* inside_; ///< clips the texts

@@ -4,10 +4,7 @@
 #include "views/pill/PillMenuEntry.h"
 #include "views/scene/Item.h"
 
-#include <QGuiApplication>
 #include <QPainter>
-#include <QScreen>
-#include <algorithm>
 #include <utility>
 
 namespace brellowind {
@@ -53,14 +50,6 @@ PillMenu::PillMenu(NotchRootModel& model) {
     }
     background->setSize({PillMenuEntry::entryWidth + 2 * padding, top + padding});
     resize(background->size().toSize());
-}
-
-void PillMenu::popup(QPoint position) {
-    const auto* at = QGuiApplication::screenAt(position);
-    const QRect area = (at ? at : screen())->geometry();
-    setPosition(std::max(area.x(), std::min(position.x(), area.x() + area.width() - width())),
-                std::max(area.y(), std::min(position.y(), area.y() + area.height() - height())));
-    show();
 }
 
 } // namespace brellowind

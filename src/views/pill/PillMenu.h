@@ -13,9 +13,6 @@ class PillMenu : public MenuWindow {
 public:
     /// `model`, which is told what is chosen, must outlive it.
     explicit PillMenu(NotchRootModel& model);
-
-    /// Shows it with its corner at a point of the desktop, or as near as the screen's edges allow.
-    void popup(QPoint position);
 };
 
 } // namespace brellowind

@@ -118,7 +118,7 @@ void SceneWindow::mousePressEvent(QMouseEvent* event) {
 }
 
 void SceneWindow::mouseReleaseEvent(QMouseEvent* event) {
-    pointer_.release(event->position(), event->globalPosition(), event->button());
+    pointer_.release(event->position(), event->button());
 }
 
 void SceneWindow::makeFrame() {

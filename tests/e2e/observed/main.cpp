@@ -3,12 +3,11 @@
 #include "SettingsObserver.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
-#include "views/NotchView.h"
 
-#include <QGuiApplication>
 #include <cstdio>
 #include <string>
-#include <utility>
+
+using namespace brellowind;
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -16,25 +15,24 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::string origin = argv[1];
-    argc = 1;
-    auto environment = brellowind::BrellowindApp::prepare();
-    QGuiApplication application(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
-    auto constants = brellowind::compiledConstants();
+    auto constants = compiledConstants();
     constants.lyricsOrigin = origin;
     constants.updateFeedURL = origin + "/latest.json";
-    brellowind::BrellowindApp app(constants, std::move(environment));
-    if (!app.claimDisplay())
+    const auto machine = platform::makeMachine(1, argv, constants);
+    if (!machine)
+        return 1;
+    BrellowindApp app(*machine, constants);
+    if (!app.claimSession())
         return 0;
     app.launch();
-    brellowind::test::PillObserver observer(app.window());
-    brellowind::test::LoopObserver loopObserver;
-    brellowind::test::SettingsObserver settingsObserver;
+    test::PillObserver observer(app.window());
+    test::LoopObserver loopObserver;
+    test::SettingsObserver settingsObserver;
     if (!loopObserver.listen() || !settingsObserver.listen() || !observer.listen()) {
         std::fprintf(stderr, "brellowind-observed: the program cannot be observed\n");
         return 1;
     }
     std::printf("ready\n");
     std::fflush(stdout);
-    return QGuiApplication::exec();
+    return machine->run();
 }

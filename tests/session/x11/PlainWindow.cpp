@@ -49,6 +49,13 @@ void PlainWindow::grabPointer() {
     EXPECT_TRUE(grab && grab->status == XCB_GRAB_STATUS_SUCCESS);
 }
 
+void PlainWindow::grabKeyboard() {
+    const auto grab = client_.ask<xcb_grab_keyboard, xcb_grab_keyboard_reply>(
+        std::uint8_t(0), id_, xcb_timestamp_t(XCB_CURRENT_TIME), std::uint8_t(XCB_GRAB_MODE_ASYNC),
+        std::uint8_t(XCB_GRAB_MODE_ASYNC));
+    EXPECT_TRUE(grab && grab->status == XCB_GRAB_STATUS_SUCCESS);
+}
+
 int PlainWindow::presses() {
     client_.finish();
     int count = 0;

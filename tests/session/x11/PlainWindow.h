@@ -27,6 +27,9 @@ public:
     /// From now on it alone gets what the pointer does.
     void grabPointer();
 
+    /// From now on it alone gets what is typed.
+    void grabKeyboard();
+
     /// How often a button of the pointer was pressed on it since this was last asked.
     int presses();
 

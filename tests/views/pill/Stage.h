@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/FakeWindowSystem.h"
 #include "views/NotchView.h"
 #include "views/RootViewFixture.h"
 #include "views/motion/FrameDriver.h"
@@ -59,7 +60,8 @@ protected:
     const NotchRootView::Form& form() const { return machine.form(); }
 
     View machine;
-    NotchView window{machine.root};
+    FakeWindowSystem windowSystem{machine.machine.screens, machine.machine.pointer};
+    NotchView window{machine.root, windowSystem};
 };
 
 } // namespace brellowind::test

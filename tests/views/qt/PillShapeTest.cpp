@@ -1,4 +1,6 @@
 #include "views/drawing/PillShape.h"
+
+#include "notch/NotchShape.h"
 #include "views/qt/Painting.h"
 
 #include <QPainter>
@@ -19,17 +21,7 @@ QImage paintedPill(PillShape& pill) {
 TEST(PillShape, HasTheOutlineOfTheNotch) {
     PillShape pill;
     pill.setSize({280, 59});
-    QPainterPath expected;
-    expected.moveTo(0, 0);
-    expected.quadTo(8, 0, 8, 8);
-    expected.lineTo(8, 47);
-    expected.quadTo(8, 59, 20, 59);
-    expected.lineTo(260, 59);
-    expected.quadTo(272, 59, 272, 47);
-    expected.lineTo(272, 8);
-    expected.quadTo(272, 0, 280, 0);
-    expected.closeSubpath();
-    EXPECT_EQ(pill.outline(), expected);
+    EXPECT_EQ(pill.outline(), NotchShape(8, 12).path({0, 0, 280, 59}));
 }
 
 TEST(PillShape, IsOpaqueBlackAndAllThereIsAtRest) {

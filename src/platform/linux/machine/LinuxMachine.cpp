@@ -3,7 +3,7 @@
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/SingleInstance.h"
 #include "platform/linux/XdgLoginItem.h"
-#include "platform/linux/x11/X11WindowSystem.h"
+#include "platform/linux/machine/SessionWindowSystem.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QPainterPath>
+#include "foundation/Path.h"
+
 #include <vector>
 
 namespace brellowind::platform {
@@ -19,6 +20,6 @@ struct PixelRect {
 using PixelRegion = std::vector<PixelRect>;
 
 /// The pixels whose middle lies inside `outline`, which is in points; `scale` pixels are one point.
-PixelRegion outlineRegion(const QPainterPath& outline, double scale);
+PixelRegion outlineRegion(const Path& outline, double scale);
 
 } // namespace brellowind::platform

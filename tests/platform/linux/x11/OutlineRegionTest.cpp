@@ -14,9 +14,17 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-QPainterPath rectangle(const QRectF& rect) {
-    QPainterPath path;
-    path.addRect(rect);
+void addRectangle(Path& path, const Rect& rect) {
+    path.move({rect.minX(), rect.minY()});
+    path.line({rect.maxX(), rect.minY()});
+    path.line({rect.maxX(), rect.maxY()});
+    path.line({rect.minX(), rect.maxY()});
+    path.close();
+}
+
+Path rectangle(const Rect& rect) {
+    Path path;
+    addRectangle(path, rect);
     return path;
 }
 
@@ -46,39 +54,38 @@ TEST(OutlineRegion, IsEmptyForNothing) {
 }
 
 TEST(OutlineRegion, FollowsSlopesRowByRow) {
-    QPainterPath triangle; // its sides go out by one pixel a row
-    triangle.moveTo(3.75, 0);
-    triangle.lineTo(7.75, 4);
-    triangle.lineTo(-0.25, 4);
-    triangle.closeSubpath();
+    Path triangle; // its sides go out by one pixel a row
+    triangle.move({3.75, 0});
+    triangle.line({7.75, 4});
+    triangle.line({-0.25, 4});
+    triangle.close();
     EXPECT_THAT(outlineRegion(triangle, 1),
                 ElementsAre(PixelRect{3, 0, 1, 1}, PixelRect{2, 1, 3, 1}, PixelRect{1, 2, 5, 1},
                             PixelRect{0, 3, 7, 1}));
 }
 
 TEST(OutlineRegion, ClosesAnOpenOutline) {
-    QPainterPath path;
-    path.moveTo(0, 0);
-    path.lineTo(10, 0);
-    path.lineTo(10, 5);
-    path.lineTo(0, 5);
+    Path path;
+    path.move({0, 0});
+    path.line({10, 0});
+    path.line({10, 5});
+    path.line({0, 5});
     EXPECT_THAT(outlineRegion(path, 1), ElementsAre(PixelRect{0, 0, 10, 5}));
 }
 
-TEST(OutlineRegion, KeepsPartsApartAndJoinsThoseThatOverlap) {
-    auto path = rectangle({0, 0, 10, 2});
-    path.addRect(20, 0, 5, 2);
-    EXPECT_THAT(outlineRegion(path, 1),
+TEST(OutlineRegion, KeepsPartsApartAndJoinsThoseThatTouch) {
+    auto apart = rectangle({0, 0, 10, 2});
+    addRectangle(apart, {20, 0, 5, 2});
+    EXPECT_THAT(outlineRegion(apart, 1),
                 ElementsAre(PixelRect{0, 0, 10, 2}, PixelRect{20, 0, 5, 2}));
-    auto overlapping = rectangle({0, 0, 10, 2});
-    overlapping.addRect(5, 0, 10, 2);
-    overlapping.setFillRule(Qt::WindingFill);
-    EXPECT_THAT(outlineRegion(overlapping, 1), ElementsAre(PixelRect{0, 0, 15, 2}));
+    auto touching = rectangle({0, 0, 10, 2});
+    addRectangle(touching, {10, 0, 5, 2});
+    EXPECT_THAT(outlineRegion(touching, 1), ElementsAre(PixelRect{0, 0, 15, 2}));
 }
 
 TEST(OutlineRegion, LeavesOutAHole) {
     auto path = rectangle({0, 0, 6, 3});
-    path.addRect(2, 1, 2, 1);
+    addRectangle(path, {2, 1, 2, 1});
     EXPECT_THAT(outlineRegion(path, 1), ElementsAre(PixelRect{0, 0, 6, 1}, PixelRect{0, 1, 2, 1},
                                                     PixelRect{4, 1, 2, 1}, PixelRect{0, 2, 6, 1}));
 }
@@ -88,18 +95,27 @@ TEST(OutlineRegion, TakesWhatLiesLeftOfAndAboveTheWindow) {
                 ElementsAre(PixelRect{-10, -5, 20, 10}));
 }
 
-TEST(OutlineRegion, RoundsTheCornersOfAPill) {
-    QPainterPath pill;
-    pill.addRoundedRect(0, 0, 40, 20, 10, 10);
+TEST(OutlineRegion, FollowsTheCurvesOfAPill) {
+    Path pill; // its top corners flare by 8, its bottom corners are round by 12
+    pill.move({0, 0});
+    pill.quadCurve({8, 8}, {8, 0});
+    pill.line({8, 28});
+    pill.quadCurve({20, 40}, {8, 40});
+    pill.line({80, 40});
+    pill.quadCurve({92, 28}, {92, 40});
+    pill.line({92, 8});
+    pill.quadCurve({100, 0}, {92, 0});
+    pill.close();
     const auto region = outlineRegion(pill, 1);
     ASSERT_FALSE(region.empty());
-    // At the middle of row 0 the circle reaches 10 - √(10² - 9.5²) = 6.9 from the side.
-    EXPECT_EQ(region.front(), (PixelRect{7, 0, 26, 1}));
-    EXPECT_EQ(region.back(), (PixelRect{7, 19, 26, 1}));
-    int widest = 0;
-    for (const auto& band : region)
-        widest = std::max(widest, band.width);
-    EXPECT_EQ(widest, 40);
+    // On a curve √(distance from one tangent) + √(distance from the other) = √radius. At the middle
+    // of row 0 the flare reaches (√8 - √0.5)² = 4.5 in from the side that it ends at, 8.
+    EXPECT_EQ(region.front(), (PixelRect{3, 0, 94, 1}));
+    // At the middle of the last row the corner's curve is (√12 - √0.5)² = 7.6 in from that side.
+    EXPECT_EQ(region.back(), (PixelRect{16, 39, 68, 1}));
+    // Between the flares and the round corners the sides are straight.
+    EXPECT_THAT(region, testing::Contains(testing::AllOf(testing::Field(&PixelRect::x, 8),
+                                                         testing::Field(&PixelRect::width, 84))));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/linux/ScreenLock.h"
-#include "platform/linux/x11/X11OverlayWindow.h"
+#include "platform/linux/x11/X11Overlay.h"
 #include "platform/qt/QtMainLoop.h"
 #include "session/Desktop.h"
 #include "session/EventLoop.h"
@@ -20,10 +20,20 @@
 
 namespace brellowind::test {
 
-/// A window that draws its outline in green and nothing around it.
+inline Path rectanglePath(const QRectF& rect) {
+    Path path;
+    path.move({rect.left(), rect.top()});
+    path.line({rect.right(), rect.top()});
+    path.line({rect.right(), rect.bottom()});
+    path.line({rect.left(), rect.bottom()});
+    path.close();
+    return path;
+}
+
+/// A window that draws its pill in green and nothing around it.
 class GreenWindow : public QRasterWindow {
 public:
-    QPainterPath outline;
+    QRect pill;
     std::function<void()> onPointer = [] {}; ///< entered or moved
     int presses = 0;
 
@@ -32,7 +42,7 @@ protected:
         QPainter painter(this);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
         painter.fillRect(QRect(QPoint(), size()), Qt::transparent);
-        painter.fillPath(outline, Qt::green);
+        painter.fillRect(pill, Qt::green);
     }
 
     void mousePressEvent(QMouseEvent*) override { ++presses; }
@@ -78,10 +88,8 @@ protected:
     }
 
     void setOutline(const QRect& pill) {
-        QPainterPath path;
-        path.addRect(pill);
-        window.outline = path;
-        overlay.setContentOutline(path);
+        window.pill = pill;
+        overlay.setOutline(rectanglePath(pill));
         window.update();
     }
 
@@ -102,7 +110,7 @@ protected:
     SessionBus bus;
     platform::ScreenLock lock{bus.connection(), bus.connection()};
     GreenWindow window;
-    platform::X11OverlayWindow overlay{window, mainLoop, lock};
+    platform::X11Overlay overlay{window, mainLoop, lock};
     XClient x{display};
     Person person{x};
     std::optional<PlainWindow> beneath_;

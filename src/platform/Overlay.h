@@ -1,15 +1,16 @@
 #pragma once
 
 #include "foundation/Geometry.h"
+#include "foundation/Path.h"
 
 namespace brellowind::platform {
 
 /// A borderless, transparent window without a shadow, above every other window and the menu bar, on
 /// every desktop and beside full-screen applications. It never takes the keyboard focus, the user
 /// cannot move it, and its first click acts at once, whichever application is active.
-class OverlayWindow {
+class Overlay {
 public:
-    virtual ~OverlayWindow() = default;
+    virtual ~Overlay() = default;
 
     /// Places and redraws the window, in desktop coordinates (origin at the bottom left of the
     /// primary screen, y upward). No menu bar or panel pushes it elsewhere.
@@ -18,8 +19,14 @@ public:
     /// Shows the window in front of all others without activating the program.
     virtual void orderFrontRegardless() = 0;
 
-    /// Whether clicks and movements fall through to what lies beneath. Repeating the present value
-    /// costs nothing.
+    /// The outline of what the window shows, in points from its top left corner, y downward. It may
+    /// differ in every frame; at first it is empty. Clicks and movements outside it fall through to
+    /// what lies beneath.
+    virtual void setOutline(const Path& outline) = 0;
+
+    /// Whether clicks and movements within the outline fall through as well, which they do at
+    /// first. Repeating the present value costs nothing. Without effect where the system tells this
+    /// program of the pointer only while it is over a window that takes it.
     virtual void setIgnoresMouseEvents(bool ignores) = 0;
 };
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/OverlayWindow.h"
+#include "platform/Overlay.h"
 
 #include <variant>
 #include <vector>
 
 namespace brellowind::test {
 
-/// Remembers what it was told, in order.
-class FakeOverlayWindow final : public platform::OverlayWindow {
+/// Remembers what it was told, in order, and the last outline apart from that.
+class FakeOverlay final : public platform::Overlay {
 public:
     struct SetFrame {
         Rect frame;
@@ -34,7 +34,14 @@ public:
         calls.emplace_back(SetIgnoresMouseEvents{ignores});
     }
 
+    void setOutline(const Path& newOutline) override {
+        outline = newOutline;
+        ++outlines;
+    }
+
     std::vector<Call> calls;
+    Path outline;
+    int outlines = 0; ///< how often it was told one
 };
 
 } // namespace brellowind::test

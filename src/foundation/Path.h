@@ -2,12 +2,14 @@
 
 #include "foundation/Geometry.h"
 
+#include <functional>
 #include <variant>
 #include <vector>
 
 namespace brellowind {
 
-/// An outline of straight lines and quadratic curves, for any toolkit to draw.
+/// An outline of straight lines and quadratic curves, for any toolkit to draw. What is inside is
+/// decided by the even-odd rule; a part that is left open counts as closed.
 class Path {
 public:
     struct Move {
@@ -42,6 +44,9 @@ public:
     void close();
 
     const std::vector<Element>& elements() const { return elements_; }
+
+    /// The outline whose points are those of this one under `map`, which keeps lines straight.
+    Path mapped(const std::function<Point(Point)>& map) const;
 
     bool operator==(const Path&) const = default;
 

@@ -8,9 +8,9 @@ namespace {
 
 using Kind = PlainWindow::Kind;
 
-using X11OverlayWindow = PillOnX11;
+using X11Overlay = PillOnX11;
 
-TEST_F(X11OverlayWindow, StandsExactlyWhereItIsPutAndBypassesTheWindowManager) {
+TEST_F(X11Overlay, StandsExactlyWhereItIsPutAndBypassesTheWindowManager) {
     const WindowManager windowManager(x);
     show();
     EXPECT_EQ(x.geometry(id()), windowPixels);
@@ -18,7 +18,7 @@ TEST_F(X11OverlayWindow, StandsExactlyWhereItIsPutAndBypassesTheWindowManager) {
     EXPECT_EQ(x.frameOf(id()), id());
 }
 
-TEST_F(X11OverlayWindow, MovesToAnotherScreen) {
+TEST_F(X11Overlay, MovesToAnotherScreen) {
     Monitors monitors(display);
     show();
     monitors.add(QStringLiteral("LEFT"), {0, 0, 480, 800}, true);
@@ -30,7 +30,7 @@ TEST_F(X11OverlayWindow, MovesToAnotherScreen) {
     EXPECT_EQ(input(), QRegion(pillInWindow));
 }
 
-TEST_F(X11OverlayWindow, TakesNoFocusFromAnApplication) {
+TEST_F(X11Overlay, TakesNoFocusFromAnApplication) {
     const WindowManager windowManager(x);
     const PlainWindow application(display, {200, 100, 800, 600}, Kind::managed);
     ASSERT_TRUE(waitUntil([&] { return x.focus() == application.id(); }));
@@ -40,7 +40,7 @@ TEST_F(X11OverlayWindow, TakesNoFocusFromAnApplication) {
     EXPECT_EQ(x.focus(), application.id());
 }
 
-TEST_F(X11OverlayWindow, TakesThePointerWithinItsOutlineOnly) {
+TEST_F(X11Overlay, TakesThePointerWithinItsOutlineOnly) {
     show();
     EXPECT_EQ(input(), QRegion(pillInWindow));
     auto& beneath = openBeneath();
@@ -53,7 +53,7 @@ TEST_F(X11OverlayWindow, TakesThePointerWithinItsOutlineOnly) {
     EXPECT_EQ(beneath.presses(), 0);
 }
 
-TEST_F(X11OverlayWindow, LetsClicksOnThePillThroughWhileItIgnoresThem) {
+TEST_F(X11Overlay, LetsClicksOnThePillThroughWhileItIgnoresThem) {
     show();
     overlay.setIgnoresMouseEvents(true);
     EXPECT_TRUE(input().isEmpty());
@@ -67,7 +67,7 @@ TEST_F(X11OverlayWindow, LetsClicksOnThePillThroughWhileItIgnoresThem) {
     EXPECT_EQ(beneath.presses(), 0);
 }
 
-TEST_F(X11OverlayWindow, NeitherMovesNorVanishesWhenItsInputSwitches) {
+TEST_F(X11Overlay, NeitherMovesNorVanishesWhenItsInputSwitches) {
     show();
     WindowWatch watch(display, id());
     for (int i = 0; i < 10; ++i) {
@@ -80,7 +80,7 @@ TEST_F(X11OverlayWindow, NeitherMovesNorVanishesWhenItsInputSwitches) {
     EXPECT_TRUE(waitUntil([&] { return watch.structureEvents() > 0; }));
 }
 
-TEST_F(X11OverlayWindow, SendsNothingWhenItIsToldWhatItKnows) {
+TEST_F(X11Overlay, SendsNothingWhenItIsToldWhatItKnows) {
     show();
     WindowWatch watch(display, id());
     overlay.setIgnoresMouseEvents(false);
@@ -92,7 +92,7 @@ TEST_F(X11OverlayWindow, SendsNothingWhenItIsToldWhatItKnows) {
     EXPECT_EQ(watch.shapeEvents(), 1);
 }
 
-TEST_F(X11OverlayWindow, TakesThePointerInTheNewOutlineWhenItChanges) {
+TEST_F(X11Overlay, TakesThePointerInTheNewOutlineWhenItChanges) {
     show();
     setOutline({50, 0, 300, 200});
     EXPECT_EQ(input(), QRegion(50, 0, 300, 200));
@@ -100,14 +100,14 @@ TEST_F(X11OverlayWindow, TakesThePointerInTheNewOutlineWhenItChanges) {
     EXPECT_TRUE(input().isEmpty());
 }
 
-TEST_F(X11OverlayWindow, IgnoresThePointerUntilItIsToldOtherwise) {
+TEST_F(X11Overlay, IgnoresThePointerUntilItIsToldOtherwise) {
     setOutline(pillInWindow);
     overlay.orderFrontRegardless();
     ASSERT_TRUE(waitUntil([this] { return isShown(); }));
     EXPECT_TRUE(input().isEmpty());
 }
 
-TEST_F(X11OverlayWindow, HasItsShapeAgainWhenItsNativeWindowIsMadeAnew) {
+TEST_F(X11Overlay, HasItsShapeAgainWhenItsNativeWindowIsMadeAnew) {
     show();
     window.destroy();
     window.create();
@@ -118,7 +118,7 @@ TEST_F(X11OverlayWindow, HasItsShapeAgainWhenItsNativeWindowIsMadeAnew) {
     EXPECT_EQ(bounding(), QRegion(pillInWindow));
 }
 
-TEST_F(X11OverlayWindow, IsThePillAloneWithoutACompositingManager) {
+TEST_F(X11Overlay, IsThePillAloneWithoutACompositingManager) {
     const PlainWindow behind(display, {0, 0, 1280, 800}, Kind::managed);
     show();
     EXPECT_EQ(bounding(), QRegion(pillInWindow));
@@ -133,7 +133,7 @@ TEST_F(X11OverlayWindow, IsThePillAloneWithoutACompositingManager) {
     EXPECT_TRUE(waitUntil([this] { return x.pixel(besidePill) == PlainWindow::colour(); }));
 }
 
-TEST_F(X11OverlayWindow, IsTransparentAroundThePillWithACompositingManager) {
+TEST_F(X11Overlay, IsTransparentAroundThePillWithACompositingManager) {
     const CompositingManager compositing(x);
     const PlainWindow behind(display, {0, 0, 1280, 800}, Kind::managed);
     show();
@@ -144,7 +144,7 @@ TEST_F(X11OverlayWindow, IsTransparentAroundThePillWithACompositingManager) {
     EXPECT_TRUE(waitUntil([this] { return x.pixel(besidePill) == PlainWindow::colour(); }));
 }
 
-TEST_F(X11OverlayWindow, FollowsTheCompositingManagerThatComesAndGoes) {
+TEST_F(X11Overlay, FollowsTheCompositingManagerThatComesAndGoes) {
     const PlainWindow behind(display, {0, 0, 1280, 800}, Kind::managed);
     show();
     const QRegion whole{QRect(QPoint(), windowPixels.size())};

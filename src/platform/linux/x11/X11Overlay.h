@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/MainLoop.h"
-#include "platform/OverlayWindow.h"
+#include "platform/Overlay.h"
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/x11/CompositingManager.h"
 #include "platform/linux/x11/StayOnTop.h"
@@ -10,7 +10,6 @@
 #include "platform/linux/x11/X11Shape.h"
 
 #include <QObject>
-#include <QPainterPath>
 #include <QWindow>
 #include <optional>
 
@@ -22,19 +21,16 @@ namespace brellowind::platform {
 /// another window covers it. It takes the pointer within its content's outline only, and without a
 /// compositing manager it exists within that outline only, since all else would be black. While the
 /// session is locked or the screen saver is active it is hidden.
-class X11OverlayWindow final : public QObject, public OverlayWindow {
+class X11Overlay final : public QObject, public Overlay {
 public:
     /// Sets the flags of `window`, whose native window does not exist yet. All three outlive this.
-    X11OverlayWindow(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock);
+    X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock);
 
     /// Does nothing while there is no screen.
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
+    void setOutline(const Path& outline) override;
     void setIgnoresMouseEvents(bool ignores) override;
-
-    /// The outline of what the window shows, in points from its top left corner, y downward; it may
-    /// differ in every frame. Nothing at first.
-    void setContentOutline(const QPainterPath& outline);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -61,7 +57,7 @@ private:
     X11ScreenSaver screenSaver_;
     Subscription lockChange_;
     std::optional<Native> native_;
-    QPainterPath outline_;
+    Path outline_;
     bool ignoresMouseEvents_ = true;
     bool ordered_ = false; ///< in front, unless hidden for the time being
 };

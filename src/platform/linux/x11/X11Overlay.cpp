@@ -1,4 +1,4 @@
-#include "platform/linux/x11/X11OverlayWindow.h"
+#include "platform/linux/x11/X11Overlay.h"
 
 #include "platform/linux/screens/QtScreens.h"
 
@@ -19,11 +19,10 @@ QRect wholePoints(const Rect& rect) {
 
 } // namespace
 
-X11OverlayWindow::Native::Native(const X11Connection& x11, const QWindow& window,
-                                 MainLoop& mainLoop)
+X11Overlay::Native::Native(const X11Connection& x11, const QWindow& window, MainLoop& mainLoop)
     : shape(x11, static_cast<xcb_window_t>(window.winId())), stayOnTop(x11, window, mainLoop) {}
 
-X11OverlayWindow::X11OverlayWindow(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock)
+X11Overlay::X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock)
     : window_(window), mainLoop_(mainLoop), screenLock_(screenLock),
       compositingManager_(x11_, [this] { updateShape(); }),
       screenSaver_(x11_, [this] { updateVisibility(); }),
@@ -34,10 +33,10 @@ X11OverlayWindow::X11OverlayWindow(QWindow& window, MainLoop& mainLoop, ScreenLo
     format.setAlphaBufferSize(8);
     window_.setFormat(format);
     window_.installEventFilter(this);
-    connect(&window_, &QWindow::screenChanged, this, &X11OverlayWindow::updateShape);
+    connect(&window_, &QWindow::screenChanged, this, &X11Overlay::updateShape);
 }
 
-void X11OverlayWindow::setFrame(const Rect& frame) {
+void X11Overlay::setFrame(const Rect& frame) {
     const auto arrangement = ScreenArrangement::current();
     const auto place = arrangement.coordinates.place(frame);
     if (!place)
@@ -48,26 +47,26 @@ void X11OverlayWindow::setFrame(const Rect& frame) {
     updateShape();
 }
 
-void X11OverlayWindow::orderFrontRegardless() {
+void X11Overlay::orderFrontRegardless() {
     ordered_ = true;
     updateVisibility();
     if (native_)
         native_->stayOnTop.raise();
 }
 
-void X11OverlayWindow::setIgnoresMouseEvents(bool ignores) {
+void X11Overlay::setOutline(const Path& outline) {
+    outline_ = outline;
+    updateShape();
+}
+
+void X11Overlay::setIgnoresMouseEvents(bool ignores) {
     if (ignoresMouseEvents_ == ignores)
         return;
     ignoresMouseEvents_ = ignores;
     updateShape();
 }
 
-void X11OverlayWindow::setContentOutline(const QPainterPath& outline) {
-    outline_ = outline;
-    updateShape();
-}
-
-bool X11OverlayWindow::eventFilter(QObject* watched, QEvent* event) {
+bool X11Overlay::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::PlatformSurface) {
         const auto change = static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType();
         if (change == QPlatformSurfaceEvent::SurfaceCreated)
@@ -80,21 +79,21 @@ bool X11OverlayWindow::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-void X11OverlayWindow::adoptNativeWindow() {
+void X11Overlay::adoptNativeWindow() {
     native_.emplace(x11_, window_, mainLoop_);
     forbidShadow();
     updateShape();
 }
 
 /// Several compositing managers draw one around every window, unless they are asked not to.
-void X11OverlayWindow::forbidShadow() {
+void X11Overlay::forbidShadow() {
     constexpr std::uint32_t none = 0;
     xcb_change_property(x11_.get(), XCB_PROP_MODE_REPLACE,
                         static_cast<xcb_window_t>(window_.winId()), x11_.atom("_COMPTON_SHADOW"),
                         XCB_ATOM_CARDINAL, 32, 1, &none);
 }
 
-void X11OverlayWindow::updateShape() {
+void X11Overlay::updateShape() {
     if (!native_)
         return;
     const auto region = outlineRegion(outline_, window_.devicePixelRatio());
@@ -103,7 +102,7 @@ void X11OverlayWindow::updateShape() {
     native_->shape.setInput(ignoresMouseEvents_ ? PixelRegion() : region);
 }
 
-void X11OverlayWindow::updateVisibility() {
+void X11Overlay::updateVisibility() {
     const bool visible = ordered_ && !screenLock_.isLocked() && !screenSaver_.isActive();
     if (window_.isVisible() != visible)
         window_.setVisible(visible);

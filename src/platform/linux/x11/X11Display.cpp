@@ -1,0 +1,34 @@
+#include "platform/linux/x11/X11Display.h"
+
+#include <cstdlib>
+#include <string_view>
+#include <xcb/xcb.h>
+
+namespace brellowind::platform {
+namespace {
+
+/// What may stand for a display of this host instead of its number: the path of its socket.
+constexpr std::string_view localSocket = "/tmp/.X11-unix/X";
+
+} // namespace
+
+std::string x11DisplayName(const char* spelling) {
+    char* parsedHost = nullptr;
+    int number = 0;
+    if (!xcb_parse_display(spelling, &parsedHost, &number, nullptr))
+        return {};
+    const std::string host = parsedHost;
+    std::free(parsedHost);
+    if (host.starts_with(localSocket))
+        return ':' + host.substr(localSocket.size());
+    return (host == "unix" ? std::string() : host) + ':' + std::to_string(number);
+}
+
+bool isX11DisplayThere() {
+    auto* connection = xcb_connect(nullptr, nullptr);
+    const bool there = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return there;
+}
+
+} // namespace brellowind::platform

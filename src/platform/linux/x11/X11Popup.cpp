@@ -1,0 +1,128 @@
+#include "platform/linux/x11/X11Popup.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QRegion>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace brellowind::platform {
+namespace {
+
+/// All that a rectangle with round corners touches. What it only touches in part shows little of
+/// what is behind the corners.
+QRegion roundedRegion(QSize size, double radius) {
+    QRegion region(QRect(QPoint(0, 0), size));
+    for (int y = 0; y < radius; ++y) {
+        const double rise = std::max(0.0, radius - (y + 1));
+        const int cut = static_cast<int>(radius - std::sqrt(radius * radius - rise * rise));
+        for (const int row : {y, size.height() - 1 - y}) {
+            region -= QRect(0, row, cut, 1);
+            region -= QRect(size.width() - cut, row, cut, 1);
+        }
+    }
+    return region;
+}
+
+/// Within `area`, with the top left corner as near to `corner` as it can be.
+QPoint placeWithin(const QRect& area, QPoint corner, QSize size) {
+    return {std::max(area.x(), std::min(corner.x(), area.x() + area.width() - size.width())),
+            std::max(area.y(), std::min(corner.y(), area.y() + area.height() - size.height()))};
+}
+
+/// Whether the server would let `window` grab the pointer, which Qt's own grab does not tell.
+bool isPointerFree(const X11Connection& x11, xcb_window_t window) {
+    const auto answer = x11.ask<xcb_grab_pointer, xcb_grab_pointer_reply>(
+        std::uint8_t(0), window, std::uint16_t(0), std::uint8_t(XCB_GRAB_MODE_ASYNC),
+        std::uint8_t(XCB_GRAB_MODE_ASYNC), xcb_window_t(XCB_WINDOW_NONE),
+        xcb_cursor_t(XCB_CURSOR_NONE), xcb_timestamp_t(XCB_CURRENT_TIME));
+    xcb_ungrab_pointer(x11.get(), XCB_CURRENT_TIME); // Qt's grab is of another kind
+    return answer && answer->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+} // namespace
+
+void X11Popup::show(const Popup& popup) {
+    if (window_)
+        window_->close();
+    auto& window = popup.window;
+    const QPoint corner = popup.overlay.mapToGlobal(QPointF(popup.at.x, popup.at.y)).toPoint();
+    const auto* at = QGuiApplication::screenAt(corner);
+    window.setFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    window.setTransientParent(&popup.overlay);
+    window.setPosition(
+        placeWithin((at ? at : popup.overlay.screen())->geometry(), corner, window.size()));
+    window.create(); // what is not there yet has no mask
+    window.setMask(roundedRegion(window.size(), popup.cornerRadius));
+    window_ = &window;
+    qGuiApp->installEventFilter(this);
+    window.show();
+}
+
+bool X11Popup::eventFilter(QObject* receiver, QEvent* event) {
+    if (!window_ || !receiver->isWindowType())
+        return false;
+    switch (event->type()) {
+    case QEvent::Expose:
+        if (receiver == window_ && window_->isExposed())
+            hold(); // not earlier: a window that is not seen yet can grab nothing
+        return false;
+    case QEvent::Hide:
+        if (receiver == window_)
+            release();
+        return false;
+    case QEvent::MouseButtonPress:
+        return handlePress(receiver, event);
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return handleKey(receiver, event);
+    default:
+        return false;
+    }
+}
+
+void X11Popup::hold() {
+    if (std::exchange(held_, true))
+        return;
+    const bool granted = isPointerFree(x11_, static_cast<xcb_window_t>(window_->winId())) &&
+                         window_->setMouseGrabEnabled(true) &&
+                         window_->setKeyboardGrabEnabled(true);
+    if (!granted)
+        window_->close();
+}
+
+void X11Popup::release() {
+    qGuiApp->removeEventFilter(this);
+    auto* window = window_.data();
+    window_.clear();
+    if (!std::exchange(held_, false))
+        return;
+    window->setMouseGrabEnabled(false);
+    window->setKeyboardGrabEnabled(false);
+}
+
+/// A press beside a window that holds the pointer comes to that window, or to another one of this
+/// program.
+bool X11Popup::handlePress(const QObject* receiver, const QEvent* event) {
+    const QPointF at = static_cast<const QMouseEvent*>(event)->position();
+    if (receiver == window_ && QRectF(QPointF(0, 0), window_->size()).contains(at))
+        return false;
+    window_->close();
+    return true;
+}
+
+/// Qt delivers keys to the window of this program that had the focus before.
+bool X11Popup::handleKey(const QObject* receiver, QEvent* event) {
+    if (receiver == window_)
+        return false;
+    if (event->type() == QEvent::ShortcutOverride)
+        event->accept(); // no shortcut of that window
+    else
+        QCoreApplication::sendEvent(window_, event);
+    return true;
+}
+
+} // namespace brellowind::platform

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/WindowSystem.h"
+#include "platform/linux/x11/X11Connection.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QWindow>
+
+namespace brellowind::platform {
+
+/// Shows a window as a popup, to which the X server gives nothing by itself: it holds pointer and
+/// keyboard while it is shown. Its corners are round also without a compositing manager.
+class X11Popup final : public QObject {
+public:
+    /// Closes the one that is shown.
+    void show(const Popup& popup);
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    void hold();
+    void release();
+    bool handlePress(const QObject* receiver, const QEvent* event);
+    bool handleKey(const QObject* receiver, QEvent* event);
+
+    X11Connection x11_;
+    QPointer<QWindow> window_; ///< while it is shown
+    bool held_ = false;
+};
+
+} // namespace brellowind::platform

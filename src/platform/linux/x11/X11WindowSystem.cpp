@@ -1,0 +1,19 @@
+#include "platform/linux/x11/X11WindowSystem.h"
+
+#include "platform/linux/x11/X11Display.h"
+#include "platform/linux/x11/X11Overlay.h"
+
+namespace brellowind::platform {
+
+X11WindowSystem::X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock)
+    : mainLoop_(mainLoop), screenLock_(screenLock), screens_(mainLoop), pointer_(mainLoop) {}
+
+std::unique_ptr<Overlay> X11WindowSystem::makeOverlay(QWindow& window) {
+    return std::make_unique<X11Overlay>(window, mainLoop_, screenLock_);
+}
+
+std::string X11WindowSystem::sessionName() const {
+    return x11DisplayName();
+}
+
+} // namespace brellowind::platform

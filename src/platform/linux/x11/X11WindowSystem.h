@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/MainLoop.h"
+#include "platform/WindowSystem.h"
+#include "platform/linux/ScreenLock.h"
+#include "platform/linux/screens/QtScreens.h"
+#include "platform/linux/x11/X11Pointer.h"
+#include "platform/linux/x11/X11Popup.h"
+
+namespace brellowind::platform {
+
+/// The X server that the Qt application shows its windows on.
+class X11WindowSystem final : public WindowSystem {
+public:
+    /// REQUIRES: a `QGuiApplication` on the platform "xcb". Both arguments outlive this.
+    X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock);
+
+    std::unique_ptr<Overlay> makeOverlay(QWindow& window) override;
+    Screens& screens() override { return screens_; }
+    Pointer& pointer() override { return pointer_; }
+    void popUp(const Popup& popup) override { popup_.show(popup); }
+    std::string sessionName() const override;
+
+private:
+    MainLoop& mainLoop_;
+    ScreenLock& screenLock_;
+    QtScreens screens_;
+    X11Pointer pointer_;
+    X11Popup popup_;
+};
+
+} // namespace brellowind::platform

@@ -1,0 +1,143 @@
+#include "session/Desktop.h"
+#include "session/EventLoop.h"
+#include "session/SendSignal.h"
+#include "session/x11/XClient.h"
+
+#include <QFile>
+#include <QTemporaryFile>
+#include <algorithm>
+#include <csignal>
+#include <gtest/gtest.h>
+
+namespace brellowind::test {
+namespace {
+
+/// The program itself, as people start it.
+class Start : public testing::Test {
+protected:
+    Start() { EXPECT_TRUE(errorFile_.open()); }
+
+    void set(const char* variable, const char* value) {
+        environment.insert(QString::fromLatin1(variable), QString::fromLatin1(value));
+    }
+
+    std::unique_ptr<demo::Companion> start() {
+        return std::make_unique<demo::Companion>(QStringLiteral(BRELLOWIND_PROGRAM), QStringList(),
+                                                 environment, errorFile_.fileName());
+    }
+
+    /// The windows on the screen that are as large as the pill's and that no window manager has.
+    qsizetype pills(const XClient& x) {
+        return std::ranges::count_if(x.stack(), [&](xcb_window_t window) {
+            return x.overridesRedirect(window) && x.geometry(window).size() == QSize(640, 540);
+        });
+    }
+
+    /// What was written to standard error.
+    QByteArray errors() {
+        QFile file(errorFile_.fileName());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    Desktop desktop;
+    QProcessEnvironment environment = desktop.environment();
+    XClient x{desktop.xServer.display()};
+
+private:
+    QTemporaryFile errorFile_;
+};
+
+class StartWithQtPlatform : public Start, public testing::WithParamInterface<const char*> {};
+
+INSTANTIATE_TEST_SUITE_P(, StartWithQtPlatform,
+                         testing::Values("", "xcb", "wayland", "wayland;xcb", "offscreen",
+                                         "minimal", "nonsense"));
+
+TEST_P(StartWithQtPlatform, ShowsThePill) {
+    set("QT_QPA_PLATFORM", GetParam());
+    const auto program = start();
+    EXPECT_TRUE(waitUntil([&] { return pills(x) == 1; }));
+    EXPECT_EQ(program->end(), 0);
+    EXPECT_EQ(errors(), "");
+}
+
+class StartWithoutDisplay : public Start {
+protected:
+    void endsWithOneLine() {
+        EXPECT_EQ(start()->finish(), 1);
+        EXPECT_EQ(errors(), "brellowind: there is no X display to show the pill on\n");
+    }
+};
+
+TEST_F(StartWithoutDisplay, SaysSoWhenItIsUnset) {
+    environment.remove(QStringLiteral("DISPLAY"));
+    endsWithOneLine();
+}
+
+TEST_F(StartWithoutDisplay, SaysSoWhenItIsEmpty) {
+    set("DISPLAY", "");
+    endsWithOneLine();
+}
+
+TEST_F(StartWithoutDisplay, SaysSoWhenItsServerIsNotThere) {
+    set("DISPLAY", ":65000");
+    endsWithOneLine();
+}
+
+TEST_F(StartWithoutDisplay, SaysSoWhateverQtIsToldToShowWindowsOn) {
+    environment.remove(QStringLiteral("DISPLAY"));
+    set("QT_QPA_PLATFORM", "offscreen");
+    endsWithOneLine();
+}
+
+class SecondStart : public Start {
+protected:
+    std::unique_ptr<demo::Companion> startFirst() {
+        auto program = start();
+        EXPECT_TRUE(waitUntil([&] { return pills(x) == 1; }));
+        return program;
+    }
+
+    /// The settings are the only window that is not the pill's.
+    bool settingsAppear() {
+        return waitUntil([this] { return x.stack().size() > pills(x); });
+    }
+};
+
+TEST_F(SecondStart, FindsTheFirstHoweverTheDisplayIsSpelled) {
+    const auto first = startFirst();
+    const QString display = desktop.xServer.display();
+    for (const auto& spelling : {display + QStringLiteral(".0"), QStringLiteral("unix") + display,
+                                 QStringLiteral("unix/") + display}) {
+        environment.insert(QStringLiteral("DISPLAY"), spelling);
+        EXPECT_EQ(start()->finish(), 0) << qPrintable(spelling);
+        EXPECT_EQ(pills(x), 1) << qPrintable(spelling);
+    }
+    EXPECT_TRUE(settingsAppear());
+    EXPECT_EQ(first->end(), 0);
+}
+
+TEST_F(SecondStart, HasAPillOfItsOwnOnAnotherDisplay) {
+    const auto first = startFirst();
+    const XServer another(QStringLiteral("1440x900x24"));
+    environment.insert(QStringLiteral("DISPLAY"), another.display());
+    const auto second = start();
+    const XClient there(another.display());
+    EXPECT_TRUE(waitUntil([&] { return pills(there) == 1; }));
+    EXPECT_EQ(second->end(), 0);
+    EXPECT_EQ(first->end(), 0);
+}
+
+TEST_F(SecondStart, EndsBeforeTheFirstAnswersWhichOpensTheSettingsLater) {
+    const auto first = startFirst();
+    sendSignal(SIGSTOP, *first);
+    EXPECT_EQ(start()->finish(), 0);
+    EXPECT_EQ(x.stack().size(), 1);
+    sendSignal(SIGCONT, *first);
+    EXPECT_TRUE(settingsAppear());
+    EXPECT_EQ(first->end(), 0);
+}
+
+} // namespace
+} // namespace brellowind::test

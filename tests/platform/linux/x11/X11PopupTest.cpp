@@ -1,0 +1,154 @@
+#include "platform/linux/x11/X11Popup.h"
+
+#include "platform/linux/x11/PillOnX11.h"
+
+#include <QKeyEvent>
+#include <QShortcut>
+
+namespace brellowind::test {
+namespace {
+
+/// A window that counts what is done to it.
+class CountingWindow : public QRasterWindow {
+public:
+    int presses = 0;
+    QList<int> keys;
+
+protected:
+    void mousePressEvent(QMouseEvent*) override { ++presses; }
+    void keyPressEvent(QKeyEvent* event) override { keys.append(event->key()); }
+};
+
+/// A menu of 200 × 90 over the pill.
+class X11Popup : public PillOnX11 {
+protected:
+    static constexpr QSize menuSize{200, 90};
+    const QRect menuPixels{QPoint(640, 30), menuSize};
+
+    X11Popup() { menu.resize(menuSize); }
+
+    void popUp(Point at = {200, 30}) {
+        popup.show({.window = menu, .overlay = window, .at = at, .cornerRadius = 10});
+    }
+
+    void openMenu() {
+        show();
+        popUp();
+        ASSERT_TRUE(waitUntil([this] { return holdsPointer(); }));
+    }
+
+    /// Whether pointer and keyboard are the menu's.
+    bool holdsPointer() {
+        return menu.isExposed() && x.isViewable(static_cast<xcb_window_t>(menu.winId()));
+    }
+
+    bool closes() {
+        return waitUntil([this] { return !menu.isVisible(); });
+    }
+
+    QRect place() { return x.geometry(static_cast<xcb_window_t>(menu.winId())); }
+
+    CountingWindow menu;
+    platform::X11Popup popup;
+};
+
+TEST_F(X11Popup, IsShownWhereItIsWantedAboveTheOverlay) {
+    openMenu();
+    EXPECT_EQ(place(), menuPixels);
+    EXPECT_TRUE(x.isAbove(static_cast<xcb_window_t>(menu.winId()), id()));
+}
+
+TEST_F(X11Popup, StaysOnTheScreen) {
+    show();
+    popUp({1000, 780}); // beside the overlay
+    ASSERT_TRUE(waitUntil([this] { return holdsPointer(); }));
+    EXPECT_EQ(place(), QRect(QPoint(1280 - 200, 800 - 90), menuSize));
+}
+
+TEST_F(X11Popup, HasPressesOnIt) {
+    openMenu();
+    person.pressAt(menuPixels.center());
+    EXPECT_TRUE(waitUntil([this] { return menu.presses == 1; }));
+    EXPECT_TRUE(menu.isVisible());
+}
+
+TEST_F(X11Popup, ClosesOnAPressOnTheOverlayWhichDoesNothingElse) {
+    openMenu();
+    person.pressAt({560, 30});
+    EXPECT_TRUE(closes());
+    runFor(std::chrono::milliseconds(50));
+    EXPECT_EQ(window.presses, 0);
+    person.pressAt({560, 30});
+    EXPECT_TRUE(waitUntil([this] { return window.presses == 1; })) << "the pointer is free again";
+}
+
+TEST_F(X11Popup, ClosesOnAPressOnAnotherProgramWhichDoesNothingElse) {
+    openMenu();
+    PlainWindow other(display, {0, 500, 400, 200}, PlainWindow::Kind::unmanaged);
+    person.pressAt({100, 600});
+    EXPECT_TRUE(closes());
+    EXPECT_EQ(other.presses(), 0);
+    person.pressAt({100, 600});
+    EXPECT_TRUE(waitUntil([&] { return other.presses() == 1; }));
+}
+
+TEST_F(X11Popup, HasTheKeysThatWouldGoToAnotherWindowOfTheProgram) {
+    const WindowManager windowManager(x);
+    CountingWindow settings;
+    int shortcuts = 0;
+    const QShortcut shortcut(Qt::Key_Escape, &settings);
+    QObject::connect(&shortcut, &QShortcut::activated, &settings, [&] { ++shortcuts; });
+    settings.setGeometry(100, 400, 300, 200);
+    settings.show();
+    settings.requestActivate();
+    ASSERT_TRUE(waitUntil([&] { return settings.isActive(); }));
+    openMenu();
+    person.pressEscape();
+    EXPECT_TRUE(waitUntil([this] { return menu.keys.contains(Qt::Key_Escape); }));
+    EXPECT_EQ(shortcuts, 0);
+    EXPECT_TRUE(settings.keys.isEmpty());
+    menu.close();
+    person.pressEscape();
+    EXPECT_TRUE(waitUntil([&] { return shortcuts == 1; })) << "the keyboard is free again";
+}
+
+TEST_F(X11Popup, ClosesWhenAnotherProgramHoldsThePointer) {
+    show();
+    PlainWindow grabbing(display, {900, 500, 300, 300}, PlainWindow::Kind::unmanaged);
+    grabbing.grabPointer();
+    popUp();
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(X11Popup, ClosesWhenAnotherProgramHoldsTheKeyboard) {
+    show();
+    PlainWindow grabbing(display, {900, 500, 300, 300}, PlainWindow::Kind::unmanaged);
+    grabbing.grabKeyboard();
+    popUp();
+    EXPECT_TRUE(closes());
+    person.pressAt(onPill);
+    EXPECT_TRUE(waitUntil([this] { return window.presses == 1; })) << "the pointer is free";
+}
+
+TEST_F(X11Popup, CanBeShownAgain) {
+    openMenu();
+    menu.close();
+    popUp({100, 30});
+    ASSERT_TRUE(waitUntil([this] { return holdsPointer(); }));
+    EXPECT_EQ(place(), QRect(QPoint(540, 30), menuSize));
+    person.pressAt({100, 600});
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(X11Popup, HasRoundCorners) {
+    openMenu();
+    settle();
+    const auto shape = x.shape(static_cast<xcb_window_t>(menu.winId()), XCB_SHAPE_SK_BOUNDING);
+    EXPECT_FALSE(shape.contains(QPoint(0, 0)));
+    EXPECT_FALSE(shape.contains(QPoint(199, 89)));
+    EXPECT_TRUE(shape.contains(QPoint(10, 0)));
+    EXPECT_TRUE(shape.contains(QPoint(0, 45)));
+}
+
+} // namespace
+} // namespace brellowind::test

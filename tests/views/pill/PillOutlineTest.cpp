@@ -1,0 +1,61 @@
+#include "views/pill/Stage.h"
+
+#include "support/PrintGeometry.h"
+
+#include <gmock/gmock.h>
+
+namespace brellowind {
+namespace {
+
+class PillOutline : public test::Stage {
+protected:
+    PillOutline() {
+        machine.appear();
+        settle();
+        draw();
+    }
+
+    void draw() { window.grab(); }
+
+    /// Where the outline that the overlay has begins, which is its top left corner.
+    Point corner() const {
+        const auto& elements = windowSystem.overlay->outline.elements();
+        return std::get<Path::Move>(elements.front()).to;
+    }
+
+    Point pillsCorner() const {
+        const QPointF corner = pill()->mapToScene(QPointF(0, 0));
+        return {corner.x(), corner.y()};
+    }
+};
+
+TEST_F(PillOutline, IsThatOfThePill) {
+    EXPECT_EQ(corner(), pillsCorner());
+    const auto last = windowSystem.overlay->outline.elements().size() - 2; // before it is closed
+    const auto end =
+        std::get<Path::QuadCurve>(windowSystem.overlay->outline.elements().at(last)).to;
+    const QPointF topRight = pill()->mapToScene(pill()->boundingRect().topRight());
+    EXPECT_EQ(end, (Point{topRight.x(), topRight.y()}));
+}
+
+TEST_F(PillOutline, FollowsThePillInEveryFrameOfItsMotion) {
+    machine.movePointer(test::View::overThePill);
+    Point before = corner();
+    step(0);
+    for (int frame = 0; frame < 3; ++frame) {
+        step(0.05);
+        draw();
+        EXPECT_NE(corner(), before);
+        EXPECT_EQ(corner(), pillsCorner());
+        before = corner();
+    }
+}
+
+TEST_F(PillOutline, IsNotToldAgainWhileThePillRests) {
+    const int before = windowSystem.overlay->outlines;
+    draw();
+    EXPECT_EQ(windowSystem.overlay->outlines, before);
+}
+
+} // namespace
+} // namespace brellowind
