@@ -27,9 +27,10 @@ protected:
     }
 
     /// The windows on the screen that are as large as the pill's and that no window manager has.
-    qsizetype pills(const XClient& x) {
-        return std::ranges::count_if(x.stack(), [&](xcb_window_t window) {
-            return x.overridesRedirect(window) && x.geometry(window).size() == QSize(640, 540);
+    static qsizetype pills(const XClient& screen) {
+        return std::ranges::count_if(screen.stack(), [&](xcb_window_t window) {
+            return screen.overridesRedirect(window) &&
+                   screen.geometry(window).size() == QSize(640, 540);
         });
     }
 
