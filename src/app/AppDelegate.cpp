@@ -9,8 +9,8 @@ namespace brellowind {
 
 using platform::services;
 
-AppDelegate::Notch::Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock)
-    : content(std::move(rootView)), overlay(content, services().mainLoop, screenLock),
+AppDelegate::Notch::Notch(NotchRootView& rootView, platform::ScreenLock& screenLock)
+    : content(rootView, frames), overlay(content, services().mainLoop, screenLock),
       window(overlay) {
     QObject::connect(&content, &NotchView::outlineChanged, &overlay,
                      &platform::X11OverlayWindow::setContentOutline);
@@ -26,7 +26,7 @@ AppDelegate::AppDelegate(platform::ScreenLock& screenLock, std::function<void()>
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
-    notch_.emplace(rootView_, screenLock_);
+    notch_.emplace(*rootView_, screenLock_);
     notch_->window.show();
     rootView_->appear();
     screenChange_ = services().screens.onChange([this] { screenParametersChanged(); });

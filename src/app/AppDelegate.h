@@ -3,7 +3,8 @@
 #include "foundation/Observers.h"
 #include "notch/NotchWindow.h"
 #include "platform/linux/x11/X11OverlayWindow.h"
-#include "views/NotchView.h"
+#include "views/motion/FrameDriver.h"
+#include "views/window/NotchView.h"
 
 #include <functional>
 #include <memory>
@@ -29,10 +30,11 @@ public:
     NotchView& window() { return notch_->content; } ///< there once launched
 
 private:
-    /// The window's three sides: what it draws, what the system shows, where it hangs.
+    /// The window's sides: when it moves, what it draws, what the system shows, where it hangs.
     struct Notch {
-        Notch(std::shared_ptr<NotchRootView> rootView, platform::ScreenLock& screenLock);
+        Notch(NotchRootView& rootView, platform::ScreenLock& screenLock);
 
+        FrameDriver frames;
         NotchView content;
         platform::X11OverlayWindow overlay;
         NotchWindow window;

@@ -4,7 +4,8 @@
 #include "support/FakeSpotify.h"
 #include "support/TestMachine.h"
 #include "views/NotchRootView.h"
-#include "views/NotchView.h"
+#include "views/SteppedFrames.h"
+#include "views/window/NotchView.h"
 
 #include <QImage>
 #include <QRectF>
@@ -67,6 +68,7 @@ private:
     platform::ServicesScope scope_;
     FakeSpotify spotify_{machine_};
     std::shared_ptr<NotchRootView> root_;
+    SteppedFrames clock_;
     std::unique_ptr<NotchView> content_;
     std::string lyrics_;
     bool answersLyrics_ = true;

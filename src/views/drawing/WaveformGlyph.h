@@ -14,7 +14,6 @@ class WaveformGlyph : public PainterItem {
 public:
     explicit WaveformGlyph(Item* parent = nullptr);
 
-    bool isActive() const { return active_; }
     void setActive(bool active);
 
     /// Where in its round the wave stands, in steps of a tenth of a second; it goes on from there.

@@ -3,7 +3,7 @@
 #include "SettingsObserver.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
-#include "views/NotchView.h"
+#include "views/window/NotchView.h"
 
 #include <QGuiApplication>
 #include <cstdio>
@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
     if (!app.claimDisplay())
         return 0;
     app.launch();
-    brellowind::test::PillObserver observer(app.window());
+    brellowind::test::PillObserver observer(app.window(), app.rootView());
     brellowind::test::LoopObserver loopObserver;
     brellowind::test::SettingsObserver settingsObserver;
     if (!loopObserver.listen() || !settingsObserver.listen() || !observer.listen()) {

@@ -3,10 +3,10 @@
 #include "views/scene/SceneWindow.h"
 
 #include <QPainterPath>
-#include <memory>
 
 namespace brellowind {
 
+class FrameDriver;
 class NotchRootView;
 class Pill;
 
@@ -15,10 +15,8 @@ class NotchView : public SceneWindow {
     Q_OBJECT
 
 public:
-    explicit NotchView(std::shared_ptr<NotchRootView> rootView);
-    ~NotchView() override;
-
-    Pill& pill() { return *pill_; }
+    /// Both must outlive it.
+    NotchView(NotchRootView& rootView, FrameDriver& frames);
 
 Q_SIGNALS:
     /// The outline of the pill as the next frame will show it, in points of the window.

@@ -1,20 +1,15 @@
-#include "views/NotchView.h"
+#include "views/window/NotchView.h"
 
-#include "views/NotchRootModel.h"
 #include "views/drawing/PillShape.h"
-#include "views/interaction/Accessible.h"
 #include "views/pill/Pill.h"
-
-#include <utility>
+#include "views/scene/Accessible.h"
 
 namespace brellowind {
 
-NotchView::NotchView(std::shared_ptr<NotchRootView> rootView)
-    : pill_(new Pill(*new NotchRootModel(std::move(rootView), this), &root())) {
+NotchView::NotchView(NotchRootView& rootView, FrameDriver& frames)
+    : pill_(new Pill(rootView, frames, &root())) {
     installAccessibility();
 }
-
-NotchView::~NotchView() = default;
 
 void NotchView::resizeEvent(QResizeEvent* event) {
     SceneWindow::resizeEvent(event);

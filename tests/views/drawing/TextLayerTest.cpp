@@ -1,6 +1,6 @@
 #include "views/drawing/TextLayer.h"
+#include "views/Painting.h"
 #include "views/motion/Springs.h"
-#include "views/qt/Painting.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
