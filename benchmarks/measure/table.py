@@ -57,8 +57,7 @@ def program_rows(results):
     limit = playing["floor"]["cpu"] + 0.005
     rows = [
         ("a tick without a change of the line", f"{tick['allocations']} allocations, "
-         f"{still['frames']} frames, {still['changes']} changes of the model", "none",
-         not tick["allocations"] + still["frames"] + still["changes"]),
+         f"{still['frames']} frames", "none", not tick["allocations"] + still["frames"]),
         ("processor while playing, a line every 3 s", share(playing["cpu"]) + beside,
          share(limit), playing["cpu"] <= limit),
         ("processor while paused", share(paused["cpu"]), share(paused["floor"]["cpu"]),

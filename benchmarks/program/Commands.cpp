@@ -1,12 +1,10 @@
 #include "Commands.h"
 
 #include "app/BrellowindApp.h"
-#include "views/NotchRootModel.h"
 #include "views/NotchRootView.h"
-#include "views/NotchView.h"
+#include "views/window/NotchView.h"
 
 #include <QGuiApplication>
-#include <QMetaMethod>
 #include <cstdio>
 #include <iostream>
 #include <nlohmann/json.hpp>
@@ -16,7 +14,6 @@ namespace brellowind::benchmarks {
 using nlohmann::json;
 
 Commands::Commands(BrellowindApp& app, FrameLog& frames) : app_(app), frames_(frames) {
-    watchModel();
     reader_ = std::thread([this] { read(); });
 }
 
@@ -55,7 +52,7 @@ std::string Commands::answer(const std::string& command) {
     else if (command == "frames")
         return json(frames_.durations()).dump();
     else if (command == "counts")
-        return json{{"frames", frames_.frames()}, {"changes", changes_}}.dump();
+        return json{{"frames", frames_.frames()}}.dump();
     else if (command == "line")
         return lineRect();
     else if (command == "text")
@@ -81,16 +78,6 @@ void Commands::closeSettings() {
     for (auto* window : windows)
         if (window != &app_.window() && window->isVisible())
             window->close();
-}
-
-/// Counts every notification of the model that the pill is drawn from.
-void Commands::watchModel() {
-    const auto* model = app_.window().findChild<NotchRootModel*>();
-    const int slot = metaObject()->indexOfSlot("countChange()");
-    const auto* type = model->metaObject();
-    for (int i = type->methodOffset(); i < type->methodCount(); ++i)
-        if (type->method(i).methodType() == QMetaMethod::Signal)
-            connect(model, type->method(i), this, metaObject()->method(slot));
 }
 
 } // namespace brellowind::benchmarks

@@ -22,19 +22,14 @@ public:
     Commands(BrellowindApp& app, FrameLog& frames);
     ~Commands() override;
 
-public Q_SLOTS:
-    void countChange() { ++changes_; }
-
 private:
     void read();
     std::string answer(const std::string& command);
     std::string lineRect() const;
     void closeSettings();
-    void watchModel();
 
     BrellowindApp& app_;
     FrameLog& frames_;
-    int changes_ = 0; ///< of properties that reached QML
     std::thread reader_;
 };
 

@@ -2,7 +2,7 @@
 
 #include "app/BrellowindApp.h"
 #include "views/NotchRootView.h"
-#include "views/NotchView.h"
+#include "views/window/NotchView.h"
 
 #include <QGuiApplication>
 #include <QPixmap>

@@ -4,10 +4,8 @@
 
 namespace brellowind {
 
-AppDelegate::Notch::Notch(std::shared_ptr<NotchRootView> rootView,
-                          platform::WindowSystem& windowSystem)
-    : content(std::move(rootView), windowSystem),
-      window(content.overlay(), windowSystem.screens()) {}
+AppDelegate::Notch::Notch(NotchRootView& rootView, platform::WindowSystem& windowSystem)
+    : content(rootView, frames, windowSystem), window(content.overlay(), windowSystem.screens()) {}
 
 AppDelegate::AppDelegate(platform::WindowSystem& windowSystem, NotchRootView::Environment content)
     : windowSystem_(windowSystem) {
@@ -16,7 +14,7 @@ AppDelegate::AppDelegate(platform::WindowSystem& windowSystem, NotchRootView::En
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
-    notch_.emplace(rootView_, windowSystem_);
+    notch_.emplace(*rootView_, windowSystem_);
     notch_->window.show();
     rootView_->appear();
     screenChange_ = windowSystem_.screens().onChange([this] { screenParametersChanged(); });

@@ -4,7 +4,8 @@
 #include "notch/NotchWindow.h"
 #include "platform/WindowSystem.h"
 #include "views/NotchRootView.h"
-#include "views/NotchView.h"
+#include "views/motion/FrameDriver.h"
+#include "views/window/NotchView.h"
 
 #include <memory>
 #include <optional>
@@ -27,10 +28,11 @@ public:
     NotchView& window() { return notch_->content; } ///< there once launched
 
 private:
-    /// The window's two sides: what it draws, and where it hangs.
+    /// The window's sides: when it moves, what it draws, where it hangs.
     struct Notch {
-        Notch(std::shared_ptr<NotchRootView> rootView, platform::WindowSystem& windowSystem);
+        Notch(NotchRootView& rootView, platform::WindowSystem& windowSystem);
 
+        FrameDriver frames;
         NotchView content;
         NotchWindow window;
     };

@@ -2,6 +2,7 @@
 
 #include "session/EventLoop.h"
 
+#include <QDBusArgument>
 #include <QElapsedTimer>
 #include <QFile>
 #include <cstdio>
@@ -43,7 +44,7 @@ ObservedProgram::ObservedProgram(const Desktop& desktop, const QString& origin,
     EXPECT_TRUE(bus.connect(QString(), pillPath, pillInterface, QStringLiteral("TextChanged"), this,
                             SLOT(textChanged(QString))));
     EXPECT_EQ(process_.readLine(), QStringLiteral("ready"));
-    const QString first = pill_.ask("Text").toString();
+    const QString first = pill_.ask("Text", {QStringLiteral("lyricLine")}).toString();
     if (texts_.isEmpty())
         texts_.append(first);
 }
@@ -83,6 +84,12 @@ bool ObservedProgram::comesToRest() {
         seen = now;
         return since.elapsed() >= stillness.count();
     });
+}
+
+QSizeF ObservedProgram::size(const char* item) {
+    const auto numbers = qdbus_cast<QList<double>>(pill_.ask("Size", {latin1(item)}));
+    EXPECT_EQ(numbers.size(), 2) << item;
+    return {numbers.value(0), numbers.value(1)};
 }
 
 void ObservedProgram::textChanged(const QString& text) {

@@ -40,24 +40,21 @@ public:
     /// Waits until the pill shows `text`.
     bool shows(const QString& text);
 
-    /// What the pill is drawn from, such as "isMinimized".
+    /// What the pill shows beside texts, such as "isMinimized".
     bool is(const char* form) { return pill_.ask("Form", {latin1(form)}).toBool(); }
 
     /// Waits until that is `value`.
     bool becomes(const char* form, bool value = true);
 
-    /// A property of one of the pill's items.
-    QVariant property(const char* item, const char* name) {
-        return pill_.ask("Property", {latin1(item), latin1(name)});
-    }
+    /// The text of the line in the artwork panel.
+    QString panelText() { return pill_.ask("Text", {QStringLiteral("panelLine")}).toString(); }
 
     /// Where an item is drawn in the window, in points.
     QRectF rectangle(const char* item) { return rect("Rectangle", latin1(item)); }
 
-    /// The size of the pill as it is laid out, without what scales it.
-    QSizeF pillSize() {
-        return {property("pill", "width").toDouble(), property("pill", "height").toDouble()};
-    }
+    /// The size of an item as it is laid out, without what scales it.
+    QSizeF size(const char* item);
+    QSizeF pillSize() { return size("pill"); }
 
     /// Waits until the pill's size has not changed for a while. False when it never rests.
     bool comesToRest();

@@ -119,8 +119,8 @@ TEST_F(PillPointer, ATapOnTheCoverOpensThePanelAndATapOnThePanelClosesIt) {
     EXPECT_TRUE(program->becomes("isArtExpanded"));
     EXPECT_TRUE(program->comesToRest());
     EXPECT_EQ(pill().width(), 352);
-    EXPECT_EQ(program->property("artwork", "height").toDouble(), 320);
-    EXPECT_EQ(program->property("panelLine", "text").toString(), QStringLiteral("line"));
+    EXPECT_EQ(program->size("artwork").height(), 320);
+    EXPECT_EQ(program->panelText(), QStringLiteral("line"));
     person.pressAt(middleOf("artwork"));
     EXPECT_TRUE(program->becomes("isArtExpanded", false));
     EXPECT_TRUE(program->comesToRest());

@@ -3,18 +3,15 @@
 #include "app/BrellowindApp.h"
 #include "backdrop/Desktop.h"
 #include "service/DemoSong.h"
-#include "views/drawing/PillShape.h"
 #include "views/drawing/WaveformGlyph.h"
-#include "views/motion/FrameDriver.h"
-#include "views/pill/Pill.h"
-#include "views/pill/PillMenu.h"
-#include "views/pill/PillMenuEntry.h"
+#include "views/scene/TapArea.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 namespace brellowind::test {
 namespace {
@@ -42,6 +39,11 @@ std::string answer(const QString& lrc) {
     return QJsonDocument(QJsonObject{{QStringLiteral("syncedLyrics"), lrc}}).toJson().toStdString();
 }
 
+void send(QWindow& window, QEvent::Type type, QPointF at, Qt::MouseButton button) {
+    QMouseEvent event(type, at, window.mapToGlobal(at), button, button, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
 /// What `window` shows over black.
 QImage grabbed(SceneWindow& window) {
     const QImage shown = window.grab();
@@ -63,15 +65,14 @@ void prepareForPictures() {
 PillStage::PillStage() {
     parts_.decoder = &images_;
     root_ = parts_.make();
-    FrameDriver::shared().freeze(0);
     const platform::Screen screen{.frame = {0, 0, screenWidth, screenHeight}};
     machine_.screens.connected = {screen};
     machine_.screens.mainScreen = screen;
     spotify_.quit();
-    content_ = std::make_unique<NotchView>(root_, windowSystem_);
+    content_ = std::make_unique<NotchView>(*root_, clock_, windowSystem_);
     content_->resize(640, NotchMetrics::windowHeight);
-    content_->pill().fill(content_->size());
-    content_->root().setSize(content_->size());
+    QResizeEvent resize(content_->size(), {}); // a window that is not shown gets none
+    QCoreApplication::sendEvent(content_.get(), &resize);
     new DesktopItem(content_->root());
     root_->appear();
     rest();
@@ -118,9 +119,8 @@ void PillStage::step() {
         spotify_.position = songFrames_++ / double(framesPerSecond);
     runTurns();
     for (auto* glyph : content_->root().findChildren<WaveformGlyph*>())
-        if (glyph->isActive())
-            glyph->setStep(frames_ * waveformStepsPerSecond / framesPerSecond);
-    FrameDriver::shared().step(1.0 / framesPerSecond);
+        glyph->setStep(frames_ * waveformStepsPerSecond / framesPerSecond);
+    clock_.step(1.0 / framesPerSecond);
 }
 
 void PillStage::rest() {
@@ -146,25 +146,25 @@ QImage PillStage::pill() {
 }
 
 QImage PillStage::menu(const QString& hovered) {
-    content_->pill().openMenu(QPointF(100, 100));
-    auto* menu = content_->pill().menu();
+    const QPointF band(content_->width() / 2.0, 5);
+    send(*content_, QEvent::MouseButtonPress, band, Qt::RightButton);
+    send(*content_, QEvent::MouseButtonRelease, band, Qt::RightButton);
+    const auto windows = QGuiApplication::allWindows();
+    auto* menu = qobject_cast<SceneWindow*>(*std::ranges::find(
+        windows, QStringLiteral("menu"), [](auto* window) { return window->objectName(); }));
     QCoreApplication::processEvents(); // the window takes its size
-    for (auto* entry : menu->root().findChildren<PillMenuEntry*>()) {
-        if (entry->text() != hovered)
-            continue;
-        const QPointF middle = entry->mapToScene(entry->boundingRect().center());
-        QMouseEvent move(QEvent::MouseMove, middle, menu->mapToGlobal(middle), Qt::NoButton,
-                         Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(menu, &move);
-    }
+    for (auto* entry : menu->root().findChildren<TapArea*>())
+        if (entry->accessibleName() == hovered)
+            send(*menu, QEvent::MouseMove, entry->transform().map(entry->boundingRect().center()),
+                 Qt::NoButton);
     const QImage picture = grabbed(*menu);
     menu->close();
     return picture;
 }
 
 QRectF PillStage::pillRect() const {
-    const auto& shape = content_->pill().shape();
-    return shape.mapRectToScene(shape.boundingRect());
+    const auto* shape = content_->root().findChild<Item*>(QStringLiteral("pill"));
+    return shape->mapRectToScene(shape->boundingRect());
 }
 
 void PillStage::runTurns() {

@@ -4,7 +4,8 @@
 #include "support/RootViewParts.h"
 #include "views/FakeWindowSystem.h"
 #include "views/NotchRootView.h"
-#include "views/NotchView.h"
+#include "views/SteppedFrames.h"
+#include "views/window/NotchView.h"
 
 #include <QImage>
 #include <QRectF>
@@ -68,6 +69,7 @@ private:
     FakePlayer& spotify_ = machine_.player;
     std::shared_ptr<NotchRootView> root_;
     FakeWindowSystem windowSystem_{machine_.screens, machine_.pointer};
+    SteppedFrames clock_;
     std::unique_ptr<NotchView> content_;
     std::string lyrics_;
     bool answersLyrics_ = true;

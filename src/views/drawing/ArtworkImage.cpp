@@ -4,6 +4,15 @@
 #include <algorithm>
 
 namespace brellowind {
+namespace {
+
+/// The square in which an image fills `size` with its middle.
+QRectF fillingSquare(QSizeF size) {
+    const double side = std::max(size.width(), size.height());
+    return {(size.width() - side) / 2, (size.height() - side) / 2, side, side};
+}
+
+} // namespace
 
 ArtworkImage::ArtworkImage(Item* parent) : PainterItem(parent) {}
 
@@ -27,11 +36,6 @@ void ArtworkImage::paint(QPainter& painter) {
     painter.setBrush(cover_.isNull() ? QBrush(coverPlaceholder)
                                      : cover_.brush(square, square.width() * pixelRatio()));
     painter.drawRoundedRect(boundingRect(), radius_, radius_);
-}
-
-QRectF fillingSquare(QSizeF size) {
-    const double side = std::max(size.width(), size.height());
-    return {(size.width() - side) / 2, (size.height() - side) / 2, side, side};
 }
 
 } // namespace brellowind

@@ -14,7 +14,6 @@ public:
 
     void setImage(const QImage& image);
 
-    double radius() const { return radius_; }
     void setRadius(double radius);
 
     void paint(QPainter& painter) override;
@@ -23,8 +22,5 @@ private:
     CoverImage cover_;
     double radius_ = 0;
 };
-
-/// The square in which an image fills `size` with its middle.
-QRectF fillingSquare(QSizeF size);
 
 } // namespace brellowind

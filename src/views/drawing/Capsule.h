@@ -13,7 +13,6 @@ class Capsule : public PainterItem {
 public:
     explicit Capsule(Item* parent = nullptr);
 
-    QColor color() const { return color_; }
     void setColor(const QColor& color);
 
     void paint(QPainter& painter) override;

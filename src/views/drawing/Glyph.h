@@ -13,7 +13,6 @@ public:
 
     explicit Glyph(Item* parent = nullptr);
 
-    Kind kind() const { return kind_; }
     void setKind(Kind kind);
 
     void paint(QPainter& painter) override;

@@ -10,22 +10,22 @@
 
 namespace brellowind {
 
-LyricText::LyricText(Look look, const QString& text, bool present, Item* parent)
-    : PainterItem(parent), look_(std::move(look)), text_(text), present_(present) {
+LyricText::LyricText(Look look, const QString& text, bool present, FrameDriver& frames,
+                     Item* parent)
+    : PainterItem(parent), frames_(frames), look_(std::move(look)), text_(text), present_(present) {
     layers_.emplace_back(text_, look_.font, look_.maximumWidth, present_ ? 1.0 : 0.0);
     followSize();
 }
 
 LyricText::~LyricText() {
-    FrameDriver::shared().forget(*this);
+    frames_.forget(*this);
 }
 
 void LyricText::setText(const QString& text) {
     if (text == text_)
         return;
     text_ = text;
-    show(FrameDriver::shared().now());
-    Q_EMIT textChanged(text_);
+    show(frames_.now());
     announceName(*this);
 }
 
@@ -33,12 +33,12 @@ void LyricText::setPresent(bool present) {
     if (present == present_)
         return;
     present_ = present;
-    const double now = FrameDriver::shared().now();
+    const double now = frames_.now();
     if (present_)
         layers_.back().comeIn(now);
     else
         layers_.back().goAway(now);
-    FrameDriver::shared().drive(*this);
+    frames_.drive(*this);
 }
 
 void LyricText::visibilityChanged() {
@@ -60,7 +60,7 @@ void LyricText::show(double now) {
     if (present_)
         layers_.back().comeIn(now);
     followSize();
-    FrameDriver::shared().drive(*this);
+    frames_.drive(*this);
 }
 
 std::optional<double> LyricText::advance(double now) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "views/drawing/TextLayer.h"
-#include "views/interaction/Accessible.h"
 #include "views/motion/FrameDriver.h"
+#include "views/scene/Accessible.h"
 #include "views/scene/Item.h"
 
 #include <QColor>
@@ -15,7 +15,6 @@ namespace brellowind {
 /// line blurs and fades away while the new one sharpens and fades in, both about the same middle.
 class LyricText : public PainterItem, public Accessible, private Animated {
     Q_OBJECT
-    Q_PROPERTY(QString text READ text NOTIFY textChanged)
 
 public:
     struct Look {
@@ -24,11 +23,10 @@ public:
         double maximumWidth = 0; ///< a wider line ends in an ellipsis; 0: none is too wide
     };
 
-    /// Shows `text` at once, unless it is not present.
-    LyricText(Look look, const QString& text, bool present, Item* parent);
+    /// Shows `text` at once, unless it is not present. `frames` must outlive it.
+    LyricText(Look look, const QString& text, bool present, FrameDriver& frames, Item* parent);
     ~LyricText() override;
 
-    QString text() const { return text_; }
     void setText(const QString& text);
 
     /// A line that is not present is on its way out in the same manner, or gone.
@@ -43,9 +41,6 @@ public:
     QAccessible::Role accessibleRole() const override { return QAccessible::StaticText; }
     QString accessibleName() const override { return text_; }
 
-Q_SIGNALS:
-    void textChanged(const QString& text);
-
 protected:
     void visibilityChanged() override;
 
@@ -54,6 +49,7 @@ private:
     void show(double now);
     void followSize();
 
+    FrameDriver& frames_;
     Look look_;
     QString text_;
     bool present_;

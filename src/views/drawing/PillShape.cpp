@@ -58,18 +58,18 @@ double widestShadow(const QPainter& painter) {
 
 /// Black with `alpha`, whose middle column is drawn out until it is `width` pixels wide.
 QImage widened(const QImage& alpha, int width) {
-    width = std::max(width, alpha.width());
-    QImage image(width, alpha.height(), QImage::Format_ARGB32_Premultiplied);
-    const int leftEnd = alpha.width() / 2;
-    const int rightEnd = alpha.width() - leftEnd;
-    for (int y = 0; y < image.height(); ++y) {
-        const uchar* from = alpha.constScanLine(y);
-        auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
-        const auto black = [](uchar opacity) { return static_cast<QRgb>(opacity) << 24; };
-        to = std::transform(from, from + leftEnd, to, black);
-        to = std::fill_n(to, width - alpha.width(), black(from[leftEnd]));
-        std::transform(from + leftEnd, from + leftEnd + rightEnd, to, black);
-    }
+    const QImage narrow = alpha.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const int added = width - narrow.width();
+    if (added <= 0)
+        return narrow;
+    const int middle = narrow.width() / 2;
+    QImage image(width, narrow.height(), narrow.format());
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(0, 0, narrow, 0, 0, middle);
+    painter.drawImage(QRect(middle, 0, added, narrow.height()), narrow,
+                      QRect(middle, 0, 1, narrow.height()));
+    painter.drawImage(middle + added, 0, narrow, middle, 0);
     return image;
 }
 

@@ -18,7 +18,6 @@ public:
     double flare() const;
 
     /// 0: no shadow. 1: the whole shadow. In between both its strength and its reach grow.
-    double lift() const { return lift_; }
     void setLift(double lift);
 
     /// The outline, in the item's coordinates.

@@ -1,7 +1,6 @@
 #include "views/drawing/TextLayer.h"
 
 #include "views/drawing/Blur.h"
-#include "views/drawing/Coverage.h"
 #include "views/motion/Springs.h"
 
 #include <QFontMetricsF>
@@ -51,16 +50,13 @@ QPointF onPixel(const QPainter& painter, QPointF point) {
     return transform.inverted().map(rounded / ratio);
 }
 
-/// `image` with `margin` clear pixels around it.
-QImage framed(const QImage& image, int margin) {
-    QImage result(image.size() + QSize(2 * margin, 2 * margin), image.format());
-    result.setDevicePixelRatio(image.devicePixelRatio());
-    result.fill(0);
-    const int pixelBytes = image.depth() / 8;
-    for (int y = 0; y < image.height(); ++y)
-        std::copy_n(image.constScanLine(y), image.width() * pixelBytes,
-                    result.scanLine(margin + y) + margin * pixelBytes);
-    return result;
+/// `coverage` (Alpha8) painted in `color`.
+QImage tinted(const QImage& coverage, QColor color) {
+    QImage image = coverage.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(QRectF(QPointF(0, 0), image.deviceIndependentSize()), color);
+    return image;
 }
 
 } // namespace
@@ -159,7 +155,8 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     const QRectF part(corner, QPointF(right, line.bottom()));
     const double reach = std::max(0.0, blurReach(sigma()) - inkOverhang);
     const int margin = static_cast<int>(std::ceil(reach * ratio));
-    QImage image = framed(picture(part, color, ratio), margin);
+    const QImage& sharp = picture(part, color, ratio);
+    QImage image = sharp.copy(sharp.rect().adjusted(-margin, -margin, margin, margin));
     blur(image, sigma() * ratio);
     painter.drawImage(origin + part.topLeft() - QPointF(margin, margin) / ratio,
                       image.depth() == 8 ? tinted(image, color) : image);
@@ -178,9 +175,11 @@ const QImage& TextLayer::picture(QRectF part, QColor color, double ratio) {
         paintSharp(painter, in, -part.topLeft());
         return image;
     };
-    // Nearly all text has one colour, and one channel is a quarter of the work.
-    picture_ = coverage(painted(Qt::white));
-    if (picture_.isNull())
+    // Nearly all text has one colour; an emoji has colours of its own. To blur one channel takes a
+    // quarter of the time, which the processor's share while music plays has no room for.
+    const QImage white = painted(Qt::white);
+    picture_ = white.convertToFormat(QImage::Format_Alpha8);
+    if (tinted(picture_, Qt::white) != white)
         picture_ = painted(color);
     pictured_ = part;
     picturedColor_ = color;

@@ -16,9 +16,6 @@ public:
 
     void setTexts(const QString& artist, const QString& title);
 
-    QString artist() const { return artist_; }
-    QString title() const { return title_; }
-
     void paint(QPainter& painter) override;
 
 private:

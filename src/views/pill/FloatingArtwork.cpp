@@ -1,11 +1,12 @@
 #include "views/pill/FloatingArtwork.h"
 
-#include "views/NotchRootModel.h"
+#include "views/NotchRootView.h"
 #include "views/drawing/ArtworkImage.h"
-#include "views/interaction/TapArea.h"
 #include "views/pill/ArtworkCaption.h"
+#include "views/pill/PillContent.h"
 #include "views/pill/PillMotion.h"
 #include "views/pill/Style.h"
+#include "views/scene/TapArea.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,20 +19,20 @@ constexpr double popTilt = -6; ///< degrees
 
 } // namespace
 
-FloatingArtwork::FloatingArtwork(NotchRootModel& model, Item* parent)
-    : Item(parent), model_(model), image_(new ArtworkImage(this)),
+FloatingArtwork::FloatingArtwork(NotchRootView& view, const PillContent& content, Item* parent)
+    : Item(parent), content_(content), image_(new ArtworkImage(this)),
       area_(new TapArea(QAccessible::Button, this)) {
     area_->setName(tr("Show artwork"));
     area_->mindHovering();
-    connect(area_, &TapArea::tapped, this, [this] { model_.tapCover(); });
+    connect(area_, &TapArea::tapped, this, [&view] { view.tapCover(); });
     connect(area_, &TapArea::hoveredChanged, this,
-            [this](bool hovered) { model_.hoverCover(hovered); });
+            [&view](bool hovered) { view.hoverCover(hovered); });
     follow();
 }
 
 void FloatingArtwork::follow() {
-    image_->setImage(model_.coverImage());
-    area_->setEnabled(!model_.isArtExpanded());
+    image_->setImage(content_.cover);
+    area_->setEnabled(!content_.form.isArtExpanded);
     if (caption_)
         fillCaption();
 }
@@ -71,8 +72,8 @@ void FloatingArtwork::showCaption(double opacity) {
 }
 
 void FloatingArtwork::fillCaption() {
-    caption_->setImage(model_.coverImage());
-    caption_->setTexts(model_.artist(), model_.title());
+    caption_->setImage(content_.cover);
+    caption_->setTexts(content_.artist.get(), content_.title.get());
 }
 
 } // namespace brellowind

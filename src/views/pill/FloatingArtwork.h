@@ -6,8 +6,9 @@ namespace brellowind {
 
 class ArtworkCaption;
 class ArtworkImage;
-class NotchRootModel;
+class NotchRootView;
 class TapArea;
+struct PillContent;
 struct PillMotion;
 
 /// The cover, gliding between the thumbnail's place and the panel's.
@@ -15,9 +16,9 @@ class FloatingArtwork : public Item {
     Q_OBJECT
 
 public:
-    FloatingArtwork(NotchRootModel& model, Item* parent);
+    FloatingArtwork(NotchRootView& view, const PillContent& content, Item* parent);
 
-    /// Shows what the model has now.
+    /// Shows the content as it is now.
     void follow();
 
     /// Takes its place in a pill whose left edge is at `left`.
@@ -27,7 +28,7 @@ private:
     void showCaption(double opacity);
     void fillCaption();
 
-    NotchRootModel& model_;
+    const PillContent& content_;
     ArtworkImage* image_;
     ArtworkCaption* caption_ = nullptr; ///< made when it is first seen, and given back
     TapArea* area_;

@@ -1,11 +1,12 @@
 #include "views/pill/Grabber.h"
 
-#include "views/NotchRootModel.h"
+#include "views/NotchRootView.h"
 #include "views/drawing/Capsule.h"
-#include "views/interaction/TapArea.h"
 #include "views/pill/Fade.h"
+#include "views/pill/PillContent.h"
 #include "views/pill/PillMotion.h"
 #include "views/pill/Style.h"
+#include "views/scene/TapArea.h"
 
 #include <algorithm>
 
@@ -18,8 +19,8 @@ constexpr double bright = 0.25;
 
 } // namespace
 
-Grabber::Grabber(NotchRootModel& model, Item* parent)
-    : Item(parent), model_(model), capsule_(new Capsule(this)),
+Grabber::Grabber(NotchRootView& view, const PillContent& content, Item* parent)
+    : Item(parent), content_(content), capsule_(new Capsule(this)),
       area_(new TapArea(QAccessible::Button, this)) {
     setSize({style::grabberWidth, style::grabberPadding + style::grabberHeight});
     capsule_->setPosition({0, style::grabberPadding});
@@ -27,16 +28,16 @@ Grabber::Grabber(NotchRootModel& model, Item* parent)
     area_->setPosition({-reach, -reach});
     area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
     area_->mindHovering();
-    connect(area_, &TapArea::tapped, this, [this] { model_.tapGrabber(); });
+    connect(area_, &TapArea::tapped, this, [&view] { view.tapGrabber(); });
     connect(area_, &TapArea::hoveredChanged, this,
-            [this](bool hovered) { model_.hoverGrabber(hovered); });
+            [&view](bool hovered) { view.hoverGrabber(hovered); });
     follow();
 }
 
 void Grabber::follow() {
-    area_->setName(model_.isArtExpanded() ? tr("Close artwork")
-                   : model_.isMinimized() ? tr("Show lyrics")
-                                          : tr("Hide lyrics"));
+    area_->setName(content_.form.isArtExpanded ? tr("Close artwork")
+                   : content_.form.isMinimized ? tr("Show lyrics")
+                                               : tr("Hide lyrics"));
 }
 
 void Grabber::layOut(const PillMotion& motion) {

@@ -5,8 +5,9 @@
 namespace brellowind {
 
 class Capsule;
-class NotchRootModel;
+class NotchRootView;
 class TapArea;
+struct PillContent;
 struct PillMotion;
 
 /// The handle at the lower edge of a pill that the pointer is over.
@@ -14,15 +15,15 @@ class Grabber : public Item {
     Q_OBJECT
 
 public:
-    Grabber(NotchRootModel& model, Item* parent);
+    Grabber(NotchRootView& view, const PillContent& content, Item* parent);
 
-    /// Shows what the model has now.
+    /// Shows the content as it is now.
     void follow();
 
     void layOut(const PillMotion& motion);
 
 private:
-    NotchRootModel& model_;
+    const PillContent& content_;
     Capsule* capsule_;
     TapArea* area_;
 };

@@ -1,15 +1,14 @@
 #include "views/pill/Pill.h"
 
-#include "views/NotchRootModel.h"
 #include "views/drawing/LyricText.h"
 #include "views/drawing/PillShape.h"
-#include "views/interaction/TapArea.h"
 #include "views/pill/Fade.h"
 #include "views/pill/FloatingArtwork.h"
 #include "views/pill/Grabber.h"
 #include "views/pill/PillMenu.h"
 #include "views/pill/Style.h"
 #include "views/pill/Waveform.h"
+#include "views/scene/TapArea.h"
 
 #include <utility>
 
@@ -38,35 +37,34 @@ void centre(Item& item, double width) {
 
 } // namespace
 
-Pill::Pill(NotchRootModel& model, platform::WindowSystem& windowSystem, Item* parent)
-    : Item(parent), model_(model), windowSystem_(windowSystem),
+Pill::Pill(NotchRootView& view, FrameDriver& frames, platform::WindowSystem& windowSystem,
+           Item* parent)
+    : Item(parent), view_(view), frames_(frames), windowSystem_(windowSystem), content_(view),
       shape_(named(new PillShape(this), "pill")),
       background_(new TapArea(QAccessible::Grouping, this)), inside_(new Item(this)),
-      line_(named(new LyricText(lineLook(), model.currentLineText(), !model.isMinimized(), inside_),
+      line_(named(new LyricText(lineLook(), content_.line.get(), !content_.form.isMinimized, frames,
+                                inside_),
                   "lyricLine")),
-      artwork_(named(new FloatingArtwork(model, this), "artwork")),
-      waveform_(named(new Waveform(model, this), "waveform")),
-      grabber_(named(new Grabber(model, this), "grabber")), motion_(model, line_->naturalWidth()) {
+      artwork_(named(new FloatingArtwork(view, content_, this), "artwork")),
+      waveform_(named(new Waveform(view, content_, this), "waveform")),
+      grabber_(named(new Grabber(view, content_, this), "grabber")),
+      motion_(content_, line_->naturalWidth()), redraws_(view.onRedraw([this] { redraw(); })) {
     setObjectName(QStringLiteral("notch"));
     setTransformOrigin(Top);
     inside_->setClip(true);
     background_->takeRightButton();
     connect(background_, &TapArea::tapped, this, &Pill::tapBackground);
     connect(background_, &TapArea::menuRequested, this, &Pill::openMenu);
-    for (const auto change : {&NotchRootModel::currentLineTextChanged,
-                              &NotchRootModel::trackChanged, &NotchRootModel::coverImageChanged,
-                              &NotchRootModel::isPlayingChanged, &NotchRootModel::formChanged})
-        connect(&model_, change, this, &Pill::follow);
     follow();
 }
 
 Pill::~Pill() {
-    FrameDriver::shared().forget(*this);
+    frames_.forget(*this);
 }
 
 void Pill::openMenu(QPointF position) {
     if (!menu_)
-        menu_ = std::make_unique<PillMenu>(model_);
+        menu_ = std::make_unique<PillMenu>(view_);
     windowSystem_.popUp({.window = *menu_,
                          .overlay = *window(),
                          .at = {position.x(), position.y()},
@@ -85,35 +83,41 @@ std::optional<double> Pill::advance(double now) {
     return speed;
 }
 
+void Pill::redraw() {
+    if (content_.update(view_))
+        follow();
+}
+
 void Pill::follow() {
-    line_->setText(model_.currentLineText());
-    line_->setPresent(!model_.isMinimized());
-    background_->setName(model_.currentLineText());
+    line_->setText(content_.line.get());
+    line_->setPresent(!content_.form.isMinimized);
+    background_->setName(content_.line.get());
     followPanel();
     artwork_->follow();
     waveform_->follow();
     grabber_->follow();
-    motion_.follow(model_, line_->naturalWidth());
+    motion_.follow(content_, line_->naturalWidth());
     if (motion_.isMoving())
-        FrameDriver::shared().drive(*this);
+        frames_.drive(*this);
     layOut();
 }
 
 void Pill::followPanel() {
-    if (!model_.isArtExpanded() && motion_.expand.value() == 0)
+    if (!content_.form.isArtExpanded && motion_.expand.value() == 0)
         delete std::exchange(panelLine_, nullptr);
     else if (panelLine_)
-        panelLine_->setText(model_.currentLineText());
+        panelLine_->setText(content_.line.get());
     else
-        panelLine_ = named(new LyricText(panelLineLook(), model_.currentLineText(), true, inside_),
-                           "panelLine");
+        panelLine_ =
+            named(new LyricText(panelLineLook(), content_.line.get(), true, frames_, inside_),
+                  "panelLine");
 }
 
 void Pill::tapBackground() {
-    if (model_.isArtExpanded())
-        model_.tapArtwork();
+    if (content_.form.isArtExpanded)
+        view_.tapArtwork();
     else
-        model_.tapBackground();
+        view_.tapBackground();
 }
 
 void Pill::layOut() {
@@ -125,7 +129,7 @@ void Pill::layOut() {
          style::swell(collapsedHeight(), panelHeight(), expand)});
     shape_->setLift(motion_.hover.value());
     centre(*shape_, width());
-    model_.sizeChanged(shape_->width(), shape_->height());
+    view_.sizeChanged({shape_->width(), shape_->height()});
     background_->setPosition(shape_->position());
     background_->setSize(shape_->size());
 

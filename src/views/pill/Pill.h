@@ -2,6 +2,7 @@
 
 #include "platform/WindowSystem.h"
 #include "views/motion/FrameDriver.h"
+#include "views/pill/PillContent.h"
 #include "views/pill/PillMotion.h"
 #include "views/scene/Item.h"
 
@@ -12,20 +13,21 @@ namespace brellowind {
 class FloatingArtwork;
 class Grabber;
 class LyricText;
-class NotchRootModel;
+class NotchRootView;
 class PillMenu;
 class PillShape;
 class TapArea;
 class Waveform;
 
-/// The black pill and all that is in it, hanging from the middle of its top edge. It shows what the
-/// model has: each change of the model turns its springs, and each frame lays it out anew.
+/// The black pill and all that is in it, hanging from the middle of its top edge. Each change of
+/// what it shows turns its springs, and each frame lays it out anew.
 class Pill : public Item, private Animated {
     Q_OBJECT
 
 public:
-    /// `model` and `windowSystem`, which shows the context menu, must outlive it.
-    Pill(NotchRootModel& model, platform::WindowSystem& windowSystem, Item* parent);
+    /// All must outlive it; `windowSystem` shows the context menu.
+    Pill(NotchRootView& view, FrameDriver& frames, platform::WindowSystem& windowSystem,
+         Item* parent);
     ~Pill() override;
 
     /// Hangs in a window of that size.
@@ -33,25 +35,23 @@ public:
 
     const PillShape& shape() const { return *shape_; }
 
-    /// The context menu; null until it was first wanted.
-    PillMenu* menu() { return menu_.get(); }
-
-    /// Opens the context menu at a point of the window.
-    void openMenu(QPointF position);
-
 private:
     std::optional<double> advance(double now) override;
+    void redraw();
     void follow();
     void followPanel();
     void tapBackground();
+    void openMenu(QPointF position);
     void layOut();
     void layOutTexts();
     double bottomPadding() const;
     double collapsedHeight() const;
     double panelHeight() const;
 
-    NotchRootModel& model_;
+    NotchRootView& view_;
+    FrameDriver& frames_;
     platform::WindowSystem& windowSystem_;
+    PillContent content_;
     PillShape* shape_;
     TapArea* background_;
     Item* inside_; ///< clips the texts
@@ -62,6 +62,7 @@ private:
     Grabber* grabber_;
     PillMotion motion_;
     std::unique_ptr<PillMenu> menu_; ///< made when it is first wanted: most days it never is
+    Subscription redraws_;
 };
 
 } // namespace brellowind

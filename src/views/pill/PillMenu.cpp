@@ -1,6 +1,6 @@
 #include "views/pill/PillMenu.h"
 
-#include "views/NotchRootModel.h"
+#include "views/NotchRootView.h"
 #include "views/pill/PillMenuEntry.h"
 #include "views/scene/Item.h"
 
@@ -30,22 +30,22 @@ private:
 
 } // namespace
 
-PillMenu::PillMenu(NotchRootModel& model) {
+PillMenu::PillMenu(NotchRootView& view) {
     setObjectName(QStringLiteral("menu"));
     auto* background = new MenuBackground(radius(), &root());
-    const std::pair<QString, void (NotchRootModel::*)()> entries[] = {
-        {tr("Open Settings"), &NotchRootModel::openSettings},
-        {tr("Check for Updates…"), &NotchRootModel::checkForUpdates},
-        {tr("Quit Brellowind"), &NotchRootModel::quit},
+    const std::pair<QString, void (NotchRootView::*)()> entries[] = {
+        {tr("Open Settings"), &NotchRootView::openSettings},
+        {tr("Check for Updates…"), &NotchRootView::checkForUpdates},
+        {tr("Quit Brellowind"), &NotchRootView::quit},
     };
     double top = padding;
     for (const auto& [text, action] : entries) {
         auto* entry = new PillMenuEntry(text, &root());
         entry->setPosition({padding, top});
         top += entry->height();
-        connect(entry, &PillMenuEntry::triggered, this, [this, &model, action = action] {
+        connect(entry, &PillMenuEntry::triggered, this, [this, &view, action = action] {
             close();
-            (model.*action)();
+            (view.*action)();
         });
     }
     background->setSize({PillMenuEntry::entryWidth + 2 * padding, top + padding});

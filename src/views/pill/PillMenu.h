@@ -1,18 +1,18 @@
 #pragma once
 
-#include "views/interaction/MenuWindow.h"
+#include "views/scene/MenuWindow.h"
 
 namespace brellowind {
 
-class NotchRootModel;
+class NotchRootView;
 
 /// The context menu of the pill, a small window of its own.
 class PillMenu : public MenuWindow {
     Q_OBJECT
 
 public:
-    /// `model`, which is told what is chosen, must outlive it.
-    explicit PillMenu(NotchRootModel& model);
+    /// `view`, which is told what is chosen, must outlive it.
+    explicit PillMenu(NotchRootView& view);
 };
 
 } // namespace brellowind

@@ -1,7 +1,7 @@
 #include "views/pill/PillMenuEntry.h"
 
-#include "views/interaction/TapArea.h"
 #include "views/pill/Style.h"
+#include "views/scene/TapArea.h"
 
 #include <QPainter>
 

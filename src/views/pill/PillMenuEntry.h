@@ -15,8 +15,6 @@ public:
 
     PillMenuEntry(const QString& text, Item* parent);
 
-    QString text() const { return text_; }
-
     void paint(QPainter& painter) override;
 
 Q_SIGNALS:

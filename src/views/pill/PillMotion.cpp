@@ -1,6 +1,6 @@
 #include "views/pill/PillMotion.h"
 
-#include "views/NotchRootModel.h"
+#include "views/pill/PillContent.h"
 #include "views/pill/Style.h"
 
 #include <algorithm>
@@ -13,28 +13,28 @@ constexpr double pulseScale = 1.06;
 
 } // namespace
 
-PillMotion::PillMotion(const NotchRootModel& model, double naturalLineWidth) {
-    follow(model, naturalLineWidth);
+PillMotion::PillMotion(const PillContent& content, double naturalLineWidth) {
+    follow(content, naturalLineWidth);
     forEach(*this, [](SpringValue& spring) { spring.settle(); });
 }
 
-void PillMotion::follow(const NotchRootModel& model, double naturalLineWidth) {
-    const bool minimized = model.isMinimized();
-    const bool expanded = model.isArtExpanded();
-    hover.setTarget(model.hovered());
+void PillMotion::follow(const PillContent& content, double naturalLineWidth) {
+    const bool minimized = content.form.isMinimized;
+    const bool expanded = content.form.isArtExpanded;
+    hover.setTarget(content.form.hovered);
     unfold.setTarget(!minimized);
     expand.setTarget(expanded);
     // Even, so that the pill's edges fall on whole points about the middle.
     lineWidth.setTarget(
         minimized ? style::minimumContentWidth
                   : 2 * std::ceil(std::max(style::minimumContentWidth, naturalLineWidth) / 2));
-    if (model.playPulse())
+    if (content.form.playPulse)
         pulse.setTarget(pulseScale, springs::pulseRise);
     else
         pulse.setTarget(1, springs::pulseFall);
-    thumbnail.setTarget(model.coverHovered() && !expanded);
-    indicator.setTarget(model.waveformHovered());
-    grabber.setTarget(model.grabberHovered());
+    thumbnail.setTarget(content.form.coverHovered && !expanded);
+    indicator.setTarget(content.form.waveformHovered);
+    grabber.setTarget(content.form.grabberHovered);
 }
 
 bool PillMotion::isMoving() const {

@@ -7,15 +7,15 @@
 
 namespace brellowind {
 
-class NotchRootModel;
+struct PillContent;
 
 /// Every spring of the pill: fractions from 0 to 1 that may overshoot, where nothing else is said.
 struct PillMotion {
-    /// At rest as the model stands, with a line `naturalLineWidth` points wide.
-    PillMotion(const NotchRootModel& model, double naturalLineWidth);
+    /// At rest as the content stands, with a line `naturalLineWidth` points wide.
+    PillMotion(const PillContent& content, double naturalLineWidth);
 
-    /// Turns every spring to where the model wants it.
-    void follow(const NotchRootModel& model, double naturalLineWidth);
+    /// Turns every spring to where the content wants it.
+    void follow(const PillContent& content, double naturalLineWidth);
 
     /// Whether anything has yet to reach its target.
     bool isMoving() const;

@@ -1,11 +1,12 @@
 #include "views/pill/Waveform.h"
 
-#include "views/NotchRootModel.h"
+#include "views/NotchRootView.h"
 #include "views/drawing/Glyph.h"
 #include "views/drawing/WaveformGlyph.h"
-#include "views/interaction/TapArea.h"
 #include "views/pill/Fade.h"
+#include "views/pill/PillContent.h"
 #include "views/pill/PillMotion.h"
+#include "views/scene/TapArea.h"
 
 #include <algorithm>
 
@@ -23,8 +24,8 @@ constexpr double buttonOpacity = 0.8;
 
 } // namespace
 
-Waveform::Waveform(NotchRootModel& model, Item* parent)
-    : Item(parent), model_(model), waveform_(new WaveformGlyph(this)), button_(new Glyph(this)),
+Waveform::Waveform(NotchRootView& view, const PillContent& content, Item* parent)
+    : Item(parent), content_(content), waveform_(new WaveformGlyph(this)), button_(new Glyph(this)),
       area_(new TapArea(QAccessible::Button, this)) {
     setSize({side, side});
     waveform_->setSize(size());
@@ -33,21 +34,21 @@ Waveform::Waveform(NotchRootModel& model, Item* parent)
     area_->setPosition({-reach, -reach});
     area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
     area_->mindHovering();
-    connect(area_, &TapArea::tapped, this, [this] { model_.tapWaveform(); });
+    connect(area_, &TapArea::tapped, this, [&view] { view.tapWaveform(); });
     connect(area_, &TapArea::hoveredChanged, this,
-            [this](bool hovered) { model_.hoverWaveform(hovered); });
+            [&view](bool hovered) { view.hoverWaveform(hovered); });
     follow();
 }
 
 void Waveform::follow() {
-    waveform_->setActive(model_.isPlaying());
-    button_->setKind(model_.isPlaying() ? Glyph::PauseFill : Glyph::PlayFill);
-    area_->setName(model_.isPlaying() ? tr("Pause") : tr("Play"));
+    waveform_->setActive(content_.isPlaying);
+    button_->setKind(content_.isPlaying ? Glyph::PauseFill : Glyph::PlayFill);
+    area_->setName(content_.isPlaying ? tr("Pause") : tr("Play"));
 }
 
 void Waveform::layOut(const PillMotion& motion) {
     const double swap = std::clamp(motion.indicator.value(), 0.0, 1.0);
-    fade(*waveform_, (model_.isPlaying() ? playingOpacity : pausedOpacity) * (1 - swap));
+    fade(*waveform_, (content_.isPlaying ? playingOpacity : pausedOpacity) * (1 - swap));
     fade(*button_, buttonOpacity * swap);
 }
 

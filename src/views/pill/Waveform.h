@@ -5,9 +5,10 @@
 namespace brellowind {
 
 class Glyph;
-class NotchRootModel;
+class NotchRootView;
 class TapArea;
 class WaveformGlyph;
+struct PillContent;
 struct PillMotion;
 
 /// The playing indicator, which is the play/pause button as well.
@@ -15,15 +16,15 @@ class Waveform : public Item {
     Q_OBJECT
 
 public:
-    Waveform(NotchRootModel& model, Item* parent);
+    Waveform(NotchRootView& view, const PillContent& content, Item* parent);
 
-    /// Shows what the model has now.
+    /// Shows the content as it is now.
     void follow();
 
     void layOut(const PillMotion& motion);
 
 private:
-    NotchRootModel& model_;
+    const PillContent& content_;
     WaveformGlyph* waveform_;
     Glyph* button_;
     TapArea* area_;

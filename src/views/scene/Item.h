@@ -18,8 +18,6 @@ class SceneWindow;
 /// children lie over earlier ones. Whatever changes is drawn in the window's next frame.
 class Item : public QObject {
     Q_OBJECT
-    Q_PROPERTY(double width READ width)
-    Q_PROPERTY(double height READ height)
 
 public:
     /// The point that stays where it is while the item is scaled and turned.
@@ -29,7 +27,6 @@ public:
     explicit Item(Item* parent = nullptr);
     ~Item() override;
 
-    Item* parentItem() const { return parent_; }
     const std::vector<Item*>& childItems() const { return children_; }
 
     /// Null where no window shows it.
@@ -58,10 +55,8 @@ public:
     bool isVisible() const { return visible_ && (!parent_ || parent_->isVisible()); }
     void setVisible(bool visible);
 
-    double scale() const { return scale_; }
     void setScale(double scale) { set(scale_, scale); }
-    double rotation() const { return rotation_; } ///< degrees, clockwise
-    void setRotation(double degrees) { set(rotation_, degrees); }
+    void setRotation(double clockwiseDegrees) { set(rotation_, clockwiseDegrees); }
     void setTransformOrigin(TransformOrigin origin) { set(origin_, origin); }
 
     /// Shows its children only as far as they lie within its rectangle.
@@ -71,7 +66,6 @@ public:
 
     /// From here to the window; with `ancestor`, to that one.
     QTransform transform(const Item* ancestor = nullptr) const;
-    QPointF mapToScene(QPointF point) const { return transform().map(point); }
     QPointF mapFromScene(QPointF point) const { return transform().inverted().map(point); }
     QRectF mapRectToScene(const QRectF& rect) const { return transform().mapRect(rect); }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/MainLoop.h"
-#include "views/interaction/PointerFocus.h"
 #include "views/scene/Item.h"
+#include "views/scene/PointerFocus.h"
 
 #include <QAccessible>
 #include <QBackingStore>

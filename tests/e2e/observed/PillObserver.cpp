@@ -1,15 +1,19 @@
 #include "PillObserver.h"
 
-#include "views/NotchRootModel.h"
-#include "views/pill/PillMenuEntry.h"
+#include "views/NotchRootView.h"
+#include "views/drawing/LyricText.h"
 #include "views/scene/SceneWindow.h"
+#include "views/scene/TapArea.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
-#include <QVariant>
+#include <QMap>
+#include <utility>
 
 namespace brellowind::test {
 namespace {
+
+const auto lyricLine = QStringLiteral("lyricLine");
 
 QList<double> numbers(const QRectF& rect) {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
@@ -17,12 +21,6 @@ QList<double> numbers(const QRectF& rect) {
 
 QList<double> rectangle(const Item* item) {
     return item ? numbers(item->mapRectToScene(item->boundingRect())) : QList<double>();
-}
-
-/// The bus knows no absent value.
-QDBusVariant property(const QObject* object, const QString& name) {
-    const QVariant value = object ? object->property(name.toUtf8().constData()) : QVariant();
-    return QDBusVariant(value.isValid() ? value : QVariant(QString()));
 }
 
 /// Once it is exposed it holds pointer and keyboard as well.
@@ -35,30 +33,47 @@ const SceneWindow* openMenu() {
 
 } // namespace
 
-PillObserver::PillObserver(const SceneWindow& window)
-    : window_(window), line_(window.root().findChild<QObject*>(QStringLiteral("lyricLine"))) {
-    if (line_)
-        connect(line_, SIGNAL(textChanged(QString)), this, SIGNAL(TextChanged(QString)));
+PillObserver::PillObserver(const SceneWindow& window, NotchRootView& view)
+    : window_(window), view_(view), text_(Text(lyricLine)),
+      redraws_(view.onRedraw([this] { redraw(); })) {}
+
+/// The pill heard of it first.
+void PillObserver::redraw() {
+    const QString text = Text(lyricLine);
+    if (text == std::exchange(text_, text))
+        return;
+    Q_EMIT TextChanged(text);
 }
 
 bool PillObserver::listen() {
     auto bus = QDBusConnection::sessionBus();
-    return line_ &&
+    return item(lyricLine) &&
            bus.registerObject(QStringLiteral("/pill"), this,
                               QDBusConnection::ExportScriptableContents) &&
            bus.registerService(QStringLiteral("org.brellowind.Observed"));
 }
 
-QString PillObserver::Text() const {
-    return line_->property("text").toString();
+QString PillObserver::Text(const QString& line) const {
+    const auto* text = qobject_cast<const LyricText*>(item(line));
+    return text ? text->accessibleName() : QString();
 }
 
-QDBusVariant PillObserver::Form(const QString& property) const {
-    return test::property(window_.findChild<NotchRootModel*>(), property);
+bool PillObserver::Form(const QString& name) const {
+    const auto& form = view_.form();
+    return QMap<QString, bool>{
+        {QStringLiteral("isPlaying"), view_.nowPlaying().isPlaying.get()},
+        {QStringLiteral("isMinimized"), form.isMinimized},
+        {QStringLiteral("isArtExpanded"), form.isArtExpanded},
+        {QStringLiteral("hovered"), form.hovered},
+        {QStringLiteral("coverHovered"), form.coverHovered},
+        {QStringLiteral("grabberHovered"), form.grabberHovered},
+        {QStringLiteral("waveformHovered"), form.waveformHovered},
+    }[name];
 }
 
-QDBusVariant PillObserver::Property(const QString& item, const QString& property) const {
-    return test::property(this->item(item), property);
+QList<double> PillObserver::Size(const QString& item) const {
+    const auto* found = this->item(item);
+    return found ? QList<double>{found->width(), found->height()} : QList<double>();
 }
 
 QList<double> PillObserver::Rectangle(const QString& item) const {
@@ -78,8 +93,8 @@ QList<double> PillObserver::MenuEntry(const QString& text) const {
     const auto* menu = openMenu();
     if (!menu)
         return {};
-    for (const auto* entry : menu->root().findChildren<PillMenuEntry*>())
-        if (entry->text() == text)
+    for (const auto* entry : menu->root().findChildren<TapArea*>())
+        if (entry->accessibleName() == text)
             return rectangle(entry);
     return {};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDBusVariant>
+#include "foundation/Observers.h"
+
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -8,6 +9,7 @@
 namespace brellowind {
 
 class Item;
+class NotchRootView;
 class SceneWindow;
 
 namespace test {
@@ -20,20 +22,21 @@ class PillObserver : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.brellowind.Pill")
 
 public:
-    /// `window` must outlive the observer and show the pill's items already.
-    explicit PillObserver(const SceneWindow& window);
+    /// Both must outlive the observer, and `window` show the pill's items already.
+    PillObserver(const SceneWindow& window, NotchRootView& view);
 
     /// False when there is no bus or the pill has no line.
     bool listen();
 
 public Q_SLOTS:
-    Q_SCRIPTABLE QString Text() const;
+    /// What one of the pill's lines shows: "lyricLine" or "panelLine".
+    Q_SCRIPTABLE QString Text(const QString& line) const;
 
-    /// A property of what the pill is drawn from, such as "isMinimized".
-    Q_SCRIPTABLE QDBusVariant Form(const QString& property) const;
+    /// What the pill shows beside texts, such as "isMinimized".
+    Q_SCRIPTABLE bool Form(const QString& name) const;
 
-    /// A property of one of the pill's items.
-    Q_SCRIPTABLE QDBusVariant Property(const QString& item, const QString& property) const;
+    /// Width and height of one of the pill's items as it is laid out, without what scales it.
+    Q_SCRIPTABLE QList<double> Size(const QString& item) const;
 
     /// Where one of the pill's items is drawn in the window, with all that scales it.
     Q_SCRIPTABLE QList<double> Rectangle(const QString& item) const;
@@ -48,13 +51,17 @@ public Q_SLOTS:
     Q_SCRIPTABLE QList<double> MenuEntry(const QString& text) const;
 
 Q_SIGNALS:
+    /// The text of "lyricLine".
     Q_SCRIPTABLE void TextChanged(const QString& text);
 
 private:
+    void redraw();
     const Item* item(const QString& name) const;
 
     const SceneWindow& window_;
-    QObject* line_;
+    const NotchRootView& view_;
+    QString text_;
+    Subscription redraws_;
 };
 
 } // namespace test

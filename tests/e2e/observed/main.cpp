@@ -3,6 +3,7 @@
 #include "SettingsObserver.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
+#include "views/window/NotchView.h"
 
 #include <cstdio>
 #include <string>
@@ -25,7 +26,7 @@ int main(int argc, char** argv) {
     if (!app.claimSession())
         return 0;
     app.launch();
-    test::PillObserver observer(app.window());
+    test::PillObserver observer(app.window(), app.rootView());
     test::LoopObserver loopObserver;
     test::SettingsObserver settingsObserver;
     if (!loopObserver.listen() || !settingsObserver.listen() || !observer.listen()) {

@@ -1,7 +1,7 @@
 #include "views/pill/Stage.h"
 
 #include "settings/SettingsRouter.h"
-#include "views/pill/PillMenuEntry.h"
+#include "views/scene/TapArea.h"
 
 namespace brellowind {
 namespace {
@@ -16,12 +16,12 @@ protected:
     }
     void open() { open(middle(pill())); }
 
-    QList<PillMenuEntry*> entries() { return menu()->root().findChildren<PillMenuEntry*>(); }
+    QList<TapArea*> entries() { return menu()->root().findChildren<TapArea*>(); }
 
     QStringList texts() {
         QStringList result;
         for (auto* entry : entries())
-            result.push_back(entry->text());
+            result.push_back(entry->accessibleName());
         return result;
     }
 

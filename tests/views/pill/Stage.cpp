@@ -1,21 +1,67 @@
 #include "views/pill/Stage.h"
 
+#include "views/SteppedFrames.h"
+
 #include <QGuiApplication>
+#include <utility>
 
 namespace brellowind::test {
 
-Stage::Stage() {
-    FrameDriver::shared().freeze(100);
+PillWindow::PillWindow(std::unique_ptr<FrameDriver> driver) : frames(std::move(driver)) {
     window.resize(windowWidth, windowHeight);
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     hover(QPoint(5, windowHeight - 5));
-    settle();
 }
 
-Stage::~Stage() {
+Item* PillWindow::item(const char* name) const {
+    auto* found = window.root().findChild<Item*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+
+Item* PillWindow::below(Item* parent, const char* type) {
+    for (auto* child : parent->childItems()) {
+        if (child->metaObject()->className() == QByteArray("brellowind::") + type)
+            return child;
+        if (auto* found = below(child, type))
+            return found;
+    }
+    return nullptr;
+}
+
+SceneWindow* PillWindow::menu() {
+    for (auto* found : QGuiApplication::allWindows())
+        if (found->objectName() == QStringLiteral("menu"))
+            return qobject_cast<SceneWindow*>(found);
+    return nullptr;
+}
+
+QRectF PillWindow::layout(Item* laidOut) const {
+    const auto* root = item("notch");
+    return {laidOut->transform(root).map(QPointF(0, 0)), laidOut->size()};
+}
+
+QPoint PillWindow::onWindow(Item* of, QPointF point) {
+    return of->transform().map(point).toPoint();
+}
+
+QPoint PillWindow::middle(Item* of) {
+    return onWindow(of, of->boundingRect().center());
+}
+
+void PillWindow::click(QPoint at, Qt::MouseButton button) {
+    QTest::mouseClick(&window, button, {}, at);
+    machine.runTurns();
+}
+
+void PillWindow::hover(QPoint at) {
+    QTest::mouseMove(&window, at);
+    machine.runTurns();
+}
+
+Stage::Stage() : PillWindow(std::make_unique<SteppedFrames>()) {
     settle();
-    FrameDriver::shared().thaw();
 }
 
 void Stage::settle() {
@@ -27,47 +73,8 @@ void Stage::settle() {
 
 void Stage::step(double seconds) {
     machine.runTurns();
-    FrameDriver::shared().step(seconds);
+    static_cast<SteppedFrames&>(*frames).step(seconds);
     QCoreApplication::processEvents();
-    machine.runTurns();
-}
-
-Item* Stage::item(const char* name) const {
-    auto* found = window.root().findChild<Item*>(QString::fromLatin1(name));
-    EXPECT_NE(found, nullptr) << name;
-    return found;
-}
-
-Item* Stage::below(Item* parent, const char* type) {
-    for (auto* child : parent->childItems()) {
-        if (child->metaObject()->className() == QByteArray("brellowind::") + type)
-            return child;
-        if (auto* found = below(child, type))
-            return found;
-    }
-    return nullptr;
-}
-
-QRectF Stage::layout(Item* laidOut) const {
-    auto* root = pill()->parentItem();
-    return {laidOut->transform(root).map(QPointF(0, 0)), laidOut->size()};
-}
-
-QPoint Stage::onWindow(Item* of, QPointF point) {
-    return of->mapToScene(point).toPoint();
-}
-
-QPoint Stage::middle(Item* of) {
-    return onWindow(of, of->boundingRect().center());
-}
-
-void Stage::click(QPoint at, Qt::MouseButton button) {
-    QTest::mouseClick(&window, button, {}, at);
-    machine.runTurns();
-}
-
-void Stage::hover(QPoint at) {
-    QTest::mouseMove(&window, at);
     machine.runTurns();
 }
 

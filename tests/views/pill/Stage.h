@@ -1,32 +1,24 @@
 #pragma once
 
 #include "views/FakeWindowSystem.h"
-#include "views/NotchView.h"
 #include "views/RootViewFixture.h"
 #include "views/motion/FrameDriver.h"
-#include "views/pill/Pill.h"
-#include "views/pill/PillMenu.h"
+#include "views/scene/Item.h"
+#include "views/window/NotchView.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace brellowind::test {
 
-/// The pill on an offscreen window, over a view on the fake machine. Its motions stand still until
-/// the test moves them.
-class Stage : public testing::Test {
+/// The pill on an offscreen window, over a view on the fake machine.
+class PillWindow : public testing::Test {
 protected:
     static constexpr int windowWidth = 640;
     static constexpr int windowHeight = 540;
 
-    Stage();
-    ~Stage() override;
-
-    /// Lets all that moves come to rest.
-    void settle();
-
-    /// Lets what was asked for so far begin, and `seconds` pass.
-    void step(double seconds);
+    explicit PillWindow(std::unique_ptr<FrameDriver> driver);
 
     /// The item of that name.
     Item* item(const char* name) const;
@@ -34,8 +26,8 @@ protected:
     /// The first item below `parent` whose type has that name.
     static Item* below(Item* parent, const char* type);
 
-    /// The context menu, once it was wanted.
-    PillMenu* menu() { return window.pill().menu(); }
+    /// The context menu; null until it was first wanted.
+    static SceneWindow* menu();
 
     Item* pill() const { return item("pill"); }
     Item* artwork() const { return item("artwork"); }
@@ -61,7 +53,20 @@ protected:
 
     View machine;
     FakeWindowSystem windowSystem{machine.machine.screens, machine.machine.pointer};
-    NotchView window{machine.root, windowSystem};
+    std::unique_ptr<FrameDriver> frames;
+    NotchView window{machine.view, *frames, windowSystem};
+};
+
+/// The same; its motions stand still until the test moves them.
+class Stage : public PillWindow {
+protected:
+    Stage();
+
+    /// Lets all that moves come to rest.
+    void settle();
+
+    /// Lets what was asked for so far begin, and `seconds` pass.
+    void step(double seconds);
 };
 
 } // namespace brellowind::test

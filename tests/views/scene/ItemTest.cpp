@@ -82,7 +82,7 @@ TEST(Item, LiesWhereItIsPlacedInItsParent) {
     outer.setPosition({100, 50});
     Item inner(&outer);
     inner.setPosition({10, 5});
-    EXPECT_EQ(inner.mapToScene({1, 2}), QPointF(111, 57));
+    EXPECT_EQ(inner.transform().map(QPointF(1, 2)), QPointF(111, 57));
     EXPECT_EQ(inner.mapFromScene({111, 57}), QPointF(1, 2));
     EXPECT_EQ(inner.transform(&outer).map(QPointF(1, 2)), QPointF(11, 7));
     EXPECT_EQ(inner.mapRectToScene({0, 0, 4, 3}), QRectF(110, 55, 4, 3));
@@ -103,9 +103,9 @@ TEST_P(ItemTransform, LeavesItsOriginWhereItIs) {
     item.setScale(2);
     item.setRotation(90);
     const QPointF stays = GetParam().stays;
-    EXPECT_EQ(item.mapToScene(stays), stays + item.position());
+    EXPECT_EQ(item.transform().map(stays), stays + item.position());
     // Turned clockwise, what is to the right of it lies below it.
-    EXPECT_EQ(item.mapToScene(stays + QPointF(1, 0)), stays + item.position() + QPointF(0, 2));
+    EXPECT_EQ(item.transform().map(stays + QPointF(1, 0)), stays + item.position() + QPointF(0, 2));
 }
 
 INSTANTIATE_TEST_SUITE_P(Origins, ItemTransform,

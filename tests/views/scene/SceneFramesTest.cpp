@@ -1,5 +1,5 @@
 #include "session/EventLoop.h"
-#include "views/qt/Painting.h"
+#include "views/Painting.h"
 #include "views/scene/Block.h"
 #include "views/scene/SceneWindow.h"
 
@@ -189,7 +189,7 @@ private:
     }
 
     void raise(Block& block) {
-        const auto& siblings = block.parentItem()->childItems();
+        const auto& siblings = qobject_cast<Item*>(block.parent())->childItems();
         if (siblings.front() != &block)
             block.stackBefore(*siblings.front());
     }
@@ -198,7 +198,7 @@ private:
     void remove(std::size_t index) {
         const Block* gone = blocks_[index];
         std::erase_if(blocks_, [gone](const Block* block) {
-            for (const Item* item = block; item; item = item->parentItem())
+            for (const QObject* item = block; item; item = item->parent())
                 if (item == gone)
                     return true;
             return false;

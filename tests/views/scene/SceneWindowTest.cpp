@@ -1,5 +1,5 @@
 #include "views/scene/SceneWindow.h"
-#include "views/qt/Painting.h"
+#include "views/Painting.h"
 #include "views/scene/Block.h"
 
 #include <gtest/gtest.h>

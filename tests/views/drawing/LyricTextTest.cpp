@@ -1,5 +1,6 @@
 #include "views/drawing/LyricText.h"
-#include "views/qt/Painting.h"
+#include "views/Painting.h"
+#include "views/SteppedFrames.h"
 #include "views/scene/SceneWindow.h"
 
 #include <QFontMetricsF>
@@ -26,8 +27,8 @@ struct Room {
 /// A line about the middle of a window.
 class Line : private Room, public LyricText {
 public:
-    explicit Line(const QString& text, bool present = true)
-        : LyricText({lyricFont(), Qt::white}, text, present, &around.root()) {}
+    Line(FrameDriver& frames, const QString& text, bool present = true)
+        : LyricText({lyricFont(), Qt::white}, text, present, frames, &around.root()) {}
 
     QImage look(double ratio = 1) {
         setPosition({room.width() / 2.0 - width() / 2, 30});
@@ -37,22 +38,19 @@ public:
 
 class LyricTextTest : public testing::Test {
 protected:
-    LyricTextTest() { driver.freeze(100); }
-    ~LyricTextTest() override { driver.thaw(); }
-
     void settle() {
         driver.step(0);
         driver.step(10);
     }
 
-    FrameDriver& driver = FrameDriver::shared();
+    test::SteppedFrames driver;
 };
 
 const QString one = QStringLiteral("HHHHH");
 const QString two = QStringLiteral("IIIIIIIII");
 
 TEST_F(LyricTextTest, ShowsItsFirstTextAtOnce) {
-    Line line(one);
+    Line line(driver, one);
     EXPECT_FALSE(test::inkRect(line.look()).isEmpty());
     const QImage before = line.look();
     settle();
@@ -60,20 +58,20 @@ TEST_F(LyricTextTest, ShowsItsFirstTextAtOnce) {
 }
 
 TEST_F(LyricTextTest, TakesTheSizeOfItsText) {
-    const Line line(one);
+    const Line line(driver, one);
     EXPECT_NEAR(line.naturalWidth(), QFontMetricsF(lyricFont()).horizontalAdvance(one), 1);
     EXPECT_EQ(line.width(), std::ceil(line.naturalWidth()));
     EXPECT_EQ(line.height(), std::ceil(QFontMetricsF(lyricFont()).height()));
 }
 
 TEST_F(LyricTextTest, HasAsManyPointsOfHeightWithoutText) {
-    const Line line((QString()));
+    const Line line(driver, (QString()));
     EXPECT_EQ(line.naturalWidth(), 0);
-    EXPECT_EQ(line.height(), Line(one).height());
+    EXPECT_EQ(line.height(), Line(driver, one).height());
 }
 
 TEST_F(LyricTextTest, TakesTheWidthOfANewTextAtOnce) {
-    Line line(one);
+    Line line(driver, one);
     const double before = line.naturalWidth();
     line.setText(one + one);
     EXPECT_NEAR(line.naturalWidth(), 2 * before, 1);
@@ -81,7 +79,7 @@ TEST_F(LyricTextTest, TakesTheWidthOfANewTextAtOnce) {
 }
 
 TEST_F(LyricTextTest, ShowsTheOldTextInTheFrameInWhichTheNewOneComes) {
-    Line line(one);
+    Line line(driver, one);
     const QImage before = line.look();
     line.setText(two);
     driver.step(0);
@@ -89,9 +87,9 @@ TEST_F(LyricTextTest, ShowsTheOldTextInTheFrameInWhichTheNewOneComes) {
 }
 
 TEST_F(LyricTextTest, ShowsBothTextsWhileOneReplacesTheOther) {
-    Line line(one);
-    Line gone(one);
-    Line come(two, false);
+    Line line(driver, one);
+    Line gone(driver, one);
+    Line come(driver, two, false);
     line.setText(two);
     gone.setPresent(false);
     come.setPresent(true);
@@ -104,14 +102,14 @@ TEST_F(LyricTextTest, ShowsBothTextsWhileOneReplacesTheOther) {
 }
 
 TEST_F(LyricTextTest, EndsWithTheNewTextAlone) {
-    Line line(one);
+    Line line(driver, one);
     line.setText(two);
     settle();
-    EXPECT_EQ(line.look(), Line(two).look());
+    EXPECT_EQ(line.look(), Line(driver, two).look());
 }
 
 TEST_F(LyricTextTest, EndsWithTheLastOfManyTexts) {
-    Line line(one);
+    Line line(driver, one);
     for (int i = 0; i < 50; ++i) {
         line.setText(QString::number(i));
         driver.step(0.01);
@@ -119,11 +117,11 @@ TEST_F(LyricTextTest, EndsWithTheLastOfManyTexts) {
     line.setText(two);
     settle();
     driver.step(1);
-    EXPECT_EQ(line.look(), Line(two).look());
+    EXPECT_EQ(line.look(), Line(driver, two).look());
 }
 
 TEST_F(LyricTextTest, TurnsBackWithoutAJumpWhenALeavingTextComesAgain) {
-    Line line(one);
+    Line line(driver, one);
     line.setText(two);
     driver.step(0);
     driver.step(0.06);
@@ -132,33 +130,33 @@ TEST_F(LyricTextTest, TurnsBackWithoutAJumpWhenALeavingTextComesAgain) {
     driver.step(0);
     EXPECT_LE(test::largestDifference(line.look(), before), 4);
     settle();
-    EXPECT_EQ(line.look(), Line(one).look());
-    EXPECT_EQ(line.naturalWidth(), Line(one).naturalWidth());
+    EXPECT_EQ(line.look(), Line(driver, one).look());
+    EXPECT_EQ(line.naturalWidth(), Line(driver, one).naturalWidth());
 }
 
 TEST_F(LyricTextTest, IsNotThereWhileItIsNotPresent) {
-    Line line(one, false);
+    Line line(driver, one, false);
     EXPECT_TRUE(test::inkRect(line.look()).isEmpty());
     EXPECT_GT(line.naturalWidth(), 0);
 }
 
 TEST_F(LyricTextTest, GoesAndComesBackLikeAText) {
-    Line line(one);
+    Line line(driver, one);
     line.setPresent(false);
     driver.step(0);
     driver.step(0.06);
     const double midway = test::ink(line.look());
     EXPECT_GT(midway, 0);
-    EXPECT_LT(midway, test::ink(Line(one).look()));
+    EXPECT_LT(midway, test::ink(Line(driver, one).look()));
     settle();
     EXPECT_TRUE(test::inkRect(line.look()).isEmpty());
     line.setPresent(true);
     settle();
-    EXPECT_EQ(line.look(), Line(one).look());
+    EXPECT_EQ(line.look(), Line(driver, one).look());
 }
 
 TEST_F(LyricTextTest, ChangesItsTextUnseenWhileItIsNotPresent) {
-    Line line(one, false);
+    Line line(driver, one, false);
     line.setText(two);
     driver.step(0);
     driver.step(0.06);
@@ -169,11 +167,11 @@ TEST_F(LyricTextTest, ChangesItsTextUnseenWhileItIsNotPresent) {
     line.setText(two);
     line.setPresent(true);
     settle();
-    EXPECT_EQ(line.look(), Line(two).look());
+    EXPECT_EQ(line.look(), Line(driver, two).look());
 }
 
 TEST_F(LyricTextTest, PaintsWithinTheRectangleThatItNames) {
-    Line line(one);
+    Line line(driver, one);
     line.setText(one + one + one);
     driver.step(0);
     for (int i = 0; i < 20; ++i) {
@@ -185,7 +183,7 @@ TEST_F(LyricTextTest, PaintsWithinTheRectangleThatItNames) {
 
 TEST_F(LyricTextTest, MayGoWhileItsTextChanges) {
     {
-        Line line(one);
+        Line line(driver, one);
         line.setText(two);
         driver.step(0);
     }
@@ -193,7 +191,7 @@ TEST_F(LyricTextTest, MayGoWhileItsTextChanges) {
 }
 
 TEST_F(LyricTextTest, DrawsAllAtTheScaleOfTheScreen) {
-    Line line(one);
+    Line line(driver, one);
     const QImage twice = line.look(2);
     const QRect large = test::inkRect(twice);
     const QRect small = test::inkRect(line.look());

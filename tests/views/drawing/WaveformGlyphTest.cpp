@@ -1,5 +1,5 @@
 #include "views/drawing/WaveformGlyph.h"
-#include "views/qt/Painting.h"
+#include "views/Painting.h"
 #include "views/scene/SceneWindow.h"
 
 #include <QAbstractEventDispatcher>
@@ -13,15 +13,8 @@
 namespace brellowind {
 namespace {
 
-constexpr int bars = WaveformGlyph::barCount;
-
-int strongest(double phase) {
-    int best = 0;
-    for (int i = 1; i < bars; ++i)
-        if (WaveformGlyph::strength(i, phase) > WaveformGlyph::strength(best, phase))
-            best = i;
-    return best;
-}
+constexpr int bars = 5;
+constexpr int stepsInARound = 15;
 
 bool ticks(WaveformGlyph& glyph) {
     return !QAbstractEventDispatcher::instance()->registeredTimers(&glyph).isEmpty();
@@ -40,38 +33,35 @@ std::vector<int> opacities(const QImage& image) {
     return result;
 }
 
-TEST(WaveformStrength, IsNeverGoneAndNeverTooMuch) {
-    for (int i = 0; i < bars; ++i)
-        for (double phase = 0; phase <= 1; phase += 0.01) {
-            EXPECT_GE(WaveformGlyph::strength(i, phase), 0.3);
-            EXPECT_LE(WaveformGlyph::strength(i, phase), 1);
-        }
+/// The opacities of the bars in every step of a round.
+std::vector<std::vector<int>> round() {
+    WaveformGlyph glyph;
+    glyph.setActive(true);
+    std::vector<std::vector<int>> steps;
+    for (int step = 0; step < stepsInARound; ++step) {
+        glyph.setStep(step);
+        steps.push_back(opacities(paintedGlyph(glyph)));
+    }
+    return steps;
 }
 
-TEST(WaveformStrength, RunsThroughTheBarsOneAfterTheOther) {
-    std::vector<int> order;
-    for (double phase = 0; phase <= 1; phase += 0.001)
-        if (WaveformGlyph::strength(strongest(phase), phase) > 0.99 &&
-            (order.empty() || order.back() != strongest(phase)))
-            order.push_back(strongest(phase));
-    EXPECT_EQ(order, (std::vector<int>{0, 1, 2, 3, 4}));
+TEST(WaveformGlyph, IsNeverGone) {
+    for (const auto& step : round())
+        EXPECT_GE(std::ranges::min(step), 0.3 * 255);
 }
 
-TEST(WaveformStrength, EndsARoundAsItBegins) {
-    for (int i = 0; i < bars; ++i)
-        EXPECT_DOUBLE_EQ(WaveformGlyph::strength(i, 0), WaveformGlyph::strength(i, 1));
-}
-
-TEST(WaveformStrength, NeverJumps) {
-    for (int i = 0; i < bars; ++i)
-        for (double phase = 0; phase < 1; phase += 0.001)
-            EXPECT_NEAR(WaveformGlyph::strength(i, phase),
-                        WaveformGlyph::strength(i, phase + 0.001), 0.01);
+TEST(WaveformGlyph, LetsItsWaveRunThroughTheBarsOneAfterTheOther) {
+    std::vector<std::ptrdiff_t> order;
+    for (const auto& step : round()) {
+        const auto strongest = std::ranges::max_element(step);
+        if (*strongest > 0.9 * 255 && (order.empty() || order.back() != strongest - step.begin()))
+            order.push_back(strongest - step.begin());
+    }
+    EXPECT_EQ(order, (std::vector<std::ptrdiff_t>{0, 1, 2, 3, 4}));
 }
 
 TEST(WaveformGlyph, StandsStillAndEvenWhileItIsNotActive) {
     WaveformGlyph glyph;
-    EXPECT_FALSE(glyph.isActive());
     EXPECT_FALSE(ticks(glyph));
     EXPECT_EQ(opacities(paintedGlyph(glyph)), std::vector<int>(bars, 255));
 }

@@ -1,4 +1,4 @@
-#include "views/qt/Painting.h"
+#include "views/Painting.h"
 
 #include <QPaintEngine>
 #include <QPainter>

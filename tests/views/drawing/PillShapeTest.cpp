@@ -1,7 +1,7 @@
 #include "views/drawing/PillShape.h"
 
 #include "notch/NotchShape.h"
-#include "views/qt/Painting.h"
+#include "views/Painting.h"
 
 #include <QPainter>
 #include <gtest/gtest.h>

@@ -1,7 +1,9 @@
 #include "views/drawing/ArtworkImage.h"
-#include "views/qt/Painting.h"
+#include "views/Painting.h"
 
+#include <QPainter>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace brellowind {
 namespace {
@@ -47,9 +49,22 @@ TEST(ArtworkImage, HasRoundCorners) {
 }
 
 TEST(ArtworkImage, FillsItsRectangleWithTheMiddleOfTheImage) {
-    EXPECT_EQ(fillingSquare({19, 20}), QRectF(-0.5, 0, 20, 20));
-    EXPECT_EQ(fillingSquare({320, 320}), QRectF(0, 0, 320, 320));
-    EXPECT_EQ(fillingSquare({30, 20}), QRectF(0, -5, 30, 30));
+    QImage rings(60, 60, QImage::Format_RGB32);
+    rings.fill(Qt::red);
+    QPainter(&rings).fillRect(10, 10, 40, 40, Qt::blue);
+    ArtworkImage item;
+    item.setImage(rings);
+    const auto coloursOf = [&](QSize size) {
+        item.setSize(size);
+        const QImage image = test::painted(item, size);
+        const QPoint middle = image.rect().center();
+        return std::pair(image.pixelColor(1, middle.y()), image.pixelColor(middle.x(), 1));
+    };
+    const QColor red = Qt::red;
+    const QColor blue = Qt::blue;
+    EXPECT_EQ(coloursOf({60, 60}), std::pair(red, red));
+    EXPECT_EQ(coloursOf({60, 30}), std::pair(red, blue)) << "its top and bottom are cut";
+    EXPECT_EQ(coloursOf({30, 60}), std::pair(blue, red)) << "its sides are cut";
 }
 
 TEST(ArtworkImage, GoesBackToGreyWhenTheImageGoes) {

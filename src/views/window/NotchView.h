@@ -7,6 +7,7 @@
 
 namespace brellowind {
 
+class FrameDriver;
 class NotchRootView;
 class Pill;
 
@@ -15,11 +16,9 @@ class NotchView : public SceneWindow {
     Q_OBJECT
 
 public:
-    /// `windowSystem`, whose overlay the window becomes, must outlive it.
-    NotchView(std::shared_ptr<NotchRootView> rootView, platform::WindowSystem& windowSystem);
-    ~NotchView() override;
+    /// All must outlive it; the window becomes an overlay of `windowSystem`.
+    NotchView(NotchRootView& rootView, FrameDriver& frames, platform::WindowSystem& windowSystem);
 
-    Pill& pill() { return *pill_; }
     platform::Overlay& overlay() { return *overlay_; }
 
 protected:

@@ -1,4 +1,4 @@
-#include "views/interaction/MenuWindow.h"
+#include "views/scene/MenuWindow.h"
 
 #include <QKeyEvent>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/interaction/Accessible.h"
+#include "views/scene/Accessible.h"
 #include "views/scene/Item.h"
 
 namespace brellowind {

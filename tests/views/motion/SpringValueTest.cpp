@@ -50,13 +50,6 @@ TEST_F(SpringValueTest, FollowsItsSpring) {
     }
 }
 
-TEST_F(SpringValueTest, KnowsTheSpringsByTheirNumbers) {
-    EXPECT_EQ(springs::hoverSpring, (SpringParameters{0.34, 0.82}));
-    EXPECT_EQ(springs::morph, (SpringParameters{0.42, 0.72}));
-    EXPECT_EQ(springs::pulseRise, (SpringParameters{0.1, 0.5}));
-    EXPECT_EQ(springs::pulseFall, (SpringParameters{0.24, 0.7}));
-}
-
 TEST_F(SpringValueTest, TakesAnotherSpringWithItsTarget) {
     SpringValue moving(springs::morph);
     moving.setTarget(1, springs::pulseRise);

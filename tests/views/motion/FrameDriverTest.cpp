@@ -1,5 +1,8 @@
 #include "views/motion/FrameDriver.h"
 
+#include "views/SteppedFrames.h"
+
+#include <QAbstractEventDispatcher>
 #include <QTest>
 #include <functional>
 #include <gtest/gtest.h>
@@ -11,8 +14,8 @@ namespace {
 /// Remembers the moments that it was shown, moves at `speed`, and rests after `frames` of them.
 class Recorder final : public Animated {
 public:
-    explicit Recorder(int frames_) : frames(frames_) {}
-    ~Recorder() override { FrameDriver::shared().forget(*this); }
+    Recorder(FrameDriver& driver_, int frames_) : driver(driver_), frames(frames_) {}
+    ~Recorder() override { driver.forget(*this); }
 
     std::optional<double> advance(double now) override {
         moments.push_back(now);
@@ -22,6 +25,7 @@ public:
         return std::nullopt;
     }
 
+    FrameDriver& driver;
     int frames;
     double speed = 1000;
     std::vector<double> moments;
@@ -30,37 +34,32 @@ public:
 
 constexpr int forever = 1 << 30;
 
-class FrozenFrameDriver : public testing::Test {
+class SteppedFrameDriver : public testing::Test {
 protected:
-    FrozenFrameDriver() { driver.freeze(100); }
-    ~FrozenFrameDriver() override { driver.thaw(); }
-
-    FrameDriver& driver = FrameDriver::shared();
+    test::SteppedFrames driver;
 };
 
-TEST_F(FrozenFrameDriver, StandsUntilItIsStepped) {
-    Recorder recorder(forever);
+TEST_F(SteppedFrameDriver, ShowsEveryMomentToWhatMoves) {
+    Recorder recorder(driver, forever);
     driver.drive(recorder);
-    QTest::qWait(0);
     EXPECT_TRUE(recorder.moments.empty());
     EXPECT_EQ(driver.now(), 100);
     driver.step(0.5);
     driver.step(0.25);
     EXPECT_EQ(recorder.moments, (std::vector<double>{100.5, 100.75}));
     EXPECT_EQ(driver.now(), 100.75);
-    EXPECT_FALSE(driver.isRunning());
 }
 
-TEST_F(FrozenFrameDriver, ShowsNothingToWhatHasComeToRest) {
-    Recorder recorder(2);
+TEST_F(SteppedFrameDriver, ShowsNothingToWhatHasComeToRest) {
+    Recorder recorder(driver, 2);
     driver.drive(recorder);
     for (int i = 0; i < 5; ++i)
         driver.step(1);
     EXPECT_EQ(recorder.moments.size(), 2U);
 }
 
-TEST_F(FrozenFrameDriver, ShowsEachMomentOnceHoweverOftenItWasAsked) {
-    Recorder recorder(forever);
+TEST_F(SteppedFrameDriver, ShowsEachMomentOnceHoweverOftenItWasAsked) {
+    Recorder recorder(driver, forever);
     driver.drive(recorder);
     driver.drive(recorder);
     driver.step(1);
@@ -69,8 +68,8 @@ TEST_F(FrozenFrameDriver, ShowsEachMomentOnceHoweverOftenItWasAsked) {
     EXPECT_EQ(recorder.moments.size(), 2U);
 }
 
-TEST_F(FrozenFrameDriver, CanBeAskedAgainAfterARest) {
-    Recorder recorder(1);
+TEST_F(SteppedFrameDriver, CanBeAskedAgainAfterARest) {
+    Recorder recorder(driver, 1);
     driver.drive(recorder);
     driver.step(1);
     recorder.frames = 2;
@@ -79,9 +78,9 @@ TEST_F(FrozenFrameDriver, CanBeAskedAgainAfterARest) {
     EXPECT_EQ(recorder.moments.size(), 2U);
 }
 
-TEST_F(FrozenFrameDriver, TakesUpWhatIsAskedForWithinAFrame) {
-    Recorder asking(forever);
-    Recorder asked(forever);
+TEST_F(SteppedFrameDriver, TakesUpWhatIsAskedForWithinAFrame) {
+    Recorder asking(driver, forever);
+    Recorder asked(driver, forever);
     asking.onFrame = [&] { driver.drive(asked); };
     driver.drive(asking);
     driver.step(1);
@@ -91,9 +90,9 @@ TEST_F(FrozenFrameDriver, TakesUpWhatIsAskedForWithinAFrame) {
     EXPECT_EQ(asked.moments.back(), 102);
 }
 
-TEST_F(FrozenFrameDriver, KeepsWhatRestsAndIsAskedForInTheSameFrame) {
-    Recorder resting(1);
-    Recorder asking(forever);
+TEST_F(SteppedFrameDriver, KeepsWhatRestsAndIsAskedForInTheSameFrame) {
+    Recorder resting(driver, 1);
+    Recorder asking(driver, forever);
     asking.onFrame = [&] {
         if (asking.moments.size() == 1)
             driver.drive(resting);
@@ -107,12 +106,12 @@ TEST_F(FrozenFrameDriver, KeepsWhatRestsAndIsAskedForInTheSameFrame) {
     EXPECT_GE(resting.moments.size(), 2U) << "it rested before it was asked for again";
 }
 
-TEST_F(FrozenFrameDriver, ForgetsWhatGoesWithinAFrame) {
+TEST_F(SteppedFrameDriver, ForgetsWhatGoesWithinAFrame) {
     for (const bool earlier : {true, false}) {
-        auto going = std::make_unique<Recorder>(forever);
-        Recorder removing(forever);
+        auto going = std::make_unique<Recorder>(driver, forever);
+        Recorder removing(driver, forever);
         removing.onFrame = [&] { going.reset(); };
-        Recorder last(forever);
+        Recorder last(driver, forever);
         if (earlier)
             driver.drive(*going);
         driver.drive(removing);
@@ -128,32 +127,37 @@ TEST_F(FrozenFrameDriver, ForgetsWhatGoesWithinAFrame) {
 
 class RunningFrameDriver : public testing::Test {
 protected:
-    FrameDriver& driver = FrameDriver::shared();
+    /// Whether it will wake the program.
+    bool isRunning() {
+        return !QAbstractEventDispatcher::instance()->registeredTimers(&driver).isEmpty();
+    }
+
+    FrameDriver driver;
 };
 
 TEST_F(RunningFrameDriver, MakesNoFrameBeforeTheFirstOneIsDue) {
-    Recorder recorder(forever);
+    Recorder recorder(driver, forever);
     driver.drive(recorder);
     EXPECT_TRUE(recorder.moments.empty()) << "several may be asked for before one is made";
-    EXPECT_TRUE(driver.isRunning());
+    EXPECT_TRUE(isRunning());
 }
 
 TEST_F(RunningFrameDriver, StopsWhenAllHaveComeToRest) {
-    Recorder first(3);
-    Recorder second(5);
+    Recorder first(driver, 3);
+    Recorder second(driver, 5);
     driver.drive(first);
     driver.drive(second);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isRunning(); }));
     EXPECT_EQ(first.moments.size(), 3U);
     EXPECT_EQ(second.moments.size(), 5U);
 }
 
 TEST_F(RunningFrameDriver, MakesFewerFramesOfWhatMovesSlowly) {
     const auto seconds = [this](double speed) {
-        Recorder recorder(9);
+        Recorder recorder(driver, 9);
         recorder.speed = speed;
         driver.drive(recorder);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !isRunning(); }));
         return recorder.moments.back() - recorder.moments.front();
     };
     // Frames may be late on a busy machine, but never early.
@@ -163,12 +167,12 @@ TEST_F(RunningFrameDriver, MakesFewerFramesOfWhatMovesSlowly) {
 }
 
 TEST_F(RunningFrameDriver, LetsNothingWaitForWhatMovesSlowly) {
-    Recorder slow(forever);
+    Recorder slow(driver, forever);
     slow.speed = 0.1;
     driver.drive(slow);
     EXPECT_TRUE(QTest::qWaitFor([&] { return slow.moments.size() == 2; }));
     const auto waits = [&] {
-        Recorder recorder(1);
+        Recorder recorder(driver, 1);
         const double asked = driver.now();
         driver.drive(recorder);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !recorder.moments.empty(); }));
@@ -182,40 +186,40 @@ TEST_F(RunningFrameDriver, LetsNothingWaitForWhatMovesSlowly) {
 
 TEST_F(RunningFrameDriver, StopsWhenAllHaveGone) {
     {
-        Recorder recorder(forever);
+        Recorder recorder(driver, forever);
         driver.drive(recorder);
     }
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isRunning(); }));
 }
 
 TEST_F(RunningFrameDriver, StartsAgainAfterWhatWentBeforeItWasShown) {
     {
-        Recorder unseen(forever);
+        Recorder unseen(driver, forever);
         driver.drive(unseen);
     }
-    Recorder recorder(1);
+    Recorder recorder(driver, 1);
     driver.drive(recorder);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !recorder.moments.empty(); }));
 }
 
 TEST_F(RunningFrameDriver, StartsAgainForWhatIsAskedForLater) {
-    Recorder recorder(1);
+    Recorder recorder(driver, 1);
     for (std::size_t round = 1; round <= 2; ++round) {
         recorder.frames = static_cast<int>(round);
         driver.drive(recorder);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !isRunning(); }));
         EXPECT_EQ(recorder.moments.size(), round);
     }
 }
 
 TEST_F(RunningFrameDriver, ShowsAllTheSameMomentInOneFrameAndNeverGoesBack) {
-    Recorder first(4);
-    Recorder second(4);
+    Recorder first(driver, 4);
+    Recorder second(driver, 4);
     std::vector<double> clock;
     first.onFrame = [&] { clock.push_back(driver.now()); };
     driver.drive(first);
     driver.drive(second);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !driver.isRunning(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isRunning(); }));
     EXPECT_EQ(first.moments, second.moments);
     EXPECT_EQ(first.moments, clock);
     EXPECT_TRUE(std::ranges::is_sorted(first.moments));

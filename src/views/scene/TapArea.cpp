@@ -1,4 +1,4 @@
-#include "views/interaction/TapArea.h"
+#include "views/scene/TapArea.h"
 
 namespace brellowind {
 

@@ -1,4 +1,4 @@
-#include "views/interaction/Accessible.h"
+#include "views/scene/Accessible.h"
 
 #include "views/scene/SceneWindow.h"
 

@@ -1,5 +1,5 @@
 #include "views/drawing/Blur.h"
-#include "views/qt/Painting.h"
+#include "views/Painting.h"
 
 #include <QPainter>
 #include <cmath>

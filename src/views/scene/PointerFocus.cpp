@@ -1,6 +1,6 @@
-#include "views/interaction/PointerFocus.h"
+#include "views/scene/PointerFocus.h"
 
-#include "views/interaction/TapArea.h"
+#include "views/scene/TapArea.h"
 
 #include <ranges>
 #include <utility>

@@ -1,21 +1,17 @@
-#include "views/NotchView.h"
+#include "views/window/NotchView.h"
 
-#include "views/NotchRootModel.h"
 #include "views/drawing/PillShape.h"
-#include "views/interaction/Accessible.h"
 #include "views/pill/Pill.h"
-
-#include <utility>
+#include "views/scene/Accessible.h"
 
 namespace brellowind {
 
-NotchView::NotchView(std::shared_ptr<NotchRootView> rootView, platform::WindowSystem& windowSystem)
+NotchView::NotchView(NotchRootView& rootView, FrameDriver& frames,
+                     platform::WindowSystem& windowSystem)
     : overlay_(windowSystem.makeOverlay(*this)),
-      pill_(new Pill(*new NotchRootModel(std::move(rootView), this), windowSystem, &root())) {
+      pill_(new Pill(rootView, frames, windowSystem, &root())) {
     installAccessibility();
 }
-
-NotchView::~NotchView() = default;
 
 void NotchView::resizeEvent(QResizeEvent* event) {
     SceneWindow::resizeEvent(event);

@@ -1,6 +1,6 @@
 #include "views/drawing/TextLayer.h"
+#include "views/Painting.h"
 #include "views/motion/Springs.h"
-#include "views/qt/Painting.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -170,6 +170,23 @@ TEST(TextLayer, IsBlurredOnItsWay) {
     EXPECT_GT(soft.right(), sharp.right());
     const int overhang = static_cast<int>(going.overhang());
     EXPECT_TRUE(sharp.adjusted(-overhang, -overhang, overhang, overhang).contains(soft));
+}
+
+TEST(TextLayer, KeepsItsColourOnItsWay) {
+    const QColor colour(250, 100, 0);
+    TextLayer going = layer(QStringLiteral("HHHHHH"));
+    going.goAway(10);
+    going.advance(10.1);
+    const QImage look = test::painted(
+        room, [&](QPainter& painter) { going.paint(painter, colour, 200, 30, 0, room.width()); });
+    ASSERT_FALSE(test::inkRect(look).isEmpty());
+    for (int y = 0; y < look.height(); ++y)
+        for (int x = 0; x < look.width(); ++x)
+            if (const QColor pixel = look.pixelColor(x, y); pixel.alpha() > 50) {
+                ASSERT_NEAR(pixel.red(), colour.red(), 6);
+                ASSERT_NEAR(pixel.green(), colour.green(), 6);
+                ASSERT_NEAR(pixel.blue(), colour.blue(), 6);
+            }
 }
 
 TEST(TextLayer, CutsNoMarkThatStandsOutOfTheLine) {
