@@ -5,6 +5,7 @@
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QTimer>
 #include <cstdlib>
 
 namespace {
@@ -19,6 +20,10 @@ const auto paused = QStringLiteral("Paused");
 QDBusMessage unknown(const QDBusMessage& message) {
     return message.createErrorReply(QDBusError::UnknownMethod,
                                     QStringLiteral("no such method: ") + message.member());
+}
+
+QDBusMessage failure(const QDBusMessage& message) {
+    return message.createErrorReply(QDBusError::Failed, QStringLiteral("as the test says"));
 }
 
 QVariantMap mapArgument(const QDBusMessage& message) {
@@ -44,6 +49,12 @@ bool DemoPlayer::handleMessage(const QDBusMessage& message, const QDBusConnectio
         reply = answerControl(message);
     } else if (message.interface() == propertiesInterface) {
         ++requests_;
+        if (delayMs_ > 0) {
+            QTimer::singleShot(delayMs_, Qt::PreciseTimer, this, [this, message, connection] {
+                connection.send(answerProperties(message));
+            });
+            return true;
+        }
         reply = answerProperties(message);
     } else if (message.interface() == playerInterface) {
         ++requests_;
@@ -80,7 +91,7 @@ QDBusMessage DemoPlayer::answerProperties(const QDBusMessage& message) {
 QDBusMessage DemoPlayer::answerGetAll(const QDBusMessage& message,
                                       const QVariantMap& properties) const {
     if (manner_ == QStringLiteral("error"))
-        return message.createErrorReply(QDBusError::Failed, QStringLiteral("as the test says"));
+        return failure(message);
     if (manner_ == QStringLiteral("text"))
         return message.createReply(QStringLiteral("no properties"));
     if (manner_ == QStringLiteral("nothing"))
@@ -92,6 +103,8 @@ QDBusMessage DemoPlayer::answerGetAll(const QDBusMessage& message,
 
 QDBusMessage DemoPlayer::answerPlayer(const QDBusMessage& message) {
     const QString member = message.member();
+    if (manner_ == QStringLiteral("error"))
+        return failure(message);
     if (member == QStringLiteral("PlayPause"))
         setPlaying(status_ != playing);
     else if (member == QStringLiteral("Play") || member == QStringLiteral("Pause"))
@@ -113,6 +126,8 @@ QDBusMessage DemoPlayer::answerControl(const QDBusMessage& message) {
         fixedProperties_ = mapArgument(message);
     else if (member == QStringLiteral("SetAnswer"))
         manner_ = message.arguments().value(0).toString();
+    else if (member == QStringLiteral("SetDelay"))
+        delayMs_ = message.arguments().value(0).toInt();
     else if (member == QStringLiteral("Flood"))
         flood(message.arguments().value(0).toUInt());
     else if (member == QStringLiteral("Requests"))

@@ -14,8 +14,9 @@
 /// - `SetPosition(x microseconds)`, `SetStatus(s status)`: "Playing", "Paused" or "Stopped"
 /// - `SetProperties(a{sv} properties)`: answers `GetAll` with exactly these from now on; with none,
 ///   tells the truth again
-/// - `SetAnswer(s manner)`: answers `GetAll` with an "error", a "text", "nothing", the end of the
-///   process, "death", or else truly
+/// - `SetAnswer(s manner)`: answers `GetAll` with an "error", which commands get as well, a "text",
+///   "nothing", the end of the process, "death", or else truly
+/// - `SetDelay(i milliseconds)`: takes so long to answer for its properties
 /// - `Flood(u signalsPerSecond)`: announces changes of its properties so often; 0 ends that
 /// - `Requests() -> u`: how many calls of the MPRIS interfaces and `GetAll` it has answered
 /// - `Leave()`: ends the process
@@ -50,6 +51,7 @@ private:
     QVariantMap metadata_;
     QVariantMap fixedProperties_;
     QString manner_; ///< of answering `GetAll`
+    int delayMs_ = 0;
     QString status_ = QStringLiteral("Stopped");
     qint64 startUs_ = 0; ///< the position when `sinceStart_` began
     QElapsedTimer sinceStart_;

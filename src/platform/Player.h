@@ -3,6 +3,7 @@
 #include "foundation/Task.h"
 #include "platform/Track.h"
 
+#include <string_view>
 #include <variant>
 
 namespace brellowind::platform {
@@ -10,6 +11,9 @@ namespace brellowind::platform {
 /// The player application. Main thread only; nothing here blocks.
 class Player {
 public:
+    /// What every line about the player in the system log begins with.
+    static constexpr std::string_view logPrefix = "Spotify AppleScript error: ";
+
     /// One reading.
     struct Snapshot {
         bool operator==(const Snapshot&) const = default;

@@ -6,6 +6,7 @@
 #include <QDBusMessage>
 #include <QVariantList>
 #include <QVariantMap>
+#include <chrono>
 #include <memory>
 
 namespace brellowind::test {
@@ -27,6 +28,9 @@ public:
     void setStatus(const char* status) { call("SetStatus", {QString::fromLatin1(status)}); }
     void setProperties(const QVariantMap& properties) { call("SetProperties", {properties}); }
     void setAnswer(const char* manner) { call("SetAnswer", {QString::fromLatin1(manner)}); }
+    void setDelay(std::chrono::milliseconds delay) {
+        call("SetDelay", {static_cast<int>(delay.count())});
+    }
     void flood(uint signalsPerSecond) { call("Flood", {signalsPerSecond}); }
     unsigned requests() { return call("Requests", {}).arguments().value(0).toUInt(); }
 

@@ -1,154 +1,141 @@
 #include "platform/linux/MprisPlayer.h"
 
-#include "platform/linux/MprisRecord.h"
+#include "platform/Operation.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace brellowind::platform {
 namespace {
 
-constexpr std::string_view namePrefix = "org.mpris.MediaPlayer2.";
-constexpr std::string_view instanceMark = ".instance";
-constexpr const char* objectPath = "/org/mpris/MediaPlayer2";
-constexpr const char* playerInterface = "org.mpris.MediaPlayer2.Player";
-
-ScriptOutcome failure(std::string description) {
-    return {.text = std::nullopt, .error = std::move(description)};
+/// Whether `changes` notified; otherwise the task was cancelled.
+Task<bool> nextChange(Observers& changes, MainLoop& mainLoop) {
+    using Change = Operation<Subscription, bool>;
+    Change change(
+        mainLoop,
+        [&changes](Change::Finish finish) {
+            return std::make_unique<Subscription>(
+                changes.add([finish = std::move(finish)] { finish(true); }));
+        },
+        false);
+    co_return co_await change;
 }
 
-ScriptOutcome failure(const BusError& error) {
-    return failure(error.name + ": " + error.text);
+/// The reply to `call`, absent when the task was cancelled.
+Task<std::optional<QDBusMessage>> replyTo(QDBusConnection bus, QDBusMessage call,
+                                          MainLoop& mainLoop) {
+    using Reply = Operation<BusCall, std::optional<QDBusMessage>>;
+    Reply reply(
+        mainLoop,
+        [&](Reply::Finish finish) {
+            return std::make_unique<BusCall>(
+                bus, call, int(MprisProxy::patience.count()),
+                [finish = std::move(finish)](const QDBusMessage& message) { finish(message); });
+        },
+        std::nullopt);
+    co_return co_await reply;
 }
 
 } // namespace
 
-MprisPlayer::MprisPlayer(BusConnection bus, MprisVocabulary vocabulary)
-    : bus_(std::move(bus)), vocabulary_(std::move(vocabulary)),
-      changes_(bus_.listen(
-          "type='signal',sender='org.freedesktop.DBus',"
-          "member='NameOwnerChanged',arg0namespace='org.mpris.MediaPlayer2'",
-          [](sd_bus_message*, void* self, sd_bus_error*) {
-              static_cast<MprisPlayer*>(self)->known_.reset();
-              return 0;
-          },
-          this)) {}
-
-ScriptOutcome MprisPlayer::execute(std::string_view source) {
-    const bool reads = source == vocabulary_.readOutScript;
-    if (!reads && source != vocabulary_.playPauseScript)
-        return {};
-    const auto found = playersOnBus();
-    if (const auto* error = std::get_if<BusError>(&found))
-        return failure(*error);
-    const auto& players = std::get<Players>(found);
-    if (!players.empty())
-        return reads ? readOut(players.front()) : playPause(players.front());
-    return reads ? ScriptOutcome{.text = std::string(), .error = std::nullopt}
-                 : failure("the player is not running");
+MprisPlayer::MprisPlayer(QDBusConnection bus, std::vector<std::string> players, MainLoop& mainLoop,
+                         Log& log)
+    : bus_(std::move(bus)), mainLoop_(mainLoop), log_(log), busFailures_(log, logPrefix) {
+    if (hasBus())
+        names_.emplace(
+            bus_, std::move(players),
+            [this](const MprisNames::Name& name, bool isOwned) { changeOwner(name, isOwned); },
+            [this] {
+                isListed_ = true;
+                changes_->notify();
+            });
 }
 
-std::vector<std::optional<std::string>> MprisPlayer::bundleIdentifiers() {
-    const auto found = playersOnBus();
-    const auto* players = std::get_if<Players>(&found);
-    return {players ? players->size() : 0, vocabulary_.bundleIdentifier};
-}
-
-/// The bus is asked only after a player came or went, which it tells by itself.
-std::variant<MprisPlayer::Players, BusError> MprisPlayer::playersOnBus() {
-    bus_.process();
-    if (known_ && bus_.isOpen())
-        return *known_;
-    auto found = askForPlayers();
-    if (const auto* players = std::get_if<Players>(&found))
-        known_ = *players;
-    return found;
-}
-
-std::variant<MprisPlayer::Players, BusError> MprisPlayer::askForPlayers() {
-    auto answer = bus_.call(bus_.methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                            "org.freedesktop.DBus", "ListNames"),
-                            patience);
-    if (auto* error = std::get_if<BusError>(&answer))
-        return std::move(*error);
-    auto* names = std::get<BusMessage>(answer).get();
-    Players players;
-    sd_bus_message_enter_container(names, SD_BUS_TYPE_ARRAY, "s");
-    const char* name = nullptr;
-    while (sd_bus_message_read_basic(names, SD_BUS_TYPE_STRING, &name) > 0)
-        if (rank(name) < ranks())
-            players.emplace_back(name);
-    // The bus gives the instances in any order, and not always in the same.
-    std::ranges::sort(players, {}, [this](const std::string& player) {
-        return std::pair(rank(player), std::string_view(player));
-    });
-    return players;
-}
-
-/// First the plain names as they are configured, then their instances; `ranks` for all others.
-std::size_t MprisPlayer::rank(std::string_view name) const {
-    if (!name.starts_with(namePrefix))
-        return ranks();
-    name.remove_prefix(namePrefix.size());
-    const auto& players = vocabulary_.players;
-    for (std::size_t i = 0; i < players.size(); ++i) {
-        if (name == players[i])
-            return i;
-        if (name.starts_with(players[i]) &&
-            name.substr(players[i].size()).starts_with(instanceMark))
-            return players.size();
+Task<Player::Answer> MprisPlayer::read() {
+    // While a late player is waited for, the others may change what they do.
+    const auto repetition = mainLoop_.scheduleRepeating(
+        MprisProxy::patience, [this, changes = std::weak_ptr(changes_)] {
+            if (!changes.expired()) // so is this player
+                ask();
+        });
+    ask();
+    for (;;) {
+        if (const auto known = answer())
+            co_return *known;
+        if (!co_await nextChange(*changes_, mainLoop_))
+            co_return NotRunning();
     }
-    return ranks();
 }
 
-ScriptOutcome MprisPlayer::readOut(const std::string& player) {
-    const auto request =
-        bus_.methodCall(player, objectPath, "org.freedesktop.DBus.Properties", "GetAll");
-    if (request)
-        sd_bus_message_append(request.get(), "s", playerInterface);
-    const auto answer = call(player, request);
-    if (const auto* error = std::get_if<BusError>(&answer))
-        return failure(*error);
-    auto* properties = std::get<BusMessage>(answer).get();
-    if (sd_bus_message_has_signature(properties, "a{sv}") <= 0)
-        return failure("the player's answer is of the wrong type");
-    return {.text = mprisRecord(properties), .error = std::nullopt};
+Task<void> MprisPlayer::playPause() {
+    while (hasBus() && !isListed_)
+        if (!co_await nextChange(*changes_, mainLoop_))
+            co_return;
+    const auto player = playerToControl();
+    auto& log = log_; // from here on this may be gone when the task goes on
+    const auto fail = [&log](std::string_view description) {
+        log.write(std::string(logPrefix).append(description));
+    };
+    if (player == proxies_.end()) {
+        fail("the player is not running");
+    } else if (player->second.isLate()) {
+        fail("the player does not answer"); // and would obey when nobody expects it any more
+    } else {
+        const auto reply = co_await replyTo(bus_, player->second.playPauseCall(), mainLoop_);
+        if (reply && reply->type() == QDBusMessage::ErrorMessage)
+            fail(errorText(*reply));
+    }
 }
 
-ScriptOutcome MprisPlayer::playPause(const std::string& player) {
-    const auto answer =
-        call(player, bus_.methodCall(player, objectPath, playerInterface, "PlayPause"));
-    if (const auto* error = std::get_if<BusError>(&answer))
-        return failure(*error);
-    return {};
+bool MprisPlayer::hasBus() {
+    if (bus_.isConnected())
+        return true;
+    busFailures_.failed("there is no session bus");
+    return false;
 }
 
-BusAnswer MprisPlayer::call(const std::string& player, const BusMessage& request) {
-    if (recovery_)
-        return BusError{SD_BUS_ERROR_NO_REPLY, "the player hangs"};
-    auto answer = bus_.call(request, patience);
-    if (const auto* error = std::get_if<BusError>(&answer); error && error->isTimeout())
-        awaitRecovery(player);
-    return answer;
+/// What the previous owner has answered, or has yet to answer, is forgotten.
+void MprisPlayer::changeOwner(const MprisNames::Name& name, bool isOwned) {
+    proxies_.erase(name);
+    if (isOwned)
+        proxies_.try_emplace(name, bus_, name.second, mainLoop_, log_,
+                             [this] { changes_->notify(); });
+    changes_->notify();
 }
 
-/// Sends one ping and lets readings fail until it is answered, or known never to be.
-void MprisPlayer::awaitRecovery(const std::string& player) {
-    hanging_ = player;
-    recovery_ = bus_.callLater(
-        bus_.methodCall(player, objectPath, "org.freedesktop.DBus.Peer", "Ping"),
-        [](sd_bus_message* reply, void* self, sd_bus_error*) {
-            static_cast<MprisPlayer*>(self)->recover(*reply);
-            return 0;
-        },
-        this);
+/// Asks each player that has no question open.
+void MprisPlayer::ask() {
+    for (auto& [name, proxy] : proxies_)
+        proxy.ask();
 }
 
-void MprisPlayer::recover(sd_bus_message& reply) {
-    recovery_.reset();
-    const auto* error = sd_bus_message_get_error(&reply);
-    if (error && BusError{error->name, {}}.isTimeout())
-        awaitRecovery(hanging_);
+/// The answer of a reading, as soon as enough is known.
+std::optional<Player::Answer> MprisPlayer::answer() {
+    if (!hasBus())
+        return NotRunning();
+    if (!isListed_)
+        return std::nullopt;
+    std::vector<PlayerCandidate> candidates;
+    for (auto& [name, proxy] : proxies_) {
+        if (!proxy.wasAsked()) // it has come since the reading began
+            proxy.ask();
+        candidates.push_back(proxy.candidate());
+    }
+    const auto choice = choosePlayer(candidates);
+    if (!choice)
+        return std::nullopt;
+    if (const auto* index = std::get_if<std::size_t>(&*choice)) {
+        const auto& [name, proxy] = *std::next(proxies_.begin(), std::ptrdiff_t(*index));
+        shown_ = name;
+        return proxy.snapshot();
+    }
+    if (std::holds_alternative<Unreadable>(*choice))
+        return Unreadable();
+    return NotRunning();
+}
+
+MprisPlayer::Proxies::const_iterator MprisPlayer::playerToControl() const {
+    const auto shown = shown_ ? proxies_.find(*shown_) : proxies_.end();
+    return shown != proxies_.end() ? shown : proxies_.begin();
 }
 
 } // namespace brellowind::platform

@@ -1,66 +1,56 @@
 #pragma once
 
-#include "platform/RunningApplications.h"
-#include "platform/Scripting.h"
-#include "platform/linux/BusConnection.h"
+#include "foundation/Observers.h"
+#include "platform/FailureLog.h"
+#include "platform/MainLoop.h"
+#include "platform/Player.h"
+#include "platform/linux/MprisNames.h"
+#include "platform/linux/MprisProxy.h"
 
-#include <chrono>
-#include <cstddef>
+#include <QDBusConnection>
+#include <QString>
+#include <map>
+#include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
-#include <variant>
 #include <vector>
 
 namespace brellowind::platform {
 
-/// What the player's own scripts and identifier mean on the session bus.
-struct MprisVocabulary {
-    std::string bundleIdentifier;
-    std::string readOutScript;
-    std::string playPauseScript;
-    std::vector<std::string> players; ///< bus names after "org.mpris.MediaPlayer2."
-};
-
-/// Stands for the player application: a process that owns one of the players' bus names, or one of
-/// its ".instance…" forms, counts as the running application; the read-out script is answered from
-/// one `Properties.GetAll`, the play/pause script by `PlayPause`.
+/// The player on the session bus. A reading is one `Properties.GetAll` to each of the configured
+/// players that is there, all at once; normally that is one.
 ///
-/// A player that does not answer costs one wait of `patience`; from then on every execution fails
-/// at once until the player answers again. A bus that is gone makes every execution fail, and no
-/// application run: a session does not outlive its bus, so there is no way back.
-class MprisPlayer final : public Scripting, public RunningApplications {
+/// The main loop and the log outlive this and its tasks. A task that outlives this never ends.
+class MprisPlayer final : public Player {
 public:
-    static constexpr std::chrono::milliseconds patience{200};
+    /// `players` are names after "org.mpris.MediaPlayer2.", the preferred one first. A missing bus
+    /// is one line in the log, and no player runs.
+    MprisPlayer(QDBusConnection bus, std::vector<std::string> players, MainLoop& mainLoop,
+                Log& log);
 
-    MprisPlayer(BusConnection bus, MprisVocabulary vocabulary);
-    MprisPlayer(const MprisPlayer&) = delete; // a ping's answer comes to where it was sent from
-    MprisPlayer& operator=(const MprisPlayer&) = delete;
+    Task<Answer> read() override;
 
-    ScriptOutcome execute(std::string_view source) override;
-    std::vector<std::optional<std::string>> bundleIdentifiers() override;
+    /// Goes to the player that the last reading showed, else to the first one.
+    Task<void> playPause() override;
 
 private:
-    using Players = std::vector<std::string>; ///< bus names, the one to speak to first
+    using Proxies = std::map<MprisNames::Name, MprisProxy>;
 
-    ScriptOutcome readOut(const std::string& player);
-    ScriptOutcome playPause(const std::string& player);
+    bool hasBus();
+    void changeOwner(const MprisNames::Name& name, bool isOwned);
+    void ask();
+    std::optional<Answer> answer();
+    Proxies::const_iterator playerToControl() const;
 
-    std::variant<Players, BusError> playersOnBus();
-    std::variant<Players, BusError> askForPlayers();
-    std::size_t rank(std::string_view name) const;
-    std::size_t ranks() const { return vocabulary_.players.size() + 1; }
-
-    BusAnswer call(const std::string& player, const BusMessage& request);
-    void awaitRecovery(const std::string& player);
-    void recover(sd_bus_message& reply);
-
-    BusConnection bus_;
-    MprisVocabulary vocabulary_;
-    std::string hanging_;
-    std::optional<Players> known_; ///< as long as none comes or goes
-    BusMatch changes_;
-    BusCall recovery_; ///< there while the player `hanging_` hangs
+    QDBusConnection bus_;
+    MainLoop& mainLoop_;
+    Log& log_;
+    FailureLog busFailures_;
+    std::shared_ptr<Observers> changes_ = std::make_shared<Observers>(); ///< of all below
+    Proxies proxies_;                       ///< of the players that are there
+    bool isListed_ = false;                 ///< whether all of those are known
+    std::optional<MprisNames::Name> shown_; ///< by the last reading
+    std::optional<MprisNames> names_;       ///< absent without a bus
 };
 
 } // namespace brellowind::platform

@@ -1,5 +1,7 @@
 #include "platform/linux/ScreenLock.h"
 
+#include "platform/linux/BusCall.h"
+
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
@@ -27,15 +29,6 @@ const auto loginManager = QStringLiteral("org.freedesktop.login1");
 const auto sessionInterface = QStringLiteral("org.freedesktop.login1.Session");
 const auto propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 const auto lockedHint = QStringLiteral("LockedHint");
-
-QDBusMessage methodCall(const QString& service, const QString& path, const QString& interface,
-                        const char* method, const QVariantList& arguments = {}) {
-    auto message =
-        QDBusMessage::createMethodCall(service, path, interface, QString::fromLatin1(method));
-    message.setAutoStartService(false);
-    message.setArguments(arguments);
-    return message;
-}
 
 /// Calls `answered` with the answer unless it is an error or `owner` is gone by then.
 template <typename Value>

@@ -1,0 +1,203 @@
+#include "platform/linux/MprisReading.h"
+
+#include "foundation/Utf8.h"
+
+#include <QDBusArgument>
+#include <QDBusObjectPath>
+#include <cmath>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace brellowind::platform {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr auto properties = "a{sv}"_L1;
+constexpr auto noTrack = "/org/mpris/MediaPlayer2/TrackList/NoTrack"_L1;
+constexpr double microsecondsPerMillisecond = 1e3;
+constexpr double microsecondsPerSecond = 1e6;
+
+/// No real track or position comes near it; what lies beyond counts as unreadable.
+constexpr double farthestMicroseconds = 9.2e18;
+
+/// One property in each form that is asked for.
+struct Value {
+    QString text;
+    QString firstText; ///< the text, or the first entry of a list
+    QString path;      ///< the text, or an object path
+    std::optional<double> microseconds;
+};
+
+template <typename Type>
+Type take(const QDBusArgument& argument) {
+    Type value{};
+    argument >> value;
+    return value;
+}
+
+/// Calls `read` with the signature of what a variant holds, under however many variants. What
+/// `read` does not take is skipped; nothing is unpacked unread, as `QDBusVariant` would do.
+template <typename Read>
+void inVariant(const QDBusArgument& argument, Read read) {
+    argument.beginStructure();
+    const QString signature = argument.currentSignature();
+    if (signature == "v"_L1)
+        inVariant(argument, read);
+    else
+        read(signature);
+    argument.endStructure();
+}
+
+/// Calls `visit` with each key of an `a{sv}`. What it does not read of the value is skipped.
+template <typename Visit>
+void eachEntry(const QDBusArgument& argument, Visit visit) {
+    argument.beginMap();
+    for (int i = 0; i < mostMprisEntries && !argument.atEnd(); ++i) {
+        argument.beginMapEntry();
+        visit(take<QString>(argument));
+        argument.endMapEntry();
+    }
+    argument.endMap();
+}
+
+template <typename Number>
+std::optional<double> number(const QDBusArgument& argument) {
+    const auto value = static_cast<double>(take<Number>(argument));
+    return std::abs(value) < farthestMicroseconds ? std::optional(value) : std::nullopt;
+}
+
+std::optional<double> anyNumber(const QDBusArgument& argument, char16_t type) {
+    switch (type) {
+    case u'y':
+        return number<uchar>(argument);
+    case u'n':
+        return number<short>(argument);
+    case u'q':
+        return number<ushort>(argument);
+    case u'i':
+        return number<int>(argument);
+    case u'u':
+        return number<uint>(argument);
+    case u'x':
+        return number<qlonglong>(argument);
+    case u't':
+        return number<qulonglong>(argument);
+    case u'd':
+        return number<double>(argument);
+    default:
+        return std::nullopt;
+    }
+}
+
+Value value(const QDBusArgument& argument);
+
+/// Of a list of texts or variants.
+QString firstEntry(const QDBusArgument& argument, bool ofVariants) {
+    QString first;
+    argument.beginArray();
+    if (!argument.atEnd())
+        first = ofVariants ? value(argument).text : take<QString>(argument);
+    argument.endArray();
+    return first;
+}
+
+Value value(const QDBusArgument& argument) {
+    Value result;
+    inVariant(argument, [&](const QString& signature) {
+        if (signature == "s"_L1)
+            result.text = result.firstText = result.path = take<QString>(argument);
+        else if (signature == "o"_L1)
+            result.path = take<QDBusObjectPath>(argument).path();
+        else if (signature == "as"_L1 || signature == "av"_L1)
+            result.firstText = firstEntry(argument, signature == "av"_L1);
+        else if (signature.size() == 1)
+            result.microseconds = anyNumber(argument, signature.front().unicode());
+    });
+    return result;
+}
+
+struct Properties {
+    Value trackId, title, artist, album, length, artUrl, position, status;
+};
+
+void readMetadata(const QDBusArgument& argument, Properties& read) {
+    eachEntry(argument, [&](const QString& key) {
+        if (key == "mpris:trackid"_L1)
+            read.trackId = value(argument);
+        else if (key == "xesam:title"_L1)
+            read.title = value(argument);
+        else if (key == "xesam:artist"_L1)
+            read.artist = value(argument);
+        else if (key == "xesam:album"_L1)
+            read.album = value(argument);
+        else if (key == "mpris:length"_L1)
+            read.length = value(argument);
+        else if (key == "mpris:artUrl"_L1)
+            read.artUrl = value(argument);
+    });
+}
+
+Properties readProperties(const QDBusArgument& argument) {
+    Properties read;
+    eachEntry(argument, [&](const QString& key) {
+        if (key == "Metadata"_L1)
+            inVariant(argument, [&](const QString& signature) {
+                if (signature == properties)
+                    readMetadata(argument, read);
+            });
+        else if (key == "Position"_L1)
+            read.position = value(argument);
+        else if (key == "PlaybackStatus"_L1)
+            read.status = value(argument);
+    });
+    return read;
+}
+
+/// The beginning of `text` in UTF-8.
+std::string limited(const QString& text) {
+    // A unit of UTF-16 takes at least one byte, so no more of them are needed.
+    const auto bytes = QStringView(text).left(longestMprisText + 1).toUtf8();
+    return std::string(
+        utf8::beginning({bytes.data(), static_cast<std::size_t>(bytes.size())}, longestMprisText));
+}
+
+/// Cover locations of one form answer "not found" where the image host answers with the image.
+std::optional<std::string> artworkURL(const QString& location) {
+    if (location.isEmpty() || location.size() > qsizetype(longestMprisText))
+        return std::nullopt;
+    std::string url = location.toStdString();
+    if (url.size() > longestMprisText)
+        return std::nullopt;
+    for (const std::string_view dead :
+         {"https://open.spotify.com/image/", "http://open.spotify.com/image/"}) {
+        if (url.starts_with(dead))
+            url.replace(0, dead.size(), "https://i.scdn.co/image/");
+    }
+    return url;
+}
+
+Player::Answer answerOf(const Properties& read) {
+    Track track(limited(read.title.text), limited(read.artist.firstText), limited(read.album.text),
+                read.length.microseconds.value_or(0) / microsecondsPerMillisecond,
+                artworkURL(read.artUrl.text));
+    const bool isNamed = !(track.title.empty() && track.artist.empty() && track.album.empty());
+    if (!isNamed || read.trackId.path == noTrack)
+        return Player::NotRunning();
+    return Player::Snapshot{
+        .track = std::move(track),
+        .isPlaying = read.status.text.compare("playing"_L1, Qt::CaseInsensitive) == 0,
+        .positionSec = read.position.microseconds.value_or(0) / microsecondsPerSecond,
+    };
+}
+
+} // namespace
+
+Player::Answer readMpris(const QDBusMessage& reply) {
+    if (reply.signature() != properties)
+        return Player::Unreadable();
+    return answerOf(readProperties(reply.arguments().constFirst().value<QDBusArgument>()));
+}
+
+} // namespace brellowind::platform
