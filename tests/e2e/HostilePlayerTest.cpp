@@ -161,8 +161,8 @@ TEST_F(HostilePlayer, ThatSaysAbsurdThingsHarmsNothing) {
         {"NoArtists", with("xesam:artist", QStringList()), line},
         {"TrackWithoutValidId", with("mpris:trackid", QStringLiteral("no/object//path")), line},
         {"ArtworkWithoutAddress", with("mpris:artUrl", QStringLiteral("\x01://\\ %%%")), line},
-        {"NoMetadata", {{QStringLiteral("PlaybackStatus"), QStringLiteral("Playing")}}, line},
-        {"MetadataOfAWrongType", {{metadataKey, QStringLiteral("Song")}}, line},
+        {"NoMetadata", {{QStringLiteral("PlaybackStatus"), QStringLiteral("Playing")}}, noMusic},
+        {"MetadataOfAWrongType", {{metadataKey, QStringLiteral("Song")}}, noMusic},
     };
     startSinging();
     for (const auto& absurdity : absurdities) {
