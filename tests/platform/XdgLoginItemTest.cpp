@@ -291,7 +291,7 @@ TEST_F(XdgLoginItemTest, AFileInThePlaceOfAFolderFailsAndStays) {
 
 TEST_F(XdgLoginItemTest, AFolderInThePlaceOfTheEntryFailsAndStays) {
     fs::create_directories(entry);
-    EXPECT_THAT(item().registerItem().value_or(""), HasSubstr("Is a directory"));
+    EXPECT_THAT(item().registerItem().value_or(""), HasSubstr("refers to a directory"));
     EXPECT_EQ(item().status(), Status::notRegistered);
     EXPECT_EQ(item().unregisterItem(), std::nullopt);
     EXPECT_THAT(namesIn(entry.parent_path()), testing::ElementsAre("brellowind.desktop"));

@@ -5,10 +5,12 @@
 
 #include <QFile>
 #include <QSaveFile>
+#include <cerrno>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <sstream>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -57,15 +59,14 @@ std::string failure(const char* action, const fs::path& path, const std::string&
 /// Makes `folder` and what is missing of the path to it, for the user alone.
 std::error_code makeFolders(const fs::path& folder) {
     fs::path made;
-    std::error_code error;
     for (const auto& part : folder) {
         made /= part;
-        if (fs::create_directory(made, error))
-            fs::permissions(made, fs::perms::owner_all, error);
-        if (error)
-            break;
+        std::error_code error;
+        if (!fs::is_directory(made, error) && ::mkdir(made.c_str(), S_IRWXU) != 0 &&
+            errno != EEXIST)
+            return {errno, std::generic_category()};
     }
-    return error;
+    return {};
 }
 
 /// The path does not fit the format: it is not text, or the format cannot hold an equal sign in
@@ -110,7 +111,8 @@ std::optional<std::string> XdgLoginItem::registerItem() {
         fs::remove(entry_, error); // the file that it leads to is somebody else's
     QSaveFile file(QFile::decodeName(entry_.c_str()));
     const auto text = QByteArray::fromStdString(entryText(executable_));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0 || !file.commit())
+    // `commit` does not see that the last bytes could not be written, `flush` does.
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0 || !file.flush() || !file.commit())
         return failure("write", entry_, file.errorString().toStdString());
     return std::nullopt;
 }
