@@ -20,25 +20,14 @@ UpdateCard GeneralModel::publishedCard() const {
 }
 
 void GeneralModel::refresh() {
-    const auto shown = std::exchange(card_, publishedCard());
-    const bool shownLaunchAtLogin = std::exchange(launchAtLogin_, settings_.launchAtLogin.get());
-
-    if (shownLaunchAtLogin != launchAtLogin_)
+    const bool launchAtLogin = settings_.launchAtLogin.get();
+    if (std::exchange(launchAtLogin_, launchAtLogin) != launchAtLogin)
         Q_EMIT launchAtLoginChanged();
-    if (shown.icon != card_.icon)
-        Q_EMIT cardIconChanged();
-    if (shown.color != card_.color)
-        Q_EMIT cardColorChanged();
-    if (shown.tintOpacity != card_.tintOpacity)
-        Q_EMIT cardTintOpacityChanged();
-    if (shown.title != card_.title)
-        Q_EMIT cardTitleChanged();
-    if (shown.buttonLabel != card_.buttonLabel)
-        Q_EMIT cardButtonChanged();
-    if (shown.buttonEnabled() != card_.buttonEnabled())
-        Q_EMIT cardButtonEnabledChanged();
-    if (shown.versionText != card_.versionText)
-        Q_EMIT cardVersionChanged();
+    auto card = publishedCard();
+    if (card == card_)
+        return;
+    card_ = std::move(card);
+    Q_EMIT cardChanged();
 }
 
 QString GeneralModel::cardIcon() const {

@@ -14,19 +14,19 @@
 namespace brellowind {
 
 /// What QML draws the General tab from, its update card included. It follows the switch and the
-/// update checker a turn of the main loop later; a property notifies only when it really differs.
+/// update checker a turn of the main loop later, and notifies only when something really differs.
 class GeneralModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the settings window")
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged FINAL)
-    Q_PROPERTY(QString cardIcon READ cardIcon NOTIFY cardIconChanged FINAL)
-    Q_PROPERTY(CardColor cardColor READ cardColor NOTIFY cardColorChanged FINAL)
-    Q_PROPERTY(double cardTintOpacity READ cardTintOpacity NOTIFY cardTintOpacityChanged FINAL)
-    Q_PROPERTY(QString cardTitle READ cardTitle NOTIFY cardTitleChanged FINAL)
-    Q_PROPERTY(QString cardButton READ cardButton NOTIFY cardButtonChanged FINAL)
-    Q_PROPERTY(bool cardButtonEnabled READ cardButtonEnabled NOTIFY cardButtonEnabledChanged FINAL)
-    Q_PROPERTY(QString cardVersion READ cardVersion NOTIFY cardVersionChanged FINAL)
+    Q_PROPERTY(QString cardIcon READ cardIcon NOTIFY cardChanged FINAL)
+    Q_PROPERTY(CardColor cardColor READ cardColor NOTIFY cardChanged FINAL)
+    Q_PROPERTY(double cardTintOpacity READ cardTintOpacity NOTIFY cardChanged FINAL)
+    Q_PROPERTY(QString cardTitle READ cardTitle NOTIFY cardChanged FINAL)
+    Q_PROPERTY(QString cardButton READ cardButton NOTIFY cardChanged FINAL)
+    Q_PROPERTY(bool cardButtonEnabled READ cardButtonEnabled NOTIFY cardChanged FINAL)
+    Q_PROPERTY(QString cardVersion READ cardVersion NOTIFY cardChanged FINAL)
 
 public:
     enum CardColor { Yellow, Teal, Red, Green };
@@ -59,13 +59,7 @@ public:
 
 Q_SIGNALS:
     void launchAtLoginChanged();
-    void cardIconChanged();
-    void cardColorChanged();
-    void cardTintOpacityChanged();
-    void cardTitleChanged();
-    void cardButtonChanged();
-    void cardButtonEnabledChanged();
-    void cardVersionChanged();
+    void cardChanged();
 
 private:
     UpdateCard publishedCard() const;

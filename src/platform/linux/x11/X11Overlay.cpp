@@ -99,7 +99,7 @@ void X11Overlay::updateShape() {
     const auto region = outlineRegion(outline_, window_.devicePixelRatio());
     native_->shape.setBounding(compositingManager_.isRunning() ? std::nullopt
                                                                : std::optional(region));
-    native_->shape.setInput(ignoresMouseEvents_ ? PixelRegion() : region);
+    native_->shape.setInput(ignoresMouseEvents_ ? QRegion() : region);
 }
 
 void X11Overlay::updateVisibility() {

@@ -1,19 +1,17 @@
 #include "platform/linux/x11/X11Shape.h"
 
+#include <vector>
 #include <xcb/shape.h>
 
 namespace brellowind::platform {
 namespace {
 
 void shape(const X11Connection& x11, xcb_window_t window, xcb_shape_kind_t kind,
-           const PixelRegion& region) {
+           const QRegion& region) {
     std::vector<xcb_rectangle_t> rectangles;
-    rectangles.reserve(region.size());
-    for (const auto& [x, y, width, height] : region) {
-        rectangles.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y),
-                              static_cast<std::uint16_t>(width),
-                              static_cast<std::uint16_t>(height)});
-    }
+    for (const QRect& rect : region)
+        rectangles.push_back({std::int16_t(rect.x()), std::int16_t(rect.y()),
+                              std::uint16_t(rect.width()), std::uint16_t(rect.height())});
     xcb_shape_rectangles(x11.get(), XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_YX_BANDED, window, 0,
                          0, static_cast<std::uint32_t>(rectangles.size()), rectangles.data());
 }
@@ -22,7 +20,7 @@ void shape(const X11Connection& x11, xcb_window_t window, xcb_shape_kind_t kind,
 
 X11Shape::X11Shape(const X11Connection& x11, xcb_window_t window) : x11_(x11), window_(window) {}
 
-void X11Shape::setInput(const PixelRegion& region) {
+void X11Shape::setInput(const QRegion& region) {
     if (input_ == region)
         return;
     input_ = region;
@@ -30,7 +28,7 @@ void X11Shape::setInput(const PixelRegion& region) {
     x11_.flush();
 }
 
-void X11Shape::setBounding(const std::optional<PixelRegion>& region) {
+void X11Shape::setBounding(const std::optional<QRegion>& region) {
     if (bounding_ == region)
         return;
     if (bounding_.has_value() != region.has_value())

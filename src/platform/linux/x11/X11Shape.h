@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/linux/x11/OutlineRegion.h"
 #include "platform/linux/x11/X11Connection.h"
 
+#include <QRegion>
 #include <optional>
 
 namespace brellowind::platform {
@@ -13,19 +13,19 @@ public:
     X11Shape(const X11Connection& x11, xcb_window_t window);
 
     /// Where the window takes the pointer; elsewhere it falls through to what lies beneath.
-    void setInput(const PixelRegion& region);
+    void setInput(const QRegion& region);
 
     /// Where there is a window at all; absent: everywhere. Where a bounded window grows it is black
     /// until it is drawn.
-    void setBounding(const std::optional<PixelRegion>& region);
+    void setBounding(const std::optional<QRegion>& region);
 
 private:
     void setBackground(bool black);
 
     X11Connection x11_;
     xcb_window_t window_;
-    std::optional<PixelRegion> input_; ///< absent: as the server made it, the whole window
-    std::optional<PixelRegion> bounding_;
+    std::optional<QRegion> input_; ///< absent: as the server made it, the whole window
+    std::optional<QRegion> bounding_;
 };
 
 } // namespace brellowind::platform

@@ -5,14 +5,15 @@
 
 namespace brellowind::platform {
 
-static void PrintTo(const PixelRect& rect, std::ostream* out) {
-    *out << rect.x << "," << rect.y << " " << rect.width << "x" << rect.height;
-}
-
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+std::vector<QRect> rectangles(const Path& outline, double scale) {
+    const QRegion region = outlineRegion(outline, scale);
+    return {region.begin(), region.end()};
+}
 
 void addRectangle(Path& path, const Rect& rect) {
     path.move({rect.minX(), rect.minY()});
@@ -29,28 +30,25 @@ Path rectangle(const Rect& rect) {
 }
 
 TEST(OutlineRegion, IsOneRectangleForARectangle) {
-    EXPECT_THAT(outlineRegion(rectangle({100, 0, 200, 60}), 1),
-                ElementsAre(PixelRect{100, 0, 200, 60}));
+    EXPECT_THAT(rectangles(rectangle({100, 0, 200, 60}), 1), ElementsAre(QRect(100, 0, 200, 60)));
 }
 
 TEST(OutlineRegion, IsInPixels) {
-    EXPECT_THAT(outlineRegion(rectangle({100, 10, 200, 60}), 2),
-                ElementsAre(PixelRect{200, 20, 400, 120}));
-    EXPECT_THAT(
-        outlineRegion(rectangle({100, 10, 200, 60}), 1.25),
-        ElementsAre(PixelRect{125, 12, 250, 75})); // rows with their middles at 12.5 to 86.5
+    EXPECT_THAT(rectangles(rectangle({100, 10, 200, 60}), 2),
+                ElementsAre(QRect(200, 20, 400, 120)));
+    EXPECT_THAT(rectangles(rectangle({100, 10, 200, 60}), 1.25),
+                ElementsAre(QRect(125, 12, 250, 75))); // rows with their middles at 12.5 to 86.5
 }
 
 TEST(OutlineRegion, HasThePixelsWhoseMiddleIsInside) {
-    EXPECT_THAT(outlineRegion(rectangle({0.4, 0.6, 2, 2}), 1), ElementsAre(PixelRect{0, 1, 2, 2}));
-    EXPECT_THAT(outlineRegion(rectangle({0.6, 0.4, 2.8, 1}), 1),
-                ElementsAre(PixelRect{1, 0, 2, 1}));
-    EXPECT_THAT(outlineRegion(rectangle({0.6, 0.6, 0.8, 0.8}), 1), IsEmpty());
+    EXPECT_THAT(rectangles(rectangle({0.4, 0.6, 2, 2}), 1), ElementsAre(QRect(0, 1, 2, 2)));
+    EXPECT_THAT(rectangles(rectangle({0.6, 0.4, 2.8, 1}), 1), ElementsAre(QRect(1, 0, 2, 1)));
+    EXPECT_THAT(rectangles(rectangle({0.6, 0.6, 0.8, 0.8}), 1), IsEmpty());
 }
 
 TEST(OutlineRegion, IsEmptyForNothing) {
-    EXPECT_THAT(outlineRegion({}, 1), IsEmpty());
-    EXPECT_THAT(outlineRegion(rectangle({10, 10, 0, 20}), 1), IsEmpty());
+    EXPECT_THAT(rectangles({}, 1), IsEmpty());
+    EXPECT_THAT(rectangles(rectangle({10, 10, 0, 20}), 1), IsEmpty());
 }
 
 TEST(OutlineRegion, FollowsSlopesRowByRow) {
@@ -59,9 +57,8 @@ TEST(OutlineRegion, FollowsSlopesRowByRow) {
     triangle.line({7.75, 4});
     triangle.line({-0.25, 4});
     triangle.close();
-    EXPECT_THAT(outlineRegion(triangle, 1),
-                ElementsAre(PixelRect{3, 0, 1, 1}, PixelRect{2, 1, 3, 1}, PixelRect{1, 2, 5, 1},
-                            PixelRect{0, 3, 7, 1}));
+    EXPECT_THAT(rectangles(triangle, 1), ElementsAre(QRect(3, 0, 1, 1), QRect(2, 1, 3, 1),
+                                                     QRect(1, 2, 5, 1), QRect(0, 3, 7, 1)));
 }
 
 TEST(OutlineRegion, ClosesAnOpenOutline) {
@@ -70,29 +67,27 @@ TEST(OutlineRegion, ClosesAnOpenOutline) {
     path.line({10, 0});
     path.line({10, 5});
     path.line({0, 5});
-    EXPECT_THAT(outlineRegion(path, 1), ElementsAre(PixelRect{0, 0, 10, 5}));
+    EXPECT_THAT(rectangles(path, 1), ElementsAre(QRect(0, 0, 10, 5)));
 }
 
 TEST(OutlineRegion, KeepsPartsApartAndJoinsThoseThatTouch) {
     auto apart = rectangle({0, 0, 10, 2});
     addRectangle(apart, {20, 0, 5, 2});
-    EXPECT_THAT(outlineRegion(apart, 1),
-                ElementsAre(PixelRect{0, 0, 10, 2}, PixelRect{20, 0, 5, 2}));
+    EXPECT_THAT(rectangles(apart, 1), ElementsAre(QRect(0, 0, 10, 2), QRect(20, 0, 5, 2)));
     auto touching = rectangle({0, 0, 10, 2});
     addRectangle(touching, {10, 0, 5, 2});
-    EXPECT_THAT(outlineRegion(touching, 1), ElementsAre(PixelRect{0, 0, 15, 2}));
+    EXPECT_THAT(rectangles(touching, 1), ElementsAre(QRect(0, 0, 15, 2)));
 }
 
 TEST(OutlineRegion, LeavesOutAHole) {
     auto path = rectangle({0, 0, 6, 3});
     addRectangle(path, {2, 1, 2, 1});
-    EXPECT_THAT(outlineRegion(path, 1), ElementsAre(PixelRect{0, 0, 6, 1}, PixelRect{0, 1, 2, 1},
-                                                    PixelRect{4, 1, 2, 1}, PixelRect{0, 2, 6, 1}));
+    EXPECT_THAT(rectangles(path, 1), ElementsAre(QRect(0, 0, 6, 1), QRect(0, 1, 2, 1),
+                                                 QRect(4, 1, 2, 1), QRect(0, 2, 6, 1)));
 }
 
 TEST(OutlineRegion, TakesWhatLiesLeftOfAndAboveTheWindow) {
-    EXPECT_THAT(outlineRegion(rectangle({-10, -5, 20, 10}), 1),
-                ElementsAre(PixelRect{-10, -5, 20, 10}));
+    EXPECT_THAT(rectangles(rectangle({-10, -5, 20, 10}), 1), ElementsAre(QRect(-10, -5, 20, 10)));
 }
 
 TEST(OutlineRegion, FollowsTheCurvesOfAPill) {
@@ -106,16 +101,16 @@ TEST(OutlineRegion, FollowsTheCurvesOfAPill) {
     pill.line({92, 8});
     pill.quadCurve({100, 0}, {92, 0});
     pill.close();
-    const auto region = outlineRegion(pill, 1);
+    const auto region = rectangles(pill, 1);
     ASSERT_FALSE(region.empty());
     // On a curve √(distance from one tangent) + √(distance from the other) = √radius. At the middle
     // of row 0 the flare reaches (√8 - √0.5)² = 4.5 in from the side that it ends at, 8.
-    EXPECT_EQ(region.front(), (PixelRect{3, 0, 94, 1}));
+    EXPECT_EQ(region.front(), QRect(3, 0, 94, 1));
     // At the middle of the last row the corner's curve is (√12 - √0.5)² = 7.6 in from that side.
-    EXPECT_EQ(region.back(), (PixelRect{16, 39, 68, 1}));
+    EXPECT_EQ(region.back(), QRect(16, 39, 68, 1));
     // Between the flares and the round corners the sides are straight.
-    EXPECT_THAT(region, testing::Contains(testing::AllOf(testing::Field(&PixelRect::x, 8),
-                                                         testing::Field(&PixelRect::width, 84))));
+    EXPECT_THAT(region, testing::Contains(testing::AllOf(testing::Property(&QRect::x, 8),
+                                                         testing::Property(&QRect::width, 84))));
 }
 
 } // namespace
