@@ -29,7 +29,7 @@ TapArea* topmost(const Item& item, QPointF position, const Wants& wants) {
 void PointerFocus::press(QPointF position, Qt::MouseButton button) {
     move(position);
     if (pressed_)
-        return; // by another button
+        return; // it already is, by another button
     pressed_ = topmost(root_, position, [button](auto& area) { return area.takes(button); });
     button_ = button;
 }
