@@ -5,7 +5,7 @@
 namespace brellowind {
 
 /// Blurs `image` (Alpha8 or premultiplied ARGB32) as a Gaussian of standard deviation `sigma`
-/// pixels would, near enough that no eye tells. What lies outside the image counts as clear,
+/// pixels would, closely enough for the eye. What lies outside the image counts as clear,
 /// and what is carried there is lost: it stays near a Gaussian where `blurReach` of clear room
 /// surrounds what is drawn. A sigma that is not above 0 changes nothing, one above 120 is 120.
 void blur(QImage& image, double sigma);

@@ -21,11 +21,22 @@ LyricText::~LyricText() {
     frames_.forget(*this);
 }
 
+/// A line that is still on its way out turns back when its text comes again.
 void LyricText::setText(const QString& text) {
     if (text == text_)
         return;
     text_ = text;
-    show(frames_.now());
+    const double now = frames_.now();
+    layers_.back().goAway(now);
+    const auto leaving = std::ranges::find(layers_, text_, &TextLayer::text);
+    if (leaving == layers_.end())
+        layers_.emplace_back(text_, look_.font, look_.maximumWidth, 0.0);
+    else
+        layers_.splice(layers_.end(), layers_, leaving);
+    if (present_)
+        layers_.back().comeIn(now);
+    followSize();
+    frames_.drive(*this);
     announceName(*this);
 }
 
@@ -49,24 +60,10 @@ void LyricText::followSize() {
     setSize({std::ceil(naturalWidth()), std::ceil(QFontMetricsF(look_.font).height())});
 }
 
-/// A line that is still on its way out turns back when its text comes again.
-void LyricText::show(double now) {
-    layers_.back().goAway(now);
-    const auto leaving = std::ranges::find(layers_, text_, &TextLayer::text);
-    if (leaving == layers_.end())
-        layers_.emplace_back(text_, look_.font, look_.maximumWidth, 0.0);
-    else
-        layers_.splice(layers_.end(), layers_, leaving);
-    if (present_)
-        layers_.back().comeIn(now);
-    followSize();
-    frames_.drive(*this);
-}
-
 std::optional<double> LyricText::advance(double now) {
     std::optional<double> fastest;
     for (auto& layer : layers_)
-        fastest = std::max(fastest, layer.advance(now)); // resting is less than any speed
+        fastest = std::max(fastest, layer.advance(now)); // no value is less than any speed
     while (layers_.size() > 1 && layers_.front().isGone())
         layers_.pop_front();
     update();

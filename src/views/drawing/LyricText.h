@@ -46,7 +46,6 @@ protected:
 
 private:
     std::optional<double> advance(double now) override;
-    void show(double now);
     void followSize();
 
     FrameDriver& frames_;

@@ -17,18 +17,17 @@ const double strongestReach = std::ceil(blurReach(strongestSigma));
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
 
-/// How far a line may swing beyond its end and come back by less than a 255th: each swing of its
-/// spring is a 26th of the one before.
+/// A line that overshoots its target by at most this comes back by less than 1/255: each swing of
+/// its spring has a 26th of the amplitude of the one before.
 constexpr double unseenSwing = 0.1;
 
-/// Points by which marks of some scripts stand out of the line, and slanted letters at its ends.
+/// By how many points glyphs may extend beyond the line's rectangle.
 constexpr double inkOverhang = 6;
 
-/// Coming or going changes a line as much as moving it by so many points.
+/// To come or go counts as a motion by so many points.
 constexpr double presenceReach = 20;
 
-/// What one line shows of `text`: line breaks and other control characters take no line and no
-/// glyph of their own.
+/// `text` with a space for every line break and other control character.
 QString singleLine(QString text) {
     for (QChar& character : text) {
         const auto category = character.category();
@@ -77,10 +76,10 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double maximumWidth
     QTextLine only = layout_.createLine();
     if (only.isValid()) {
         only.setLineWidth(1e6);
-        // Another script's font may be higher: all stand on the same line all the same.
+        // A fallback font may be higher. The baseline is that of `font`.
         only.setPosition({0, QFontMetricsF(font).ascent() - only.ascent()});
         width_ = only.naturalTextWidth();
-        // Text from right to left would stand at the far end of that line.
+        // Otherwise text from right to left would stand at the right end of a very wide line.
         only.setLineWidth(width_);
     }
     layout_.endLayout();
@@ -117,7 +116,7 @@ void TextLayer::paint(QPainter& painter, QColor color, double centre, double top
     painter.restore();
 }
 
-/// Beyond its end a line looks as it does there.
+/// A line that overshoots its target looks as it does at the target.
 bool TextLayer::isAtRest(double now) const {
     const double value = presence_.value(now);
     const bool isBeyond = presence_.target() > 0 ? value >= 1 : value <= 0;
@@ -141,7 +140,7 @@ void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin) cons
 
 void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen) {
     const double ratio = painter.device()->devicePixelRatioF();
-    // What lies further beside what is seen is not carried there by any blur.
+    // Nothing further outside the visible part can be blurred into it.
     const QRectF line =
         layout_.boundingRect().adjusted(-inkOverhang, -inkOverhang, inkOverhang, inkOverhang);
     const double left =
@@ -150,7 +149,8 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
         std::min(line.right(), std::ceil(seen.right() - origin.x() + strongestReach));
     if (right <= left)
         return;
-    // Whole pixels, as the line's origin: a picture between pixels would look softer than the line.
+    // Aligned to pixels, like the line's origin: otherwise it would look softer than the line at
+    // rest.
     const QPointF corner(std::floor(left * ratio) / ratio, std::floor(line.top() * ratio) / ratio);
     const QRectF part(corner, QPointF(right, line.bottom()));
     const double reach = std::max(0.0, blurReach(sigma()) - inkOverhang);
@@ -175,8 +175,8 @@ const QImage& TextLayer::picture(QRectF part, QColor color, double ratio) {
         paintSharp(painter, in, -part.topLeft());
         return image;
     };
-    // Nearly all text has one colour; an emoji has colours of its own. To blur one channel takes a
-    // quarter of the time, which the processor's share while music plays has no room for.
+    // Nearly all text has one colour; emoji have their own. To blur one channel instead of four
+    // keeps the processor's share while playing below its limit of 0.5 % above an empty window.
     const QImage white = painted(Qt::white);
     picture_ = white.convertToFormat(QImage::Format_Alpha8);
     if (tinted(picture_, Qt::white) != white)

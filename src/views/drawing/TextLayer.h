@@ -17,7 +17,7 @@ namespace brellowind {
 /// and opaque when it is there.
 class TextLayer {
 public:
-    /// `presence` is where it begins: 0 away, 1 there. A `maximumWidth` above 0 ends a wider line
+    /// `presence` is its initial state: 0 away, 1 there. A `maximumWidth` above 0 ends a wider line
     /// in an ellipsis.
     TextLayer(const QString& text, const QFont& font, double maximumWidth, double presence);
 
@@ -33,12 +33,12 @@ public:
     /// At rest and away.
     bool isGone() const { return shown_ <= 0 && resting_; }
 
-    /// Draws it with its middle at `centre` and its top at `top`. Only what lies between `left` and
-    /// `right` will be seen.
+    /// Draws the line with its middle at `centre` and its top at `top`. The painter's device shows
+    /// what lies between `left` and `right`; the rest may be left out.
     void paint(QPainter& painter, QColor color, double centre, double top, double left,
                double right);
 
-    /// How far beyond the line's own rectangle it draws at this moment.
+    /// How far beyond the line's rectangle it draws now, in points.
     double overhang() const;
 
 private:
@@ -54,9 +54,9 @@ private:
     double width_ = 0;
     Spring presence_;
     double shown_;
-    bool resting_ = true; ///< shows no change any more
-    QImage picture_;      ///< what is blurred: `pictured_` of the line, sharp; null while it rests
-    QRectF pictured_;     ///< from the line's own origin
+    bool resting_ = true; ///< it shows no further change
+    QImage picture_;      ///< the part `pictured_` of the line, sharp; null while it rests
+    QRectF pictured_;     ///< relative to the line's origin
     QColor picturedColor_;
 };
 

@@ -11,8 +11,7 @@ constexpr double longestStep = 0.5; ///< points, where the frames are not at the
 constexpr double densest = 0.016;   ///< seconds from frame to frame
 constexpr double sparsest = 0.05;
 
-/// Seconds until a motion shows for the first time. Not none, since what is asked for together
-/// shows together.
+/// Seconds until the first frame of a motion. Motions that begin together share it.
 constexpr double firstFrame = 0.006;
 
 /// Seconds from one frame to the next while the fastest moves by `speed` points a second.
@@ -22,7 +21,7 @@ double interval(double speed) {
 
 } // namespace
 
-/// What begins amid a slow motion does not wait for that motion's next frame.
+/// A motion that begins during a slow one does not wait for the slow one's next frame.
 void FrameDriver::drive(Animated& animated) {
     if (std::ranges::find(moving_, &animated) == moving_.end())
         moving_.push_back(&animated);

@@ -12,30 +12,32 @@ class Animated {
 public:
     virtual ~Animated() = default;
 
-    /// Shows the moment `now` and tells how fast it moves there, in points a second. Nothing once
-    /// it has come to rest: it then needs no more frames.
+    /// Moves to the moment `now`. Returns its speed in points per second, or none once it is at
+    /// rest and needs no more frames.
     virtual std::optional<double> advance(double now) = 0;
 };
 
-/// Drives what moves, and has no timer while all is at rest. All that moves sees the same moment in
-/// one frame. There are 60 frames a second while anything moves by more than half a point from one
-/// to the next; the slow end of a motion gets fewer, of steps that are no longer. Main thread only.
+/// Advances animations frame by frame, and has no timer while all are at rest. All see the same
+/// moment in one frame. It makes 60 frames per second while anything moves by more than half a
+/// point from one to the next, and fewer at the slow end of a motion. Main thread only.
 class FrameDriver : public QObject {
     Q_OBJECT
 
 public:
-    /// Seconds on a monotonic clock: the moment of the present frame while one is being made.
+    /// The moment of the frame that is being made, or else what the clock shows, in seconds.
     double now() const { return frame_ ? *frame_ : clock(); }
 
-    /// Asks for frames until `animated` comes to rest. Asking again changes nothing.
+    /// Advances `animated` in every frame until it comes to rest. Idempotent.
     void drive(Animated& animated);
 
-    /// Forgets `animated`, which is about to go.
+    /// To be called before a driven `animated` is destroyed.
     void forget(Animated& animated);
 
 protected:
-    /// The clock, and a timer that makes a frame once it shows `moment`. Tests have others.
+    /// Seconds on a monotonic clock. Virtual for tests, as is the timer.
     virtual double clock() const;
+
+    /// Starts a timer that calls `makeFrame` when the clock shows `moment`.
     virtual void startTimer(double moment);
 
     void makeFrame();

@@ -5,7 +5,7 @@
 namespace brellowind {
 namespace {
 
-constexpr double tolerance = 0.05; ///< points that no eye sees
+constexpr double tolerance = 0.05; ///< points, too little to be seen
 
 } // namespace
 

@@ -10,8 +10,7 @@ namespace brellowind {
 /// present value and velocity.
 class SpringValue {
 public:
-    /// It rests at `value`. Something moves by `reach` points while it changes by 1; the default
-    /// is for what nobody measured.
+    /// At rest at `value`. What it moves on the screen moves by `reach` points for a change of 1.
     explicit SpringValue(const SpringParameters& parameters, double value = 0, double reach = 500);
 
     double value() const { return value_; }
@@ -23,11 +22,10 @@ public:
     /// Jumps to its target.
     void settle();
 
-    /// Whether it has yet to reach its target.
+    /// Whether it has not reached its target yet.
     bool isMoving() const { return moving_; }
 
-    /// Shows the moment `now` and tells how fast it moves there, in points a second; nothing once
-    /// it rests.
+    /// Moves to the moment `now`. Returns its speed in points per second, or none once it rests.
     std::optional<double> advance(double now);
 
 private:
@@ -37,7 +35,7 @@ private:
     double value_;
     double reach_;
     bool moving_ = false;
-    bool changed_ = false; ///< the motion takes the new target and spring with the next frame
+    bool changed_ = false; ///< the next `advance` gives `motion_` the new target and parameters
 };
 
 } // namespace brellowind

@@ -30,7 +30,7 @@ private:
 
     const PillContent& content_;
     ArtworkImage* image_;
-    ArtworkCaption* caption_ = nullptr; ///< made when it is first seen, and given back
+    ArtworkCaption* caption_ = nullptr; ///< there while it is visible
     TapArea* area_;
 };
 

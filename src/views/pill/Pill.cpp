@@ -146,7 +146,7 @@ void Pill::layOut() {
                    style::mix(bottomPadding(), style::panelBottomPadding, expand));
 }
 
-/// They stay within the pill's sides, which stand beside its flaring top corners, and its bottom.
+/// Texts are clipped to the pill's straight sides, between its flaring top corners, and its bottom.
 void Pill::layOutTexts() {
     const double expand = motion_.expand.value();
     const double margin = shape_->flare() + 1;

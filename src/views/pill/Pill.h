@@ -20,7 +20,7 @@ class TapArea;
 class Waveform;
 
 /// The black pill and all that is in it, hanging from the middle of its top edge. Each change of
-/// what it shows turns its springs, and each frame lays it out anew.
+/// what it shows sets the targets of its springs, and each frame lays it out.
 class Pill : public Item, private Animated {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ public:
          Item* parent);
     ~Pill() override;
 
-    /// Hangs in a window of that size.
+    /// Lays the pill out in a window of that size.
     void fill(QSizeF size);
 
     const PillShape& shape() const { return *shape_; }
@@ -61,7 +61,7 @@ private:
     Waveform* waveform_;
     Grabber* grabber_;
     PillMotion motion_;
-    std::unique_ptr<PillMenu> menu_; ///< made when it is first wanted: most days it never is
+    std::unique_ptr<PillMenu> menu_; ///< made on demand
     Subscription redraws_;
 };
 

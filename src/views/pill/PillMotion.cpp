@@ -15,7 +15,8 @@ constexpr double pulseScale = 1.06;
 
 PillMotion::PillMotion(const PillContent& content, double naturalLineWidth) {
     follow(content, naturalLineWidth);
-    forEach(*this, [](SpringValue& spring) { spring.settle(); });
+    for (auto* spring : all())
+        spring->settle();
 }
 
 void PillMotion::follow(const PillContent& content, double naturalLineWidth) {
@@ -37,25 +38,19 @@ void PillMotion::follow(const PillContent& content, double naturalLineWidth) {
     grabber.setTarget(content.form.grabberHovered);
 }
 
-bool PillMotion::isMoving() const {
-    bool moving = false;
-    forEach(*this, [&](const SpringValue& spring) { moving = moving || spring.isMoving(); });
-    return moving;
+bool PillMotion::isMoving() {
+    return std::ranges::any_of(all(), &SpringValue::isMoving);
 }
 
 std::optional<double> PillMotion::advance(double now) {
     std::optional<double> fastest;
-    forEach(*this, [&](SpringValue& spring) {
-        fastest = std::max(fastest, spring.advance(now)); // resting is less than any speed
-    });
+    for (auto* spring : all())
+        fastest = std::max(fastest, spring->advance(now)); // no value is less than any speed
     return fastest;
 }
 
-template <typename Self, typename Do>
-void PillMotion::forEach(Self& self, const Do& doIt) {
-    for (auto* spring : {&self.hover, &self.unfold, &self.expand, &self.lineWidth, &self.pulse,
-                         &self.thumbnail, &self.indicator, &self.grabber})
-        doIt(*spring);
+std::array<SpringValue*, 8> PillMotion::all() {
+    return {&hover, &unfold, &expand, &lineWidth, &pulse, &thumbnail, &indicator, &grabber};
 }
 
 } // namespace brellowind

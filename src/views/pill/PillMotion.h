@@ -3,24 +3,25 @@
 #include "views/motion/SpringValue.h"
 #include "views/motion/Springs.h"
 
+#include <array>
 #include <optional>
 
 namespace brellowind {
 
 struct PillContent;
 
-/// Every spring of the pill: fractions from 0 to 1 that may overshoot, where nothing else is said.
+/// All springs of the pill: fractions from 0 to 1 that may overshoot, unless stated otherwise.
 struct PillMotion {
-    /// At rest as the content stands, with a line `naturalLineWidth` points wide.
+    /// At rest where `content` wants it, with a line `naturalLineWidth` points wide.
     PillMotion(const PillContent& content, double naturalLineWidth);
 
-    /// Turns every spring to where the content wants it.
+    /// Sets the target of every spring.
     void follow(const PillContent& content, double naturalLineWidth);
 
-    /// Whether anything has yet to reach its target.
-    bool isMoving() const;
+    /// Whether any spring has yet to reach its target.
+    bool isMoving();
 
-    /// Shows the moment `now` and tells how fast the fastest moves; nothing once all rest.
+    /// Moves all springs to the moment `now`. Returns the speed of the fastest; none once all rest.
     std::optional<double> advance(double now);
 
     SpringValue hover{springs::hoverSpring};
@@ -33,8 +34,7 @@ struct PillMotion {
     SpringValue grabber{springs::hoverSpring};   ///< 1: bright
 
 private:
-    template <typename Self, typename Do>
-    static void forEach(Self& self, const Do& doIt);
+    std::array<SpringValue*, 8> all();
 };
 
 } // namespace brellowind

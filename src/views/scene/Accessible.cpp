@@ -103,7 +103,7 @@ private:
         return found;
     }
 
-    /// All that can be found now, from the bottom to the top.
+    /// All items that can be found now, in stacking order.
     static void collect(const Item& from, QList<QAccessibleInterface*>& found) {
         for (auto* item : from.childItems()) {
             if (!item->isVisible())

@@ -7,8 +7,7 @@ namespace brellowind {
 
 class Item;
 
-/// What assistive programs learn of an item, and do with it. An item that is to be found derives
-/// from it beside its own class.
+/// What assistive programs can read and do. An item that they shall find derives from it as well.
 class Accessible {
 public:
     virtual ~Accessible() = default;
@@ -16,21 +15,20 @@ public:
     virtual QAccessible::Role accessibleRole() const = 0;
     virtual QString accessibleName() const = 0;
 
-    /// Whether it is to be found while it is visible.
+    /// Whether assistive programs find it while it is visible.
     virtual bool isAvailable() const { return true; }
 
     virtual bool isPressable() const { return false; }
     virtual void press() {}
 };
 
-/// Lets assistive programs find the accessible items in windows of the pill's kinds. Once is
-/// enough.
+/// Lets assistive programs find the accessible items of every `SceneWindow`. Idempotent.
 void installAccessibility();
 
-/// Tells those who listen that the item, which is `Accessible`, has another name now.
+/// Notifies assistive programs that the name of `item`, which is `Accessible`, has changed.
 void announceName(Item& item);
 
-/// The same when it came to be found, or to be found no more.
+/// Notifies them that `item` can be found from now on, or no longer.
 void announceVisibility(Item& item, bool visible);
 
 } // namespace brellowind

@@ -19,11 +19,11 @@ Item::Item(Item* parent) : parent_(parent) {
     if (!parent_)
         return;
     parent_->children_.push_back(this);
-    setParent(parent_); // so that it is found by its name
+    setParent(parent_); // for findChild
     requestFrame();
 }
 
-/// Children go while there is still an item to leave.
+/// Deletes its children first: each of them leaves `children_`.
 Item::~Item() {
     while (!children_.empty())
         delete children_.back();
@@ -113,9 +113,9 @@ double Item::pixelRatio() const {
     return shownIn ? shownIn->devicePixelRatio() : 1;
 }
 
-/// Notes how the next frame shows this and all in it that has changed or whose surroundings have,
-/// which look like `around`, and adds what differs from the last frame to `damage`. Nothing is seen
-/// around an empty `around.rect`.
+/// Computes how the next frame shows the item and its descendants, and adds what differs from the
+/// last frame to `damage`. `around` is inherited from the parent, and `isAroundNew` tells whether
+/// it differs from the last frame. With an empty `around.rect` nothing is visible.
 void Item::takeLook(const Look& around, bool isAroundNew, QRegion& damage) {
     if (!isAroundNew && !changed_)
         return;
@@ -136,7 +136,8 @@ void Item::takeLook(const Look& around, bool isAroundNew, QRegion& damage) {
         child->takeLook(look, isInsideNew, damage);
 }
 
-/// Draws what the last look found within `region` of the window, which `painter` is clipped to.
+/// Draws the item and its descendants as `takeLook` found them, within `region` of the window, to
+/// which `painter` is clipped.
 void Item::draw(QPainter& painter, const QRegion& region) {
     if (region.intersects(look_.rect.toAlignedRect())) {
         if (!look_.clip.isNull())

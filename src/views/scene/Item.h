@@ -20,19 +20,19 @@ class Item : public QObject {
     Q_OBJECT
 
 public:
-    /// The point that stays where it is while the item is scaled and turned.
+    /// The point about which the item is scaled and rotated.
     enum TransformOrigin { Centre, Top, BottomLeft };
 
-    /// Without a parent it is seen nowhere.
+    /// The parent owns it. An item without a parent is not shown.
     explicit Item(Item* parent = nullptr);
     ~Item() override;
 
     const std::vector<Item*>& childItems() const { return children_; }
 
-    /// Null where no window shows it.
+    /// Null if it belongs to no window.
     SceneWindow* window() const;
 
-    /// Moves it right below `sibling`.
+    /// Moves it directly below `sibling` in the stacking order.
     void stackBefore(const Item& sibling);
 
     QPointF position() const { return position_; }
@@ -51,7 +51,7 @@ public:
     double opacity() const { return opacity_; }
     void setOpacity(double opacity) { set(opacity_, opacity); }
 
-    /// Whether it and all that it lies in are visible.
+    /// Whether the item and all its ancestors are visible.
     bool isVisible() const { return visible_ && (!parent_ || parent_->isVisible()); }
     void setVisible(bool visible);
 
@@ -59,41 +59,41 @@ public:
     void setRotation(double clockwiseDegrees) { set(rotation_, clockwiseDegrees); }
     void setTransformOrigin(TransformOrigin origin) { set(origin_, origin); }
 
-    /// Shows its children only as far as they lie within its rectangle.
+    /// Clips its children to its rectangle.
     void setClip(bool clip) { set(clip_, clip); }
 
     bool contains(QPointF point) const { return boundingRect().contains(point); }
 
-    /// From here to the window; with `ancestor`, to that one.
+    /// From the item's coordinates to those of `ancestor`, by default of the window.
     QTransform transform(const Item* ancestor = nullptr) const;
     QPointF mapFromScene(QPointF point) const { return transform().inverted().map(point); }
     QRectF mapRectToScene(const QRectF& rect) const { return transform().mapRect(rect); }
 
-    /// Draws in the item's coordinates, antialiased.
+    /// Draws the item in its own coordinates. The painter antialiases.
     virtual void paint(QPainter& /*painter*/) {}
 
-    /// All that `paint` touches, in the item's coordinates. Empty for what draws nothing itself.
+    /// Bounds what `paint` draws, in the item's coordinates. Empty if it draws nothing.
     virtual QRectF paintedRect() const { return {}; }
 
-    /// Asks for a frame in which the item is drawn anew.
+    /// Schedules a frame in which the item is repainted.
     void update();
 
 protected:
-    /// It came to be visible, or is so no more.
+    /// Called when `isVisible` has changed.
     virtual void visibilityChanged() {}
 
-    /// Pixels of the screen in one point.
+    /// Pixels per point on the window's screen.
     double pixelRatio() const;
 
 private:
     friend class SceneWindow;
 
-    /// How a frame shows it.
+    /// How a frame shows the item.
     struct Look {
         QTransform transform; ///< to the window
         double opacity = 1;
-        QRectF clip; ///< of the window; null: nothing clips it
-        QRectF rect; ///< of the window, all that is drawn; empty: it is not seen
+        QRectF clip; ///< in the window; null: not clipped
+        QRectF rect; ///< in the window, bounds what is drawn; empty: not visible
 
         bool operator==(const Look&) const = default;
     };
@@ -115,22 +115,22 @@ private:
 
     Item* parent_;
     std::vector<Item*> children_;
-    SceneWindow* window_ = nullptr; ///< of the outermost item
+    SceneWindow* window_ = nullptr; ///< set in the root item only
     QPointF position_;
     QSizeF size_{0, 0};
     double opacity_ = 1;
     double scale_ = 1;
-    double rotation_ = 0;
+    double rotation_ = 0; ///< degrees, clockwise
     TransformOrigin origin_ = Centre;
     bool clip_ = false;
     bool visible_ = true;
-    bool stale_ = true;   ///< has to be drawn even where it looks as in the last frame
-    bool changed_ = true; ///< it or something in it, since the last frame
+    bool stale_ = true;   ///< must be repainted even if its look is that of the last frame
+    bool changed_ = true; ///< the item or a descendant has changed since the last frame
     Look look_;           ///< in the last frame
-    Look inside_;         ///< what its children saw around them then
+    Look inside_;         ///< what its children inherited in the last frame
 };
 
-/// An item that draws itself all over its rectangle.
+/// An item that draws within its rectangle.
 class PainterItem : public Item {
     Q_OBJECT
 

@@ -29,7 +29,7 @@ TapArea* topmost(const Item& item, QPointF position, const Wants& wants) {
 void PointerFocus::press(QPointF position, Qt::MouseButton button) {
     move(position);
     if (pressed_)
-        return; // a second button
+        return; // it already is, by another button
     pressed_ = topmost(root_, position, [button](auto& area) { return area.takes(button); });
     button_ = button;
 }
@@ -37,7 +37,7 @@ void PointerFocus::press(QPointF position, Qt::MouseButton button) {
 void PointerFocus::release(QPointF position, Qt::MouseButton button) {
     if (pressed_ && button == button_) {
         TapArea& area = *std::exchange(pressed_, nullptr);
-        if (area.contains(area.mapFromScene(position))) // otherwise it was taken back
+        if (area.contains(area.mapFromScene(position))) // otherwise the tap was cancelled
             area.tap(button, position);
     }
     move(position);

@@ -10,26 +10,26 @@ namespace brellowind {
 class Item;
 class TapArea;
 
-/// Which of a window's tap areas the pointer is about. A press belongs to the topmost area under it
-/// that takes that button, until the button is released, wherever that is. While no button is down
-/// the topmost area there that minds hovering is hovered.
+/// Dispatches the pointer's events to a window's tap areas. A press goes to the topmost area under
+/// it that takes that button, and so does the release, wherever it happens. While no button is down
+/// the topmost area under the pointer that minds hovering is hovered.
 class PointerFocus {
 public:
-    /// `root` is around all areas and must outlive it.
+    /// `root` is an ancestor of all areas and must outlive this.
     explicit PointerFocus(const Item& root) : root_(root) {}
 
-    // Positions are points of the window.
+    // Positions are in points, relative to the window.
     void press(QPointF position, Qt::MouseButton button);
     void release(QPointF position, Qt::MouseButton button);
     void move(QPointF position);
 
-    /// The pointer is not over the window any more.
+    /// The pointer has left the window.
     void leave();
 
-    /// The window is gone, and with it any press.
+    /// The window was hidden: forgets the pointer and any press.
     void cancel();
 
-    /// Areas may have moved under a pointer at rest.
+    /// Updates what is hovered after areas may have moved under a resting pointer.
     void follow();
 
 private:
@@ -38,7 +38,7 @@ private:
     const Item& root_;
     QPointer<TapArea> pressed_;
     QPointer<TapArea> hovered_;
-    Qt::MouseButton button_ = Qt::NoButton; ///< that `pressed_` was pressed with
+    Qt::MouseButton button_ = Qt::NoButton; ///< with which `pressed_` was pressed
     std::optional<QPointF> position_;       ///< while it is over the window
 };
 

@@ -11,7 +11,7 @@
 namespace brellowind {
 namespace {
 
-/// The fewest whole points that are whole pixels; 0 where no small number of them is.
+/// The smallest number of points that is a whole number of pixels; 0 if none up to 20 is.
 int pointsToWholePixels(double ratio) {
     constexpr int most = 20;
     for (int points = 1; points <= most; ++points)
@@ -20,7 +20,8 @@ int pointsToWholePixels(double ratio) {
     return 0;
 }
 
-/// `region` grown to whole pixels, since what is drawn there is cleared and clipped by pixels.
+/// `region`, in points, grown until its edges lie between pixels: clearing and clipping work on
+/// whole pixels.
 QRegion wholePixels(const QRegion& region, double ratio, const QRect& window) {
     const int step = pointsToWholePixels(ratio);
     if (step == 1)
@@ -105,7 +106,7 @@ void SceneWindow::hideEvent(QHideEvent* event) {
 void SceneWindow::resizeEvent(QResizeEvent* event) {
     QWindow::resizeEvent(event);
     root_.setSize(size());
-    ratio_ = 0; // what is stored has another size
+    ratio_ = 0;
     requestFrame();
 }
 
@@ -132,7 +133,7 @@ void SceneWindow::makeFrame() {
         store_.resize(size());
         damage_ = whole;
     }
-    // Rectangles that are partly outside are cut first: they begin at no negative point then.
+    // Cut to the window first: `wholePixels` rounds towards 0, so no rectangle may begin below it.
     const QRegion region = wholePixels(std::exchange(damage_, {}) & whole, ratio, whole);
     if (region.isEmpty())
         return;

@@ -13,8 +13,8 @@
 
 namespace brellowind {
 
-/// A transparent window that shows items. It draws in memory, and of each frame only what differs
-/// from the last one; while nothing changes there are no frames.
+/// A transparent window that shows items. It draws in memory, and in each frame only what differs
+/// from the last one. While nothing changes it makes no frames.
 class SceneWindow : public QWindow {
     Q_OBJECT
 
@@ -22,23 +22,23 @@ public:
     explicit SceneWindow(QWindow* parent = nullptr);
     ~SceneWindow() override;
 
-    /// As large as the window, around all items.
+    /// The root of all items. It has the size of the window.
     Item& root() { return root_; }
     const Item& root() const { return root_; }
 
-    /// A picture of all that the next frame would show.
+    /// An image of the whole window as the next frame would show it.
     QImage grab();
 
-    /// What the window is to assistive programs.
+    /// The role of the window for assistive programs.
     virtual QAccessible::Role accessibleRole() const { return QAccessible::Window; }
     QAccessibleInterface* accessibleRoot() const override;
 
 Q_SIGNALS:
-    /// A frame is on its way to the screen.
+    /// Emitted after a frame was drawn and handed to the window system.
     void frameShown();
 
 protected:
-    /// Right before every frame.
+    /// Called before every frame is drawn.
     virtual void aboutToShow() {}
 
     bool event(QEvent* event) override;
@@ -52,11 +52,11 @@ protected:
 private:
     friend class Item;
 
-    /// The smallest rectangle around `rect` that begins and ends at whole points.
+    /// The smallest rectangle in whole points that contains `rect`.
     static QRegion covering(const QRectF& rect);
 
     void requestFrame();
-    void damage(const QRectF& rect); ///< it has to be drawn anew
+    void damage(const QRectF& rect); ///< schedules its repainting
     void makeFrame();
     void paintStore(const QRegion& region);
     void takeLooks();
@@ -64,9 +64,9 @@ private:
     Item root_;
     PointerFocus pointer_{root_};
     QBackingStore store_{this};
-    double ratio_ = 0; ///< pixels in a point of what `store_` holds
+    double ratio_ = 0; ///< pixels per point in `store_`; 0: it must be resized
     QRegion damage_;
-    std::unique_ptr<platform::NextTurn> nextTurn_; ///< makes a frame
+    std::unique_ptr<platform::NextTurn> nextTurn_; ///< calls `makeFrame`
 };
 
 } // namespace brellowind

@@ -5,7 +5,8 @@
 
 namespace brellowind {
 
-/// An unseen rectangle that is tapped and pointed at. Assistive programs press it by its name.
+/// An invisible rectangle that takes taps and hovering. Assistive programs find it by its name and
+/// can press it.
 class TapArea : public Item, public Accessible {
     Q_OBJECT
 
@@ -25,7 +26,7 @@ public:
     void mindHovering() { mindsHovering_ = true; }
     void setHovered(bool hovered);
 
-    /// Pressed and released at a point of the window.
+    /// The button was pressed and released here; `position` is in points of the window.
     void tap(Qt::MouseButton button, QPointF position);
 
     QAccessible::Role accessibleRole() const override { return role_; }
@@ -37,10 +38,11 @@ public:
 Q_SIGNALS:
     void tapped();
 
-    /// The pointer came or went; for areas that mind hovering.
+    /// The pointer has entered or left. Only from areas that mind hovering.
     void hoveredChanged(bool hovered);
 
-    /// A tap of the right button, for areas that take it, at a point of the window.
+    /// A tap of the right button. Only from areas that take it; `position` is in points of the
+    /// window.
     void menuRequested(QPointF position);
 
 protected:
