@@ -1,6 +1,7 @@
 #include "Fuzz.h"
 #include "foundation/Utf8.h"
 #include "lyrics/LrclibAPI.h"
+#include "lyrics/WholeResponse.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -25,15 +26,11 @@ void requireFilled(const LyricsState& state) {
     require(utf8::isValid(state.text()), "words without times are UTF-8");
 }
 
-bool isNeitherTextNorNull(const nlohmann::json& object, const char* key) {
-    const auto value = object.find(key);
-    return value != object.end() && !value->is_null() && !value->is_string();
-}
-
-bool isUndecodable(std::string_view body) {
-    const auto object = nlohmann::json::parse(body, nullptr, /*allow_exceptions=*/false);
-    return !object.is_object() || isNeitherTextNorNull(object, "syncedLyrics") ||
-           isNeitherTextNorNull(object, "plainLyrics");
+/// A reading of the whole body finds the same texts. It cannot read numbers that no double holds.
+void requireWhatTheWholeBodySays(std::string_view body) try {
+    require(LrclibResponse::decode(body) == test::decodeWhole(body),
+            "the texts are those of the whole body");
+} catch (const nlohmann::json::out_of_range&) {
 }
 
 } // namespace
@@ -45,7 +42,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto body = fuzz::text(data, size);
     const auto state = LrclibAPI::interpret(200, body);
     fuzz::requireFilled(state);
-    fuzz::require((state.which() == Case::failed) == fuzz::isUndecodable(body),
+    fuzz::requireWhatTheWholeBodySays(body);
+    fuzz::require((state.which() == Case::failed) == !LrclibResponse::decode(body),
                   "exactly what cannot be decoded fails");
     fuzz::require(state.which() != Case::idle && state.which() != Case::loading,
                   "an answer is an outcome");

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 #include <functional>
 #include <vector>
 
@@ -13,16 +13,22 @@ void keep(const Value& value) {
     asm volatile("" : : "r,m"(&value) : "memory");
 }
 
-/// Seconds that one call of each of `works` takes at best. They take turns, so that what else the
-/// machine does meets all of them alike; each gets `seconds` in all.
+/// Seconds of processor time that this thread has taken.
+inline double processorTime() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+/// Seconds of processor time that one call of each of `works` takes at best. They take turns, so
+/// that what else the machine does meets all of them alike; each gets `seconds` in all.
 inline std::vector<double> race(const std::vector<std::function<void()>>& works, double seconds) {
-    using Clock = std::chrono::steady_clock;
     constexpr double sample = 0.002; ///< long enough for the clock
     const auto timed = [](const std::function<void()>& work, int calls) {
-        const auto start = Clock::now();
+        const double start = processorTime();
         for (int i = 0; i < calls; ++i)
             work();
-        return std::chrono::duration<double>(Clock::now() - start).count();
+        return processorTime() - start;
     };
     std::vector<int> calls;
     std::vector<double> best;
@@ -33,12 +39,11 @@ inline std::vector<double> race(const std::vector<std::function<void()>>& works,
         calls.push_back(count);
         best.push_back(timed(work, count) / count);
     }
-    const auto end =
-        Clock::now() + std::chrono::duration<double>(seconds * static_cast<double>(works.size()));
+    const double end = processorTime() + seconds * static_cast<double>(works.size());
     do {
         for (std::size_t i = 0; i < works.size(); ++i)
             best[i] = std::min(best[i], timed(works[i], calls[i]) / calls[i]);
-    } while (Clock::now() < end);
+    } while (processorTime() < end);
     return best;
 }
 

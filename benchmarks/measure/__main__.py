@@ -9,9 +9,7 @@ import time
 from pathlib import Path
 
 from . import peers, table
-from .program import Bench, best
-
-PARSERS = ["lrc-kit@1.2.1", "clrc@3.1.4"]
+from .program import Bench
 
 
 def machine():
@@ -24,42 +22,10 @@ def machine():
             "loadBefore": os.getloadavg()[0], "date": time.strftime("%Y-%m-%d")}
 
 
-class Lyrics:
-    """The parser and the search for the active line."""
-
-    def __init__(self, build):
-        self.program = f"{build}/benchmarks/lyrics/lyrics_benchmark"
-        self.looks = []
-
-    def run(self, *arguments):
-        return json.loads(subprocess.run([self.program, *arguments], check=True,
-                                         stdout=subprocess.PIPE).stdout)
-
-    def growth(self):
-        """The best of this look and those before: how much memory gives changes in minutes with
-        what the machine's host does beside, so there is one now and then in the run."""
-        self.looks.append(self.run("--growth"))
-        return [{"name": family[0]["name"]} | best([
-            {key: seconds for key, seconds in look.items() if key != "name"} for look in family])
-            for family in zip(*self.looks)]
-
-
-def npm(build, folder):
-    """The parsers from the npm registry, if there is a node to run them."""
-    texts = folder / "texts"
-    texts.mkdir(parents=True, exist_ok=True)
-    try:
-        (folder / "package.json").write_text('{"private": true}')
-        subprocess.run(["npm", "install", "--silent", "--no-audit", "--no-fund", *PARSERS],
-                       cwd=folder, check=True, stderr=subprocess.DEVNULL)
-        subprocess.run([f"{build}/benchmarks/lyrics/lyrics_benchmark", "--texts", texts], check=True)
-        answer = subprocess.run(
-            ["node", Path(__file__).parent.parent / "lyrics/npm.js", folder,
-             *sorted(texts.glob("*.lrc"))], check=True, capture_output=True, text=True)
-        return json.loads(answer.stdout)
-    except (OSError, subprocess.CalledProcessError) as problem:
-        print(f"bench: the npm parsers are not measured: {problem}", file=sys.stderr)
-        return None
+def lyrics(build):
+    """The parser of lyrics."""
+    return json.loads(subprocess.run([f"{build}/benchmarks/lyrics/lyrics_benchmark"], check=True,
+                                     stdout=subprocess.PIPE).stdout)
 
 
 def main(build, folder, quick):
@@ -67,20 +33,15 @@ def main(build, folder, quick):
     folder.mkdir(parents=True, exist_ok=True)
     bench = Bench(build, quick)
     results = {"machine": machine(), "quick": quick}
-    lyrics = Lyrics(build)
     steps = [
-        ("lyrics", lyrics.run),
-        ("growth", lyrics.growth),
-        ("npm", lambda: npm(build, folder / "npm")),
+        ("lyrics", lambda: lyrics(build)),
         ("start", bench.start),
         ("sideBySide", bench.side_by_side),
-        ("growth", lyrics.growth),
         ("osdlyrics", lambda: peers.osdlyrics(bench.programs, bench.seconds, folder)),
         ("memory", bench.memory),
         ("frames", bench.frames),
         ("instructions", bench.instructions),
         ("lateness", bench.lateness),
-        ("growth", lyrics.growth),
     ]
     for name, step in steps:
         print(f"bench: {name}…", file=sys.stderr, flush=True)

@@ -1,55 +1,25 @@
 #include "foundation/UUID.h"
 
-#include <bit>
+#include "foundation/FatalError.h"
+
 #include <cstdio>
-#include <random>
+#include <sys/random.h>
 
 namespace brellowind {
 namespace {
 
-/// The xoshiro256++ generator: its numbers are as good as random for telling things apart, and take
-/// a nanosecond each.
-class Generator {
-public:
-    std::uint64_t next() {
-        const std::uint64_t number = std::rotl(state_[0] + state_[3], 23) + state_[0];
-        const std::uint64_t shifted = state_[1] << 17;
-        state_[2] ^= state_[0];
-        state_[3] ^= state_[1];
-        state_[1] ^= state_[2];
-        state_[0] ^= state_[3];
-        state_[2] ^= shifted;
-        state_[3] = std::rotl(state_[3], 45);
-        return number;
-    }
-
-    bool isSeeded() const { return state_ != std::array<std::uint64_t, 4>{}; }
-
-    void seed() {
-        std::random_device device;
-        for (auto& word : state_)
-            word = std::uint64_t{device()} << 32 | device();
-        state_[0] |= 1; // all zero is the one state that it never leaves
-    }
-
-private:
-    std::array<std::uint64_t, 4> state_{};
-};
-
-constinit thread_local Generator generator; // seeded with its first use
+std::uint64_t splitMix64(std::uint64_t& state) {
+    state += 0x9E37'79B9'7F4A'7C15;
+    std::uint64_t mixed = state;
+    mixed = (mixed ^ (mixed >> 30)) * 0xBF58'476D'1CE4'E5B9;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94D0'49BB'1331'11EB;
+    return mixed ^ (mixed >> 31);
+}
 
 } // namespace
 
 UUID UUID::random() {
-    constexpr std::uint64_t version4 = 0x4000;
-    constexpr std::uint64_t rfcVariant = 0x8000'0000'0000'0000;
-    auto& numbers = generator;
-    if (!numbers.isSeeded())
-        numbers.seed();
-    const std::uint64_t high = numbers.next();
-    const std::uint64_t low = numbers.next();
-    return {{(high & ~std::uint64_t{0xF000}) | version4,
-             (low & ~std::uint64_t{0xC000'0000'0000'0000}) | rfcVariant}};
+    return UUIDGenerator().next();
 }
 
 std::string UUID::string() const {
@@ -59,6 +29,20 @@ std::string UUID::string() const {
     std::snprintf(text.data(), text.size(), "%08llX-%04llX-%04llX-%04llX-%012llX", high >> 32,
                   (high >> 16) & 0xFFFF, high & 0xFFFF, low >> 48, low & 0xFFFF'FFFF'FFFF);
     return text.data();
+}
+
+UUIDGenerator::UUIDGenerator() {
+    if (getentropy(state_.data(), sizeof state_) != 0)
+        fatalError("the system has no random numbers");
+}
+
+UUID UUIDGenerator::next() {
+    constexpr std::uint64_t version4 = 0x4000;
+    constexpr std::uint64_t rfcVariant = 0x8000'0000'0000'0000;
+    const std::uint64_t high = splitMix64(state_[0]);
+    const std::uint64_t low = splitMix64(state_[1]);
+    return {{(high & ~std::uint64_t{0xF000}) | version4,
+             (low & ~std::uint64_t{0xC000'0000'0000'0000}) | rfcVariant}};
 }
 
 } // namespace brellowind

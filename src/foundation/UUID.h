@@ -10,13 +10,27 @@ namespace brellowind {
 struct UUID {
     std::array<std::uint64_t, 2> words{}; ///< most significant word first
 
-    /// A fresh random (version 4) identifier. Cheap: no system call after the first one.
+    /// A fresh random (version 4) identifier. Takes a system call.
     static UUID random();
 
     /// The usual form of 36 characters, with upper-case hexadecimal digits.
     std::string string() const;
 
     bool operator==(const UUID&) const = default;
+};
+
+/// Draws many random (version 4) identifiers with one system call, when it is made.
+///
+/// The generator is SplitMix64, once for each half. The standard library has none with a seed of
+/// this size that is made quickly: making std::mt19937_64 takes longer than parsing a song.
+class UUIDGenerator {
+public:
+    UUIDGenerator();
+
+    UUID next();
+
+private:
+    std::array<std::uint64_t, 2> state_{};
 };
 
 } // namespace brellowind

@@ -18,7 +18,7 @@ char32_t character(UChar32 decoded) {
 
 } // namespace
 
-char32_t takeFirst(std::string_view& text) {
+char32_t takeFirstMultibyte(std::string_view& text) {
     const auto reach = static_cast<std::int32_t>(std::min(text.size(), longestCharacter));
     std::int32_t position = 0;
     UChar32 decoded;
@@ -27,7 +27,7 @@ char32_t takeFirst(std::string_view& text) {
     return character(decoded);
 }
 
-char32_t takeLast(std::string_view& text) {
+char32_t takeLastMultibyte(std::string_view& text) {
     const auto reach = text.substr(text.size() - std::min(text.size(), longestCharacter));
     auto position = static_cast<std::int32_t>(reach.size());
     UChar32 decoded;

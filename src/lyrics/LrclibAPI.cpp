@@ -3,50 +3,16 @@
 #include "foundation/FatalError.h"
 #include "foundation/Utf8.h"
 #include "lyrics/LRCParser.h"
+#include "lyrics/LrclibResponse.h"
 
 #include <cmath>
 #include <cstdint>
-#include <nlohmann/json.hpp>
 #include <utility>
 
 namespace brellowind::LrclibAPI {
 namespace {
 
 constexpr int notFoundStatus = 404;
-
-struct Response {
-    std::optional<std::string> syncedLyrics;
-    std::optional<std::string> plainLyrics;
-};
-
-/// False when the key is there and holds neither a string nor null.
-bool readText(nlohmann::json& object, const char* key, std::optional<std::string>& text) {
-    const auto value = object.find(key);
-    if (value == object.end() || value->is_null())
-        return true;
-    if (!value->is_string())
-        return false;
-    text = std::move(value->get_ref<std::string&>());
-    return true;
-}
-
-/// What is kept of an answer while it is parsed: the two texts. To build and free a tree of all
-/// else could keep the main loop for longer than a frame may take.
-bool isLookedFor(int depth, nlohmann::json::parse_event_t event, const nlohmann::json& parsed) {
-    using Event = nlohmann::json::parse_event_t;
-    if (event == Event::key)
-        return depth == 1 && (parsed == "syncedLyrics" || parsed == "plainLyrics");
-    return event != Event::array_start && depth <= 1;
-}
-
-std::optional<Response> decode(std::string_view body) {
-    auto object = nlohmann::json::parse(body, isLookedFor, /*allow_exceptions=*/false);
-    Response response;
-    if (!object.is_object() || !readText(object, "syncedLyrics", response.syncedLyrics) ||
-        !readText(object, "plainLyrics", response.plainLyrics))
-        return std::nullopt;
-    return response;
-}
 
 /// Appends `value` so that any decoder of URL queries or forms reads the same bytes back: all but
 /// the unreserved characters become percent escapes.
@@ -112,16 +78,17 @@ std::optional<std::string> requestURL(std::string_view origin, const Track& trac
 LyricsState interpret(int status, std::string_view body) {
     if (status == notFoundStatus)
         return LyricsState::notFound();
-    auto response = decode(body); // of any other status: an error may answer with an object, too
+    // Of any other status: an error may answer with an object, too.
+    auto response = LrclibResponse::decode(body);
     if (!response)
         return LyricsState::failed();
     auto& [synced, plain] = *response;
-    if (synced && !synced->empty()) {
-        auto lines = LRCParser::parse(std::move(*synced));
+    if (!synced.empty()) {
+        auto lines = LRCParser::parse(std::move(synced));
         return lines.empty() ? LyricsState::notFound() : LyricsState::loaded(std::move(lines));
     }
-    if (plain && !plain->empty())
-        return LyricsState::plain(std::move(*plain));
+    if (!plain.empty())
+        return LyricsState::plain(std::move(plain));
     return LyricsState::notFound();
 }
 

@@ -3,8 +3,9 @@
 #include "foundation/SharedText.h"
 #include "foundation/UUID.h"
 
+#include <memory>
+#include <string>
 #include <string_view>
-#include <utility>
 
 namespace brellowind {
 
@@ -12,9 +13,13 @@ namespace brellowind {
 ///
 /// Equality includes `id`: a line equals only itself and its copies.
 struct LyricLine {
-    LyricLine(double time_, std::string_view text_) : LyricLine(time_, SharedText(text_)) {}
-    LyricLine(double time_, SharedText text_)
-        : id(UUID::random()), time(time_), text(std::move(text_)) {}
+    LyricLine(double time_, std::string_view text_)
+        : id(UUID::random()), time(time_), text(text_) {}
+
+    /// One of many lines of `whole`; `words` must lie inside it, and `freshID` belong to no other.
+    LyricLine(UUID freshID, double time_, const std::shared_ptr<const std::string>& whole,
+              std::string_view words)
+        : id(freshID), time(time_), text(whole, words) {}
 
     bool operator==(const LyricLine&) const = default;
 

@@ -1,9 +1,0 @@
-#include "foundation/SharedText.h"
-
-namespace brellowind {
-
-void SharedBytes::release() {
-    delete block_;
-}
-
-} // namespace brellowind

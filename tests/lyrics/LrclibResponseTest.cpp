@@ -1,0 +1,132 @@
+#include "lyrics/LrclibResponse.h"
+#include "lyrics/WholeResponse.h"
+
+#include <gtest/gtest.h>
+#include <random>
+#include <string>
+
+// The decoder keeps only the two texts while it reads. Here it is held against one that reads the
+// whole body into a tree, with bodies made to be hard.
+
+namespace brellowind {
+namespace {
+
+using namespace std::string_literals;
+
+/// Makes objects with the two keys among others, and breaks some of them.
+class Generator {
+public:
+    std::string body() {
+        auto made = below(12) ? object(0) : value(0);
+        if (below(4) == 0)
+            damage(made);
+        return made;
+    }
+
+private:
+    int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+
+    template <std::size_t N>
+    std::string oneOf(const char* const (&choices)[N]) {
+        return choices[below(static_cast<int>(N))];
+    }
+
+    std::string object(int depth) {
+        std::string made = "{";
+        for (int members = below(5); members > 0; --members)
+            made += (made.size() > 1 ? "," : "") + oneOf(keys) + oneOf(colons) + value(depth + 1);
+        return made + "}";
+    }
+
+    std::string array(int depth) {
+        std::string made = "[";
+        for (int values = below(4); values > 0; --values)
+            made += (made.size() > 1 ? "," : "") + value(depth + 1);
+        return made + "]";
+    }
+
+    std::string value(int depth) {
+        switch (depth < 5 ? below(10) : 2 + below(8)) {
+        case 0:
+            return object(depth);
+        case 1:
+            return array(depth);
+        case 2:
+            return oneOf(others);
+        case 3:
+        case 4:
+            return "null";
+        default:
+            return oneOf(texts);
+        }
+    }
+
+    void damage(std::string& text) {
+        const auto at = static_cast<std::size_t>(below(static_cast<int>(text.size())));
+        switch (below(4)) {
+        case 0:
+            text.erase(at, 1);
+            break;
+        case 1:
+            text.resize(at);
+            break;
+        case 2:
+            text.insert(at, 1, '\0');
+            break;
+        default:
+            text.insert(at, oneOf(spoilers));
+        }
+    }
+
+    static constexpr const char* keys[] = {R"("syncedLyrics")",
+                                           R"("plainLyrics")",
+                                           R"("syncedLyrics")",
+                                           R"("plainLyrics")",
+                                           R"("x")",
+                                           R"("")",
+                                           R"("PlainLyrics")",
+                                           R"("pl\u0061inLyrics")"};
+    static constexpr const char* colons[] = {":", ":", ": ", " :\n"};
+    static constexpr const char* texts[] = {R"("words")", R"("")", R"("[00:01.00]a\nb")",
+                                            R"("\u0000 \ud83c\udfb5 \"{[")", "\"é🎵\""};
+    static constexpr const char* others[] = {"true", "false",  "0",  "-7",
+                                             "1.5",  "[1e-9]", "{}", "12345678901234567890123"};
+    // No "e": a number that no double holds is refused by the reading of the whole body.
+    static constexpr const char* spoilers[] = {
+        "{",    "}",  "[",    "]",    "\"", ",", ":",    "x", "1",       " ",
+        "\xC3", "\\", "null", "\x01", "-",  ".", "/**/", "0", "\\ud83c", "\xEF\xBB\xBF"};
+
+    std::mt19937 random_{20240229};
+};
+
+TEST(LrclibResponse, IsWhatTheWholeBodySays) {
+    Generator generator;
+    int decoded = 0;
+    int withTexts = 0;
+    constexpr int bodies = 200'000;
+    for (int i = 0; i < bodies; ++i) {
+        const auto body = generator.body();
+        const auto response = LrclibResponse::decode(body);
+        ASSERT_EQ(response, test::decodeWhole(body)) << "body " << i << ": " << body;
+        decoded += response ? 1 : 0;
+        withTexts += response && *response != LrclibResponse() ? 1 : 0;
+    }
+    // All bodies would be alike if none or all could be decoded.
+    EXPECT_GT(decoded, bodies / 4);
+    EXPECT_GT(bodies - decoded, bodies / 4);
+    EXPECT_GT(withTexts, bodies / 10);
+}
+
+TEST(LrclibResponse, TakesNumbersThatNoDoubleHolds) {
+    for (const auto& number : {"1e999"s, "-1e999"s, "1e-999"s, "1" + std::string(400, '0')}) {
+        EXPECT_EQ(LrclibResponse::decode(R"({"plainLyrics":"a","x":[)" + number + "]}"),
+                  (LrclibResponse{"", "a"}))
+            << number;
+        EXPECT_EQ(LrclibResponse::decode(R"({"plainLyrics":)" + number + "}"), std::nullopt);
+        EXPECT_EQ(LrclibResponse::decode(number), std::nullopt);
+    }
+}
+
+} // namespace
+
+} // namespace brellowind
