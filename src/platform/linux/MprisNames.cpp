@@ -1,6 +1,5 @@
 #include "platform/linux/MprisNames.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace brellowind::platform {

@@ -2,7 +2,11 @@
 
 #include "platform/Operation.h"
 
+#include <cstddef>
+#include <iterator>
+#include <string_view>
 #include <utility>
+#include <variant>
 
 namespace brellowind::platform {
 namespace {
@@ -20,7 +24,7 @@ Task<bool> nextChange(Observers& changes, MainLoop& mainLoop) {
     co_return co_await change;
 }
 
-/// The reply to `call`, absent when the task was cancelled.
+/// The reply to `call`, an error if there is none in time. Absent when the task was cancelled.
 Task<std::optional<QDBusMessage>> replyTo(QDBusConnection bus, QDBusMessage call,
                                           MainLoop& mainLoop) {
     using Reply = Operation<BusCall, std::optional<QDBusMessage>>;
@@ -28,7 +32,7 @@ Task<std::optional<QDBusMessage>> replyTo(QDBusConnection bus, QDBusMessage call
         mainLoop,
         [&](Reply::Finish finish) {
             return std::make_unique<BusCall>(
-                bus, call, int(MprisProxy::patience.count()),
+                bus, call, static_cast<int>(MprisProxy::patience.count()),
                 [finish = std::move(finish)](const QDBusMessage& message) { finish(message); });
         },
         std::nullopt);
@@ -124,7 +128,8 @@ std::optional<Player::Answer> MprisPlayer::answer() {
     if (!choice)
         return std::nullopt;
     if (const auto* index = std::get_if<std::size_t>(&*choice)) {
-        const auto& [name, proxy] = *std::next(proxies_.begin(), std::ptrdiff_t(*index));
+        const auto& [name, proxy] =
+            *std::next(proxies_.begin(), static_cast<std::ptrdiff_t>(*index));
         shown_ = name;
         return proxy.snapshot();
     }

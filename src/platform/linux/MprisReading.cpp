@@ -165,7 +165,7 @@ std::string limited(const QString& text) {
 
 /// Cover locations of one form answer "not found" where the image host answers with the image.
 std::optional<std::string> artworkURL(const QString& location) {
-    if (location.isEmpty() || location.size() > qsizetype(longestMprisText))
+    if (location.isEmpty() || location.size() > static_cast<qsizetype>(longestMprisText))
         return std::nullopt;
     std::string url = location.toStdString();
     if (url.size() > longestMprisText)
