@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 class SettingsWindowTest : public SettingsFixture {
 protected:
-    static void choose(SettingsTab tab) { parts.router.setSelectedTab(tab); }
+    void choose(SettingsTab tab) { parts.router.setSelectedTab(tab); }
 };
 
 TEST_F(SettingsWindowTest, IsNotThereBeforeItIsOpened) {
@@ -194,7 +194,7 @@ TEST_F(SettingsWindowTest, CanBeOpenedAgainInTheTurnInWhichItClosed) {
 TEST_F(SettingsWindowTest, GoesWithItsOwnerWhileOpen) {
     QPointer<QQuickWindow> view;
     {
-        SettingsWindow owned;
+        SettingsWindow owned(parts.services());
         owned.open();
         turn();
         view = owned.window();

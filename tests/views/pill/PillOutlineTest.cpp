@@ -24,7 +24,7 @@ protected:
     }
 
     Point pillsCorner() const {
-        const QPointF corner = pill()->mapToScene(QPointF(0, 0));
+        const QPointF corner = pill()->transform().map(QPointF(0, 0));
         return {corner.x(), corner.y()};
     }
 };
@@ -34,7 +34,7 @@ TEST_F(PillOutline, IsThatOfThePill) {
     const auto last = windowSystem.overlay->outline.elements().size() - 2; // before it is closed
     const auto end =
         std::get<Path::QuadCurve>(windowSystem.overlay->outline.elements().at(last)).to;
-    const QPointF topRight = pill()->mapToScene(pill()->boundingRect().topRight());
+    const QPointF topRight = pill()->transform().map(pill()->boundingRect().topRight());
     EXPECT_EQ(end, (Point{topRight.x(), topRight.y()}));
 }
 
