@@ -1,20 +1,21 @@
-#include "app/FakeSettings.h"
-
 #include "settings/SettingsOpener.h"
 
 namespace {
 
-using brellowind::test::settingsCounts;
-
+/// Writes what happens to it to the log.
 class FakeSettings : public brellowind::SettingsOpener {
 public:
-    FakeSettings() { ++settingsCounts.made; }
-    ~FakeSettings() override { ++settingsCounts.gone; }
-    void open() override { ++settingsCounts.opened; }
+    explicit FakeSettings(brellowind::platform::Log& log) : log_(log) { log_.write("made"); }
+    ~FakeSettings() override { log_.write("gone"); }
+    void open() override { log_.write("opened"); }
+
+private:
+    brellowind::platform::Log& log_;
 };
 
 } // namespace
 
-extern "C" brellowind::SettingsOpener* brellowindMakeSettingsOpener() {
-    return new FakeSettings;
+extern "C" brellowind::SettingsOpener*
+brellowindMakeSettingsOpener(const brellowind::SettingsServices& services) {
+    return new FakeSettings(services.log);
 }

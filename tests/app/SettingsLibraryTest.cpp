@@ -1,6 +1,6 @@
 #include "app/SettingsLibrary.h"
 
-#include "app/FakeSettings.h"
+#include "support/SettingsParts.h"
 
 #include <filesystem>
 #include <fstream>
@@ -10,24 +10,18 @@
 #include <string>
 
 namespace brellowind {
-
-test::SettingsCounts test::settingsCounts{};
-
 namespace {
 
 namespace fs = std::filesystem;
-using test::SettingsCounts;
-using test::settingsCounts;
 using testing::AllOf;
+using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::StartsWith;
 
 class SettingsLibraryTest : public testing::Test {
 protected:
-    SettingsLibraryTest() {
-        settingsCounts = {};
-        fs::create_directory(folder_);
-    }
+    SettingsLibraryTest() { fs::create_directory(folder_); }
     ~SettingsLibraryTest() override { fs::remove_all(folder_); }
 
     std::string file(const char* name) const { return folder_ / name; }
@@ -38,58 +32,62 @@ protected:
         return file(name);
     }
 
-    /// What opening says on standard error.
-    static std::string complaint(SettingsLibrary& library) {
-        testing::internal::CaptureStderr();
-        library.open();
-        return testing::internal::GetCapturedStderr();
-    }
+    /// What the library and the window in it have written to the log.
+    std::vector<std::string>& log() { return machine_.log.lines; }
+
+    SettingsServices services() { return parts_.services(); }
 
 private:
     fs::path folder_ =
         fs::path(testing::TempDir()) / ("settings-" + std::to_string(std::random_device()()));
+    test::TestMachine machine_;
+    test::SettingsParts parts_{machine_};
 };
 
 TEST_F(SettingsLibraryTest, IsNotLoadedBeforeItIsOpened) {
-    { const SettingsLibrary library(copy("a.so")); }
-    EXPECT_EQ(settingsCounts, SettingsCounts());
+    { const SettingsLibrary library(copy("a.so"), services()); }
+    EXPECT_THAT(log(), IsEmpty());
 }
 
 TEST_F(SettingsLibraryTest, MakesOneWindowAndOpensItEachTime) {
     {
-        SettingsLibrary library(copy("b.so"));
-        EXPECT_EQ(complaint(library), "");
+        SettingsLibrary library(copy("b.so"), services());
         library.open();
-        EXPECT_EQ(settingsCounts, (SettingsCounts{1, 2, 0}));
+        library.open();
+        EXPECT_THAT(log(), ElementsAre("made", "opened", "opened"));
     }
-    EXPECT_EQ(settingsCounts, (SettingsCounts{1, 2, 1}));
+    EXPECT_EQ(log().back(), "gone");
 }
 
 TEST_F(SettingsLibraryTest, OpensWhatWasThereWhenTheProgramStarted) {
-    SettingsLibrary library(copy("c.so"));
+    SettingsLibrary library(copy("c.so"), services());
     fs::rename(file("c.so"), file("old"));
     std::ofstream(file("c.so")) << "of another version";
     fs::remove(file("old"));
-    EXPECT_EQ(complaint(library), "");
-    EXPECT_EQ(settingsCounts.opened, 1);
+    library.open();
+    EXPECT_THAT(log(), ElementsAre("made", "opened"));
 }
 
 TEST_F(SettingsLibraryTest, SaysThatItIsMissing) {
-    SettingsLibrary library(file("missing.so"));
-    EXPECT_THAT(complaint(library), AllOf(StartsWith("brellowind: the settings cannot be opened: "),
-                                          HasSubstr("missing.so")));
-    EXPECT_NE(complaint(library), "") << "each time";
+    SettingsLibrary library(file("missing.so"), services());
+    library.open();
+    library.open();
+    const auto complaint =
+        AllOf(StartsWith("brellowind: the settings cannot be opened: "), HasSubstr("missing.so"));
+    EXPECT_THAT(log(), ElementsAre(complaint, complaint)) << "each time";
 }
 
 TEST_F(SettingsLibraryTest, SaysThatItIsNoLibrary) {
     std::ofstream(file("text.so")) << "no library at all";
-    SettingsLibrary library(file("text.so"));
-    EXPECT_THAT(complaint(library), StartsWith("brellowind: the settings cannot be opened: "));
+    SettingsLibrary library(file("text.so"), services());
+    library.open();
+    EXPECT_THAT(log(), ElementsAre(StartsWith("brellowind: the settings cannot be opened: ")));
 }
 
 TEST_F(SettingsLibraryTest, SaysThatItIsAnotherLibrary) {
-    SettingsLibrary library("/proc/self/exe");
-    EXPECT_THAT(complaint(library), StartsWith("brellowind: the settings cannot be opened: "));
+    SettingsLibrary library("/proc/self/exe", services());
+    library.open();
+    EXPECT_THAT(log(), ElementsAre(StartsWith("brellowind: the settings cannot be opened: ")));
 }
 
 } // namespace

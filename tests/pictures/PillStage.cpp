@@ -1,6 +1,5 @@
 #include "pictures/PillStage.h"
 
-#include "app/BrellowindApp.h"
 #include "backdrop/Desktop.h"
 #include "service/DemoSong.h"
 #include "views/drawing/WaveformGlyph.h"
@@ -59,7 +58,7 @@ QImage grabbed(SceneWindow& window) {
 void prepareForPictures() {
     qputenv("FONTCONFIG_FILE", BRELLOWIND_PICTURE_FONTS);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    BrellowindApp::prepare();
+    QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
 PillStage::PillStage() {
