@@ -1,6 +1,7 @@
 #include "platform/linux/x11/X11Overlay.h"
 
 #include "platform/linux/screens/QtScreens.h"
+#include "platform/linux/x11/OutlineRegion.h"
 
 #include <QPlatformSurfaceEvent>
 #include <QSurfaceFormat>
@@ -96,9 +97,11 @@ void X11Overlay::forbidShadow() {
 void X11Overlay::updateShape() {
     if (!native_)
         return;
-    const auto region = outlineRegion(outline_, window_.devicePixelRatio());
-    native_->shape.setBounding(compositingManager_.isRunning() ? std::nullopt
-                                                               : std::optional(region));
+    const bool isBounded = !compositingManager_.isRunning();
+    const QRegion region = isBounded || !ignoresMouseEvents_
+                               ? outlineRegion(outline_, window_.devicePixelRatio())
+                               : QRegion();
+    native_->shape.setBounding(isBounded ? std::optional(region) : std::nullopt);
     native_->shape.setInput(ignoresMouseEvents_ ? QRegion() : region);
 }
 
