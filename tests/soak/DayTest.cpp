@@ -70,7 +70,6 @@ public:
         view_.movePointer(View::elsewhere);
         view_.advance(2s);
         forget(view_.machine.http.requests);
-        forget(view_.machine.scripting.executed);
         forget(view_.machine.log.lines);
         forget(view_.machine.loginItem.attempts);
         forget(view_.window.calls);
@@ -191,7 +190,7 @@ private:
             settings_.reset();
             checks_.cancel();
         } else {
-            settings_.emplace();
+            settings_.emplace(view_.parts.services());
             checks_ = view_.parts.updater->state.observe([this] { ++redraws; });
             settings_->appear();
             settings_->setLaunchAtLogin(chance_.onceIn(2));
