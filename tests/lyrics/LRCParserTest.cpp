@@ -138,6 +138,7 @@ TEST(LRCParser, SortsByTime) {
     EXPECT_EQ(parsed("[00:20.00]b\n[00:10.00]a"), (Lines{{10, "a"}, {20, "b"}}));
     EXPECT_EQ(parsed("[00:30.00][00:10.00]x\n[00:20.00]y"),
               (Lines{{10, "x"}, {20, "y"}, {30, "x"}}));
+    EXPECT_EQ(parsed("[00:10.002]b\n[00:10.001]a"), (Lines{{10.001, "a"}, {10.002, "b"}}));
 }
 
 TEST(LRCParser, LinesOfEqualTimeKeepTheirOrder) {
