@@ -36,7 +36,9 @@ public:
 } // namespace
 
 std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv) {
-    if (!isX11DisplayThere()) {
+    // Held until Qt has connected: some servers reset themselves when their only client goes.
+    const auto display = openX11Display();
+    if (!display) {
         std::fputs("brellowind: there is no X display to show the pill on\n", stderr);
         return nullptr;
     }

@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <string_view>
-#include <xcb/xcb.h>
 
 namespace brellowind::platform {
 namespace {
@@ -24,11 +23,11 @@ std::string x11DisplayName(const char* spelling) {
     return (host == "unix" ? std::string() : host) + ':' + std::to_string(number);
 }
 
-bool isX11DisplayThere() {
-    auto* connection = xcb_connect(nullptr, nullptr);
-    const bool there = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return there;
+std::unique_ptr<xcb_connection_t, X11Disconnect> openX11Display() {
+    std::unique_ptr<xcb_connection_t, X11Disconnect> connection(xcb_connect(nullptr, nullptr));
+    if (xcb_connection_has_error(connection.get()) != 0)
+        connection.reset();
+    return connection;
 }
 
 } // namespace brellowind::platform

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <xcb/xcb.h>
 
 namespace brellowind::platform {
 
@@ -9,7 +11,12 @@ namespace brellowind::platform {
 /// for the variable's value.
 std::string x11DisplayName(const char* spelling = nullptr);
 
-/// Whether the X server that DISPLAY leads to lets this program in. Waits for its answer.
-bool isX11DisplayThere();
+struct X11Disconnect {
+    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+};
+
+/// A connection to the X server that DISPLAY leads to; null when there is none or it refuses this
+/// program. Waits for the server's answer.
+std::unique_ptr<xcb_connection_t, X11Disconnect> openX11Display();
 
 } // namespace brellowind::platform
