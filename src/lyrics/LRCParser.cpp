@@ -3,17 +3,18 @@
 #include "foundation/Utf8.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <unicode/uchar.h>
+#include <utility>
 
 namespace brellowind::LRCParser {
 namespace {
 
-/// A tag, with the words of its piece.
 struct Tag {
-    double time; ///< seconds
-    std::string_view words;
+    double time;       ///< seconds
+    std::size_t words; ///< the index of its words; small tags sort fast
 };
 
 /// Decimal digits of any script.
@@ -100,22 +101,22 @@ std::string_view takePiece(std::string_view& text) {
     return piece;
 }
 
-/// Appends the tags of `piece`. What follows the last of them are the words of all.
-void readPiece(std::string_view piece, std::vector<Tag>& tags) {
-    const auto first = tags.size();
-    std::string_view words;
+/// Appends the tags of `piece`, and what follows the last of them as the words of all.
+void readPiece(std::string_view piece, std::vector<Tag>& tags,
+               std::vector<std::string_view>& words) {
+    const auto before = tags.size();
+    std::string_view rest;
     for (auto open = piece.find('['); open != piece.npos; open = piece.find('[')) {
         piece.remove_prefix(open);
         if (const auto time = takeTag(piece)) {
-            tags.push_back({*time, {}});
-            words = piece;
+            tags.push_back({*time, words.size()});
+            rest = piece;
         } else {
             piece.remove_prefix(1);
         }
     }
-    words = trimmed(words);
-    for (auto i = first; i < tags.size(); ++i)
-        tags[i].words = words;
+    if (tags.size() > before)
+        words.push_back(trimmed(rest));
 }
 
 } // namespace
@@ -123,8 +124,9 @@ void readPiece(std::string_view piece, std::vector<Tag>& tags) {
 std::vector<LyricLine> parse(std::string text) {
     const auto whole = std::make_shared<const std::string>(std::move(text));
     std::vector<Tag> tags;
+    std::vector<std::string_view> words;
     for (std::string_view rest = *whole; !rest.empty();)
-        readPiece(takePiece(rest), tags);
+        readPiece(takePiece(rest), tags, words);
     if (!std::ranges::is_sorted(tags, {}, &Tag::time)) // nearly always they are
         std::ranges::stable_sort(tags, {}, &Tag::time);
 
@@ -132,7 +134,7 @@ std::vector<LyricLine> parse(std::string text) {
     lines.reserve(tags.size());
     UUIDGenerator ids;
     for (const auto& tag : tags)
-        lines.emplace_back(ids.next(), tag.time, whole, tag.words);
+        lines.emplace_back(ids.next(), tag.time, whole, words[tag.words]);
     return lines;
 }
 
