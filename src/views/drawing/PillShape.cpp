@@ -1,8 +1,8 @@
 #include "views/drawing/PillShape.h"
 
 #include "notch/NotchShape.h"
+#include "platform/qt/PainterPath.h"
 #include "views/drawing/Blur.h"
-#include "views/drawing/PainterPaths.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -10,6 +10,8 @@
 
 namespace brellowind {
 namespace {
+
+using platform::painterPath;
 
 constexpr double topRadius = 8;
 constexpr double bottomRadius = 12;

@@ -1,8 +1,8 @@
-#include "views/drawing/PainterPaths.h"
+#include "platform/qt/PainterPath.h"
 
 #include <variant>
 
-namespace brellowind {
+namespace brellowind::platform {
 namespace {
 
 QPointF point(Point p) {
@@ -29,4 +29,4 @@ QPainterPath painterPath(const Path& path) {
     return drawer.path;
 }
 
-} // namespace brellowind
+} // namespace brellowind::platform

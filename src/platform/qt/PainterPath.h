@@ -4,8 +4,9 @@
 
 #include <QPainterPath>
 
-namespace brellowind {
+namespace brellowind::platform {
 
+/// `path` for Qt to draw.
 QPainterPath painterPath(const Path& path);
 
-} // namespace brellowind
+} // namespace brellowind::platform
