@@ -17,7 +17,8 @@ constexpr double strongestSigma = 120; ///< the sums of its filters just fit int
 using Widths = std::array<std::size_t, 3>;
 
 /// So many boxes have the lower width that all variances add up to that of the Gaussian.
-Widths boxWidths(double sigma) {
+Widths boxWidths(double unlimitedSigma) {
+    const double sigma = std::min(unlimitedSigma, strongestSigma);
     const double variance = 12 * sigma * sigma;
     const double ideal = std::sqrt(variance / 3 + 1);
     const auto lower = static_cast<std::size_t>((ideal - 1) / 2) * 2 + 1;
@@ -46,10 +47,14 @@ void addUp(std::vector<std::uint32_t>& sums, std::size_t width) {
         sums[i] -= sums[i - width];
 }
 
+std::size_t radius(const Widths& widths) {
+    return widths[0] / 2 + widths[1] / 2 + widths[2] / 2;
+}
+
 /// `sums` is room to work in.
 void blurLine(const Line& line, const Widths& widths, std::vector<std::uint32_t>& sums) {
     // Each filter moves what it adds up by half of its width.
-    const std::size_t shift = widths[0] / 2 + widths[1] / 2 + widths[2] / 2;
+    const std::size_t shift = radius(widths);
     sums.assign(line.length + shift, 0);
     std::uint32_t ink = 0;
     for (std::size_t i = 0; i < line.length; ++i) {
@@ -70,7 +75,7 @@ void blurLine(const Line& line, const Widths& widths, std::vector<std::uint32_t>
 void blur(QImage& image, double sigma) {
     if (!(sigma > 0) || image.isNull())
         return;
-    const Widths widths = boxWidths(std::min(sigma, strongestSigma));
+    const Widths widths = boxWidths(sigma);
     const auto width = static_cast<std::size_t>(image.width());
     const auto height = static_cast<std::size_t>(image.height());
     const std::ptrdiff_t channels = image.depth() / 8;
@@ -85,6 +90,10 @@ void blur(QImage& image, double sigma) {
 
 double blurReach(double sigma) {
     return 3 * sigma;
+}
+
+int blurRadius(double sigma) {
+    return sigma > 0 ? static_cast<int>(radius(boxWidths(sigma))) : 0;
 }
 
 } // namespace brellowind

@@ -13,4 +13,7 @@ void blur(QImage& image, double sigma);
 /// How far from a point its blurred image reaches, in the unit of `sigma`.
 double blurReach(double sigma);
 
+/// How many pixels far `blur` carries anything. Two sigmas with equal radii blur alike.
+int blurRadius(double sigma);
+
 } // namespace brellowind

@@ -94,7 +94,7 @@ std::optional<double> TextLayer::advance(double now) {
     resting_ = resting_ || isAtRest(now);
     shown_ = resting_ ? presence_.target() : presence_.value(now);
     if (resting_) {
-        picture_ = QImage();
+        picture_ = blurred_ = QImage();
         return std::nullopt;
     }
     return presenceReach * presence_.speed(now);
@@ -153,19 +153,16 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     // rest.
     const QPointF corner(std::floor(left * ratio) / ratio, std::floor(line.top() * ratio) / ratio);
     const QRectF part(corner, QPointF(right, line.bottom()));
-    const double reach = std::max(0.0, blurReach(sigma()) - inkOverhang);
-    const int margin = static_cast<int>(std::ceil(reach * ratio));
-    const QImage& sharp = picture(part, color, ratio);
-    QImage image = sharp.copy(sharp.rect().adjusted(-margin, -margin, margin, margin));
-    blur(image, sigma() * ratio);
-    painter.drawImage(origin + part.topLeft() - QPointF(margin, margin) / ratio,
-                      image.depth() == 8 ? tinted(image, color) : image);
+    takePicture(part, color, ratio);
+    blurPicture(blurRadius(sigma() * ratio));
+    const QSizeF room = (blurred_.size() - picture_.size()) / 2 / ratio;
+    painter.drawImage(origin + part.topLeft() - QPointF(room.width(), room.height()), blurred_);
 }
 
-const QImage& TextLayer::picture(QRectF part, QColor color, double ratio) {
+void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
     if (!picture_.isNull() && pictured_ == part && picturedColor_ == color &&
         picture_.devicePixelRatio() == ratio)
-        return picture_;
+        return;
     const auto painted = [&](QColor in) {
         QImage image((part.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(ratio);
@@ -183,7 +180,20 @@ const QImage& TextLayer::picture(QRectF part, QColor color, double ratio) {
         picture_ = painted(color);
     pictured_ = part;
     picturedColor_ = color;
-    return picture_;
+    blurred_ = QImage();
+}
+
+/// In most frames of a motion the radius is that of the frame before, and nothing is blurred.
+void TextLayer::blurPicture(int radius) {
+    if (!blurred_.isNull() && radius == blurredRadius_)
+        return;
+    const double ratio = picture_.devicePixelRatio();
+    const int margin = std::max(0, radius - static_cast<int>(inkOverhang * ratio));
+    blurred_ = picture_.copy(picture_.rect().adjusted(-margin, -margin, margin, margin));
+    blur(blurred_, sigma() * ratio);
+    if (blurred_.depth() == 8)
+        blurred_ = tinted(blurred_, picturedColor_);
+    blurredRadius_ = radius;
 }
 
 } // namespace brellowind

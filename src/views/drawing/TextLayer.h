@@ -47,7 +47,8 @@ private:
     double sigma() const;
     void paintSharp(QPainter& painter, QColor color, QPointF origin) const;
     void paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen);
-    const QImage& picture(QRectF part, QColor color, double ratio);
+    void takePicture(QRectF part, QColor color, double ratio);
+    void blurPicture(int radius);
 
     QString text_;
     QTextLayout layout_;
@@ -58,6 +59,8 @@ private:
     QImage picture_;      ///< the part `pictured_` of the line, sharp; null while it rests
     QRectF pictured_;     ///< relative to the line's origin
     QColor picturedColor_;
+    QImage blurred_;        ///< `picture_` with room around it; null until it is drawn
+    int blurredRadius_ = 0; ///< of its blur, in pixels
 };
 
 } // namespace brellowind
