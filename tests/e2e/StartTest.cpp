@@ -67,7 +67,8 @@ class StartWithoutDisplay : public Start {
 protected:
     void endsWithOneLine() {
         EXPECT_EQ(start()->finish(), 1);
-        EXPECT_EQ(errors(), "brellowind: there is no X display to show the pill on\n");
+        EXPECT_EQ(errors(), "brellowind: there is neither a Wayland compositor with a layer shell nor an X "
+                            "display to show the pill on\n");
     }
 };
 

@@ -1,19 +1,27 @@
 #include "platform/linux/machine/SessionWindowSystem.h"
 
+#include "platform/linux/wayland/WaylandDisplay.h"
+#include "platform/linux/wayland/WaylandWindowSystem.h"
 #include "platform/linux/x11/X11Display.h"
 #include "platform/linux/x11/X11WindowSystem.h"
 
 #include <array>
 #include <cstdio>
+#include <qpa/qplatformintegrationfactory_p.h>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace brellowind::platform {
 namespace {
 
+const QLatin1String wayland("wayland"); ///< Qt's name of it
+
 /// The command line of a Qt application. Qt keeps references into it.
 class Arguments {
 protected:
-    Arguments(int argc, char** argv) : values_(argv, argv + argc) {
+    Arguments(int argc, char** argv, std::string platforms)
+        : values_(argv, argv + argc), platform_{"-platform", std::move(platforms)} {
         for (auto& option : platform_)
             values_.push_back(option.data());
         count_ = static_cast<int>(values_.size());
@@ -24,28 +32,35 @@ protected:
     std::vector<char*> values_;
 
 private:
-    std::array<std::string, 2> platform_{"-platform", "xcb"};
+    std::array<std::string, 2> platform_;
 };
 
 class Application final : private Arguments, public QGuiApplication {
 public:
-    Application(int argc, char** argv)
-        : Arguments(argc, argv), QGuiApplication(count_, values_.data()) {}
+    Application(int argc, char** argv, std::string platforms)
+        : Arguments(argc, argv, std::move(platforms)), QGuiApplication(count_, values_.data()) {}
 };
 
 } // namespace
 
 std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv) {
+    const bool hasWayland =
+        offersLayerShell() && QPlatformIntegrationFactory::keys().contains(wayland);
     // Held until Qt has connected: some servers reset themselves when their only client goes.
     const auto display = openX11Display();
-    if (!display) {
-        std::fputs("brellowind: there is no X display to show the pill on\n", stderr);
+    if (!hasWayland && !display) {
+        std::fputs("brellowind: there is neither a Wayland compositor with a layer shell nor an X "
+                   "display to show the pill on\n",
+                   stderr);
         return nullptr;
     }
-    return std::make_unique<Application>(argc, argv);
+    const char* platforms = !hasWayland ? "xcb" : display ? "wayland;xcb" : "wayland";
+    return std::make_unique<Application>(argc, argv, platforms);
 }
 
 std::unique_ptr<WindowSystem> makeWindowSystem(MainLoop& mainLoop, ScreenLock& screenLock) {
+    if (QGuiApplication::platformName() == wayland)
+        return std::make_unique<WaylandWindowSystem>(mainLoop);
     return std::make_unique<X11WindowSystem>(mainLoop, screenLock);
 }
 

@@ -1,7 +1,7 @@
 #include "platform/linux/x11/X11Overlay.h"
 
 #include "platform/linux/screens/QtScreens.h"
-#include "platform/linux/x11/OutlineRegion.h"
+#include "platform/qt/OutlineRegion.h"
 
 #include <QPlatformSurfaceEvent>
 #include <QSurfaceFormat>

@@ -1,4 +1,4 @@
-#include "platform/linux/x11/OutlineRegion.h"
+#include "platform/qt/OutlineRegion.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

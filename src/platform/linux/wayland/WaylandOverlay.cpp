@@ -1,0 +1,149 @@
+#include "platform/linux/wayland/WaylandOverlay.h"
+
+#include "platform/linux/screens/QtScreens.h"
+#include "platform/qt/OutlineRegion.h"
+
+#include <QMouseEvent>
+#include <QPlatformSurfaceEvent>
+#include <chrono>
+
+namespace brellowind::platform {
+namespace {
+
+constexpr int lowHeight = 128; ///< points, enough for everything but the artwork panel
+constexpr int glow = 48;       ///< points that a shadow may reach below the outline
+
+/// After which a surface that the compositor closed is shown again.
+constexpr std::chrono::seconds retryDelay{1};
+
+bool isFromTouch(const QEvent& event) {
+    const auto* device = static_cast<const QPointerEvent&>(event).device();
+    return device && device->type() == QInputDevice::DeviceType::TouchScreen;
+}
+
+} // namespace
+
+WaylandOverlay::WaylandOverlay(QWindow& window, const WaylandCompositor& compositor,
+                               WaylandPointer& pointer, MainLoop& mainLoop)
+    : window_(window), compositor_(compositor), pointer_(pointer), mainLoop_(mainLoop),
+      resize_(mainLoop.onNextTurn([this] { resize(); })) {
+    // With the hint Qt gives the surface no role.
+    window_.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
+                     Qt::BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus);
+    window_.installEventFilter(this);
+}
+
+WaylandOverlay::~WaylandOverlay() {
+    window_.removeEventFilter(this);
+    hide();
+}
+
+void WaylandOverlay::setFrame(const Rect& frame) {
+    const auto arrangement = ScreenArrangement::current();
+    const auto place = arrangement.coordinates.place(frame);
+    auto* screen = place ? arrangement.screens[static_cast<qsizetype>(place->screen)] : nullptr;
+    if (!screen || screen != screen_ || screen->devicePixelRatio() != ratio_)
+        hide();
+    screen_ = screen;
+    if (!screen)
+        return;
+    ratio_ = screen->devicePixelRatio();
+    desktopFrame_ = frame;
+    const Rect& logical = place->logical;
+    frame_ = QRectF(logical.x, logical.y, logical.width, logical.height).toRect();
+    if (layerSurface_)
+        resize();
+    else
+        show();
+}
+
+void WaylandOverlay::orderFrontRegardless() {
+    ordered_ = true;
+    show();
+}
+
+void WaylandOverlay::setOutline(const Path& outline) {
+    outline_ = outlineRegion(outline, 1);
+    if (!layerSurface_)
+        return;
+    setInputRegion();
+    if (geometry().size() != window_.size())
+        resize_->request(); // not while the frame with this outline is being drawn
+}
+
+bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::Close:
+        layerSurface_.reset();
+        break;
+    case QEvent::PlatformSurface:
+        if (static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
+            QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
+            layerSurface_.reset();
+        break;
+    case QEvent::Enter:
+    case QEvent::MouseMove:
+        if (!isFromTouch(*event)) {
+            const QPointF at = static_cast<QSinglePointEvent*>(event)->position();
+            pointer_.move(Point{desktopFrame_.x + at.x(), desktopFrame_.maxY() - at.y()});
+        }
+        break;
+    case QEvent::Leave:
+        pointer_.move(std::nullopt);
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/// Of the window: as high as what it shows needs.
+QRect WaylandOverlay::geometry() const {
+    const bool low = outline_.boundingRect().bottom() + glow <= lowHeight;
+    return {frame_.topLeft(),
+            QSize(frame_.width(), low ? std::min(lowHeight, frame_.height()) : frame_.height())};
+}
+
+void WaylandOverlay::show() {
+    if (!ordered_ || !screen_ || layerSurface_)
+        return;
+    retry_.reset();
+    window_.setScreen(screen_);
+    window_.setGeometry(geometry());
+    window_.create();
+    layerSurface_.emplace(compositor_, WaylandCompositor::surface(window_),
+                          WaylandCompositor::output(*screen_), geometry().size(),
+                          LayerSurface::Handlers{[this] { window_.show(); }, [this] { closed(); }});
+    setInputRegion();
+}
+
+/// The layer surface goes before the surface.
+void WaylandOverlay::hide() {
+    layerSurface_.reset();
+    window_.hide();
+    window_.destroy();
+    pointer_.move(std::nullopt);
+}
+
+void WaylandOverlay::closed() {
+    hide();
+    retry_ = mainLoop_.scheduleOnce(retryDelay, [this] { show(); });
+}
+
+void WaylandOverlay::resize() {
+    const QRect geometry = this->geometry();
+    if (!layerSurface_ || geometry == window_.geometry())
+        return;
+    layerSurface_->setSize(geometry.size());
+    window_.setGeometry(geometry);
+}
+
+/// Applied by the next frame.
+void WaylandOverlay::setInputRegion() {
+    const WaylandObject<wl_region> region(wl_compositor_create_region(compositor_.surfaces()));
+    for (const QRect& rect : outline_)
+        wl_region_add(region.get(), rect.x(), rect.y(), rect.width(), rect.height());
+    wl_surface_set_input_region(WaylandCompositor::surface(window_), region.get());
+}
+
+} // namespace brellowind::platform

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/MainLoop.h"
+#include "platform/Overlay.h"
+#include "platform/linux/wayland/LayerSurface.h"
+#include "platform/linux/wayland/WaylandPointer.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QScreen>
+#include <QWindow>
+#include <memory>
+#include <optional>
+
+namespace brellowind::platform {
+
+/// Makes a transparent window of Qt an overlay by a layer shell. It takes the pointer within its
+/// content's outline, always, and tells `pointer` where that is.
+///
+/// The surface is only as high as what it shows needs, which saves memory and the compositor's
+/// work. It is made anew on another screen or at another scale.
+class WaylandOverlay final : public QObject, public Overlay {
+public:
+    /// Sets the flags of `window`, whose native window does not exist yet. All outlive this.
+    WaylandOverlay(QWindow& window, const WaylandCompositor& compositor, WaylandPointer& pointer,
+                   MainLoop& mainLoop);
+    ~WaylandOverlay() override;
+
+    /// Without a screen it is hidden.
+    void setFrame(const Rect& frame) override;
+    void orderFrontRegardless() override;
+    void setOutline(const Path& outline) override;
+    void setIgnoresMouseEvents(bool /*ignores*/) override {}
+
+    /// Null while it is not shown.
+    LayerSurface* layerSurface() { return layerSurface_ ? &*layerSurface_ : nullptr; }
+
+    const QWindow& window() const { return window_; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QRect geometry() const;
+    void show();
+    void hide();
+    void closed();
+    void resize();
+    void setInputRegion();
+
+    QWindow& window_;
+    const WaylandCompositor& compositor_;
+    WaylandPointer& pointer_;
+    MainLoop& mainLoop_;
+    QPointer<QScreen> screen_; ///< that it belongs on
+    QRect frame_;              ///< in Qt's coordinates
+    Rect desktopFrame_;
+    QRegion outline_; ///< in points
+    bool ordered_ = false;
+    double ratio_ = 0; ///< pixels per point of `screen_` when it was placed
+    std::optional<LayerSurface> layerSurface_;
+    std::unique_ptr<NextTurn> resize_;
+    std::unique_ptr<Timer> retry_;
+};
+
+} // namespace brellowind::platform

@@ -1,0 +1,26 @@
+#include "platform/linux/wayland/WaylandWindowSystem.h"
+
+#include "platform/linux/wayland/WaylandDisplay.h"
+#include "platform/linux/wayland/WaylandOverlay.h"
+
+namespace brellowind::platform {
+
+WaylandWindowSystem::WaylandWindowSystem(MainLoop& mainLoop)
+    : mainLoop_(mainLoop), screens_(mainLoop) {}
+
+std::unique_ptr<Overlay> WaylandWindowSystem::makeOverlay(QWindow& window) {
+    auto overlay = std::make_unique<WaylandOverlay>(window, compositor_, pointer_, mainLoop_);
+    overlay_ = overlay.get();
+    return overlay;
+}
+
+void WaylandWindowSystem::popUp(const Popup& popup) {
+    if (auto* parent = overlay_->layerSurface())
+        popup_.show(popup, *parent);
+}
+
+std::string WaylandWindowSystem::sessionName() const {
+    return waylandSocketPath();
+}
+
+} // namespace brellowind::platform

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/MainLoop.h"
+#include "platform/WindowSystem.h"
+#include "platform/linux/screens/QtScreens.h"
+#include "platform/linux/wayland/WaylandCompositor.h"
+#include "platform/linux/wayland/WaylandPointer.h"
+#include "platform/linux/wayland/WaylandPopup.h"
+
+namespace brellowind::platform {
+
+class WaylandOverlay;
+
+/// The Wayland compositor that the Qt application shows its windows on.
+class WaylandWindowSystem final : public WindowSystem {
+public:
+    /// REQUIRES: a `QGuiApplication` on the platform "wayland", and a layer shell. `mainLoop`
+    /// outlives this.
+    explicit WaylandWindowSystem(MainLoop& mainLoop);
+
+    std::unique_ptr<Overlay> makeOverlay(QWindow& window) override;
+    Screens& screens() override { return screens_; }
+    Pointer& pointer() override { return pointer_; }
+    void popUp(const Popup& popup) override;
+    std::string sessionName() const override;
+
+private:
+    MainLoop& mainLoop_;
+    WaylandCompositor compositor_;
+    QtScreens screens_;
+    WaylandPointer pointer_;
+    WaylandPopup popup_{compositor_};
+    WaylandOverlay* overlay_ = nullptr; ///< the one that was made last
+};
+
+} // namespace brellowind::platform
