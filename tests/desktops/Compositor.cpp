@@ -1,0 +1,80 @@
+#include "desktops/Compositor.h"
+
+#include "desktops/Sway.h"
+#include "session/EventLoop.h"
+#include "session/SendSignal.h"
+
+#include <QFile>
+#include <csignal>
+
+namespace brellowind::test {
+namespace {
+
+const auto logName = QStringLiteral("compositor.log");
+
+} // namespace
+
+std::unique_ptr<Compositor> Compositor::make(const QString& name,
+                                             const CompositorOptions& options) {
+    if (name == QLatin1String("sway"))
+        return std::make_unique<Sway>(options);
+    throw DesktopFailure(QStringLiteral("there is no compositor \"%1\"").arg(name));
+}
+
+Compositor::~Compositor() = default;
+
+QString Compositor::socket() const {
+    return session_.file(session_.environment().value(QStringLiteral("WAYLAND_DISPLAY")));
+}
+
+void Compositor::kill() {
+    sendSignal(SIGKILL, *process_);
+    if (!waitUntil([this] { return !isRunning(); }))
+        throw DesktopFailure(QStringLiteral("the compositor did not end"));
+}
+
+void Compositor::click(QPointF place, int code) {
+    movePointerTo(place);
+    button(code, Stroke::down);
+    button(code, Stroke::up);
+}
+
+void Compositor::type(int code) {
+    key(code, Stroke::down);
+    key(code, Stroke::up);
+}
+
+bool Compositor::tap(QPointF) {
+    return false;
+}
+
+QString Compositor::addScreen() {
+    return {};
+}
+
+bool Compositor::removeScreen(const QString&) {
+    return false;
+}
+
+void Compositor::launch(const QString& program, const QStringList& arguments) {
+    process_ = session_.start(program, arguments, logName);
+}
+
+void Compositor::await(const char* what, const std::function<bool()>& condition) const {
+    bool holds = false;
+    waitUntil([&] { return (holds = condition()) || !isRunning(); });
+    if (holds)
+        return;
+    QFile log(session_.file(logName));
+    log.open(QIODevice::ReadOnly);
+    throw DesktopFailure(
+        QStringLiteral("the compositor %1 before %2. It said:\n%3")
+            .arg(isRunning() ? QStringLiteral("took too long") : QStringLiteral("ended"),
+                 QString::fromLatin1(what), QString::fromUtf8(log.readAll().right(4000))));
+}
+
+void Compositor::end() {
+    process_.reset();
+}
+
+} // namespace brellowind::test

@@ -1,0 +1,124 @@
+#include "desktops/Sway.h"
+
+#include "desktops/WlrInput.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace brellowind::test {
+namespace {
+
+const auto readyName = QStringLiteral("sway.ready");
+
+/// The last line tells of the displays once sway has both.
+QByteArray configuration(const CompositorOptions& options) {
+    const QSize pixels = (QSizeF(options.size) * options.scale).toSize();
+    return QStringLiteral(R"(xwayland %1
+output HEADLESS-1 resolution %2x%3 scale %4
+default_border none
+default_floating_border none
+focus_follows_mouse no
+exec printf '%s\n' "$WAYLAND_DISPLAY" "$SWAYSOCK" "$DISPLAY" >"$HOME/part" && mv "$HOME/part" "$HOME/%5"
+)")
+        .arg(options.xWayland ? QStringLiteral("enable") : QStringLiteral("disable"))
+        .arg(pixels.width())
+        .arg(pixels.height())
+        .arg(options.scale)
+        .arg(readyName)
+        .toUtf8();
+}
+
+} // namespace
+
+Sway::Sway(const CompositorOptions& options) {
+    requireProgram(QStringLiteral("sway"), QStringLiteral("sway"));
+    requireProgram(QStringLiteral("grim"), QStringLiteral("grim"));
+    if (options.xWayland)
+        requireProgram(QStringLiteral("Xwayland"), QStringLiteral("xwayland"));
+    auto& session = mutableSession();
+    session.setVariable(QStringLiteral("LIBSEAT_BACKEND"), QStringLiteral("noop"));
+    session.setVariable(QStringLiteral("WLR_BACKENDS"), QStringLiteral("headless"));
+    session.setVariable(QStringLiteral("WLR_RENDERER"), QStringLiteral("pixman"));
+    session.setVariable(QStringLiteral("WLR_LIBINPUT_NO_DEVICES"), QStringLiteral("1"));
+    session.writeFile(QStringLiteral("sway.config"), configuration(options));
+    launch(QStringLiteral("sway"),
+           {QStringLiteral("--config"), session.file(QStringLiteral("sway.config"))});
+    QFile ready(session.file(readyName));
+    await("it was ready", [&] { return ready.exists() && ready.open(QIODevice::ReadOnly); });
+    const auto lines = QString::fromUtf8(ready.readAll()).split(QLatin1Char('\n'));
+    session.setVariable(QStringLiteral("WAYLAND_DISPLAY"), lines.value(0));
+    session.setVariable(QStringLiteral("SWAYSOCK"), lines.value(1));
+    if (options.xWayland)
+        session.setVariable(QStringLiteral("DISPLAY"), lines.value(2));
+    input_ = std::make_unique<WlrInput>(socket());
+}
+
+Sway::~Sway() {
+    input_.reset();
+    end();
+}
+
+QImage Sway::screenshot(const QString& screen) {
+    const QString name = screen.isEmpty() ? screens().value(0).name : screen;
+    return QImage::fromData(
+        session().run(QStringLiteral("grim"), {QStringLiteral("-t"), QStringLiteral("ppm"),
+                                               QStringLiteral("-o"), name, QStringLiteral("-")}));
+}
+
+void Sway::movePointerTo(QPointF place) {
+    QRect desktop;
+    for (const auto& screen : screens())
+        desktop |= screen.geometry;
+    input_->movePointerTo(place, desktop);
+}
+
+void Sway::movePointerBy(QPointF distance) {
+    input_->movePointerBy(distance);
+}
+
+void Sway::button(int code, Stroke stroke) {
+    input_->button(code, stroke);
+}
+
+void Sway::key(int code, Stroke stroke) {
+    input_->key(code, stroke);
+}
+
+QList<CompositorScreen> Sway::screens() {
+    const auto answer = message({QStringLiteral("--type"), QStringLiteral("get_outputs")});
+    QList<CompositorScreen> screens;
+    for (const auto& output : QJsonDocument::fromJson(answer).array()) {
+        const auto rectangle = output[QStringLiteral("rect")];
+        const auto number = [&](const char* key) { return rectangle[QLatin1String(key)].toInt(); };
+        screens.append({output[QStringLiteral("name")].toString(),
+                        QRect(number("x"), number("y"), number("width"), number("height"))});
+    }
+    return screens;
+}
+
+void Sway::setScale(double scale) {
+    message({QStringLiteral("output"), screens().value(0).name, QStringLiteral("scale"),
+             QString::number(scale)});
+}
+
+void Sway::setScreensOn(bool on) {
+    message({QStringLiteral("output"), QStringLiteral("*"), QStringLiteral("dpms"),
+             on ? QStringLiteral("on") : QStringLiteral("off")});
+}
+
+QString Sway::addScreen() {
+    const auto before = screens().size();
+    message({QStringLiteral("create_output")});
+    QList<CompositorScreen> now;
+    await("the screen was there", [&] { return (now = screens()).size() > before; });
+    return now.last().name;
+}
+
+QByteArray Sway::message(const QStringList& arguments) const {
+    return session().run(QStringLiteral("swaymsg"),
+                         QStringList{QStringLiteral("--raw")} + arguments);
+}
+
+} // namespace brellowind::test

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "desktops/WaylandConnection.h"
+
+namespace brellowind::test {
+
+/// A surface of one opaque colour. Each time that it is seen in a new size it writes the line
+/// "shown WIDTH HEIGHT", in points.
+class PlainSurface {
+public:
+    /// `colour` as 0xRRGGBB.
+    PlainSurface(const WaylandConnection& connection, std::uint32_t colour);
+    PlainSurface(const PlainSurface&) = delete;
+    PlainSurface& operator=(const PlainSurface&) = delete;
+
+    wl_surface* get() const { return surface_; }
+
+    /// Fills and commits it in this size, once its role is configured.
+    void show(int width, int height);
+
+    /// The same without a word about it, for a compositor that tells no size before it has seen
+    /// one.
+    void showProvisionally() { fill(1, 1); }
+
+private:
+    void fill(int width, int height);
+    wl_buffer* makeBuffer() const;
+    void reportWhenSeen();
+
+    wl_shm* memory_;
+    wl_surface* surface_;
+    std::uint32_t colour_;
+    int width_ = 0;
+    int height_ = 0;
+};
+
+} // namespace brellowind::test
