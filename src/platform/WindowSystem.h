@@ -35,6 +35,14 @@ public:
     /// does nothing else. It closes at once if the system refuses it the pointer or the keyboard.
     virtual void popUp(const Popup& popup) = 0;
 
+    /// Brings the program's windows that take the keyboard focus to the front, also one that is
+    /// shown later in this turn of the main loop.
+    virtual void activate() = 0;
+
+    /// The next `activate` acts in the name of the user's action that `token` stands for, such as
+    /// another start of the program. Without effect where windows need no such token.
+    virtual void adoptActivation(const std::string& token) = 0;
+
     /// The name of the session, which no other session of this user has at the same time, in any
     /// characters. It is the same however the environment spells the session's address.
     virtual std::string sessionName() const = 0;

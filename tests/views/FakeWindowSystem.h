@@ -30,6 +30,8 @@ public:
         popup.window.show();
     }
 
+    void activate() override {}
+    void adoptActivation(const std::string& /*token*/) override {}
     std::string sessionName() const override { return "offscreen"; }
 
     FakeOverlay* overlay = nullptr; ///< the last one; the window owns it

@@ -25,7 +25,7 @@ QString nameElement(std::string_view text) {
 } // namespace
 
 SingleInstance::SingleInstance(QDBusConnection bus, std::string_view session,
-                               std::function<void()> onSecondStart)
+                               std::function<void(const std::string&)> onSecondStart)
     : bus_(std::move(bus)), name_(interfaceName + u'.' + nameElement(session)),
       onSecondStart_(std::move(onSecondStart)) {}
 
@@ -38,14 +38,16 @@ bool SingleInstance::claim() {
     bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
     if (!bus_.isConnected() || bus_.registerService(name_))
         return true;
-    bus_.send(
-        QDBusMessage::createMethodCall(name_, objectPath, interfaceName, QStringLiteral("Open")));
+    auto open =
+        QDBusMessage::createMethodCall(name_, objectPath, interfaceName, QStringLiteral("Open"));
+    open << qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
+    bus_.send(open);
     bus_.interface()->isServiceRegistered(name_); // by its answer the bus has the message before
     return false;
 }
 
-void SingleInstance::Open() {
-    onSecondStart_();
+void SingleInstance::Open(const QString& activationToken) {
+    onSecondStart_(activationToken.toStdString());
 }
 
 } // namespace brellowind::platform

@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace brellowind::platform {
@@ -15,9 +16,10 @@ class SingleInstance : public QObject {
 
 public:
     /// `session` is the name of the session, in any characters; one bus may serve several sessions.
-    /// `onSecondStart` runs whenever another process found this one there.
+    /// `onSecondStart` runs whenever another process found this one there. It gets the token of the
+    /// user's action that started that one; empty: there is none.
     SingleInstance(QDBusConnection bus, std::string_view session,
-                   std::function<void()> onSecondStart);
+                   std::function<void(const std::string& activationToken)> onSecondStart);
     ~SingleInstance() override;
 
     /// True when this process is the only one from now on, or when no bus is there to tell.
@@ -26,12 +28,12 @@ public:
     bool claim();
 
 public Q_SLOTS:
-    Q_SCRIPTABLE void Open();
+    Q_SCRIPTABLE void Open(const QString& activationToken);
 
 private:
     QDBusConnection bus_;
     QString name_;
-    std::function<void()> onSecondStart_;
+    std::function<void(const std::string&)> onSecondStart_;
 };
 
 } // namespace brellowind::platform

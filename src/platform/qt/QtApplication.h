@@ -1,14 +1,21 @@
 #pragma once
 
 #include "platform/Application.h"
+#include "platform/WindowSystem.h"
 
 namespace brellowind::platform {
 
 /// The Qt application object of this process.
 class QtApplication final : public Application {
 public:
-    void activate() override;
+    /// `windowSystem` must outlive it.
+    explicit QtApplication(WindowSystem& windowSystem) : windowSystem_(windowSystem) {}
+
+    void activate() override { windowSystem_.activate(); }
     void terminate() override;
+
+private:
+    WindowSystem& windowSystem_;
 };
 
 } // namespace brellowind::platform

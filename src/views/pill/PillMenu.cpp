@@ -4,7 +4,10 @@
 #include "views/pill/PillMenuEntry.h"
 #include "views/scene/Item.h"
 
+#include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace brellowind {
@@ -43,13 +46,57 @@ PillMenu::PillMenu(NotchRootView& view) {
         auto* entry = new PillMenuEntry(text, &root());
         entry->setPosition({padding, top});
         top += entry->height();
+        entries_.push_back(entry);
+        connect(entry, &PillMenuEntry::hoveredChanged, this,
+                [this, entry](bool hovered) { highlight(hovered ? entry : nullptr); });
         connect(entry, &PillMenuEntry::triggered, this, [this, &view, action = action] {
+            (view.*action)(); // while it is open: then it is a user's action to the window system
             close();
-            (view.*action)();
         });
     }
     background->setSize({PillMenuEntry::entryWidth + 2 * padding, top + padding});
     resize(background->size().toSize());
+}
+
+void PillMenu::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Down:
+        highlightBeside(1);
+        break;
+    case Qt::Key_Up:
+        highlightBeside(-1);
+        break;
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+    case Qt::Key_Space:
+        if (highlighted_)
+            Q_EMIT highlighted_->triggered();
+        break;
+    default:
+        MenuWindow::keyPressEvent(event);
+    }
+}
+
+void PillMenu::hideEvent(QHideEvent* event) {
+    MenuWindow::hideEvent(event);
+    highlight(nullptr);
+}
+
+void PillMenu::highlight(PillMenuEntry* entry) {
+    if (highlighted_)
+        highlighted_->setHighlighted(false);
+    highlighted_ = entry;
+    if (highlighted_)
+        highlighted_->setHighlighted(true);
+}
+
+/// From the last entry to the first and back. Without a highlighted one it begins at the end that
+/// the step comes from.
+void PillMenu::highlightBeside(int step) {
+    const auto count = std::ssize(entries_);
+    const auto at = std::ranges::find(entries_, highlighted_) - entries_.begin();
+    const auto next = at == count ? (step > 0 ? 0 : count - 1) : (at + step + count) % count;
+    highlight(entries_[static_cast<std::size_t>(next)]);
 }
 
 } // namespace brellowind

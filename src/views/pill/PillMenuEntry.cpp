@@ -22,7 +22,7 @@ PillMenuEntry::PillMenuEntry(const QString& text, Item* parent) : PainterItem(pa
     area->setSize(size());
     area->setName(text);
     area->mindHovering();
-    connect(area, &TapArea::hoveredChanged, this, &PillMenuEntry::setHighlighted);
+    connect(area, &TapArea::hoveredChanged, this, &PillMenuEntry::hoveredChanged);
     connect(area, &TapArea::tapped, this, &PillMenuEntry::triggered);
 }
 

@@ -6,7 +6,7 @@
 
 namespace brellowind {
 
-/// One entry of the context menu, bright while the pointer is over it.
+/// One entry of the context menu.
 class PillMenuEntry : public PainterItem {
     Q_OBJECT
 
@@ -15,14 +15,15 @@ public:
 
     PillMenuEntry(const QString& text, Item* parent);
 
+    void setHighlighted(bool highlighted);
+
     void paint(QPainter& painter) override;
 
 Q_SIGNALS:
     void triggered();
+    void hoveredChanged(bool hovered);
 
 private:
-    void setHighlighted(bool highlighted);
-
     QString text_;
     bool highlighted_ = false;
 };

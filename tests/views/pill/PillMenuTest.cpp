@@ -102,6 +102,49 @@ TEST_F(PillMenuTest, Quits) {
     EXPECT_EQ(machine.settingsOpenings, 0);
 }
 
+TEST_F(PillMenuTest, ArrowKeysAndEnterChooseAnEntry) {
+    const auto before = machine.requests();
+    open();
+    QTest::keyClick(menu(), Qt::Key_Down);
+    QTest::keyClick(menu(), Qt::Key_Down);
+    QTest::keyClick(menu(), Qt::Key_Up);
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_EQ(machine.settingsOpenings, 1);
+    EXPECT_EQ(machine.requests(), before) << "the second entry makes one";
+    EXPECT_FALSE(menu()->isVisible());
+}
+
+TEST_F(PillMenuTest, ArrowKeysGoOnFromOneEndAtTheOther) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_Up);
+    QTest::keyClick(menu(), Qt::Key_Enter);
+    EXPECT_EQ(machine.machine.application.terminations, 1) << "the last entry";
+    open();
+    QTest::keyClick(menu(), Qt::Key_Up);
+    QTest::keyClick(menu(), Qt::Key_Down);
+    QTest::keyClick(menu(), Qt::Key_Space);
+    EXPECT_EQ(machine.settingsOpenings, 1) << "the first entry";
+}
+
+TEST_F(PillMenuTest, ArrowKeysGoOnFromTheEntryUnderThePointer) {
+    open();
+    QTest::mouseMove(menu(), middle(entries().at(1)));
+    QTest::keyClick(menu(), Qt::Key_Down);
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_EQ(machine.machine.application.terminations, 1);
+}
+
+TEST_F(PillMenuTest, EnterChoosesNothingBeforeAnEntryIsHighlighted) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_Down);
+    menu()->close();
+    open();
+    QTest::mouseMove(menu(), {1, 1}); // its rim
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_EQ(machine.settingsOpenings, 0);
+    EXPECT_TRUE(menu()->isVisible());
+}
+
 TEST_F(PillMenuTest, ClosesOnEscapeAndDoesNothing) {
     open();
     QTest::keyClick(menu(), Qt::Key_Escape);

@@ -61,8 +61,12 @@ public:
     LoginItem& loginItem() override { return loginItem_; }
 
     bool claimSession(std::function<void()> onSecondStart) override {
-        instance_.emplace(QDBusConnection::sessionBus(), windowSystem_->sessionName(),
-                          std::move(onSecondStart));
+        instance_.emplace(
+            QDBusConnection::sessionBus(), windowSystem_->sessionName(),
+            [this, onSecondStart = std::move(onSecondStart)](const std::string& token) {
+                windowSystem_->adoptActivation(token);
+                onSecondStart();
+            });
         return instance_->claim();
     }
 
@@ -79,7 +83,7 @@ private:
     MprisPlayer player_;
     ScreenLock screenLock_{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
     std::unique_ptr<WindowSystem> windowSystem_ = makeWindowSystem(mainLoop_, screenLock_);
-    QtApplication application_;
+    QtApplication application_{*windowSystem_};
     QtLinkOpener links_;
     XdgLoginItem loginItem_ = makeLoginItem();
     UnixSignals signals_{[this] { application_.terminate(); }};

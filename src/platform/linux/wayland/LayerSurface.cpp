@@ -33,6 +33,7 @@ void LayerSurface::setSize(QSize size) {
 }
 
 void LayerSurface::setKeyboardExclusive(bool exclusive) {
+    keyboardExclusive_ = exclusive;
     zwlr_layer_surface_v1_set_keyboard_interactivity(
         layerSurface_.get(), exclusive ? ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE
                                        : ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE);
@@ -46,11 +47,12 @@ void LayerSurface::adoptPopup(xdg_popup* popup) {
 void LayerSurface::configure(void* self, zwlr_layer_surface_v1* surface, std::uint32_t serial,
                              std::uint32_t /*width*/, std::uint32_t /*height*/) {
     zwlr_layer_surface_v1_ack_configure(surface, serial);
-    static_cast<LayerSurface*>(self)->handlers_.configured();
+    const auto configured = static_cast<LayerSurface*>(self)->handlers_.configured;
+    configured();
 }
 
 void LayerSurface::close(void* self, zwlr_layer_surface_v1* /*surface*/) {
-    const auto closed = static_cast<LayerSurface*>(self)->handlers_.closed; // may destroy it
+    const auto closed = static_cast<LayerSurface*>(self)->handlers_.closed;
     closed();
 }
 

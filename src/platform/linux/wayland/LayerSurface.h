@@ -12,9 +12,10 @@ namespace brellowind::platform {
 /// by the surface's next commit. Must be destroyed before the surface.
 class LayerSurface {
 public:
+    /// They may destroy this.
     struct Handlers {
         std::function<void()> configured; ///< from the first time on the surface may have content
-        std::function<void()> closed;     ///< it is not shown any more; may destroy this
+        std::function<void()> closed;     ///< it is not shown any more
     };
 
     /// `size` is in points. Commits the surface, which has no buffer yet.
@@ -27,6 +28,7 @@ public:
 
     /// Whether it has the keyboard to itself. Commits the surface.
     void setKeyboardExclusive(bool exclusive);
+    bool isKeyboardExclusive() const { return keyboardExclusive_; }
 
     /// Makes `popup` a child of it.
     void adoptPopup(xdg_popup* popup);
@@ -39,6 +41,7 @@ private:
     wl_surface* surface_;
     WaylandObject<zwlr_layer_surface_v1> layerSurface_;
     Handlers handlers_;
+    bool keyboardExclusive_ = false;
 };
 
 } // namespace brellowind::platform

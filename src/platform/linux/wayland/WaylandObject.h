@@ -9,10 +9,16 @@
 namespace brellowind::platform {
 
 struct WaylandDestroy {
+    void operator()(wl_buffer* buffer) const { wl_buffer_destroy(buffer); }
     void operator()(wl_event_queue* queue) const { wl_event_queue_destroy(queue); }
     void operator()(wl_region* region) const { wl_region_destroy(region); }
     void operator()(wl_registry* registry) const { wl_registry_destroy(registry); }
     void operator()(wl_shm* memory) const { wl_shm_destroy(memory); }
+    void operator()(wl_shm_pool* pool) const { wl_shm_pool_destroy(pool); }
+    void operator()(wl_surface* surface) const { wl_surface_destroy(surface); }
+    void operator()(xdg_activation_token_v1* token) const {
+        xdg_activation_token_v1_destroy(token);
+    }
     void operator()(xdg_activation_v1* activation) const { xdg_activation_v1_destroy(activation); }
     void operator()(xdg_popup* popup) const { xdg_popup_destroy(popup); }
     void operator()(xdg_positioner* positioner) const { xdg_positioner_destroy(positioner); }

@@ -3,6 +3,7 @@
 #include "platform/linux/screens/QtScreens.h"
 #include "platform/qt/OutlineRegion.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPlatformSurfaceEvent>
 #include <chrono>
@@ -15,6 +16,9 @@ constexpr int glow = 48;       ///< points that a shadow may reach below the out
 
 /// After which a surface that the compositor closed is shown again.
 constexpr std::chrono::seconds retryDelay{1};
+
+/// In which a window that was opened from the menu takes the keyboard itself.
+constexpr std::chrono::milliseconds focusDelay{100};
 
 bool isFromTouch(const QEvent& event) {
     const auto* device = static_cast<const QPointerEvent&>(event).device();
@@ -88,6 +92,9 @@ bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
             pointer_.move(Point{desktopFrame_.x + at.x(), desktopFrame_.maxY() - at.y()});
         }
         break;
+    case QEvent::FocusIn:
+        returnFocusSoon();
+        break;
     case QEvent::Leave:
         pointer_.move(std::nullopt);
         break;
@@ -111,8 +118,8 @@ void WaylandOverlay::show() {
     window_.setScreen(screen_);
     window_.setGeometry(geometry());
     window_.create();
-    layerSurface_.emplace(compositor_, WaylandCompositor::surface(window_),
-                          WaylandCompositor::output(*screen_), geometry().size(),
+    layerSurface_.emplace(compositor_, surface(), WaylandCompositor::output(*screen_),
+                          geometry().size(),
                           LayerSurface::Handlers{[this] { window_.show(); }, [this] { closed(); }});
     setInputRegion();
 }
@@ -143,7 +150,21 @@ void WaylandOverlay::setInputRegion() {
     const WaylandObject<wl_region> region(wl_compositor_create_region(compositor_.surfaces()));
     for (const QRect& rect : outline_)
         wl_region_add(region.get(), rect.x(), rect.y(), rect.width(), rect.height());
-    wl_surface_set_input_region(WaylandCompositor::surface(window_), region.get());
+    wl_surface_set_input_region(surface(), region.get());
+}
+
+void WaylandOverlay::returnFocusSoon() {
+    focusDelay_ = mainLoop_.scheduleOnce(focusDelay, [this] { returnFocus(); });
+}
+
+/// Not while a press may still open the menu, and not while the menu gets its keys through it.
+void WaylandOverlay::returnFocus() {
+    if (!layerSurface_ || layerSurface_->isKeyboardExclusive() || !window_.isActive())
+        return;
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        returnFocusSoon();
+    else
+        focusReturn_.start(WaylandCompositor::output(*screen_));
 }
 
 } // namespace brellowind::platform

@@ -2,6 +2,7 @@
 
 #include "platform/MainLoop.h"
 #include "platform/Overlay.h"
+#include "platform/linux/wayland/FocusReturn.h"
 #include "platform/linux/wayland/LayerSurface.h"
 #include "platform/linux/wayland/WaylandPointer.h"
 
@@ -32,10 +33,9 @@ public:
     void setOutline(const Path& outline) override;
     void setIgnoresMouseEvents(bool /*ignores*/) override {}
 
-    /// Null while it is not shown.
+    /// Both null while it is not shown.
     LayerSurface* layerSurface() { return layerSurface_ ? &*layerSurface_ : nullptr; }
-
-    const QWindow& window() const { return window_; }
+    wl_surface* surface() const { return WaylandCompositor::surface(window_); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -47,6 +47,8 @@ private:
     void closed();
     void resize();
     void setInputRegion();
+    void returnFocusSoon();
+    void returnFocus();
 
     QWindow& window_;
     const WaylandCompositor& compositor_;
@@ -61,6 +63,8 @@ private:
     std::optional<LayerSurface> layerSurface_;
     std::unique_ptr<NextTurn> resize_;
     std::unique_ptr<Timer> retry_;
+    FocusReturn focusReturn_{compositor_};
+    std::unique_ptr<Timer> focusDelay_;
 };
 
 } // namespace brellowind::platform

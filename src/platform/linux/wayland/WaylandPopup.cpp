@@ -54,9 +54,10 @@ void WaylandPopup::show(const Popup& popup, LayerSurface& parent) {
     static constexpr xdg_popup_listener popupListener{configure, finish, nullptr};
     xdg_popup_add_listener(popup_.get(), &popupListener, this);
     parent_->adoptPopup(popup_.get());
-    xdg_popup_grab(popup_.get(), compositor_.seat(), compositor_.serial());
+    // Before the grab, during which nothing else gets the keyboard.
     if (compositor_.layerShellVersion() >= keyboardStaysWithParent)
         parent_->setKeyboardExclusive(true);
+    xdg_popup_grab(popup_.get(), compositor_.seat(), compositor_.serial());
     wl_surface_commit(WaylandCompositor::surface(*window_));
     QCoreApplication::instance()->installEventFilter(this);
 }

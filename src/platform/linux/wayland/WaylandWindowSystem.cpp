@@ -6,7 +6,7 @@
 namespace brellowind::platform {
 
 WaylandWindowSystem::WaylandWindowSystem(MainLoop& mainLoop)
-    : mainLoop_(mainLoop), screens_(mainLoop) {}
+    : mainLoop_(mainLoop), screens_(mainLoop), activation_(compositor_, mainLoop) {}
 
 std::unique_ptr<Overlay> WaylandWindowSystem::makeOverlay(QWindow& window) {
     auto overlay = std::make_unique<WaylandOverlay>(window, compositor_, pointer_, mainLoop_);
@@ -17,6 +17,10 @@ std::unique_ptr<Overlay> WaylandWindowSystem::makeOverlay(QWindow& window) {
 void WaylandWindowSystem::popUp(const Popup& popup) {
     if (auto* parent = overlay_->layerSurface())
         popup_.show(popup, *parent);
+}
+
+void WaylandWindowSystem::activate() {
+    activation_.activate(overlay_->surface());
 }
 
 std::string WaylandWindowSystem::sessionName() const {

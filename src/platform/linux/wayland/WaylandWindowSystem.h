@@ -3,6 +3,7 @@
 #include "platform/MainLoop.h"
 #include "platform/WindowSystem.h"
 #include "platform/linux/screens/QtScreens.h"
+#include "platform/linux/wayland/WaylandActivation.h"
 #include "platform/linux/wayland/WaylandCompositor.h"
 #include "platform/linux/wayland/WaylandPointer.h"
 #include "platform/linux/wayland/WaylandPopup.h"
@@ -22,6 +23,8 @@ public:
     Screens& screens() override { return screens_; }
     Pointer& pointer() override { return pointer_; }
     void popUp(const Popup& popup) override;
+    void activate() override;
+    void adoptActivation(const std::string& token) override { activation_.adopt(token); }
     std::string sessionName() const override;
 
 private:
@@ -30,6 +33,7 @@ private:
     QtScreens screens_;
     WaylandPointer pointer_;
     WaylandPopup popup_{compositor_};
+    WaylandActivation activation_;
     WaylandOverlay* overlay_ = nullptr; ///< the one that was made last
 };
 

@@ -3,6 +3,9 @@
 #include "platform/linux/x11/X11Display.h"
 #include "platform/linux/x11/X11Overlay.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+
 namespace brellowind::platform {
 
 X11WindowSystem::X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock)
@@ -10,6 +13,16 @@ X11WindowSystem::X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock)
 
 std::unique_ptr<Overlay> X11WindowSystem::makeOverlay(QWindow& window) {
     return std::make_unique<X11Overlay>(window, mainLoop_, screenLock_);
+}
+
+void X11WindowSystem::activate() {
+    for (auto* window : QGuiApplication::topLevelWindows()) {
+        const bool takesFocus = !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus);
+        if (window->isVisible() && takesFocus) {
+            window->raise();
+            window->requestActivate();
+        }
+    }
 }
 
 std::string X11WindowSystem::sessionName() const {

@@ -19,6 +19,8 @@ public:
     Screens& screens() override { return screens_; }
     Pointer& pointer() override { return pointer_; }
     void popUp(const Popup& popup) override { popup_.show(popup); }
+    void activate() override;
+    void adoptActivation(const std::string& /*token*/) override {}
     std::string sessionName() const override;
 
 private:
