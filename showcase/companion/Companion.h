@@ -21,6 +21,9 @@ public:
     /// The next line of its standard output; empty when it ends without one or takes too long.
     QString readLine();
 
+    /// Writes a line to its standard input.
+    void writeLine(const QString& line) { process_.write(line.toUtf8() + '\n'); }
+
     /// What it has written to its standard output beside the lines that were read.
     QByteArray remainingOutput() { return process_.readAllStandardOutput(); }
 

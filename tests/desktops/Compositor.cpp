@@ -1,5 +1,6 @@
 #include "desktops/Compositor.h"
 
+#include "desktops/KWin.h"
 #include "desktops/Sway.h"
 #include "session/EventLoop.h"
 #include "session/SendSignal.h"
@@ -11,6 +12,7 @@ namespace brellowind::test {
 namespace {
 
 const auto logName = QStringLiteral("compositor.log");
+const auto displaysName = QStringLiteral("displays");
 
 } // namespace
 
@@ -18,6 +20,8 @@ std::unique_ptr<Compositor> Compositor::make(const QString& name,
                                              const CompositorOptions& options) {
     if (name == QLatin1String("sway"))
         return std::make_unique<Sway>(options);
+    if (name == QLatin1String("kwin"))
+        return std::make_unique<KWin>(options);
     throw DesktopFailure(QStringLiteral("there is no compositor \"%1\"").arg(name));
 }
 
@@ -48,6 +52,10 @@ bool Compositor::tap(QPointF) {
     return false;
 }
 
+bool Compositor::setScreensOn(bool) {
+    return false;
+}
+
 QString Compositor::addScreen() {
     return {};
 }
@@ -58,6 +66,26 @@ bool Compositor::removeScreen(const QString&) {
 
 void Compositor::launch(const QString& program, const QStringList& arguments) {
     process_ = session_.start(program, arguments, logName);
+}
+
+QStringList Compositor::displayTeller() const {
+    const QString told = session_.file(displaysName);
+    session_.writeFile(QStringLiteral("tell-displays"),
+                       QStringLiteral("echo \"$WAYLAND_DISPLAY $DISPLAY\" >'%1.part'\n"
+                                      "mv '%1.part' '%1'\n")
+                           .arg(told)
+                           .toUtf8());
+    return {QStringLiteral("sh"), session_.file(QStringLiteral("tell-displays"))};
+}
+
+void Compositor::awaitDisplays() {
+    QFile told(session_.file(displaysName));
+    await("it was ready", [&] { return told.exists(); });
+    told.open(QIODevice::ReadOnly);
+    const auto displays = QString::fromUtf8(told.readAll()).trimmed().split(QLatin1Char(' '));
+    session_.setVariable(QStringLiteral("WAYLAND_DISPLAY"), displays.value(0));
+    if (displays.size() > 1)
+        session_.setVariable(QStringLiteral("DISPLAY"), displays[1]);
 }
 
 void Compositor::await(const char* what, const std::function<bool()>& condition) const {

@@ -81,8 +81,9 @@ public:
     /// Changes the scale of the first screen, which keeps its pixels.
     virtual void setScale(double scale) = 0;
 
-    /// Switches all screens off, or on again, as an idle desktop does.
-    virtual void setScreensOn(bool on) = 0;
+    /// Switches all screens off, or on again, as an idle desktop does; false where the compositor
+    /// cannot.
+    virtual bool setScreensOn(bool on);
 
     /// Adds a screen at the right and returns its name; empty where the compositor cannot.
     virtual QString addScreen();
@@ -100,6 +101,13 @@ protected:
 
     /// Starts the compositor; what it says goes to a file that failures quote.
     void launch(const QString& program, const QStringList& arguments);
+
+    /// The program and argument that a compositor has to start among its clients for
+    /// awaitDisplays().
+    QStringList displayTeller() const;
+
+    /// Waits until the compositor has started that, and sets the variables of its displays.
+    void awaitDisplays();
 
     /// Waits until `condition` holds. Throws a DesktopFailure that tells what was waited for, and
     /// what the compositor said, when it ends or takes too long.

@@ -2,7 +2,6 @@
 
 #include "desktops/WlrInput.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,23 +9,19 @@
 namespace brellowind::test {
 namespace {
 
-const auto readyName = QStringLiteral("sway.ready");
-
-/// The last line tells of the displays once sway has both.
-QByteArray configuration(const CompositorOptions& options) {
+QByteArray configuration(const CompositorOptions& options, const QStringList& atStart) {
     const QSize pixels = (QSizeF(options.size) * options.scale).toSize();
-    return QStringLiteral(R"(xwayland %1
-output HEADLESS-1 resolution %2x%3 scale %4
-default_border none
-default_floating_border none
-focus_follows_mouse no
-exec printf '%s\n' "$WAYLAND_DISPLAY" "$SWAYSOCK" "$DISPLAY" >"$HOME/part" && mv "$HOME/part" "$HOME/%5"
-)")
+    return QStringLiteral("xwayland %1\n"
+                          "output HEADLESS-1 resolution %2x%3 scale %4\n"
+                          "default_border none\n"
+                          "default_floating_border none\n"
+                          "focus_follows_mouse no\n"
+                          "exec %5\n")
         .arg(options.xWayland ? QStringLiteral("enable") : QStringLiteral("disable"))
         .arg(pixels.width())
         .arg(pixels.height())
         .arg(options.scale)
-        .arg(readyName)
+        .arg(atStart.join(QLatin1Char(' ')))
         .toUtf8();
 }
 
@@ -42,16 +37,11 @@ Sway::Sway(const CompositorOptions& options) {
     session.setVariable(QStringLiteral("WLR_BACKENDS"), QStringLiteral("headless"));
     session.setVariable(QStringLiteral("WLR_RENDERER"), QStringLiteral("pixman"));
     session.setVariable(QStringLiteral("WLR_LIBINPUT_NO_DEVICES"), QStringLiteral("1"));
-    session.writeFile(QStringLiteral("sway.config"), configuration(options));
+    session.setVariable(QStringLiteral("SWAYSOCK"), session.file(QStringLiteral("sway.socket")));
+    session.writeFile(QStringLiteral("sway.config"), configuration(options, displayTeller()));
     launch(QStringLiteral("sway"),
            {QStringLiteral("--config"), session.file(QStringLiteral("sway.config"))});
-    QFile ready(session.file(readyName));
-    await("it was ready", [&] { return ready.exists() && ready.open(QIODevice::ReadOnly); });
-    const auto lines = QString::fromUtf8(ready.readAll()).split(QLatin1Char('\n'));
-    session.setVariable(QStringLiteral("WAYLAND_DISPLAY"), lines.value(0));
-    session.setVariable(QStringLiteral("SWAYSOCK"), lines.value(1));
-    if (options.xWayland)
-        session.setVariable(QStringLiteral("DISPLAY"), lines.value(2));
+    awaitDisplays();
     input_ = std::make_unique<WlrInput>(socket());
 }
 
@@ -103,9 +93,10 @@ void Sway::setScale(double scale) {
              QString::number(scale)});
 }
 
-void Sway::setScreensOn(bool on) {
+bool Sway::setScreensOn(bool on) {
     message({QStringLiteral("output"), QStringLiteral("*"), QStringLiteral("dpms"),
              on ? QStringLiteral("on") : QStringLiteral("off")});
+    return true;
 }
 
 QString Sway::addScreen() {

@@ -22,7 +22,7 @@ public:
     void key(int code, Stroke stroke) override;
     QList<CompositorScreen> screens() override;
     void setScale(double scale) override;
-    void setScreensOn(bool on) override;
+    bool setScreensOn(bool on) override;
     QString addScreen() override;
 
 private:

@@ -81,6 +81,10 @@ UserSession::UserSession()
     startBus();
 }
 
+UserSession::~UserSession() {
+    QDBusConnection::disconnectFromBus(folder());
+}
+
 void UserSession::writeFile(const QString& name, const QByteArray& content) const {
     QString parent;
     for (const QString& part : QFileInfo(name).path().split(QLatin1Char('/'))) {
@@ -148,12 +152,12 @@ void UserSession::startBus() {
 )")
                                               .arg(file(QStringLiteral("bus")))
                                               .toUtf8());
-    bus_ = start(QStringLiteral("dbus-daemon"),
-                 {QStringLiteral("--config-file=") + file(QStringLiteral("bus.conf")),
-                  QStringLiteral("--nofork"), QStringLiteral("--nosyslog"),
-                  QStringLiteral("--print-address=1")});
-    const QString address = bus_->readLine();
-    if (address.isEmpty())
+    busDaemon_ = start(QStringLiteral("dbus-daemon"),
+                       {QStringLiteral("--config-file=") + file(QStringLiteral("bus.conf")),
+                        QStringLiteral("--nofork"), QStringLiteral("--nosyslog"),
+                        QStringLiteral("--print-address=1")});
+    const QString address = busDaemon_->readLine();
+    if (!QDBusConnection::connectToBus(address, folder()).isConnected())
         throw DesktopFailure(QStringLiteral("the session bus did not start"));
     setVariable(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address);
 }

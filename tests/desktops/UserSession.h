@@ -2,6 +2,7 @@
 
 #include "companion/Companion.h"
 
+#include <QDBusConnection>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
@@ -28,6 +29,7 @@ public:
     UserSession();
     UserSession(const UserSession&) = delete;
     UserSession& operator=(const UserSession&) = delete;
+    ~UserSession();
 
     /// The home and XDG_RUNTIME_DIR; goes with this object.
     QString folder() const { return folder_.path(); }
@@ -40,6 +42,9 @@ public:
     /// Leads programs into the session. No display is in it before somebody sets one.
     const QProcessEnvironment& environment() const { return environment_; }
     void setVariable(const QString& name, const QString& value);
+
+    /// This process's own connection to the session bus.
+    QDBusConnection bus() const { return QDBusConnection(folder()); }
 
     /// Starts a program as the user. Its standard error goes to `errorFile` in the folder, or
     /// without one where that of this process goes.
@@ -60,7 +65,7 @@ private:
 
     QTemporaryDir folder_;
     QProcessEnvironment environment_;
-    std::unique_ptr<demo::Companion> bus_;
+    std::unique_ptr<demo::Companion> busDaemon_;
 };
 
 } // namespace brellowind::test

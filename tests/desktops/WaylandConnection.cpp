@@ -10,10 +10,12 @@ WaylandConnection::WaylandConnection(const char* socket) : display_(wl_display_c
     static constexpr wl_registry_listener listener{
         [](void* self, wl_registry*, std::uint32_t name, const char* interface,
            std::uint32_t version) {
-            static_cast<WaylandConnection*>(self)->globals_.try_emplace(interface,
-                                                                        Global{name, version});
+            static_cast<WaylandConnection*>(self)->globals_.push_back({name, interface, version});
         },
-        [](void*, wl_registry*, std::uint32_t) {}};
+        [](void* self, wl_registry*, std::uint32_t name) {
+            std::erase_if(static_cast<WaylandConnection*>(self)->globals_,
+                          [name](const Global& global) { return global.name == name; });
+        }};
     registry_ = wl_display_get_registry(display_);
     wl_registry_add_listener(registry_, &listener, this);
     finish();
@@ -35,11 +37,12 @@ void WaylandConnection::runToTheEnd() const {
     }
 }
 
-void* WaylandConnection::bindAny(const wl_interface& interface, std::uint32_t version) const {
-    const auto global = globals_.find(interface.name);
-    if (global == globals_.end() || global->second.version < version)
-        throw std::runtime_error(std::string("the compositor lacks ") + interface.name);
-    return wl_registry_bind(registry_, global->second.name, &interface, version);
+void* WaylandConnection::bindAt(const wl_interface& interface, std::uint32_t version,
+                                std::size_t index) const {
+    for (const Global& global : globals_)
+        if (global.interface == interface.name && global.version >= version && index-- == 0)
+            return wl_registry_bind(registry_, global.name, &interface, version);
+    return nullptr;
 }
 
 } // namespace brellowind::test

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
+#include <stdexcept>
 #include <string>
+#include <vector>
 #include <wayland-client.h>
 
 namespace brellowind::test {
@@ -22,7 +23,19 @@ public:
     /// The first global of an interface. Throws when the compositor has none of this version.
     template <class T>
     T* bind(const wl_interface& interface, std::uint32_t version) const {
-        return static_cast<T*>(bindAny(interface, version));
+        auto* global = bindAt(interface, version, 0);
+        if (!global)
+            throw std::runtime_error(std::string("the compositor lacks ") + interface.name);
+        return static_cast<T*>(global);
+    }
+
+    /// All globals of an interface.
+    template <class T>
+    std::vector<T*> bindAll(const wl_interface& interface, std::uint32_t version) const {
+        std::vector<T*> all;
+        while (auto* next = bindAt(interface, version, all.size()))
+            all.push_back(static_cast<T*>(next));
+        return all;
     }
 
     /// Returns when the compositor has done all that was asked of it.
@@ -34,14 +47,16 @@ public:
 private:
     struct Global {
         std::uint32_t name;
+        std::string interface;
         std::uint32_t version;
     };
 
-    void* bindAny(const wl_interface& interface, std::uint32_t version) const;
+    /// Null when there are not so many.
+    void* bindAt(const wl_interface& interface, std::uint32_t version, std::size_t index) const;
 
     wl_display* display_;
     wl_registry* registry_ = nullptr;
-    std::map<std::string, Global> globals_;
+    std::vector<Global> globals_;
 };
 
 } // namespace brellowind::test
