@@ -33,7 +33,6 @@ void LayerSurface::setSize(QSize size) {
 }
 
 void LayerSurface::setKeyboardExclusive(bool exclusive) {
-    keyboardExclusive_ = exclusive;
     zwlr_layer_surface_v1_set_keyboard_interactivity(
         layerSurface_.get(), exclusive ? ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE
                                        : ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE);
@@ -42,6 +41,7 @@ void LayerSurface::setKeyboardExclusive(bool exclusive) {
 
 void LayerSurface::adoptPopup(xdg_popup* popup) {
     zwlr_layer_surface_v1_get_popup(layerSurface_.get(), popup);
+    hasPopup_ = true;
 }
 
 void LayerSurface::configure(void* self, zwlr_layer_surface_v1* surface, std::uint32_t serial,

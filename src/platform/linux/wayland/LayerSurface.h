@@ -28,10 +28,11 @@ public:
 
     /// Whether it has the keyboard to itself. Commits the surface.
     void setKeyboardExclusive(bool exclusive);
-    bool isKeyboardExclusive() const { return keyboardExclusive_; }
 
-    /// Makes `popup` a child of it.
+    /// Makes `popup` a child of it, until it is destroyed.
     void adoptPopup(xdg_popup* popup);
+    void popupDestroyed() { hasPopup_ = false; }
+    bool hasPopup() const { return hasPopup_; }
 
 private:
     static void configure(void* self, zwlr_layer_surface_v1* surface, std::uint32_t serial,
@@ -41,7 +42,7 @@ private:
     wl_surface* surface_;
     WaylandObject<zwlr_layer_surface_v1> layerSurface_;
     Handlers handlers_;
-    bool keyboardExclusive_ = false;
+    bool hasPopup_ = false;
 };
 
 } // namespace brellowind::platform

@@ -157,11 +157,11 @@ void WaylandOverlay::returnFocusSoon() {
     focusDelay_ = mainLoop_.scheduleOnce(focusDelay, [this] { returnFocus(); });
 }
 
-/// Not while a press may still open the menu, and not while the menu gets its keys through it.
+/// Not while a press may still open the menu, nor while the menu is open.
 void WaylandOverlay::returnFocus() {
-    if (!layerSurface_ || layerSurface_->isKeyboardExclusive() || !window_.isActive())
+    if (!layerSurface_ || !window_.isActive())
         return;
-    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || layerSurface_->hasPopup())
         returnFocusSoon();
     else
         focusReturn_.start(WaylandCompositor::output(*screen_));

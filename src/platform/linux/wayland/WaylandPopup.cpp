@@ -107,6 +107,7 @@ void WaylandPopup::release() {
     window_ = nullptr;
     popup_.reset();
     surface_.reset();
+    parent_->popupDestroyed();
     if (compositor_.layerShellVersion() >= keyboardStaysWithParent)
         parent_->setKeyboardExclusive(false);
 }
