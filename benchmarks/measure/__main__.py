@@ -8,8 +8,8 @@ import sys
 import time
 from pathlib import Path
 
-from . import peers, table
-from .program import Bench
+from . import peers, table, wayland
+from .program import Bench, every
 
 
 def machine():
@@ -42,6 +42,7 @@ def main(build, folder, quick):
         ("frames", bench.frames),
         ("instructions", bench.instructions),
         ("lateness", bench.lateness),
+        ("wayland", lambda: wayland.playing(bench.programs, bench.seconds, every(3))),
     ]
     for name, step in steps:
         print(f"bench: {name}…", file=sys.stderr, flush=True)

@@ -32,6 +32,7 @@ class Bench:
         self.programs = {"player": f"{build}/showcase/player/brellowind-demo-player",
                          "measured": f"{build}/bin/brellowind-measured",
                          "window": f"{build}/benchmarks/window/empty-window",
+                         "layer": f"{build}/benchmarks/layer/empty-layer",
                          "eye": f"{build}/benchmarks/eye/eye"}
         self.seconds = 6 if quick else 12  # as many changes of the line in each turn
         self.tracks = 100 if quick else 1000

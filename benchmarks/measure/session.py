@@ -84,8 +84,8 @@ class Player:
     """The demo player, in a process of its own, told over the bus what to play."""
 
     def __init__(self, program, session):
-        self.process = subprocess.Popen([program], env=session.environment)
-        self.bus = dbus.bus.BusConnection(session.address)
+        self.process = session.start([program])
+        self.bus = session.connect()
         wait_until(lambda: self.bus.name_has_owner(PLAYER))
         self.object = self.bus.get_object(PLAYER, "/org/mpris/MediaPlayer2")
 
@@ -127,8 +127,29 @@ class Player:
 
 
 class Session:
+    """One on an X server."""
+
     def __init__(self, screen="1440x900x24"):
         self.folder = tempfile.TemporaryDirectory(prefix="brellowind-bench-")
+        self.home = self.folder.name
+        self.environment = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8", "HOME": self.home,
+                            "XDG_RUNTIME_DIR": self.home}
+        self.start_display(screen)
+        self.bus = self.start(
+            ["dbus-daemon", "--session", "--nofork", "--nosyslog", "--print-address=1"],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        self.address = self.bus.stdout.readline().decode().strip()
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.address
+
+    def start(self, command, environment=None, **options):
+        """A process in the session."""
+        return subprocess.Popen(command, env=environment or self.environment, **options)
+
+    def connect(self):
+        """A connection to the bus."""
+        return dbus.bus.BusConnection(self.address)
+
+    def start_display(self, screen):
         reading, writing = os.pipe()
         self.x_server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(writing), "-screen", "0", screen, "-dpi", "96",
@@ -138,17 +159,7 @@ class Session:
             display = pipe.readline().strip()
         if not display:
             raise RuntimeError("the virtual X server did not start")
-        home = self.folder.name
-        self.environment = {
-            "PATH": os.environ["PATH"], "LANG": "C.UTF-8", "HOME": home, "XDG_RUNTIME_DIR": home,
-            "DISPLAY": ":" + display,
-        }
-        self.bus = subprocess.Popen(
-            ["dbus-daemon", "--session", "--nofork", "--nosyslog", "--print-address=1"],
-            env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-        self.address = self.bus.stdout.readline().strip()
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.address
-        self.home = home
+        self.environment["DISPLAY"] = ":" + display
 
     def close(self):
         end(self.bus)
@@ -178,9 +189,8 @@ class Program:
 
     def __init__(self, command, session, **environment):
         started = time.monotonic_ns()
-        self.process = subprocess.Popen(command, env={**session.environment, **environment},
-                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                        bufsize=0)
+        self.process = session.start(command, {**session.environment, **environment},
+                                     stdin=subprocess.PIPE, stdout=subprocess.PIPE, bufsize=0)
         self.pid = self.process.pid
         line = self.readline()
         self.seconds_to_first_frame = (int(re.fullmatch(r"frame (\d+)", line)[1]) - started) / 1e9

@@ -86,8 +86,27 @@ def program_rows(results):
     return rows
 
 
+def wayland_rows(results):
+    native, through, floor = (results["wayland"][key] for key in ("native", "xWayland", "window"))
+    x11 = results["sideBySide"]["playing"]
+    ratio = native["memory"]["pss"] / x11["memory"]["pss"]
+    return [
+        ("Wayland (sway): processor while playing; to reach: through XWayland, both processes",
+         f"{share(native['cpu'])}; an empty layer surface {share(floor['cpu'])}",
+         share(through["cpu"]), native["cpu"] <= through["cpu"]),
+        ("Wayland (sway): wake-ups per second, playing",
+         f"{native['wakeUps']:.1f}; through XWayland {through['wakeUps']:.1f}, "
+         f"an empty layer surface {floor['wakeUps']:.1f}", "", None),
+        ("Wayland (sway): memory while playing, PSS",
+         f"{native['memory']['pss'] / 1024:.1f} MB: {ratio:.2f} times that on X11; an empty "
+         f"layer surface {floor['memory']['pss'] / 1024:.1f} MB", "1.0 times", ratio <= 1),
+        ("Wayland (sway): a graphics driver in the process", "yes" if native["driver"] else "no",
+         "no", not native["driver"]),
+    ]
+
+
 def rows(results):
-    return parser_rows(results) + program_rows(results)
+    return parser_rows(results) + program_rows(results) + wayland_rows(results)
 
 
 def markdown(all_rows):
