@@ -27,13 +27,14 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "${BRELLOWIND_WEBSITE_URL}")
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 
-# The libraries are computed. QML modules and plugins are loaded while the program runs, links are
+# The libraries are computed. Qt's Wayland plugin, QML modules and plugins are loaded while the program runs, links are
 # opened by a command, and the bus and the certificates belong to the system: nothing can compute
 # them. Qt 6.4 looks for the last of the modules only, since the library of Qt Quick brings the types
 # of the others; that is its own affair, so what the QML imports is named whole.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
   qml6-module-qtquick qml6-module-qtqml qml6-module-qtqml-workerscript
+  qt6-wayland
   ca-certificates xdg-utils
   "default-dbus-session-bus | dbus-session-bus")
 # Covers in WebP; texts of most scripts.

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointingDevice>
 #include <cmath>
 #include <utility>
 
@@ -120,6 +121,8 @@ void SceneWindow::mousePressEvent(QMouseEvent* event) {
 
 void SceneWindow::mouseReleaseEvent(QMouseEvent* event) {
     pointer_.release(event->position(), event->button());
+    if (event->pointerType() == QPointingDevice::PointerType::Finger)
+        pointer_.leave(); // a lifted finger hovers over nothing
 }
 
 void SceneWindow::makeFrame() {

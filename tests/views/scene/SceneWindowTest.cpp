@@ -1,8 +1,11 @@
 #include "views/scene/SceneWindow.h"
 #include "views/Painting.h"
 #include "views/scene/Block.h"
+#include "views/scene/TapArea.h"
 
+#include <QTest>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace brellowind {
 namespace {
@@ -64,6 +67,23 @@ TEST_F(SceneWindowTest, ClipsTheChildrenButNotTheItem) {
     EXPECT_EQ(at(15, 15), QColor(Qt::blue));
     EXPECT_EQ(at(25, 25), QColor(Qt::red));
     EXPECT_EQ(at(50, 50), QColor(Qt::transparent));
+}
+
+TEST_F(SceneWindowTest, AFingerTapsAndHoversNoLongerThanItTouches) {
+    TapArea area(QAccessible::Button, &window.root());
+    area.setSize({40, 40});
+    area.mindHovering();
+    int taps = 0;
+    bool hovered = false;
+    QObject::connect(&area, &TapArea::tapped, [&] { ++taps; });
+    QObject::connect(&area, &TapArea::hoveredChanged, [&](bool inside) { hovered = inside; });
+    window.show();
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    QTest::touchEvent(&window, screen.get()).press(1, {20, 20});
+    EXPECT_TRUE(hovered);
+    QTest::touchEvent(&window, screen.get()).release(1, {20, 20});
+    EXPECT_EQ(taps, 1);
+    EXPECT_FALSE(hovered);
 }
 
 } // namespace

@@ -27,6 +27,9 @@ bool offersLayerShell() {
     // A connection that was handed over by number can be taken once only: that is for Qt.
     if (std::getenv("WAYLAND_SOCKET"))
         return true;
+    // Without a name the library tries a usual one, which may belong to another session.
+    if (!std::getenv("WAYLAND_DISPLAY"))
+        return false;
     const std::unique_ptr<wl_display, decltype(&wl_display_disconnect)> display(
         wl_display_connect(nullptr), wl_display_disconnect);
     if (!display)
@@ -41,8 +44,9 @@ bool offersLayerShell() {
 std::string waylandSocketPath() {
     const char* named = std::getenv("WAYLAND_DISPLAY");
     const char* folder = std::getenv("XDG_RUNTIME_DIR");
-    const std::filesystem::path path =
-        std::filesystem::path(folder ? folder : "") / (named ? named : "wayland-0");
+    if (!named)
+        return {};
+    const auto path = std::filesystem::path(folder ? folder : "") / named;
     std::error_code failure;
     return std::filesystem::canonical(path, failure).string();
 }

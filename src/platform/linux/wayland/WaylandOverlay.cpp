@@ -20,9 +20,9 @@ constexpr std::chrono::seconds retryDelay{1};
 /// In which a window that was opened from the menu takes the keyboard itself.
 constexpr std::chrono::milliseconds focusDelay{100};
 
-bool isFromTouch(const QEvent& event) {
-    const auto* device = static_cast<const QPointerEvent&>(event).device();
-    return device && device->type() == QInputDevice::DeviceType::TouchScreen;
+bool isFromFinger(const QEvent& event) {
+    return static_cast<const QPointerEvent&>(event).pointerType() ==
+           QPointingDevice::PointerType::Finger;
 }
 
 } // namespace
@@ -87,7 +87,7 @@ bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::Enter:
     case QEvent::MouseMove:
-        if (!isFromTouch(*event)) {
+        if (!isFromFinger(*event)) {
             const QPointF at = static_cast<QSinglePointEvent*>(event)->position();
             pointer_.move(Point{desktopFrame_.x + at.x(), desktopFrame_.maxY() - at.y()});
         }
