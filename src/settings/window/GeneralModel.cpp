@@ -1,7 +1,5 @@
 #include "settings/window/GeneralModel.h"
 
-#include "settings/window/Text.h"
-
 #include <utility>
 
 namespace brellowind {
@@ -28,36 +26,6 @@ void GeneralModel::refresh() {
         return;
     card_ = std::move(card);
     Q_EMIT cardChanged();
-}
-
-QString GeneralModel::cardIcon() const {
-    return toQString(card_.icon);
-}
-
-GeneralModel::CardColor GeneralModel::cardColor() const {
-    switch (card_.color) {
-    case UpdateCard::Color::yellow:
-        return Yellow;
-    case UpdateCard::Color::teal:
-        return Teal;
-    case UpdateCard::Color::red:
-        return Red;
-    case UpdateCard::Color::green:
-        break;
-    }
-    return Green;
-}
-
-QString GeneralModel::cardTitle() const {
-    return toQString(card_.title);
-}
-
-QString GeneralModel::cardButton() const {
-    return toQString(card_.buttonLabel);
-}
-
-QString GeneralModel::cardVersion() const {
-    return toQString(card_.versionText);
 }
 
 } // namespace brellowind

@@ -21,7 +21,7 @@ class GeneralModel : public QObject {
     QML_UNCREATABLE("made by the settings window")
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged FINAL)
     Q_PROPERTY(QString cardIcon READ cardIcon NOTIFY cardChanged FINAL)
-    Q_PROPERTY(CardColor cardColor READ cardColor NOTIFY cardChanged FINAL)
+    Q_PROPERTY(int cardColor READ cardColor NOTIFY cardChanged FINAL)
     Q_PROPERTY(double cardTintOpacity READ cardTintOpacity NOTIFY cardChanged FINAL)
     Q_PROPERTY(QString cardTitle READ cardTitle NOTIFY cardChanged FINAL)
     Q_PROPERTY(QString cardButton READ cardButton NOTIFY cardChanged FINAL)
@@ -29,9 +29,6 @@ class GeneralModel : public QObject {
     Q_PROPERTY(QString cardVersion READ cardVersion NOTIFY cardChanged FINAL)
 
 public:
-    enum CardColor { Yellow, Teal, Red, Green };
-    Q_ENUM(CardColor)
-
     explicit GeneralModel(const SettingsServices& services);
 
     /// The tab is shown: each time, an update check starts.
@@ -44,13 +41,13 @@ public:
     void refresh();
 
     bool launchAtLogin() const { return launchAtLogin_; }
-    QString cardIcon() const; ///< a symbol's name; empty: a progress indicator stands there
-    CardColor cardColor() const;
+    QString cardIcon() const { return QString::fromUtf8(card_.icon); }
+    int cardColor() const { return static_cast<int>(card_.color); } ///< an `UpdateCard::Color`
     double cardTintOpacity() const { return card_.tintOpacity; }
-    QString cardTitle() const;
-    QString cardButton() const;
+    QString cardTitle() const { return QString::fromUtf8(card_.title); }
+    QString cardButton() const { return QString::fromUtf8(card_.buttonLabel); }
     bool cardButtonEnabled() const { return card_.buttonEnabled(); }
-    QString cardVersion() const;
+    QString cardVersion() const { return QString::fromStdString(card_.versionText); }
 
     Q_INVOKABLE void setLaunchAtLogin(bool enabled) { settings_.setLaunchAtLogin(enabled); }
     Q_INVOKABLE void pressUpdateButton() { settings_.pressUpdateButton(); }

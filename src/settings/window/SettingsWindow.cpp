@@ -2,7 +2,6 @@
 
 #include "settings/AppInfo.h"
 #include "settings/window/SettingsModel.h"
-#include "settings/window/Text.h"
 
 #include <QColor>
 #include <QQuickItem>
@@ -89,7 +88,7 @@ void SettingsWindow::build() {
     prepareQtQuick();
     content_ = std::make_unique<Content>(services_, [this] { closed(); });
     auto& [model, view] = *content_;
-    view.setTitle(toQString(AppInfo::name));
+    view.setTitle(QString::fromUtf8(AppInfo::name));
     view.setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                   Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     view.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}});

@@ -7,9 +7,11 @@ namespace brellowind {
 Spokes::Spokes(QQuickItem* parent) : QQuickPaintedItem(parent) {
     setAntialiasing(true);
     setImplicitSize(16, 16);
+    connect(this, &Spokes::changed, this, [this] { update(); });
 }
 
 void Spokes::paint(QPainter* painter) {
+    constexpr int count = 8;
     painter->translate(width() / 2, height() / 2);
     painter->scale(width() / 16, height() / 16);
     for (int spoke = 0; spoke < count; ++spoke) {
@@ -22,22 +24,6 @@ void Spokes::paint(QPainter* painter) {
         painter->drawLine(QPointF(0, -3.6), QPointF(0, -6.6));
         painter->restore();
     }
-}
-
-void Spokes::setColor(const QColor& color) {
-    if (color == color_)
-        return;
-    color_ = color;
-    update();
-    Q_EMIT colorChanged();
-}
-
-void Spokes::setStep(int step) {
-    if (step == step_)
-        return;
-    step_ = step;
-    update();
-    Q_EMIT stepChanged();
 }
 
 } // namespace brellowind

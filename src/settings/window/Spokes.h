@@ -10,30 +10,20 @@ namespace brellowind {
 class Spokes : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED FINAL)
-    Q_PROPERTY(int step READ step WRITE setStep NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed REQUIRED FINAL)
+    Q_PROPERTY(int step MEMBER step_ NOTIFY changed FINAL)
 
 public:
-    static constexpr int count = 8;
-
     explicit Spokes(QQuickItem* parent = nullptr);
 
     void paint(QPainter* painter) override;
 
-    QColor color() const { return color_; }
-    void setColor(const QColor& color);
-
-    /// From 0, at the top, clockwise. Any number will do: the wheel goes round.
-    int step() const { return step_; }
-    void setStep(int step);
-
 Q_SIGNALS:
-    void colorChanged();
-    void stepChanged();
+    void changed();
 
 private:
     QColor color_;
-    int step_ = 0;
+    int step_ = 0; ///< from 0, at the top, clockwise, any number of times around
 };
 
 } // namespace brellowind

@@ -106,7 +106,7 @@ std::string SettingsFixture::focused() {
 
 bool SettingsFixture::hasFocusRing(const QQuickItem* item) {
     return std::ranges::any_of(item->findChildren<QQuickItem*>(), [](const QQuickItem* child) {
-        return child->property("shown").toBool() && child->isVisible();
+        return child->objectName() == u"focusRing" && child->isVisible();
     });
 }
 

@@ -1,5 +1,4 @@
 #include "settings/window/Symbol.h"
-#include "settings/window/SymbolPath.h"
 
 #include <QImage>
 #include <QPainter>
@@ -68,8 +67,8 @@ TEST(SymbolPath, IsEmptyForANameThatIsNoneOfOurs) {
 
 TEST(Symbol, FillsItsItemWithItsColour) {
     Symbol symbol;
-    symbol.setName(QStringLiteral("checkmark.circle.fill"));
-    symbol.setColor(Qt::green);
+    symbol.setProperty("name", QStringLiteral("checkmark.circle.fill"));
+    symbol.setProperty("color", QColor(Qt::green));
     symbol.setSize({40, 40});
     QImage picture(40, 40, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);

@@ -22,12 +22,9 @@ Rectangle {
         Emblem {
             anchors.horizontalCenter: parent.horizontalCenter
         }
-        Item {
-            width: 1
-            height: 8
-        }
         PlainText {
             anchors.horizontalCenter: parent.horizontalCenter
+            topPadding: 12
             text: root.model.name
             font.pixelSize: Style.nameSize
             font.weight: Font.DemiBold
@@ -38,12 +35,9 @@ Rectangle {
             color: Style.secondaryText
             font.pixelSize: Style.calloutSize
         }
-        Item {
-            width: 1
-            height: 4
-        }
         PlainText {
             anchors.horizontalCenter: parent.horizontalCenter
+            topPadding: 8
             text: root.model.description
             color: Style.secondaryText
             font.pixelSize: Style.calloutSize

@@ -30,14 +30,18 @@ Rectangle {
         anchors { right: parent.right; rightMargin: 11; verticalCenter: parent.verticalCenter }
         spacing: 2
 
-        EmblemBar {
-            height: 6
-        }
-        EmblemBar {
-            height: 12
-        }
-        EmblemBar {
-            height: 8
+        Repeater {
+            model: [6, 12, 8]
+
+            Rectangle {
+                required property int modelData
+
+                anchors.verticalCenter: parent ? parent.verticalCenter : undefined
+                width: 2
+                height: modelData
+                radius: 1
+                color: Style.text
+            }
         }
     }
 }

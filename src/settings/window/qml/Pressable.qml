@@ -32,10 +32,17 @@ Item {
     HoverHandler {
         id: hover
     }
-    FocusRing {
+    Rectangle {
+        objectName: "focusRing"
         parent: root.ringed
-        shown: root.activeFocus
-        outset: root.ringOutset
-        radius: root.radius + outset
+        z: 1
+        anchors.fill: parent
+        anchors.margins: -root.ringOutset
+        radius: root.radius + root.ringOutset
+        visible: root.activeFocus
+        color: "transparent"
+        border.width: 2
+        border.color: Style.focus
+        antialiasing: true
     }
 }

@@ -6,7 +6,11 @@ Pressable {
 
     implicitWidth: Math.ceil(label.implicitWidth) + 2 * label.x
     implicitHeight: Math.ceil(label.implicitHeight) + 2 * label.y
-    opacity: highlight.level
+    opacity: hovered ? Style.hoverOpacity : 1
+
+    Behavior on opacity {
+        EaseOut {}
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -23,8 +27,5 @@ Pressable {
         color: Style.buttonText
         font.pixelSize: Style.buttonSize
         font.weight: Font.DemiBold
-    }
-    HoverHighlight {
-        id: highlight
     }
 }
