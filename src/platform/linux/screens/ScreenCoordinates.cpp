@@ -24,10 +24,6 @@ ScreenCoordinates::ScreenCoordinates(std::vector<ScreenPlacement> screens, std::
     : screens_(std::move(screens)),
       primary_(primary < screens_.size() ? screens_[primary].logical : Rect{}) {}
 
-Rect ScreenCoordinates::desktopFrame(std::size_t screen) const {
-    return desktopRect(screens_[screen].logical);
-}
-
 Rect ScreenCoordinates::desktopRect(const Rect& logical) const {
     return {logical.x - primary_.x, primary_.maxY() - logical.maxY(), logical.width,
             logical.height};

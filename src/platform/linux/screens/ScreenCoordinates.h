@@ -32,9 +32,6 @@ public:
     /// `primary` is an index into `screens`, unless these are empty.
     ScreenCoordinates(std::vector<ScreenPlacement> screens, std::size_t primary);
 
-    /// The whole screen on the desktop.
-    Rect desktopFrame(std::size_t screen) const;
-
     /// A part of some screen on the desktop.
     Rect desktopRect(const Rect& logical) const;
 
