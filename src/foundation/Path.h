@@ -2,8 +2,6 @@
 
 #include "foundation/Geometry.h"
 
-#include <functional>
-#include <variant>
 #include <vector>
 
 namespace brellowind {
@@ -12,41 +10,37 @@ namespace brellowind {
 /// decided by the even-odd rule; a part that is left open counts as closed.
 class Path {
 public:
-    struct Move {
-        Point to;
+    struct Element {
+        enum class Kind { move, line, quadCurve, close };
 
-        bool operator==(const Move&) const = default;
+        Kind kind;
+        Point to{};      ///< not used by `close`, a straight line back to the last `move`
+        Point control{}; ///< used by `quadCurve` only
+
+        bool operator==(const Element&) const = default;
     };
 
-    struct Line {
-        Point to;
-
-        bool operator==(const Line&) const = default;
-    };
-
-    struct QuadCurve {
-        Point to;
-        Point control;
-
-        bool operator==(const QuadCurve&) const = default;
-    };
-
-    /// A straight line back to the last `Move`.
-    struct Close {
-        bool operator==(const Close&) const = default;
-    };
-
-    using Element = std::variant<Move, Line, QuadCurve, Close>;
-
-    void move(Point to);
-    void line(Point to);
-    void quadCurve(Point to, Point control);
-    void close();
+    void move(Point to) { elements_.push_back({Element::Kind::move, to}); }
+    void line(Point to) { elements_.push_back({Element::Kind::line, to}); }
+    void quadCurve(Point to, Point control) {
+        elements_.push_back({Element::Kind::quadCurve, to, control});
+    }
+    void close() { elements_.push_back({Element::Kind::close}); }
 
     const std::vector<Element>& elements() const { return elements_; }
 
     /// The outline whose points are those of this one under `map`, which keeps lines straight.
-    Path mapped(const std::function<Point(Point)>& map) const;
+    template <typename Map>
+    Path mapped(Map map) const {
+        Path path = *this;
+        for (auto& element : path.elements_) {
+            if (element.kind != Element::Kind::close)
+                element.to = map(element.to);
+            if (element.kind == Element::Kind::quadCurve)
+                element.control = map(element.control);
+        }
+        return path;
+    }
 
     bool operator==(const Path&) const = default;
 

@@ -1,8 +1,6 @@
 #include "foundation/UUID.h"
 
-#include "foundation/FatalError.h"
-
-#include <cstdio>
+#include <exception>
 #include <sys/random.h>
 
 namespace brellowind {
@@ -18,22 +16,9 @@ std::uint64_t splitMix64(std::uint64_t& state) {
 
 } // namespace
 
-UUID UUID::random() {
-    return UUIDGenerator().next();
-}
-
-std::string UUID::string() const {
-    std::array<char, 37> text{};
-    const auto high = static_cast<unsigned long long>(words[0]);
-    const auto low = static_cast<unsigned long long>(words[1]);
-    std::snprintf(text.data(), text.size(), "%08llX-%04llX-%04llX-%04llX-%012llX", high >> 32,
-                  (high >> 16) & 0xFFFF, high & 0xFFFF, low >> 48, low & 0xFFFF'FFFF'FFFF);
-    return text.data();
-}
-
 UUIDGenerator::UUIDGenerator() {
     if (getentropy(state_.data(), sizeof state_) != 0)
-        fatalError("the system has no random numbers");
+        std::terminate(); // the system has no random numbers
 }
 
 UUID UUIDGenerator::next() {

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 
 namespace brellowind {
 
@@ -10,19 +9,13 @@ namespace brellowind {
 struct UUID {
     std::array<std::uint64_t, 2> words{}; ///< most significant word first
 
-    /// A fresh random (version 4) identifier. Takes a system call.
-    static UUID random();
-
-    /// The usual form of 36 characters, with upper-case hexadecimal digits.
-    std::string string() const;
-
-    bool operator==(const UUID&) const = default;
+    auto operator<=>(const UUID&) const = default;
 };
 
 /// Draws many random (version 4) identifiers with one system call, when it is made.
 ///
-/// The generator is SplitMix64, once for each half. Making and seeding a std::mt19937_64 takes about
-/// as long as parsing a song, so with it the parser is not 10 times as fast as the ICU form.
+/// The generator is SplitMix64, once for each half. Making and seeding a std::mt19937_64 takes
+/// about as long as parsing a song, so with it the parser is not 10 times as fast as the ICU form.
 class UUIDGenerator {
 public:
     UUIDGenerator();

@@ -1,12 +1,13 @@
 #include "lyrics/LrclibAPI.h"
 
-#include "foundation/FatalError.h"
 #include "foundation/Utf8.h"
 #include "lyrics/LRCParser.h"
 #include "lyrics/LrclibResponse.h"
 
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 namespace brellowind::LrclibAPI {
@@ -33,8 +34,11 @@ void appendEscaped(std::string& url, std::string_view value) {
 std::int64_t wholeSeconds(double durationMs) {
     constexpr double limit = 9223372036854775808.0; // 2^63, exact as a double
     const double seconds = durationMs / 1000.0;
-    if (!std::isfinite(seconds) || seconds < -limit || seconds >= limit)
-        fatalError("the duration of a track is not representable in whole seconds");
+    if (!std::isfinite(seconds) || seconds < -limit || seconds >= limit) {
+        std::fputs("Fatal error: the duration of a track is not representable in whole seconds\n",
+                   stderr);
+        std::abort();
+    }
     return static_cast<std::int64_t>(seconds);
 }
 

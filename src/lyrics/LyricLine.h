@@ -14,7 +14,7 @@ namespace brellowind {
 /// Equality includes `id`: a line equals only itself and its copies.
 struct LyricLine {
     LyricLine(double time_, std::string_view text_)
-        : id(UUID::random()), time(time_), text(text_) {}
+        : id(UUIDGenerator().next()), time(time_), text(text_) {}
 
     /// One of many lines of `whole`; `words` must lie inside it, and `freshID` belong to no other.
     LyricLine(UUID freshID, double time_, const std::shared_ptr<const std::string>& whole,

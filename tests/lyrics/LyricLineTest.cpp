@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <set>
-#include <string>
 #include <type_traits>
 
 namespace brellowind {
@@ -18,9 +17,9 @@ TEST(LyricLine, KeepsTimeAndTextUnchanged) {
 }
 
 TEST(LyricLine, DrawsAFreshIdEachTime) {
-    std::set<std::string> ids;
+    std::set<UUID> ids;
     for (int i = 0; i < 1000; ++i)
-        ids.insert(LyricLine(1, "same").id.string());
+        ids.insert(LyricLine(1, "same").id);
     EXPECT_EQ(ids.size(), 1000U);
 }
 

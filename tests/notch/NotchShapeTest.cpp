@@ -5,16 +5,12 @@
 
 namespace brellowind {
 
+using Kind = Path::Element::Kind;
+
 void PrintTo(const Path::Element& element, std::ostream* out) {
-    if (const auto* move = std::get_if<Path::Move>(&element))
-        *out << "move to " << testing::PrintToString(move->to);
-    else if (const auto* line = std::get_if<Path::Line>(&element))
-        *out << "line to " << testing::PrintToString(line->to);
-    else if (const auto* curve = std::get_if<Path::QuadCurve>(&element))
-        *out << "curve to " << testing::PrintToString(curve->to) << " by "
-             << testing::PrintToString(curve->control);
-    else
-        *out << "close";
+    static constexpr const char* kinds[] = {"move to ", "line to ", "curve to ", "close "};
+    *out << kinds[static_cast<int>(element.kind)] << testing::PrintToString(element.to) << " by "
+         << testing::PrintToString(element.control);
 }
 
 namespace {
@@ -22,18 +18,18 @@ namespace {
 using testing::ElementsAre;
 
 Path::Element move(double x, double y) {
-    return Path::Move{{x, y}};
+    return {Kind::move, {x, y}};
 }
 
 Path::Element line(double x, double y) {
-    return Path::Line{{x, y}};
+    return {Kind::line, {x, y}};
 }
 
 Path::Element curve(Point to, Point control) {
-    return Path::QuadCurve{to, control};
+    return {Kind::quadCurve, to, control};
 }
 
-const Path::Element close = Path::Close{};
+const Path::Element close{Kind::close};
 
 TEST(NotchShape, FlaresAtTheTopAndIsRoundAtTheBottom) {
     const auto path = NotchShape(8, 12).path({0, 0, 280, 59});

@@ -1,7 +1,5 @@
 #include "platform/qt/PainterPath.h"
 
-#include <variant>
-
 namespace brellowind::platform {
 namespace {
 
@@ -9,24 +7,22 @@ QPointF point(Point p) {
     return {p.x, p.y};
 }
 
-struct Drawer {
-    void operator()(const Path::Move& move) { path.moveTo(point(move.to)); }
-    void operator()(const Path::Line& line) { path.lineTo(point(line.to)); }
-    void operator()(const Path::QuadCurve& curve) {
-        path.quadTo(point(curve.control), point(curve.to));
-    }
-    void operator()(const Path::Close&) { path.closeSubpath(); }
-
-    QPainterPath path;
-};
-
 } // namespace
 
 QPainterPath painterPath(const Path& path) {
-    Drawer drawer;
-    for (const auto& element : path.elements())
-        std::visit(drawer, element);
-    return drawer.path;
+    using Kind = Path::Element::Kind;
+    QPainterPath drawn;
+    for (const auto& [kind, to, control] : path.elements()) {
+        if (kind == Kind::move)
+            drawn.moveTo(point(to));
+        else if (kind == Kind::line)
+            drawn.lineTo(point(to));
+        else if (kind == Kind::quadCurve)
+            drawn.quadTo(point(control), point(to));
+        else
+            drawn.closeSubpath();
+    }
+    return drawn;
 }
 
 } // namespace brellowind::platform

@@ -20,7 +20,7 @@ protected:
     /// Where the outline that the overlay has begins, which is its top left corner.
     Point corner() const {
         const auto& elements = windowSystem.overlay->outline.elements();
-        return std::get<Path::Move>(elements.front()).to;
+        return elements.front().to;
     }
 
     Point pillsCorner() const {
@@ -32,8 +32,7 @@ protected:
 TEST_F(PillOutline, IsThatOfThePill) {
     EXPECT_EQ(corner(), pillsCorner());
     const auto last = windowSystem.overlay->outline.elements().size() - 2; // before it is closed
-    const auto end =
-        std::get<Path::QuadCurve>(windowSystem.overlay->outline.elements().at(last)).to;
+    const auto end = windowSystem.overlay->outline.elements().at(last).to;
     const QPointF topRight = pill()->transform().map(pill()->boundingRect().topRight());
     EXPECT_EQ(end, (Point{topRight.x(), topRight.y()}));
 }
