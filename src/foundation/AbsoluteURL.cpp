@@ -1,54 +1,37 @@
 #include "foundation/AbsoluteURL.h"
 
-#include <algorithm>
-
 namespace brellowind {
 namespace {
 
+constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+constexpr std::string_view schemeCharacters =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+-.";
+constexpr std::string_view addressCharacters =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789%-._~:/?#[]@!$&'()*+,;=";
 constexpr std::string_view escapeDigits = "0123456789ABCDEFabcdef";
 
-bool isLetter(char character) {
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-
-bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
-bool isOneOf(char character, std::string_view characters) {
-    return characters.find(character) != std::string_view::npos;
-}
-
-bool isScheme(std::string_view text) {
-    return !text.empty() && isLetter(text.front()) && std::ranges::all_of(text, [](char character) {
-        return isLetter(character) || isDigit(character) || isOneOf(character, "+-.");
-    });
+bool consistsOf(std::string_view text, std::string_view characters) {
+    return text.find_first_not_of(characters) == std::string_view::npos;
 }
 
 /// Whether percent escapes and the unreserved and reserved characters are all that `text` holds.
 bool isAddress(std::string_view text) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char character = text[i];
-        if (character == '%') {
-            if (text.size() - i < 3 || !isOneOf(text[i + 1], escapeDigits) ||
-                !isOneOf(text[i + 2], escapeDigits))
-                return false;
-            i += 2;
-        } else if (!isLetter(character) && !isDigit(character) &&
-                   !isOneOf(character, "-._~:/?#[]@!$&'()*+,;=")) {
+    for (auto at = text.find('%'); at != text.npos; at = text.find('%', at + 1)) {
+        const auto digits = text.substr(at + 1, 2);
+        if (digits.size() < 2 || !consistsOf(digits, escapeDigits))
             return false;
-        }
     }
-    return true;
+    return consistsOf(text, addressCharacters);
 }
 
 } // namespace
 
 bool isAbsoluteURL(std::string_view text) {
     const auto colon = text.find(':');
-    if (colon == std::string_view::npos || colon + 1 == text.size())
+    if (colon == text.npos || colon == 0 || colon + 1 == text.size())
         return false;
-    return isScheme(text.substr(0, colon)) && isAddress(text.substr(colon + 1));
+    return consistsOf(text.substr(0, 1), letters) &&
+           consistsOf(text.substr(0, colon), schemeCharacters) && isAddress(text.substr(colon + 1));
 }
 
 } // namespace brellowind
