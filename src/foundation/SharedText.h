@@ -28,7 +28,6 @@ public:
     std::size_t size() const { return slice_.size(); }
 
     operator std::string_view() const { return slice_; }
-    operator std::string() const { return std::string(slice_); }
 
     friend bool operator==(const SharedText& a, const SharedText& b) {
         return a.slice_ == b.slice_;

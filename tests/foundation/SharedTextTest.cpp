@@ -25,11 +25,5 @@ TEST(SharedText, OutlivesTheStringItWasCutFrom) {
     EXPECT_EQ(text, "two");
 }
 
-TEST(SharedText, ReadsAsAString) {
-    const SharedText text("words");
-    const std::string string = text;
-    EXPECT_EQ(string, "words");
-}
-
 } // namespace
 } // namespace brellowind

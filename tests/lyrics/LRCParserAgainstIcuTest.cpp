@@ -123,7 +123,7 @@ icu::UnicodeString utf16(const std::u32string& text) {
 std::vector<PatternParser::Line> parsed(const std::string& text) {
     std::vector<PatternParser::Line> lines;
     for (const auto& line : LRCParser::parse(text))
-        lines.push_back({line.time, line.text});
+        lines.push_back({line.time, std::string(line.text)});
     return lines;
 }
 

@@ -172,7 +172,7 @@ private:
     Shown shown() const {
         const auto& state = *store_->state;
         if (state.which() == Case::loaded)
-            return {Case::loaded, store_->lines().at(0).text};
+            return {Case::loaded, std::string(store_->lines().at(0).text)};
         return {state.which(), state.text()};
     }
 
