@@ -3,6 +3,7 @@
 #include "lyrics/LyricLine.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace brellowind {
@@ -21,8 +22,12 @@ public:
 
     static LyricsState idle() { return LyricsState(Case::idle); }
     static LyricsState loading() { return LyricsState(Case::loading); }
-    static LyricsState loaded(std::vector<LyricLine> lines);
-    static LyricsState plain(std::string text);
+    static LyricsState loaded(std::vector<LyricLine> lines) {
+        return LyricsState(Case::loaded, std::move(lines));
+    }
+    static LyricsState plain(std::string text) {
+        return LyricsState(Case::plain, {}, std::move(text));
+    }
     static LyricsState notFound() { return LyricsState(Case::notFound); }
     static LyricsState failed() { return LyricsState(Case::failed); }
 
@@ -37,7 +42,8 @@ public:
     bool operator==(const LyricsState&) const = default;
 
 private:
-    explicit LyricsState(Case which) : case_(which) {}
+    explicit LyricsState(Case which, std::vector<LyricLine> lines = {}, std::string text = {})
+        : case_(which), lines_(std::move(lines)), text_(std::move(text)) {}
 
     Case case_;
     std::vector<LyricLine> lines_;

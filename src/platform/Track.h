@@ -9,11 +9,8 @@ namespace brellowind {
 ///
 /// Equality compares every field; `id` tells whether two readings are the same song.
 struct Track {
-    Track(std::string title, std::string artist, std::string album, double durationMs,
-          std::optional<std::string> artworkURL);
-
     /// Title, artist and album joined by "|", which is not escaped.
-    std::string id() const;
+    std::string id() const { return title + '|' + artist + '|' + album; }
 
     bool operator==(const Track&) const = default;
 

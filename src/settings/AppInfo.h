@@ -10,6 +10,8 @@ inline constexpr std::string_view name = "Brellowind";
 inline constexpr std::string_view description = "Lyrics that live in your notch";
 
 /// The version as people read it: "Version 1.2", or "Version —" in a build without one.
-std::string version(std::string_view shortVersion);
+inline std::string version(std::string_view shortVersion) {
+    return "Version " + std::string(shortVersion.empty() ? "—" : shortVersion);
+}
 
 } // namespace brellowind::AppInfo

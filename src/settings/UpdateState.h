@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace brellowind {
 
@@ -28,7 +29,9 @@ public:
     static UpdateState idle() { return UpdateState(Case::idle); }
     static UpdateState checking() { return UpdateState(Case::checking); }
     static UpdateState upToDate() { return UpdateState(Case::upToDate); }
-    static UpdateState available(Release release);
+    static UpdateState available(Release release) {
+        return UpdateState(Case::available, std::move(release));
+    }
     static UpdateState failed() { return UpdateState(Case::failed); }
 
     Case which() const { return case_; }
@@ -39,7 +42,8 @@ public:
     bool operator==(const UpdateState&) const = default;
 
 private:
-    explicit UpdateState(Case which) : case_(which) {}
+    explicit UpdateState(Case which, std::optional<Release> release = {})
+        : case_(which), release_(std::move(release)) {}
 
     Case case_;
     std::optional<Release> release_;
