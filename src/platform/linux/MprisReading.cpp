@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 
 constexpr auto properties = "a{sv}"_L1;
 constexpr auto noTrack = "/org/mpris/MediaPlayer2/TrackList/NoTrack"_L1;
+constexpr auto numberTypes = "ynqiuxtd"_L1;
 constexpr double microsecondsPerMillisecond = 1e3;
 constexpr double microsecondsPerSecond = 1e6;
 
@@ -62,33 +63,10 @@ void eachEntry(const QDBusArgument& argument, Visit visit) {
     argument.endMap();
 }
 
-template <typename Number>
+/// Of any integer type, or a double.
 std::optional<double> number(const QDBusArgument& argument) {
-    const auto value = static_cast<double>(take<Number>(argument));
+    const double value = argument.asVariant().toDouble();
     return std::abs(value) < farthestMicroseconds ? std::optional(value) : std::nullopt;
-}
-
-std::optional<double> anyNumber(const QDBusArgument& argument, char16_t type) {
-    switch (type) {
-    case u'y':
-        return number<uchar>(argument);
-    case u'n':
-        return number<short>(argument);
-    case u'q':
-        return number<ushort>(argument);
-    case u'i':
-        return number<int>(argument);
-    case u'u':
-        return number<uint>(argument);
-    case u'x':
-        return number<qlonglong>(argument);
-    case u't':
-        return number<qulonglong>(argument);
-    case u'd':
-        return number<double>(argument);
-    default:
-        return std::nullopt;
-    }
 }
 
 Value value(const QDBusArgument& argument);
@@ -112,8 +90,8 @@ Value value(const QDBusArgument& argument) {
             result.path = take<QDBusObjectPath>(argument).path();
         else if (signature == "as"_L1 || signature == "av"_L1)
             result.firstText = firstEntry(argument, signature == "av"_L1);
-        else if (signature.size() == 1)
-            result.microseconds = anyNumber(argument, signature.front().unicode());
+        else if (signature.size() == 1 && numberTypes.contains(signature.front()))
+            result.microseconds = number(argument);
     });
     return result;
 }
@@ -123,19 +101,15 @@ struct Properties {
 };
 
 void readMetadata(const QDBusArgument& argument, Properties& read) {
+    const std::pair<QLatin1String, Value&> wanted[] = {
+        {"mpris:trackid"_L1, read.trackId}, {"xesam:title"_L1, read.title},
+        {"xesam:artist"_L1, read.artist},   {"xesam:album"_L1, read.album},
+        {"mpris:length"_L1, read.length},   {"mpris:artUrl"_L1, read.artUrl},
+    };
     eachEntry(argument, [&](const QString& key) {
-        if (key == "mpris:trackid"_L1)
-            read.trackId = value(argument);
-        else if (key == "xesam:title"_L1)
-            read.title = value(argument);
-        else if (key == "xesam:artist"_L1)
-            read.artist = value(argument);
-        else if (key == "xesam:album"_L1)
-            read.album = value(argument);
-        else if (key == "mpris:length"_L1)
-            read.length = value(argument);
-        else if (key == "mpris:artUrl"_L1)
-            read.artUrl = value(argument);
+        for (const auto& [name, property] : wanted)
+            if (key == name)
+                property = value(argument);
     });
 }
 
