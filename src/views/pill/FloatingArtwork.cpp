@@ -73,7 +73,7 @@ void FloatingArtwork::showCaption(double opacity) {
 
 void FloatingArtwork::fillCaption() {
     caption_->setImage(content_.cover);
-    caption_->setTexts(content_.artist.get(), content_.title.get());
+    caption_->setTexts(content_.artist, content_.title);
 }
 
 } // namespace brellowind

@@ -42,9 +42,9 @@ Pill::Pill(NotchRootView& view, FrameDriver& frames, platform::WindowSystem& win
     : Item(parent), view_(view), frames_(frames), windowSystem_(windowSystem), content_(view),
       shape_(named(new PillShape(this), "pill")),
       background_(new TapArea(QAccessible::Grouping, this)), inside_(new Item(this)),
-      line_(named(new LyricText(lineLook(), content_.line.get(), !content_.form.isMinimized, frames,
-                                inside_),
-                  "lyricLine")),
+      line_(named(
+          new LyricText(lineLook(), content_.line, !content_.form.isMinimized, frames, inside_),
+          "lyricLine")),
       artwork_(named(new FloatingArtwork(view, content_, this), "artwork")),
       waveform_(named(new Waveform(view, content_, this), "waveform")),
       grabber_(named(new Grabber(view, content_, this), "grabber")),
@@ -68,7 +68,7 @@ void Pill::openMenu(QPointF position) {
     windowSystem_.popUp({.window = *menu_,
                          .overlay = *window(),
                          .at = {position.x(), position.y()},
-                         .cornerRadius = menu_->radius()});
+                         .cornerRadius = PillMenu::radius});
 }
 
 void Pill::fill(QSizeF size) {
@@ -89,9 +89,9 @@ void Pill::redraw() {
 }
 
 void Pill::follow() {
-    line_->setText(content_.line.get());
+    line_->setText(content_.line);
     line_->setPresent(!content_.form.isMinimized);
-    background_->setName(content_.line.get());
+    background_->setName(content_.line);
     followPanel();
     artwork_->follow();
     waveform_->follow();
@@ -106,11 +106,10 @@ void Pill::followPanel() {
     if (!content_.form.isArtExpanded && motion_.expand.value() == 0)
         delete std::exchange(panelLine_, nullptr);
     else if (panelLine_)
-        panelLine_->setText(content_.line.get());
+        panelLine_->setText(content_.line);
     else
-        panelLine_ =
-            named(new LyricText(panelLineLook(), content_.line.get(), true, frames_, inside_),
-                  "panelLine");
+        panelLine_ = named(new LyricText(panelLineLook(), content_.line, true, frames_, inside_),
+                           "panelLine");
 }
 
 void Pill::tapBackground() {

@@ -18,22 +18,17 @@ bool assign(Value& member, const Value& value) {
     return true;
 }
 
-} // namespace
-
-bool PillText::set(std::string_view utf8) {
-    const auto shown = utf8::beginning(utf8, longestText);
-    if (shown == utf8_)
-        return false;
-    utf8_ = shown;
-    text_ = QString::fromStdString(utf8_);
-    return true;
+QString shown(std::string_view text) {
+    return QString::fromUtf8(utf8::beginning(text, longestText));
 }
 
+} // namespace
+
 bool PillContent::update(const NotchRootView& view) {
-    bool changed = line.set(view.currentLineText());
+    bool changed = assign(line, shown(view.currentLineText()));
     const auto& track = view.nowPlaying().track.get();
-    changed |= title.set(track ? std::string_view(track->title) : std::string_view());
-    changed |= artist.set(track ? std::string_view(track->artist) : std::string_view());
+    changed |= assign(title, track ? shown(track->title) : QString());
+    changed |= assign(artist, track ? shown(track->artist) : QString());
     if (assign(artwork, view.artwork().image.get())) {
         const auto* decoded = dynamic_cast<const platform::QtImage*>(artwork.get());
         cover = decoded ? decoded->image : QImage();

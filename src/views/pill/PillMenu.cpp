@@ -18,24 +18,21 @@ constexpr int padding = 5;
 /// The edge of the menu and what is behind its entries.
 class MenuBackground final : public PainterItem {
 public:
-    MenuBackground(double radius, Item* parent) : PainterItem(parent), radius_(radius) {}
+    using PainterItem::PainterItem;
 
     void paint(QPainter& painter) override {
         painter.setPen(QColor::fromRgbF(1, 1, 1, 0.12F));
         painter.setBrush(QColor::fromRgbF(0.11F, 0.11F, 0.12F));
-        painter.drawRoundedRect(boundingRect().adjusted(0.5, 0.5, -0.5, -0.5), radius_ - 0.5,
-                                radius_ - 0.5);
+        constexpr double radius = PillMenu::radius - 0.5;
+        painter.drawRoundedRect(boundingRect().adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     }
-
-private:
-    double radius_;
 };
 
 } // namespace
 
 PillMenu::PillMenu(NotchRootView& view) {
     setObjectName(QStringLiteral("menu"));
-    auto* background = new MenuBackground(radius(), &root());
+    auto* background = new MenuBackground(&root());
     const std::pair<QString, void (NotchRootView::*)()> entries[] = {
         {tr("Open Settings"), &NotchRootView::openSettings},
         {tr("Check for Updates…"), &NotchRootView::checkForUpdates},
@@ -72,13 +69,16 @@ void PillMenu::keyPressEvent(QKeyEvent* event) {
         if (highlighted_)
             Q_EMIT highlighted_->triggered();
         break;
+    case Qt::Key_Escape:
+        close();
+        break;
     default:
-        MenuWindow::keyPressEvent(event);
+        break;
     }
 }
 
 void PillMenu::hideEvent(QHideEvent* event) {
-    MenuWindow::hideEvent(event);
+    SceneWindow::hideEvent(event);
     highlight(nullptr);
 }
 
