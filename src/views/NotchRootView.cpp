@@ -23,13 +23,15 @@ NotchRootView::NotchRootView(Environment environment)
     : environment_(std::move(environment)),
       interactivity_(environment_.mainLoop, environment_.window),
       nextTurn_(environment_.mainLoop.onNextTurn([this] { refresh(); })) {
-    const auto redrawNextTurn = [this] { nextTurn_->request(); };
-    subscriptions_.push_back(environment_.nowPlaying->track.observe(redrawNextTurn));
-    subscriptions_.push_back(environment_.nowPlaying->isPlaying.observe(redrawNextTurn));
-    subscriptions_.push_back(environment_.nowPlaying->positionSec.observe(redrawNextTurn));
-    subscriptions_.push_back(environment_.lyrics->state.observe(redrawNextTurn));
-    subscriptions_.push_back(environment_.hover->isInside.observe(redrawNextTurn));
-    subscriptions_.push_back(environment_.artwork->image.observe(redrawNextTurn));
+    const auto follow = [this](const auto& published) {
+        subscriptions_.push_back(published.observe([this] { nextTurn_->request(); }));
+    };
+    follow(environment_.nowPlaying->track);
+    follow(environment_.nowPlaying->isPlaying);
+    follow(environment_.nowPlaying->positionSec);
+    follow(environment_.lyrics->state);
+    follow(environment_.hover->isInside);
+    follow(environment_.artwork->image);
 }
 
 void NotchRootView::appear() {
@@ -64,29 +66,14 @@ Subscription NotchRootView::onRedraw(Observers::Callback redraw) {
     return redraw_->add(std::move(redraw));
 }
 
-void NotchRootView::hoverCover(bool inside) {
-    form_.coverHovered = inside;
-    nextTurn_->request();
-}
-
-void NotchRootView::hoverGrabber(bool inside) {
-    form_.grabberHovered = inside;
-    nextTurn_->request();
-}
-
-void NotchRootView::hoverWaveform(bool inside) {
-    form_.waveformHovered = inside;
+void NotchRootView::change(bool& ofForm, bool value) {
+    ofForm = value;
     nextTurn_->request();
 }
 
 void NotchRootView::tapCover() {
     form_.isMinimized = false;
-    form_.isArtExpanded = true;
-    nextTurn_->request();
-}
-
-void NotchRootView::tapWaveform() {
-    environment_.nowPlaying->togglePlayPause();
+    change(form_.isArtExpanded, true);
 }
 
 void NotchRootView::tapGrabber() {
@@ -94,16 +81,6 @@ void NotchRootView::tapGrabber() {
         tapArtwork();
     else
         tapBackground();
-}
-
-void NotchRootView::tapArtwork() {
-    form_.isArtExpanded = false;
-    nextTurn_->request();
-}
-
-void NotchRootView::tapBackground() {
-    form_.isMinimized = !form_.isMinimized;
-    nextTurn_->request();
 }
 
 void NotchRootView::openSettings() {
@@ -116,10 +93,6 @@ void NotchRootView::checkForUpdates() {
     environment_.router.setSelectedTab(SettingsTab::general);
     environment_.openSettings();
     environment_.tasks.start(environment_.updater.check());
-}
-
-void NotchRootView::quit() {
-    environment_.application.terminate();
 }
 
 void NotchRootView::refresh() {
@@ -138,7 +111,7 @@ void NotchRootView::refresh() {
 
 void NotchRootView::trackChanged() {
     seenTrack_ = environment_.nowPlaying->track.get();
-    loadArtwork(seenTrack_ ? seenTrack_->artworkURL : std::nullopt);
+    environment_.artwork->load(seenTrack_ ? seenTrack_->artworkURL : std::nullopt);
     if (seenTrack_)
         environment_.lyrics->load(*seenTrack_);
     else
@@ -157,10 +130,8 @@ void NotchRootView::isPlayingChanged() {
 Task<void> NotchRootView::endPulse(platform::MainLoop& mainLoop,
                                    std::weak_ptr<NotchRootView> weakView) {
     co_await platform::sleep(mainLoop, pulseDuration);
-    if (const auto view = weakView.lock()) {
-        view->form_.playPulse = false;
-        view->nextTurn_->request();
-    }
+    if (const auto view = weakView.lock())
+        view->change(view->form_.playPulse, false);
 }
 
 } // namespace brellowind

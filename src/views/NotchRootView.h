@@ -79,29 +79,38 @@ public:
     /// The size of the pill as it is laid out, whenever that changes.
     void sizeChanged(Size size) { environment_.hover->currentSize = size; }
 
-    void hoverCover(bool inside);
-    void hoverGrabber(bool inside);
-    void hoverWaveform(bool inside);
+    void hoverCover(bool inside) { change(form_.coverHovered, inside); }
+    void hoverGrabber(bool inside) { change(form_.grabberHovered, inside); }
+    void hoverWaveform(bool inside) { change(form_.waveformHovered, inside); }
 
-    void tapCover();      ///< opens the artwork panel
-    void tapWaveform();   ///< plays or pauses
-    void tapGrabber();    ///< closes the artwork panel, else minimises or restores the pill
-    void tapArtwork();    ///< closes the artwork panel
-    void tapBackground(); ///< minimises or restores the pill
+    /// Opens the artwork panel.
+    void tapCover();
+
+    /// Plays or pauses.
+    void tapWaveform() { environment_.nowPlaying->togglePlayPause(); }
+
+    /// Closes the artwork panel, else minimises or restores the pill.
+    void tapGrabber();
+
+    /// Closes the artwork panel.
+    void tapArtwork() { change(form_.isArtExpanded, false); }
+
+    /// Minimises or restores the pill.
+    void tapBackground() { change(form_.isMinimized, !form_.isMinimized); }
 
     // The entries of the context menu.
     void openSettings();
     void checkForUpdates(); ///< shows the check in the settings window
-    void quit();
+    void quit() { environment_.application.terminate(); }
 
 private:
     explicit NotchRootView(Environment environment);
 
+    void change(bool& ofForm, bool value);
     void refresh();
     void trackChanged();
     void isPlayingChanged();
     static Task<void> endPulse(platform::MainLoop& mainLoop, std::weak_ptr<NotchRootView> view);
-    void loadArtwork(const std::optional<std::string>& url) { environment_.artwork->load(url); }
 
     Environment environment_;
     WindowInteractivity interactivity_;
