@@ -14,6 +14,10 @@ constexpr std::string_view reserved = " \t\n\"'\\><~|&;$*?#()`";
 /// Between double quotes they take a backslash before them.
 constexpr std::string_view escapedInQuotes = "\"`$\\";
 
+/// What a value has escapes for, and the letters that stand for it behind a backslash.
+constexpr std::string_view escaped = " \n\t\r\\";
+constexpr std::string_view escapeCodes = "sntr\\";
+
 bool isOneOf(char character, std::string_view characters) {
     return characters.find(character) != std::string_view::npos;
 }
@@ -83,43 +87,27 @@ std::map<std::string, std::string> parse(std::string_view file) {
 std::string escape(std::string_view text) {
     std::string value;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool atAnEnd = i == 0 || i + 1 == text.size();
-        switch (text[i]) {
-        case '\\':
-            value += "\\\\";
-            break;
-        case '\n':
-            value += "\\n";
-            break;
-        case '\r':
-            value += "\\r";
-            break;
-        case '\t':
-            value += "\\t";
-            break;
-        case ' ':
-            value += atAnEnd ? "\\s" : " "; // readers trim values
-            break;
-        default:
+        const auto code = escaped.find(text[i]);
+        const bool isInside = 0 < i && i + 1 < text.size();
+        if (code == std::string_view::npos || (text[i] == ' ' && isInside))
             value += text[i];
-        }
+        else // readers trim the spaces at the ends of values
+            value.append({'\\', escapeCodes[code]});
     }
     return value;
 }
 
 std::optional<std::string> unescape(std::string_view value) {
-    constexpr std::string_view codes = "sntr\\";
-    constexpr std::string_view characters = " \n\t\r\\";
     std::string text;
     for (std::size_t i = 0; i < value.size(); ++i) {
         if (value[i] != '\\') {
             text += value[i];
             continue;
         }
-        const auto code = ++i < value.size() ? codes.find(value[i]) : std::string_view::npos;
+        const auto code = ++i < value.size() ? escapeCodes.find(value[i]) : std::string_view::npos;
         if (code == std::string_view::npos)
             return std::nullopt;
-        text += characters[code];
+        text += escaped[code];
     }
     return text;
 }
