@@ -5,9 +5,6 @@
 
 namespace brellowind {
 
-NotchShape::NotchShape(double topRadius_, double bottomRadius_)
-    : topRadius(topRadius_), bottomRadius(bottomRadius_) {}
-
 Path NotchShape::path(const Rect& rect) const {
     const double flare = this->flare(rect);
     const double round = this->round(rect);

@@ -9,8 +9,6 @@ namespace brellowind {
 /// itself: the top corners flare outward, the bottom corners are round. A change of a radius is
 /// never animated.
 struct NotchShape {
-    NotchShape(double topRadius, double bottomRadius);
-
     /// The closed outline in `rect`, in view coordinates (y downward). The top radius is limited to
     /// half the width, then the bottom radius to the height that is left below the flares; it comes
     /// out negative when none is left.
