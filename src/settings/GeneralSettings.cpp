@@ -6,8 +6,6 @@
 namespace brellowind {
 namespace {
 
-constexpr std::string_view feedbackSubject = "Brellowind%20Feedback"; // escaped for a query
-
 bool isEnabled(platform::LoginItem& item) {
     return item.status() == platform::LoginItem::Status::enabled;
 }
@@ -44,8 +42,10 @@ void GeneralSettings::setLaunchAtLogin(bool enabled) {
 }
 
 void GeneralSettings::sendFeedback() const {
-    if (const auto url = feedbackURL(services_.constants.feedbackEmail))
-        services_.links.open(*url);
+    const auto url =
+        "mailto:" + services_.constants.feedbackEmail + "?subject=Brellowind%20Feedback";
+    if (isAbsoluteURL(url))
+        services_.links.open(url);
 }
 
 void GeneralSettings::pressUpdateButton() {
@@ -64,16 +64,6 @@ void GeneralSettings::pressUpdateButton() {
 
 void GeneralSettings::quit() {
     services_.application.terminate();
-}
-
-std::optional<std::string> feedbackURL(std::string_view email) {
-    std::string url = "mailto:";
-    url += email;
-    url += "?subject=";
-    url += feedbackSubject;
-    if (!isAbsoluteURL(url))
-        return std::nullopt;
-    return url;
 }
 
 } // namespace brellowind

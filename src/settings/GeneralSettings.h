@@ -5,8 +5,6 @@
 #include "settings/SettingsServices.h"
 
 #include <optional>
-#include <string>
-#include <string_view>
 
 namespace brellowind {
 
@@ -28,7 +26,8 @@ public:
     /// fails, the switch turns to what the item's status is then; that is a change like any other.
     void setLaunchAtLogin(bool enabled);
 
-    /// Opens a new message to the maker in the user's mail program.
+    /// Opens a new message to the maker in the user's mail program, unless the maker's address
+    /// makes no valid URL.
     void sendFeedback() const;
 
     /// Does what the update card's button says at this moment.
@@ -44,8 +43,5 @@ private:
     SettingsServices services_;
     std::optional<TaskHandle> check_; ///< the one that the last appearance started
 };
-
-/// The link that begins a feedback message to `email`. Absent when that makes no valid URL.
-std::optional<std::string> feedbackURL(std::string_view email);
 
 } // namespace brellowind
