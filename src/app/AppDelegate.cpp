@@ -10,7 +10,7 @@ AppDelegate::Notch::Notch(NotchRootView& rootView, platform::WindowSystem& windo
 AppDelegate::AppDelegate(platform::WindowSystem& windowSystem, NotchRootView::Environment content)
     : windowSystem_(windowSystem) {
     content.window = [this] { return notch_ ? &notch_->content.overlay() : nullptr; };
-    rootView_ = NotchRootView::create(std::move(content));
+    rootView_ = std::make_shared<NotchRootView>(std::move(content));
 }
 
 void AppDelegate::applicationDidFinishLaunching() {

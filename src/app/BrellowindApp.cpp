@@ -16,7 +16,8 @@ std::string settingsPath() {
 
 BrellowindApp::BrellowindApp(platform::Machine& machine, platform::ProductConstants constants)
     : machine_(machine), constants_(std::move(constants)),
-      updater_(UpdateChecker::create(machine.http(), machine.log(), machine.links(), constants_)),
+      updater_(std::make_shared<UpdateChecker>(machine.http(), machine.log(), machine.links(),
+                                               constants_)),
       tasks_(machine.mainLoop()), settings_(settingsPath(), settingsServices()),
       delegate_(machine.windowSystem(), notchContent()) {}
 
@@ -44,11 +45,12 @@ NotchRootView::Environment BrellowindApp::notchContent() {
             .application = machine_.application(),
             .router = router_,
             .updater = *updater_,
-            .nowPlaying = NowPlaying::create(mainLoop, tasks_, machine_.clock(), machine_.player()),
-            .lyrics = LyricsStore::create(tasks_, machine_.http(), constants_),
-            .hover = HoverMonitor::create(windowSystem.pointer(), windowSystem.screens()),
-            .artwork =
-                Artwork::create(tasks_, machine_.http(), machine_.files(), machine_.images()),
+            .nowPlaying =
+                std::make_shared<NowPlaying>(mainLoop, tasks_, machine_.clock(), machine_.player()),
+            .lyrics = std::make_shared<LyricsStore>(tasks_, machine_.http(), constants_),
+            .hover = std::make_shared<HoverMonitor>(windowSystem.pointer(), windowSystem.screens()),
+            .artwork = std::make_shared<Artwork>(tasks_, machine_.http(), machine_.files(),
+                                                 machine_.images()),
             .window = {},
             .openSettings = [this] { settings_.open(); }};
 }

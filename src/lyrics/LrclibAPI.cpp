@@ -42,18 +42,6 @@ std::int64_t wholeSeconds(double durationMs) {
     return static_cast<std::int64_t>(seconds);
 }
 
-std::optional<platform::HttpRequest> lyricsRequest(const platform::ProductConstants& constants,
-                                                   const Track& track) {
-    auto url = requestURL(constants.lyricsOrigin, track);
-    if (!url)
-        return std::nullopt;
-    return platform::HttpRequest{
-        .url = std::move(*url),
-        .headers = {{"User-Agent", "Brellowind v0.1 (" + constants.websiteURL + ")"}},
-        .maximumBodyBytes = maximumBodyBytes,
-    };
-}
-
 } // namespace
 
 std::optional<std::string> requestURL(std::string_view origin, const Track& track) {
@@ -64,15 +52,12 @@ std::optional<std::string> requestURL(std::string_view origin, const Track& trac
         {"album_name", track.album},
         {"duration", duration},
     };
-    std::string url(origin);
-    url += "/api/get";
+    std::string url = std::string(origin) + "/api/get";
     char separator = '?';
     for (const auto& [name, value] : items) {
         if (!utf8::isValid(value))
             return std::nullopt;
-        url += separator;
-        url += name;
-        url += '=';
+        url.append({separator}).append(name).append("=");
         appendEscaped(url, value);
         separator = '&';
     }
@@ -98,10 +83,15 @@ LyricsState interpret(int status, std::string_view body) {
 
 Task<LyricsState> fetch(platform::HttpClient& http, const platform::ProductConstants& constants,
                         Track track) {
-    auto request = lyricsRequest(constants, track);
-    if (!request)
+    auto url = requestURL(constants.lyricsOrigin, track);
+    if (!url)
         co_return LyricsState::failed();
-    const auto result = co_await http.fetch(std::move(*request));
+    platform::HttpRequest request{
+        .url = std::move(*url),
+        .headers = {{"User-Agent", "Brellowind v0.1 (" + constants.websiteURL + ")"}},
+        .maximumBodyBytes = maximumBodyBytes,
+    };
+    const auto result = co_await http.fetch(std::move(request));
     const auto* response = std::get_if<platform::HttpResponse>(&result);
     co_return response ? interpret(response->status, response->body) : LyricsState::failed();
 }

@@ -11,11 +11,6 @@ LyricsStore::LyricsStore(TaskRunner& tasks, platform::HttpClient& http,
                          const platform::ProductConstants& constants)
     : tasks_(tasks), http_(http), constants_(constants) {}
 
-std::shared_ptr<LyricsStore> LyricsStore::create(TaskRunner& tasks, platform::HttpClient& http,
-                                                 const platform::ProductConstants& constants) {
-    return std::shared_ptr<LyricsStore>(new LyricsStore(tasks, http, constants));
-}
-
 void LyricsStore::load(const Track& track) {
     auto id = track.id();
     if (currentTrackID_ == id)

@@ -17,14 +17,14 @@
 namespace brellowind {
 
 /// Holds the lyrics of the current track. The answer for an earlier track never overwrites what is
-/// known of a later one. Main thread only.
+/// known of a later one. Held by a std::shared_ptr. Main thread only.
 class LyricsStore : public std::enable_shared_from_this<LyricsStore> {
 public:
     using State = LyricsState;
 
     /// The services and the constants must outlive it and the tasks that it starts.
-    static std::shared_ptr<LyricsStore> create(TaskRunner& tasks, platform::HttpClient& http,
-                                               const platform::ProductConstants& constants);
+    LyricsStore(TaskRunner& tasks, platform::HttpClient& http,
+                const platform::ProductConstants& constants);
 
     /// Starts to load the lyrics of `track`. Does nothing when its `id` is the current one, however
     /// the earlier load ended.
@@ -43,9 +43,6 @@ public:
     Published<State, LyricsStore> state{State::idle()};
 
 private:
-    LyricsStore(TaskRunner& tasks, platform::HttpClient& http,
-                const platform::ProductConstants& constants);
-
     static Task<void> fetchInto(std::weak_ptr<LyricsStore> store, Task<LyricsState> fetch);
 
     TaskRunner& tasks_;

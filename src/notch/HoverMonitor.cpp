@@ -15,11 +15,6 @@ Rect hoverRectangle(const Rect& screenFrame, Size contentSize) {
     return {screenFrame.midX() - width / 2, screenFrame.maxY() - height, width, height};
 }
 
-std::shared_ptr<HoverMonitor> HoverMonitor::create(platform::Pointer& pointer,
-                                                   platform::Screens& screens) {
-    return std::shared_ptr<HoverMonitor>(new HoverMonitor(pointer, screens));
-}
-
 void HoverMonitor::start() {
     stop();
     globalMonitor_ = pointer_.addGlobalMonitor(evaluation());

@@ -15,12 +15,12 @@ namespace brellowind {
 Rect hoverRectangle(const Rect& screenFrame, Size contentSize);
 
 /// Whether the pointer is over the pill. It follows every movement on the desktop, since the window
-/// under the pill lets most of them fall through. Main thread only.
+/// under the pill lets most of them fall through. Held by a std::shared_ptr. Main thread only.
 class HoverMonitor : public std::enable_shared_from_this<HoverMonitor> {
 public:
     /// Stopped: the pointer is not asked before `start()`. The services must outlive it.
-    static std::shared_ptr<HoverMonitor> create(platform::Pointer& pointer,
-                                                platform::Screens& screens);
+    HoverMonitor(platform::Pointer& pointer, platform::Screens& screens)
+        : pointer_(pointer), screens_(screens) {}
 
     /// Begins watching, and looks at once. Watching already, it begins anew.
     void start();
@@ -36,9 +36,6 @@ public:
     Size currentSize{280, NotchMetrics::collapsedHeight};
 
 private:
-    HoverMonitor(platform::Pointer& pointer, platform::Screens& screens)
-        : pointer_(pointer), screens_(screens) {}
-
     platform::Pointer::Handler evaluation();
     void evaluate();
 

@@ -9,11 +9,6 @@ namespace brellowind {
 
 using platform::Player;
 
-std::shared_ptr<NowPlaying> NowPlaying::create(platform::MainLoop& mainLoop, TaskRunner& tasks,
-                                               const platform::Clock& clock, Player& player) {
-    return std::shared_ptr<NowPlaying>(new NowPlaying(mainLoop, tasks, clock, player));
-}
-
 NowPlaying::NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks,
                        const platform::Clock& clock, Player& player)
     : mainLoop_(mainLoop), tasks_(tasks), clock_(clock), player_(player),

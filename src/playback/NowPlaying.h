@@ -16,7 +16,7 @@ namespace brellowind {
 
 /// What Spotify plays, whether it plays, and where playback stands. It asks the player once a
 /// second, one question at a time, and advances the position itself in between; nothing ticks while
-/// nothing plays. Main thread only.
+/// nothing plays. Held by a std::shared_ptr. Main thread only.
 class NowPlaying : public std::enable_shared_from_this<NowPlaying> {
 public:
     static constexpr std::chrono::milliseconds pollInterval{1000};
@@ -24,9 +24,8 @@ public:
     static constexpr std::chrono::milliseconds confirmationDelay{150};
 
     /// Idle: the player is not asked before `start()`. All services must outlive it.
-    static std::shared_ptr<NowPlaying> create(platform::MainLoop& mainLoop, TaskRunner& tasks,
-                                              const platform::Clock& clock,
-                                              platform::Player& player);
+    NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks, const platform::Clock& clock,
+               platform::Player& player);
 
     /// Begins monitoring with a reading at once. Monitoring already, it begins anew.
     void start();
@@ -44,9 +43,6 @@ public:
     Published<double, NowPlaying> positionSec{0}; ///< seconds; never clamped to the duration
 
 private:
-    NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks, const platform::Clock& clock,
-               platform::Player& player);
-
     void poll();
     void tick();
     void playerQuit();

@@ -7,12 +7,6 @@
 
 namespace brellowind {
 
-std::shared_ptr<UpdateChecker> UpdateChecker::create(platform::HttpClient& http, platform::Log& log,
-                                                     platform::LinkOpener& links,
-                                                     const platform::ProductConstants& constants) {
-    return std::shared_ptr<UpdateChecker>(new UpdateChecker(http, log, links, constants));
-}
-
 UpdateChecker::UpdateChecker(platform::HttpClient& http, platform::Log& log,
                              platform::LinkOpener& links,
                              const platform::ProductConstants& constants)

@@ -15,8 +15,8 @@
 
 namespace brellowind {
 
-/// Tells whether a newer release of the program exists. It asks only when it is told to. Main
-/// thread only.
+/// Tells whether a newer release of the program exists. It asks only when it is told to. Held by a
+/// std::shared_ptr. Main thread only.
 class UpdateChecker : public std::enable_shared_from_this<UpdateChecker> {
 public:
     using Release = brellowind::Release;
@@ -26,9 +26,8 @@ public:
     static constexpr std::size_t maximumBodyBytes = 1024 * 1024;
 
     /// Idle. The services and the constants must outlive it and its checks.
-    static std::shared_ptr<UpdateChecker> create(platform::HttpClient& http, platform::Log& log,
-                                                 platform::LinkOpener& links,
-                                                 const platform::ProductConstants& constants);
+    UpdateChecker(platform::HttpClient& http, platform::Log& log, platform::LinkOpener& links,
+                  const platform::ProductConstants& constants);
 
     /// The program's own short version; "0" in a build without one.
     std::string currentVersion() const;
@@ -44,9 +43,6 @@ public:
     Published<State, UpdateChecker> state{State::idle()};
 
 private:
-    UpdateChecker(platform::HttpClient& http, platform::Log& log, platform::LinkOpener& links,
-                  const platform::ProductConstants& constants);
-
     static Task<void> run(std::shared_ptr<UpdateChecker> self);
     State outcome(const platform::HttpResult& result) const;
     State failure(std::string_view description) const;

@@ -10,12 +10,6 @@ Artwork::Artwork(TaskRunner& tasks, platform::HttpClient& http, platform::LocalF
                  platform::ImageDecoder& images)
     : tasks_(tasks), http_(http), files_(files), images_(images) {}
 
-std::shared_ptr<Artwork> Artwork::create(TaskRunner& tasks, platform::HttpClient& http,
-                                         platform::LocalFiles& files,
-                                         platform::ImageDecoder& images) {
-    return std::shared_ptr<Artwork>(new Artwork(tasks, http, files, images));
-}
-
 void Artwork::load(const std::optional<std::string>& url) {
     if (url && isAbsoluteURL(*url))
         tasks_.start(fetchInto(weak_from_this(), fetchBytes(http_, files_, *url)));

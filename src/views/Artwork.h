@@ -14,7 +14,7 @@
 
 namespace brellowind {
 
-/// The cover of the current track. Main thread only.
+/// The cover of the current track. Held by a std::shared_ptr. Main thread only.
 class Artwork : public std::enable_shared_from_this<Artwork> {
 public:
     /// A longer file is left alone like one that is no image.
@@ -24,9 +24,8 @@ public:
     static constexpr int largestPoints = 320;
 
     /// The services must outlive it and the tasks that it starts.
-    static std::shared_ptr<Artwork> create(TaskRunner& tasks, platform::HttpClient& http,
-                                           platform::LocalFiles& files,
-                                           platform::ImageDecoder& images);
+    Artwork(TaskRunner& tasks, platform::HttpClient& http, platform::LocalFiles& files,
+            platform::ImageDecoder& images);
 
     /// Fetches the image at `url`, over HTTP or from a file, and shows it once it is there; until
     /// then, and for good when it cannot be had, the present one stays. Without a valid location
@@ -37,9 +36,6 @@ public:
 
 private:
     using Bytes = std::optional<std::string>;
-
-    Artwork(TaskRunner& tasks, platform::HttpClient& http, platform::LocalFiles& files,
-            platform::ImageDecoder& images);
 
     static Task<void> fetchInto(std::weak_ptr<Artwork> artwork, Task<Bytes> fetch);
     static Task<Bytes> fetchBytes(platform::HttpClient& http, platform::LocalFiles& files,

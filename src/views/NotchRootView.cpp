@@ -15,10 +15,6 @@ constexpr std::chrono::milliseconds pulseDuration{100};
 
 } // namespace
 
-std::shared_ptr<NotchRootView> NotchRootView::create(Environment environment) {
-    return std::shared_ptr<NotchRootView>(new NotchRootView(std::move(environment)));
-}
-
 NotchRootView::NotchRootView(Environment environment)
     : environment_(std::move(environment)),
       interactivity_(environment_.mainLoop, environment_.window),

@@ -23,7 +23,8 @@
 namespace brellowind {
 
 /// What the pill shows and does. It owns the long-lived state of the notch and wires playback to
-/// lyrics: every change of track starts a lyrics load and an artwork load. Main thread only.
+/// lyrics: every change of track starts a lyrics load and an artwork load. Held by a
+/// std::shared_ptr. Main thread only.
 class NotchRootView : public std::enable_shared_from_this<NotchRootView> {
 public:
     /// How the pill looks, beside its texts and its cover.
@@ -55,7 +56,7 @@ public:
         std::function<void()> openSettings;       ///< opens the settings window, or raises it
     };
 
-    static std::shared_ptr<NotchRootView> create(Environment environment);
+    explicit NotchRootView(Environment environment);
 
     NotchRootView(const NotchRootView&) = delete;
     NotchRootView& operator=(const NotchRootView&) = delete;
@@ -104,8 +105,6 @@ public:
     void quit() { environment_.application.terminate(); }
 
 private:
-    explicit NotchRootView(Environment environment);
-
     void change(bool& ofForm, bool value);
     void refresh();
     void trackChanged();

@@ -41,8 +41,8 @@ protected:
             exchange.respond(200, goodFeed);
     }};
     test::NetworkMachine machine{server.origin()};
-    std::shared_ptr<UpdateChecker> checker =
-        UpdateChecker::create(machine.http, machine.log, machine.standIns.links, machine.constants);
+    std::shared_ptr<UpdateChecker> checker = std::make_shared<UpdateChecker>(
+        machine.http, machine.log, machine.standIns.links, machine.constants);
 
     Case check() {
         machine.tasks.start(checker->check());

@@ -76,7 +76,7 @@ protected:
     platform::QtImageDecoder decoder;
     test::NetworkMachine machine{server.origin()};
     std::shared_ptr<Artwork> artwork =
-        Artwork::create(machine.tasks, machine.http, machine.standIns.files, decoder);
+        std::make_shared<Artwork>(machine.tasks, machine.http, machine.standIns.files, decoder);
 
     /// Loads what is at `path`, until that has ended. Whether there is an image then.
     bool shows(const char* path) {

@@ -48,7 +48,7 @@ public:
 
     test::NetworkMachine machine;
     std::shared_ptr<LyricsStore> lyrics =
-        LyricsStore::create(machine.tasks, machine.http, machine.constants);
+        std::make_shared<LyricsStore>(machine.tasks, machine.http, machine.constants);
 
 private:
     int songs_ = 0;

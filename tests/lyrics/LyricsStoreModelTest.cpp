@@ -201,7 +201,7 @@ private:
 
     test::TestMachine machine_;
     std::shared_ptr<LyricsStore> store_ =
-        LyricsStore::create(machine_.tasks, machine_.http, machine_.constants);
+        std::make_shared<LyricsStore>(machine_.tasks, machine_.http, machine_.constants);
     Model model_;
     int assignments_ = 0;
     Subscription counting_ = store_->state.observe([this] { ++assignments_; });

@@ -35,7 +35,7 @@ HttpResponse synced(const std::string& lrc) {
 struct Store {
     test::TestMachine machine;
     std::shared_ptr<LyricsStore> lyrics =
-        LyricsStore::create(machine.tasks, machine.http, machine.constants);
+        std::make_shared<LyricsStore>(machine.tasks, machine.http, machine.constants);
 
     Case which() const { return lyrics->state->which(); }
     std::size_t requests() const { return machine.http.requests.size(); }

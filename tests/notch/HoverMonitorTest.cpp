@@ -57,7 +57,8 @@ protected:
     }
 
     test::TestMachine machine;
-    std::shared_ptr<HoverMonitor> hover = HoverMonitor::create(machine.pointer, machine.screens);
+    std::shared_ptr<HoverMonitor> hover =
+        std::make_shared<HoverMonitor>(machine.pointer, machine.screens);
 };
 
 TEST_F(HoverMonitorTest, BeginsOutsideWithTheSizeOfTheCollapsedPill) {

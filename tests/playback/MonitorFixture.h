@@ -17,8 +17,8 @@ inline constexpr double tolerance = 1e-9; ///< seconds
 struct Monitor {
     TestMachine machine;
     FakePlayer& spotify = machine.player;
-    std::shared_ptr<NowPlaying> nowPlaying =
-        NowPlaying::create(machine.mainLoop, machine.tasks, machine.clock, machine.player);
+    std::shared_ptr<NowPlaying> nowPlaying = std::make_shared<NowPlaying>(
+        machine.mainLoop, machine.tasks, machine.clock, machine.player);
 
     /// Starts the monitor, and lets the player answer where it does so at once.
     void start() {
@@ -30,7 +30,6 @@ struct Monitor {
         nowPlaying->togglePlayPause();
         machine.mainLoop.runTurns();
     }
-
 
     void advance(std::chrono::milliseconds duration) { machine.mainLoop.advance(duration); }
     double position() const { return nowPlaying->positionSec.get(); }

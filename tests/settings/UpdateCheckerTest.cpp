@@ -41,8 +41,8 @@ protected:
     }
 
     test::TestMachine machine;
-    std::shared_ptr<UpdateChecker> shared =
-        UpdateChecker::create(machine.http, machine.log, machine.links, machine.constants);
+    std::shared_ptr<UpdateChecker> shared = std::make_shared<UpdateChecker>(
+        machine.http, machine.log, machine.links, machine.constants);
     UpdateChecker& checker = *shared;
 };
 
@@ -218,8 +218,8 @@ TEST(UpdateCheckerEnd, AMachineMayEndWhileACheckIsUnderWay) {
     std::weak_ptr<UpdateChecker> checker;
     {
         test::TestMachine machine;
-        const auto shared =
-            UpdateChecker::create(machine.http, machine.log, machine.links, machine.constants);
+        const auto shared = std::make_shared<UpdateChecker>(machine.http, machine.log,
+                                                            machine.links, machine.constants);
         checker = shared;
         machine.tasks.start(shared->check());
         machine.mainLoop.runTurns();

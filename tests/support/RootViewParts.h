@@ -17,18 +17,19 @@ struct RootViewParts : SettingsParts {
         WindowInteractivity::WindowFinder window = [] { return nullptr; },
         std::function<void()> openSettings = [] {}) {
         auto& m = machine;
-        return NotchRootView::create(
-            {.mainLoop = m.mainLoop,
-             .tasks = m.tasks,
-             .application = m.application,
-             .router = router,
-             .updater = *updater,
-             .nowPlaying = NowPlaying::create(m.mainLoop, m.tasks, m.clock, m.player),
-             .lyrics = LyricsStore::create(m.tasks, m.http, m.constants),
-             .hover = HoverMonitor::create(m.pointer, m.screens),
-             .artwork = Artwork::create(m.tasks, m.http, m.files, decoder ? *decoder : m.images),
-             .window = std::move(window),
-             .openSettings = std::move(openSettings)});
+        return std::make_shared<NotchRootView>(NotchRootView::Environment{
+            .mainLoop = m.mainLoop,
+            .tasks = m.tasks,
+            .application = m.application,
+            .router = router,
+            .updater = *updater,
+            .nowPlaying = std::make_shared<NowPlaying>(m.mainLoop, m.tasks, m.clock, m.player),
+            .lyrics = std::make_shared<LyricsStore>(m.tasks, m.http, m.constants),
+            .hover = std::make_shared<HoverMonitor>(m.pointer, m.screens),
+            .artwork =
+                std::make_shared<Artwork>(m.tasks, m.http, m.files, decoder ? *decoder : m.images),
+            .window = std::move(window),
+            .openSettings = std::move(openSettings)});
     }
 
     platform::ImageDecoder* decoder = nullptr; ///< in place of the machine's

@@ -25,8 +25,8 @@ struct SettingsParts {
 
     TestMachine& machine;
     SettingsRouter router;
-    std::shared_ptr<UpdateChecker> updater =
-        UpdateChecker::create(machine.http, machine.log, machine.links, machine.constants);
+    std::shared_ptr<UpdateChecker> updater = std::make_shared<UpdateChecker>(
+        machine.http, machine.log, machine.links, machine.constants);
 };
 
 } // namespace brellowind::test

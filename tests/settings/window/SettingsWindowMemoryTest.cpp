@@ -42,7 +42,7 @@ protected:
     test::FakeHttpClient http{mainLoop};
     SettingsRouter router;
     std::shared_ptr<UpdateChecker> updater =
-        UpdateChecker::create(http, machine.log, machine.links, machine.constants);
+        std::make_shared<UpdateChecker>(http, machine.log, machine.links, machine.constants);
     SettingsWindow settings{{.mainLoop = mainLoop,
                              .tasks = tasks,
                              .log = machine.log,
