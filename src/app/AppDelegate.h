@@ -12,8 +12,7 @@
 
 namespace brellowind {
 
-/// Creates the one notch window when launching has finished, and keeps it over the notch whenever
-/// the screens change.
+/// Creates the one notch window after launching, and keeps it over the notch.
 class AppDelegate {
 public:
     /// `windowSystem` must outlive this. What the window is to show is complete but for the window

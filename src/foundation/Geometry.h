@@ -31,8 +31,7 @@ struct Rect {
     constexpr double midY() const { return y + height / 2; }
     constexpr double maxY() const { return y + height; }
 
-    /// The edges at `minX` and `minY` are inside, those at `maxX` and `maxY` are not. False when
-    /// any number is not one.
+    /// `minX` and `minY` are inside, `maxX` and `maxY` are not. False for what is no number.
     constexpr bool contains(Point point) const {
         return point.x >= minX() && point.x < maxX() && point.y >= minY() && point.y < maxY();
     }

@@ -28,9 +28,8 @@ private:
     std::uint64_t id_ = 0;
 };
 
-/// An ordered list of callbacks. Observers may come and go while a notification is under way: one
-/// that leaves is not called any more, one that comes is first called by the next notification.
-/// A notification allocates nothing.
+/// An ordered list of callbacks. During a notification observers may leave, and are not called any
+/// more, or come, and are first called by the next one. A notification allocates nothing.
 class Observers : public std::enable_shared_from_this<Observers> {
 public:
     using Callback = std::function<void()>;

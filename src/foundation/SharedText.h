@@ -8,8 +8,7 @@
 
 namespace brellowind {
 
-/// An immutable UTF-8 text: a slice of a string that it shares with its copies and other slices.
-/// Copying it copies no characters.
+/// An immutable UTF-8 text: a slice of a string that copies and other slices share.
 class SharedText {
 public:
     SharedText() = default;

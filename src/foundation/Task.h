@@ -50,10 +50,9 @@ struct TaskPromise<void> : TaskPromiseBase {
 
 } // namespace detail
 
-/// A piece of main-thread work that may suspend. It is lazy: it runs once it is awaited by another
-/// task, whose stop token it inherits, or started by a `TaskRunner`. Destroying a suspended task
-/// destroys what it waits for. Failures are results: an exception that leaves a task ends the
-/// program.
+/// Main-thread work that may suspend. It runs once it is awaited by another task, whose stop token
+/// it inherits, or started by a `TaskRunner`. Destroying a suspended task destroys what it waits
+/// for. An exception that leaves a task ends the program.
 template <typename Result = void>
 class [[nodiscard]] Task {
 public:

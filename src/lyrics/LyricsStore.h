@@ -26,8 +26,7 @@ public:
     LyricsStore(TaskRunner& tasks, platform::HttpClient& http,
                 const platform::ProductConstants& constants);
 
-    /// Starts to load the lyrics of `track`. Does nothing when its `id` is the current one, however
-    /// the earlier load ended.
+    /// Loads the lyrics of `track`, unless its `id` is the current one, however that load ended.
     void load(const Track& track);
 
     /// Forgets the current track; a fetch under way is cancelled.
@@ -36,8 +35,7 @@ public:
     /// The lines of a `loaded` state, valid until `state` changes; empty in every other state.
     const std::vector<LyricLine>& lines() const { return state->lines(); }
 
-    /// The index of the last line whose time is not after `seconds`. Absent before the first line
-    /// and when no lines are loaded.
+    /// The index of the last line whose time is not after `seconds`, if there is one.
     std::optional<std::size_t> activeIndex(double seconds) const;
 
     Published<State, LyricsStore> state{State::idle()};

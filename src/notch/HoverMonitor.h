@@ -28,8 +28,7 @@ public:
     /// Ends watching; `isInside` keeps its value.
     void stop();
 
-    /// Assigned only when it changes: on the movement that crosses the edge. Without a screen it
-    /// keeps its value.
+    /// Assigned only when it changes. Without a screen it keeps its value.
     Published<bool, HoverMonitor> isInside{false};
 
     /// The size of the pill as it is laid out. The next movement uses it.

@@ -17,8 +17,7 @@ double notchWidth(const platform::Screen& screen);
 /// How far the visible part of `screen` lies below its top edge.
 double menuBarHeight(const platform::Screen& screen);
 
-/// The screen that the pill hangs from at this moment: the notched one, else the main one. Absent
-/// when there is neither.
+/// The screen that the pill hangs from now: the notched one, else the main one, if any.
 std::optional<platform::Screen> pillScreen(platform::Screens& screens);
 
 } // namespace brellowind

@@ -21,8 +21,7 @@ public:
     /// Places the window over the notch and brings it to the front without activating the program.
     void show();
 
-    /// Places the window on the screen that has the notch now, else on the main one. Without a
-    /// screen it stays where it is.
+    /// Places the window on the `pillScreen`. Without one it stays where it is.
     void repositionToNotch();
 
 private:

@@ -8,8 +8,7 @@
 
 namespace brellowind {
 
-/// Makes the window that an element of the interface stands in accept mouse events, or fall
-/// click-through again. Main thread only.
+/// Makes the window that an element stands in take mouse events or not. Main thread only.
 class WindowInteractivity {
 public:
     /// The window that the element stands in at the moment of the call, null when in none.
@@ -19,9 +18,8 @@ public:
     WindowInteractivity(const WindowInteractivity&) = delete;
     WindowInteractivity& operator=(const WindowInteractivity&) = delete;
 
-    /// On the next turn of the main loop, never within this call, the window takes `interactive`.
-    /// Of several updates before that turn the last one counts. Does nothing when there is no
-    /// window by then.
+    /// Takes effect on the next turn of the main loop, if there is a window by then. Of several
+    /// updates before that turn the last one counts.
     void update(bool interactive);
 
 private:

@@ -7,8 +7,7 @@
 
 namespace brellowind::platform {
 
-/// Writes failures that may repeat to the system log: a line when failing begins, and a line when
-/// the description changes.
+/// Writes failures that may repeat to the system log: once, and again when they change.
 class FailureLog {
 public:
     /// Each line is `prefix` followed by the description. `log` outlives this.

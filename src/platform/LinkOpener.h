@@ -9,8 +9,7 @@ class LinkOpener {
 public:
     virtual ~LinkOpener() = default;
 
-    /// `url` is absolute and percent-encoded. False when the system would not take it; true does
-    /// not mean that the user got to see it.
+    /// `url` is absolute and percent-encoded. False when the system would not take it.
     virtual bool open(std::string_view url) = 0;
 };
 

@@ -5,8 +5,7 @@
 
 namespace brellowind::platform {
 
-/// The program's registration to be started when the user logs in. The system keeps it; others may
-/// change it at any time.
+/// The registration to be started at login. Others may change it at any time.
 class LoginItem {
 public:
     enum class Status {

@@ -15,8 +15,7 @@ public:
 /// A timer that fires at regular intervals.
 class RepeatingTimer : public Timer {
 public:
-    /// Pauses or resumes the timer. Timers start running. A resumed timer fires after at most one
-    /// interval.
+    /// Timers start running. A resumed timer fires after at most one interval.
     virtual void setPaused(bool paused) = 0;
 };
 
@@ -30,8 +29,7 @@ public:
     virtual void request() = 0;
 };
 
-/// The main thread's event loop. All handlers run on the main thread, never inside the call that
-/// schedules them.
+/// The main thread's event loop. No handler runs inside the call that schedules it.
 class MainLoop {
 public:
     using Handler = std::function<void()>;

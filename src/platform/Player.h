@@ -42,8 +42,7 @@ public:
     /// failures in a row, and a player that takes long to answer, are written to the system log.
     virtual Task<Answer> read() = 0;
 
-    /// Sends the play/pause command. Ends when the player has taken it. A failure is written to the
-    /// system log.
+    /// Ends when the player has taken the command. A failure is written to the system log.
     virtual Task<void> playPause() = 0;
 };
 

@@ -8,8 +8,7 @@
 
 namespace brellowind::platform {
 
-/// An installed observer of pointer movements. Destroying it removes it; its handler may destroy
-/// it.
+/// Observes pointer movements until it is destroyed, also by its handler.
 class PointerMonitor {
 public:
     virtual ~PointerMonitor() = default;

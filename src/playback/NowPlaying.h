@@ -30,12 +30,10 @@ public:
     /// Begins monitoring with a reading at once. Monitoring already, it begins anew.
     void start();
 
-    /// Ends monitoring; the published properties keep their values, and the answer to a question
-    /// that is open is dropped.
+    /// Ends monitoring. The properties keep their values; an answer that is due is dropped.
     void stop();
 
-    /// Flips `isPlaying` at once, sends the play/pause command, and asks the player 150 ms later
-    /// what came of it.
+    /// Flips `isPlaying` at once, sends the command, and asks the player 150 ms later.
     void togglePlayPause();
 
     Published<std::optional<Track>, NowPlaying> track{std::nullopt}; ///< absent: not running

@@ -26,8 +26,7 @@ public:
     /// fails, the switch turns to what the item's status is then; that is a change like any other.
     void setLaunchAtLogin(bool enabled);
 
-    /// Opens a new message to the maker in the user's mail program, unless the maker's address
-    /// makes no valid URL.
+    /// Opens a message to the maker, unless the address makes no valid URL.
     void sendFeedback() const;
 
     /// Does what the update card's button says at this moment.

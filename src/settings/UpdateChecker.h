@@ -15,8 +15,7 @@
 
 namespace brellowind {
 
-/// Tells whether a newer release of the program exists. It asks only when it is told to. Held by a
-/// std::shared_ptr. Main thread only.
+/// Tells whether a newer release exists. Held by a std::shared_ptr. Main thread only.
 class UpdateChecker : public std::enable_shared_from_this<UpdateChecker> {
 public:
     using Release = brellowind::Release;

@@ -64,8 +64,7 @@ public:
     /// Starts the monitors. Called once, when the view is first shown.
     void appear();
 
-    /// The text of the pill, UTF-8, valid until the next turn of the main loop. Cheap enough for
-    /// every redraw: it allocates nothing.
+    /// The text of the pill, UTF-8, valid until the next turn of the main loop. Allocates nothing.
     std::string_view currentLineText() const;
 
     const Form& form() const { return form_; }
@@ -73,8 +72,7 @@ public:
     const LyricsStore& lyrics() const { return *environment_.lyrics; }
     const Artwork& artwork() const { return *environment_.artwork; }
 
-    /// Calls `redraw` on each turn of the main loop in which something that the view shows may have
-    /// changed.
+    /// Calls `redraw` on each turn of the main loop in which what is shown may have changed.
     Subscription onRedraw(Observers::Callback redraw);
 
     /// The size of the pill as it is laid out, whenever that changes.

@@ -55,8 +55,7 @@ std::optional<std::string> firstArgument(std::string_view line) {
     return std::nullopt;
 }
 
-/// Replaces each doubled percent sign by one. A single one is a field code: files and links, which
-/// are no programs.
+/// Halves doubled percent signs. A single one is a field code, which is no program.
 std::optional<std::string> withoutFieldCodes(std::string_view argument) {
     std::string text;
     for (std::size_t i = 0; i < argument.size(); ++i) {

@@ -12,16 +12,14 @@ namespace brellowind::platform::DesktopEntry {
 /// the last value. Lines that are no entries are skipped.
 std::map<std::string, std::string> parse(std::string_view file);
 
-/// A text as the value of a key, and back. A value with an escape that the format does not know
-/// has no text.
+/// A text as the value of a key, and back unless the value has an unknown escape.
 std::string escape(std::string_view text);
 std::optional<std::string> unescape(std::string_view value);
 
 /// The value of Exec that starts `program` without arguments.
 std::string execValue(std::string_view program);
 
-/// The program that the value of an Exec key starts: a path or a bare name. Absent when the value
-/// breaks the rules of the format.
+/// The path or bare name that an Exec value starts; absent when it breaks the rules.
 std::optional<std::string> execProgram(std::string_view value);
 
 /// Also understands the 1 that old entries wrote for true.

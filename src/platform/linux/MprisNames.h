@@ -18,8 +18,7 @@ namespace brellowind::platform {
 /// forms. The bus is asked once; then it tells of changes.
 class MprisNames {
 public:
-    /// A bus name, behind its rank: first the plain names as they are configured, then their
-    /// instances.
+    /// A bus name behind its rank: the plain names as configured, then their instances.
     using Name = std::pair<std::size_t, QString>;
 
     /// `name` has a new owner, or none.

@@ -8,8 +8,7 @@
 
 namespace brellowind::platform {
 
-/// Makes one process of this program the only one of its user in a session, by owning a name on the
-/// session bus.
+/// The only process of this program in a session: it owns a name on the session bus.
 class SingleInstance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.brellowind.Brellowind")
@@ -22,9 +21,8 @@ public:
                    std::function<void(const std::string& activationToken)> onSecondStart);
     ~SingleInstance() override;
 
-    /// True when this process is the only one from now on, or when no bus is there to tell.
-    /// Otherwise the other one will be told, and this one should end. Waits for the bus, but not
-    /// for the other process.
+    /// True when this process is the only one, or no bus is there to tell. Otherwise the other one
+    /// is told, and this one should end. Waits for the bus, but not for the other process.
     bool claim();
 
 public Q_SLOTS:

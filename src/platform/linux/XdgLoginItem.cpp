@@ -69,8 +69,7 @@ std::error_code makeFolders(const fs::path& folder) {
     return {};
 }
 
-/// The path does not fit the format: it is not text, or the format cannot hold an equal sign in
-/// the name of a program.
+/// The format holds neither what is no text nor an equal sign in a program's name.
 bool isUnwritable(const fs::path& executable) {
     return !executable.is_absolute() || !utf8::isValid(executable.native()) ||
            executable.native().find('=') != std::string::npos;

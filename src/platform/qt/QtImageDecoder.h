@@ -14,8 +14,7 @@ public:
     const QImage image;
 };
 
-/// Decodes JPEG, PNG and WebP into squares no larger than they are ever drawn: the middle of the
-/// image, scaled down.
+/// Decodes JPEG, PNG and WebP.
 class QtImageDecoder final : public ImageDecoder {
 public:
     /// An image that would need more memory than this to decode is refused.

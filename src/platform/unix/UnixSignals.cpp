@@ -10,8 +10,7 @@
 namespace brellowind::platform {
 namespace {
 
-/// Where the handler writes. A handler is given nothing but the signal's number and can reach no
-/// object, so this descriptor is global.
+/// Where the handler writes. It is global since a handler can reach no object.
 volatile std::sig_atomic_t writeEnd = -1;
 
 /// Only what is allowed in a signal handler.

@@ -7,10 +7,8 @@
 
 namespace brellowind::platform {
 
-/// Turns SIGINT, SIGTERM and SIGHUP, with which a terminal or a session ends its programs, into
-/// calls on the main thread. One instance at a time per process.
-///
-/// A signal that is ignored at construction stays ignored, as `nohup` and shells expect.
+/// Turns SIGINT, SIGTERM and SIGHUP into calls on the main thread. A signal that is ignored at
+/// construction stays ignored, as `nohup` and shells expect. One instance at a time per process.
 class UnixSignals {
 public:
     explicit UnixSignals(std::function<void()> onTermination);

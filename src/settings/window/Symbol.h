@@ -11,8 +11,7 @@ namespace brellowind {
 /// The side of the square that the symbols are designed in, in points.
 inline constexpr double symbolBox = 20;
 
-/// The area that the symbol of this name fills, inside the box. Empty for a name that is none of
-/// ours.
+/// The area that the symbol of this name fills inside the box; empty for another name.
 QPainterPath symbolPath(QStringView name);
 
 /// One of the program's own symbols, drawn as large as the item, sharp on every screen.

@@ -12,8 +12,7 @@ class Animated {
 public:
     virtual ~Animated() = default;
 
-    /// Moves to the moment `now`. Returns its speed in points per second, or none once it is at
-    /// rest and needs no more frames.
+    /// Moves to the moment `now`. Returns its speed in points per second; none once it rests.
     virtual std::optional<double> advance(double now) = 0;
 };
 

@@ -6,8 +6,7 @@
 
 namespace brellowind {
 
-/// Artist and title on the lower edge of the enlarged artwork, each cut with an ellipsis where that
-/// ends.
+/// Artist and title on the lower edge of the enlarged artwork, elided to its width.
 class ArtworkCaption : public VisualEffectBlur {
     Q_OBJECT
 

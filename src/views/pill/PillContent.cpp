@@ -6,8 +6,7 @@
 namespace brellowind {
 namespace {
 
-/// In bytes: far more than fits on any screen. A lyrics file may be a single line of a mebibyte,
-/// which takes seconds to lay out.
+/// In bytes, far more than any screen holds. A line of a mebibyte takes seconds to lay out.
 constexpr std::size_t longestText = 4096;
 
 template <typename Value>

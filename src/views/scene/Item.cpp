@@ -136,8 +136,7 @@ void Item::takeLook(const Look& around, bool isAroundNew, QRegion& damage) {
         child->takeLook(look, isInsideNew, damage);
 }
 
-/// Draws the item and its descendants as `takeLook` found them, within `region` of the window, to
-/// which `painter` is clipped.
+/// Draws what `takeLook` found within `region` of the window, to which `painter` is clipped.
 void Item::draw(QPainter& painter, const QRegion& region) {
     if (region.intersects(look_.rect.toAlignedRect())) {
         if (!look_.clip.isNull())

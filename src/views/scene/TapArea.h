@@ -41,8 +41,7 @@ Q_SIGNALS:
     /// The pointer has entered or left. Only from areas that mind hovering.
     void hoveredChanged(bool hovered);
 
-    /// A tap of the right button. Only from areas that take it; `position` is in points of the
-    /// window.
+    /// A tap of the right button, if the area takes it; `position` is in points of the window.
     void menuRequested(QPointF position);
 
 protected:
