@@ -69,23 +69,19 @@ void Compositor::launch(const QString& program, const QStringList& arguments) {
 }
 
 QStringList Compositor::displayTeller() const {
-    const QString told = session_.file(displaysName);
-    session_.writeFile(QStringLiteral("tell-displays"),
-                       QStringLiteral("echo \"$WAYLAND_DISPLAY $DISPLAY\" >'%1.part'\n"
-                                      "mv '%1.part' '%1'\n")
-                           .arg(told)
-                           .toUtf8());
-    return {QStringLiteral("sh"), session_.file(QStringLiteral("tell-displays"))};
+    return {QStringLiteral(BRELLOWIND_DESKTOP_DISPLAYS), session_.file(displaysName)};
+}
+
+QString Compositor::displayTellerCommand() const {
+    return QLatin1Char('\'') + displayTeller().join(QLatin1String("' '")) + QLatin1Char('\'');
 }
 
 void Compositor::awaitDisplays() {
     QFile told(session_.file(displaysName));
-    await("it was ready", [&] { return told.exists(); });
-    told.open(QIODevice::ReadOnly);
-    const auto displays = QString::fromUtf8(told.readAll()).trimmed().split(QLatin1Char(' '));
-    session_.setVariable(QStringLiteral("WAYLAND_DISPLAY"), displays.value(0));
-    if (displays.size() > 1)
-        session_.setVariable(QStringLiteral("DISPLAY"), displays[1]);
+    await("it was ready", [&] { return told.open(QIODevice::ReadOnly); });
+    for (const auto& line : QString::fromUtf8(told.readAll()).trimmed().split(QLatin1Char('\n')))
+        session_.setVariable(line.section(QLatin1Char('='), 0, 0),
+                             line.section(QLatin1Char('='), 1));
 }
 
 void Compositor::await(const char* what, const std::function<bool()>& condition) const {

@@ -102,9 +102,10 @@ protected:
     /// Starts the compositor; what it says goes to a file that failures quote.
     void launch(const QString& program, const QStringList& arguments);
 
-    /// The program and argument that a compositor has to start among its clients for
-    /// awaitDisplays().
+    /// The program and its argument that a compositor has to start among its clients for
+    /// awaitDisplays(), and the same as a line for a shell.
     QStringList displayTeller() const;
+    QString displayTellerCommand() const;
 
     /// Waits until the compositor has started that, and sets the variables of its displays.
     void awaitDisplays();

@@ -63,7 +63,7 @@ KWin::KWin(const CompositorOptions& options) {
                           QString::number(options.size.height()),
                           QStringLiteral("--scale"),
                           QString::number(options.scale),
-                          displayTeller().join(QLatin1Char(' '))};
+                          displayTellerCommand()};
     if (options.xWayland)
         arguments.prepend(QStringLiteral("--xwayland"));
     launch(program, arguments);

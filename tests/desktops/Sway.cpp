@@ -9,7 +9,7 @@
 namespace brellowind::test {
 namespace {
 
-QByteArray configuration(const CompositorOptions& options, const QStringList& atStart) {
+QByteArray configuration(const CompositorOptions& options, const QString& atStart) {
     const QSize pixels = (QSizeF(options.size) * options.scale).toSize();
     return QStringLiteral("xwayland %1\n"
                           "output HEADLESS-1 resolution %2x%3 scale %4\n"
@@ -21,7 +21,7 @@ QByteArray configuration(const CompositorOptions& options, const QStringList& at
         .arg(pixels.width())
         .arg(pixels.height())
         .arg(options.scale)
-        .arg(atStart.join(QLatin1Char(' ')))
+        .arg(atStart)
         .toUtf8();
 }
 
@@ -38,7 +38,8 @@ Sway::Sway(const CompositorOptions& options) {
     session.setVariable(QStringLiteral("WLR_RENDERER"), QStringLiteral("pixman"));
     session.setVariable(QStringLiteral("WLR_LIBINPUT_NO_DEVICES"), QStringLiteral("1"));
     session.setVariable(QStringLiteral("SWAYSOCK"), session.file(QStringLiteral("sway.socket")));
-    session.writeFile(QStringLiteral("sway.config"), configuration(options, displayTeller()));
+    session.writeFile(QStringLiteral("sway.config"),
+                      configuration(options, displayTellerCommand()));
     launch(QStringLiteral("sway"),
            {QStringLiteral("--config"), session.file(QStringLiteral("sway.config"))});
     awaitDisplays();
