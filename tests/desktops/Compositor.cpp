@@ -1,7 +1,9 @@
 #include "desktops/Compositor.h"
 
 #include "desktops/KWin.h"
+#include "desktops/Mutter.h"
 #include "desktops/Sway.h"
+#include "desktops/WaylandConnection.h"
 #include "session/EventLoop.h"
 #include "session/SendSignal.h"
 
@@ -22,6 +24,8 @@ std::unique_ptr<Compositor> Compositor::make(const QString& name,
         return std::make_unique<Sway>(options);
     if (name == QLatin1String("kwin"))
         return std::make_unique<KWin>(options);
+    if (name == QLatin1String("mutter"))
+        return std::make_unique<Mutter>(options);
     throw DesktopFailure(QStringLiteral("there is no compositor \"%1\"").arg(name));
 }
 
@@ -82,6 +86,20 @@ void Compositor::awaitDisplays() {
     for (const auto& line : QString::fromUtf8(told.readAll()).trimmed().split(QLatin1Char('\n')))
         session_.setVariable(line.section(QLatin1Char('='), 0, 0),
                              line.section(QLatin1Char('='), 1));
+}
+
+void Compositor::awaitDevices() const {
+    static constexpr wl_seat_listener listener{
+        [](void* data, wl_seat*, std::uint32_t all) { *static_cast<std::uint32_t*>(data) = all; },
+        [](void*, wl_seat*, const char*) {}};
+    constexpr std::uint32_t wanted = WL_SEAT_CAPABILITY_POINTER | WL_SEAT_CAPABILITY_KEYBOARD;
+    std::uint32_t capabilities = 0;
+    const WaylandConnection connection(QFile::encodeName(socket()).constData());
+    wl_seat_add_listener(connection.bind<wl_seat>(wl_seat_interface, 1), &listener, &capabilities);
+    await("it had a pointer and a keyboard", [&] {
+        connection.finish();
+        return (capabilities & wanted) == wanted;
+    });
 }
 
 void Compositor::await(const char* what, const std::function<bool()>& condition) const {

@@ -60,7 +60,10 @@ public:
     void kill();
 
     /// What a screen shows, in its pixels and without the pointer; the first screen without a name.
-    virtual QImage screenshot(const QString& screen = {}) = 0;
+    virtual QImage screenshot(const QString& screen = {}) const = 0;
+
+    /// Whether windows are smaller at first than they and their clients say.
+    virtual bool letsWindowsGrow() const { return false; }
 
     virtual void movePointerTo(QPointF place) = 0;
     virtual void movePointerBy(QPointF distance) = 0; ///< as a mouse does
@@ -76,7 +79,7 @@ public:
     /// A finger that taps; false where the compositor lets nobody act for one.
     virtual bool tap(QPointF place);
 
-    virtual QList<CompositorScreen> screens() = 0;
+    virtual QList<CompositorScreen> screens() const = 0;
 
     /// Changes the scale of the first screen, which keeps its pixels.
     virtual void setScale(double scale) = 0;
@@ -109,6 +112,10 @@ protected:
 
     /// Waits until the compositor has started that, and sets the variables of its displays.
     void awaitDisplays();
+
+    /// Waits until clients can have a pointer and a keyboard: what a person does before they have
+    /// taken them is lost.
+    void awaitDevices() const;
 
     /// Waits until `condition` holds. Throws a DesktopFailure that tells what was waited for, and
     /// what the compositor said, when it ends or takes too long.

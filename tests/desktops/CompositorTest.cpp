@@ -72,6 +72,20 @@ TEST(CompositorTest, HasTwiceThePixelsAtTwiceTheScale) {
     EXPECT_EQ(window.awaitPress().place, QPointF(1200, 700));
 }
 
+TEST(CompositorTest, CountsInPointsAtAFractionalScale) {
+    const auto desktop = compositor({.size = {1280, 720}, .scale = 1.5});
+    auto window = PressLog::fullScreen(*desktop, colour);
+    EXPECT_EQ(window.size(), QSize(1280, 720));
+    EXPECT_EQ(desktop->screenshot().size(), QSize(1920, 1080));
+    desktop->movePointerTo({1100, 660});
+    desktop->movePointerBy({100, 40});
+    desktop->button(Compositor::primaryButton, Stroke::down);
+    desktop->button(Compositor::primaryButton, Stroke::up);
+    const auto place = window.awaitPress().place;
+    EXPECT_NEAR(place.x(), 1200, 0.7); // a pixel
+    EXPECT_NEAR(place.y(), 700, 0.7);
+}
+
 TEST(CompositorTest, KeepsItsPixelsWhenTheScaleChanges) {
     const auto desktop = compositor({.size = {2560, 1440}});
     auto window = PressLog::fullScreen(*desktop, colour);

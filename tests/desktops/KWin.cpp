@@ -70,6 +70,7 @@ KWin::KWin(const CompositorOptions& options) {
     awaitDisplays();
     setEnabled(spareScreen, false);
     input_ = std::make_unique<KdeInput>(*this);
+    awaitDevices();
 }
 
 KWin::~KWin() {
@@ -77,7 +78,7 @@ KWin::~KWin() {
     end();
 }
 
-QImage KWin::screenshot(const QString& screen) {
+QImage KWin::screenshot(const QString& screen) const {
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0)
         throw DesktopFailure(QStringLiteral("no pipe for a picture"));
@@ -118,7 +119,7 @@ bool KWin::tap(QPointF place) {
     return true;
 }
 
-QList<CompositorScreen> KWin::screens() {
+QList<CompositorScreen> KWin::screens() const {
     QList<CompositorScreen> screens;
     const KdeScreens now(socket());
     for (const auto& screen : now.all())

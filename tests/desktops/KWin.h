@@ -15,13 +15,13 @@ public:
     explicit KWin(const CompositorOptions& options);
     ~KWin() override;
 
-    QImage screenshot(const QString& screen = {}) override;
+    QImage screenshot(const QString& screen = {}) const override;
     void movePointerTo(QPointF place) override;
     void movePointerBy(QPointF distance) override;
     void button(int code, Stroke stroke) override;
     void key(int code, Stroke stroke) override;
     bool tap(QPointF place) override;
-    QList<CompositorScreen> screens() override;
+    QList<CompositorScreen> screens() const override;
     void setScale(double scale) override;
     QString addScreen() override;
     bool removeScreen(const QString& name) override;

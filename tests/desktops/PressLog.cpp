@@ -24,14 +24,23 @@ std::optional<PressLog::Press> press(const QString& line) {
 } // namespace
 
 PressLog PressLog::fullScreen(const Compositor& compositor, QColor colour) {
-    return {compositor,
-            BRELLOWIND_DESKTOP_WINDOW,
-            {QStringLiteral("full-screen"), hexadecimal(colour)}};
+    return window(compositor, QStringLiteral("full-screen"), colour);
 }
 
 PressLog PressLog::maximized(const Compositor& compositor, QColor colour) {
-    return {
-        compositor, BRELLOWIND_DESKTOP_WINDOW, {QStringLiteral("maximized"), hexadecimal(colour)}};
+    return window(compositor, QStringLiteral("maximized"), colour);
+}
+
+PressLog PressLog::window(const Compositor& compositor, const QString& kind, QColor colour) {
+    PressLog window(compositor, BRELLOWIND_DESKTOP_WINDOW, {kind, hexadecimal(colour)});
+    const auto isFullyGrown = [&] {
+        const auto picture = compositor.screenshot();
+        return picture.pixelColor(picture.rect().bottomLeft()) == colour &&
+               picture.pixelColor(picture.rect().bottomRight()) == colour;
+    };
+    if (compositor.letsWindowsGrow() && !waitUntil(isFullyGrown))
+        throw DesktopFailure(QStringLiteral("a window did not reach the corners of the screen"));
+    return window;
 }
 
 PressLog PressLog::panel(const Compositor& compositor, QColor colour) {
@@ -64,7 +73,8 @@ PressLog::Press PressLog::awaitPress() {
         for (lines(); !found && taken_ < lines_.size(); ++taken_)
             found = press(lines_[taken_]);
         return found.has_value();
-    })) << "no press came";
+    })) << "no press came, only:\n"
+        << qPrintable(lines_.join(QLatin1Char('\n')));
     return found.value_or(Press{});
 }
 

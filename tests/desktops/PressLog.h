@@ -46,6 +46,8 @@ public:
     const QStringList& lines();
 
 private:
+    static PressLog window(const Compositor& compositor, const QString& kind, QColor colour);
+
     PressLog(const Compositor& compositor, const char* program, const QStringList& arguments);
 
     std::unique_ptr<demo::Companion> process_;

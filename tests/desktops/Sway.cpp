@@ -44,6 +44,7 @@ Sway::Sway(const CompositorOptions& options) {
            {QStringLiteral("--config"), session.file(QStringLiteral("sway.config"))});
     awaitDisplays();
     input_ = std::make_unique<WlrInput>(socket());
+    awaitDevices();
 }
 
 Sway::~Sway() {
@@ -51,7 +52,7 @@ Sway::~Sway() {
     end();
 }
 
-QImage Sway::screenshot(const QString& screen) {
+QImage Sway::screenshot(const QString& screen) const {
     const QString name = screen.isEmpty() ? screens().value(0).name : screen;
     return QImage::fromData(
         session().run(QStringLiteral("grim"), {QStringLiteral("-t"), QStringLiteral("ppm"),
@@ -77,7 +78,7 @@ void Sway::key(int code, Stroke stroke) {
     input_->key(code, stroke);
 }
 
-QList<CompositorScreen> Sway::screens() {
+QList<CompositorScreen> Sway::screens() const {
     const auto answer = message({QStringLiteral("--type"), QStringLiteral("get_outputs")});
     QList<CompositorScreen> screens;
     for (const auto& output : QJsonDocument::fromJson(answer).array()) {

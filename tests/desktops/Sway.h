@@ -15,12 +15,12 @@ public:
     explicit Sway(const CompositorOptions& options);
     ~Sway() override;
 
-    QImage screenshot(const QString& screen = {}) override;
+    QImage screenshot(const QString& screen = {}) const override;
     void movePointerTo(QPointF place) override;
     void movePointerBy(QPointF distance) override;
     void button(int code, Stroke stroke) override;
     void key(int code, Stroke stroke) override;
-    QList<CompositorScreen> screens() override;
+    QList<CompositorScreen> screens() const override;
     void setScale(double scale) override;
     bool setScreensOn(bool on) override;
     QString addScreen() override;

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "desktops/Compositor.h"
+
+#include <QMap>
+
+namespace brellowind::test {
+
+/// The devices of a person who sits at another computer; they are there while this exists.
+class MutterRemote {
+public:
+    /// The session must outlive this.
+    explicit MutterRemote(const UserSession& session);
+    MutterRemote(const MutterRemote&) = delete;
+    MutterRemote& operator=(const MutterRemote&) = delete;
+    ~MutterRemote();
+
+    /// To a pixel of a screen.
+    void movePointerTo(const QString& screen, QPointF pixel);
+
+    /// In the units of the layout.
+    void movePointerBy(QPointF distance);
+
+    void button(int code, Stroke stroke);
+    void key(int code, Stroke stroke);
+    void tap(const QString& screen, QPointF pixel);
+
+private:
+    QString stream(const QString& screen);
+    void act(const char* deed, const QVariantList& arguments);
+
+    const UserSession& session_;
+    QString remote_;
+    QString cast_;
+    QMap<QString, QString> streams_; ///< by their screens
+};
+
+} // namespace brellowind::test

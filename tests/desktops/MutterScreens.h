@@ -1,0 +1,39 @@
+#pragma once
+
+#include "desktops/UserSession.h"
+
+#include <QList>
+#include <QPoint>
+#include <QSize>
+
+namespace brellowind::test {
+
+/// A screen that mutter has, whether it is in use or not.
+struct MutterScreen {
+    QString name;
+    QString mode;
+    QSize pixels;
+    QPoint position; ///< in the units of the layout
+    double scale = 1;
+    bool isEnabled = false;
+};
+
+/// The screens of mutter over its bus interface.
+class MutterScreens {
+public:
+    /// The session must outlive this.
+    explicit MutterScreens(const UserSession& session) : session_(session) {}
+
+    QList<MutterScreen> all();
+
+    /// Uses the enabled ones of `screens` as they are there, and no others.
+    void apply(const QList<MutterScreen>& screens);
+
+    void setPower(bool on);
+
+private:
+    const UserSession& session_;
+    uint serial_ = 0;
+};
+
+} // namespace brellowind::test
