@@ -5,6 +5,8 @@
 #include "desktops/MutterScreens.h"
 #include "session/EventLoop.h"
 
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
 #include <QFile>
 #include <cmath>
 
@@ -52,6 +54,12 @@ Mutter::Mutter(const CompositorOptions& options)
     launch(QStringLiteral("mutter"),
            arguments + QStringList{QStringLiteral("--")} + displayTeller());
     awaitDisplays();
+    await("it was on the bus", [&] {
+        const QStringList names = session.bus().interface()->registeredServiceNames();
+        return names.contains(QStringLiteral("org.gnome.Mutter.DisplayConfig")) &&
+               names.contains(QStringLiteral("org.gnome.Mutter.RemoteDesktop")) &&
+               names.contains(QStringLiteral("org.gnome.Mutter.ScreenCast"));
+    });
     setEnabled(spareScreen, false);
     if (options.scale != 1)
         setScale(options.scale);
