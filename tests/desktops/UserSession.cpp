@@ -47,15 +47,25 @@ struct Command {
     QStringList arguments;
 };
 
+/// Whether the build is in a folder that not every user may enter.
+bool isBuildPrivate() {
+    const QFileInfo test(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")));
+    for (QDir folder = test.dir(); !folder.isRoot(); folder.cdUp())
+        if (!QFileInfo(folder.path()).permission(QFile::ExeOther))
+            return true;
+    return false;
+}
+
 Command asUser(const QString& program, const QStringList& arguments) {
     if (!isRoot())
         return {program, arguments};
     const QString id = QString::number(nobody);
-    return {QStringLiteral("setpriv"),
-            QStringList{QStringLiteral("--reuid=") + id, QStringLiteral("--regid=") + id,
-                        QStringLiteral("--clear-groups"), QStringLiteral("--pdeathsig=TERM"),
-                        program} +
-                arguments};
+    QStringList options{QStringLiteral("--reuid=") + id, QStringLiteral("--regid=") + id,
+                        QStringLiteral("--clear-groups"), QStringLiteral("--pdeathsig=TERM")};
+    if (isBuildPrivate())
+        options += {QStringLiteral("--inh-caps=+dac_read_search"),
+                    QStringLiteral("--ambient-caps=+dac_read_search")};
+    return {QStringLiteral("setpriv"), options + QStringList{program} + arguments};
 }
 
 } // namespace
