@@ -2,10 +2,10 @@
 
 #include "platform/qt/QtMainLoop.h"
 
+#include <QInputDevice>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QPointingDevice>
 #include <cmath>
 #include <utility>
 
@@ -121,7 +121,7 @@ void SceneWindow::mousePressEvent(QMouseEvent* event) {
 
 void SceneWindow::mouseReleaseEvent(QMouseEvent* event) {
     pointer_.release(event->position(), event->button());
-    if (event->pointerType() == QPointingDevice::PointerType::Finger)
+    if (event->deviceType() == QInputDevice::DeviceType::TouchScreen)
         pointer_.leave(); // a lifted finger hovers over nothing
 }
 

@@ -3,6 +3,8 @@
 #include "views/scene/Block.h"
 #include "views/scene/TapArea.h"
 
+#include <QCoreApplication>
+#include <QMouseEvent>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <memory>
@@ -84,6 +86,23 @@ TEST_F(SceneWindowTest, AFingerTapsAndHoversNoLongerThanItTouches) {
     QTest::touchEvent(&window, screen.get()).release(1, {20, 20});
     EXPECT_EQ(taps, 1);
     EXPECT_FALSE(hovered);
+}
+
+TEST_F(SceneWindowTest, ATouchPadGoesOnHoveringAfterATap) {
+    TapArea area(QAccessible::Button, &window.root());
+    area.setSize({40, 40});
+    area.mindHovering();
+    bool hovered = false;
+    QObject::connect(&area, &TapArea::hoveredChanged, [&](bool inside) { hovered = inside; });
+    window.show();
+    const std::unique_ptr<QPointingDevice> pad(
+        QTest::createTouchDevice(QInputDevice::DeviceType::TouchPad));
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, QPointF(20, 20), QPointF(20, 20), Qt::LeftButton, Qt::NoButton,
+                          Qt::NoModifier, pad.get());
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    EXPECT_TRUE(hovered);
 }
 
 } // namespace

@@ -20,9 +20,10 @@ constexpr std::chrono::seconds retryDelay{1};
 /// In which a window that was opened from the menu takes the keyboard itself.
 constexpr std::chrono::milliseconds focusDelay{100};
 
-bool isFromFinger(const QEvent& event) {
-    return static_cast<const QPointerEvent&>(event).pointerType() ==
-           QPointingDevice::PointerType::Finger;
+/// Qt's mouse events on Wayland come from a touch pad, whose pointers are fingers as well.
+bool isFromTouchScreen(const QEvent& event) {
+    return static_cast<const QPointerEvent&>(event).deviceType() ==
+           QInputDevice::DeviceType::TouchScreen;
 }
 
 } // namespace
@@ -87,7 +88,7 @@ bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::Enter:
     case QEvent::MouseMove:
-        if (!isFromFinger(*event)) {
+        if (!isFromTouchScreen(*event)) {
             const QPointF at = static_cast<QSinglePointEvent*>(event)->position();
             pointer_.move(Point{desktopFrame_.x + at.x(), desktopFrame_.maxY() - at.y()});
         }
