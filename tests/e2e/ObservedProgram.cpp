@@ -7,6 +7,7 @@
 #include <QFile>
 #include <cstdio>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace brellowind::test {
 namespace {
@@ -17,51 +18,34 @@ const auto pillInterface = QStringLiteral("org.brellowind.Pill");
 
 constexpr std::chrono::milliseconds stillness{250}; ///< longer than any spring stands at its turn
 
-QProcessEnvironment joined(QProcessEnvironment environment, const QProcessEnvironment& more) {
-    environment.insert(more);
-    return environment;
-}
-
-/// The name of a file that is there from now on.
-QString nameOf(QTemporaryFile& file) {
-    EXPECT_TRUE(file.open());
-    return file.fileName();
-}
-
 } // namespace
 
-ObservedProgram::ObservedProgram(const Desktop& desktop, const QString& origin,
-                                 const QProcessEnvironment& more, const QStringList& launcher)
-    : arguments_{origin}, environment_(joined(desktop.environment(), more)),
-      pill_(desktop.bus.connection(), pillPath, pillInterface),
-      loop_(desktop.bus.connection(), QStringLiteral("/loop"),
-            QStringLiteral("org.brellowind.Loop")),
-      settings_(desktop.bus.connection()),
-      process_((launcher + QStringList{programFile}).constFirst(),
-               (launcher + QStringList{programFile} + arguments_).mid(1), environment_,
-               nameOf(errorFile_)) {
-    auto bus = desktop.bus.connection();
-    EXPECT_TRUE(bus.connect(QString(), pillPath, pillInterface, QStringLiteral("TextChanged"), this,
-                            SLOT(textChanged(QString))));
-    EXPECT_EQ(process_.readLine(), QStringLiteral("ready"));
+ObservedProgram::ObservedProgram(ProgramSession session, const QString& origin)
+    : session_(std::move(session)), arguments_{origin},
+      pill_(session_.bus, pillPath, pillInterface),
+      loop_(session_.bus, QStringLiteral("/loop"), QStringLiteral("org.brellowind.Loop")),
+      settings_(session_.bus), process_(session_.start(programFile, arguments_)) {
+    EXPECT_TRUE(session_.bus.connect(QString(), pillPath, pillInterface,
+                                     QStringLiteral("TextChanged"), this,
+                                     SLOT(textChanged(QString))));
+    EXPECT_EQ(process_->readLine(), QStringLiteral("ready"));
     const QString first = pill_.ask("Text", {QStringLiteral("lyricLine")}).toString();
     if (texts_.isEmpty())
         texts_.append(first);
 }
 
 ObservedProgram::~ObservedProgram() {
-    process_.end();
+    process_->end();
     for (const QString& line : errors())
         std::fprintf(stderr, "%s\n", qPrintable(line));
 }
 
 int ObservedProgram::startAgain() {
-    demo::Companion again(programFile, arguments_, environment_, errorFile_.fileName());
-    return again.finish();
+    return session_.start(programFile, arguments_)->finish();
 }
 
 QStringList ObservedProgram::errors() const {
-    QFile file(errorFile_.fileName());
+    QFile file(session_.errorFile);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
 }
@@ -96,9 +80,9 @@ void ObservedProgram::textChanged(const QString& text) {
     texts_.append(text);
 }
 
-QRectF ObservedProgram::rect(const char* method, const QString& argument) {
-    const auto found = pill_.rectangle(method, {argument});
-    EXPECT_TRUE(found) << method << " of " << qPrintable(argument);
+QRectF ObservedProgram::rect(const char* method, const QVariantList& arguments) {
+    const auto found = pill_.rectangle(method, arguments);
+    EXPECT_TRUE(found) << method << " of " << qPrintable(arguments.value(0).toString());
     return found.value_or(QRectF());
 }
 

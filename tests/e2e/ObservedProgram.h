@@ -1,16 +1,15 @@
 #pragma once
 
-#include "companion/Companion.h"
 #include "e2e/ObservedSettings.h"
 #include "e2e/Observer.h"
-#include "session/Desktop.h"
+#include "e2e/ProgramSession.h"
 
 #include <QObject>
 #include <QRectF>
 #include <QStringList>
-#include <QTemporaryFile>
 #include <QVariant>
 #include <chrono>
+#include <memory>
 
 namespace brellowind::test {
 
@@ -19,11 +18,9 @@ class ObservedProgram : public QObject {
     Q_OBJECT
 
 public:
-    /// Runs it on `desktop` with `more` in its environment. The service at `origin` has the lyrics
-    /// for it, and as "/latest.json" the release feed. `launcher` is the beginning of a command
-    /// that runs the command that follows it. Fails the running test when no pill appears.
-    ObservedProgram(const Desktop& desktop, const QString& origin,
-                    const QProcessEnvironment& more = {}, const QStringList& launcher = {});
+    /// Runs it in `session`. The service at `origin` has the lyrics for it, and as "/latest.json"
+    /// the release feed. Fails the running test when no pill appears.
+    ObservedProgram(ProgramSession session, const QString& origin);
 
     /// What it wrote to its standard error goes to that of the test.
     ~ObservedProgram() override;
@@ -50,7 +47,7 @@ public:
     QString panelText() { return pill_.ask("Text", {QStringLiteral("panelLine")}).toString(); }
 
     /// Where an item is drawn in the window, in points.
-    QRectF rectangle(const char* item) { return rect("Rectangle", latin1(item)); }
+    QRectF rectangle(const char* item) { return rect("Rectangle", {latin1(item)}); }
 
     /// The size of an item as it is laid out, without what scales it.
     QSizeF size(const char* item);
@@ -63,8 +60,13 @@ public:
     quint32 window() { return pill_.ask("Window").toUInt(); }
     quint32 menu() { return pill_.ask("Menu").toUInt(); }
 
+    bool hasMenu() { return menu() != 0; }
+
+    /// Where the window of the open context menu is on the desktop, in points.
+    QRectF menuPlace() { return rect("MenuPlace"); }
+
     /// Where an entry of the context menu is in the menu's window, in points.
-    QRectF menuEntry(const char* text) { return rect("MenuEntry", QString::fromUtf8(text)); }
+    QRectF menuEntry(const char* text) { return rect("MenuEntry", {QString::fromUtf8(text)}); }
 
     /// The longest turn of its main loop since this was last asked, in processor time.
     std::chrono::microseconds longestTurn() const {
@@ -73,7 +75,7 @@ public:
 
     const ObservedSettings& settings() const { return settings_; }
 
-    demo::Companion& process() { return process_; }
+    demo::Companion& process() { return *process_; }
 
     /// Starts it a second time, in the same way, and waits until that start has ended. Its exit
     /// status, or -1 when it does not end.
@@ -88,15 +90,14 @@ private:
     Q_SLOT void textChanged(const QString& text);
 
     /// Fails the running test when there is no such thing.
-    QRectF rect(const char* method, const QString& argument);
+    QRectF rect(const char* method, const QVariantList& arguments = {});
 
-    QTemporaryFile errorFile_;
+    ProgramSession session_;
     QStringList arguments_;
-    QProcessEnvironment environment_;
     Observer pill_;
     Observer loop_;
     ObservedSettings settings_;
-    demo::Companion process_;
+    std::unique_ptr<demo::Companion> process_;
     QStringList texts_;
 };
 

@@ -20,7 +20,7 @@ PillOnDesktop::PillOnDesktop(const QString& screen, int scale_)
 }
 
 ObservedProgram& PillOnDesktop::start() {
-    auto& started = program.emplace(desktop, service.origin(), environment);
+    auto& started = program.emplace(ProgramSession::on(desktop, environment), service.origin());
     EXPECT_TRUE(waitUntil([&] { return x.isViewable(started.window()); }));
     return started;
 }

@@ -34,7 +34,7 @@ QVariantMap song(const char* title) {
 /// The program beside a lyrics service whose answers the test chooses.
 class PillText : public testing::Test {
 protected:
-    PillText() : program(desktop, service.origin()) {}
+    PillText() : program(ProgramSession::on(desktop), service.origin()) {}
 
     void answerWith(LoopbackServer::Handler handler) { service.handler = std::move(handler); }
 

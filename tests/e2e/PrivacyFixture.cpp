@@ -49,7 +49,8 @@ void Privacy::liveADay(const QStringList& launcher) {
     const QString line = secret + QStringLiteral(" Line");
     player.emplace(desktop.bus.connection());
     play(1);
-    auto& started = program.emplace(desktop, service.origin(), environment, launcher);
+    auto& started =
+        program.emplace(ProgramSession::on(desktop, environment, launcher), service.origin());
     EXPECT_TRUE(started.shows(numbered(line, 1)));
     play(2);
     EXPECT_TRUE(started.shows(numbered(line, 2)));

@@ -17,7 +17,7 @@ protected:
     Privacy();
 
     /// Four songs, two of which the service fails, a check that fails, the settings, a player that
-    /// fails, and the end. For `launcher` see `ObservedProgram`.
+    /// fails, and the end. For `launcher` see `ProgramSession`.
     void liveADay(const QStringList& launcher = {});
 
     QString loginEntry() const;

@@ -67,8 +67,9 @@ class StartWithoutDisplay : public Start {
 protected:
     void endsWithOneLine() {
         EXPECT_EQ(start()->finish(), 1);
-        EXPECT_EQ(errors(), "brellowind: there is neither a Wayland compositor with a layer shell nor an X "
-                            "display to show the pill on\n");
+        EXPECT_EQ(errors(),
+                  "brellowind: there is neither a Wayland compositor with a layer shell nor an X "
+                  "display to show the pill on\n");
     }
 };
 
@@ -84,6 +85,12 @@ TEST_F(StartWithoutDisplay, SaysSoWhenItIsEmpty) {
 
 TEST_F(StartWithoutDisplay, SaysSoWhenItsServerIsNotThere) {
     set("DISPLAY", ":65000");
+    endsWithOneLine();
+}
+
+TEST_F(StartWithoutDisplay, SaysSoWhenItsCompositorIsNotThere) {
+    environment.remove(QStringLiteral("DISPLAY"));
+    set("WAYLAND_DISPLAY", "wayland-none");
     endsWithOneLine();
 }
 

@@ -89,6 +89,11 @@ uint PillObserver::Menu() const {
     return menu ? static_cast<uint>(menu->winId()) : 0;
 }
 
+QList<double> PillObserver::MenuPlace() const {
+    const auto* menu = openMenu();
+    return menu ? numbers(menu->geometry()) : QList<double>();
+}
+
 QList<double> PillObserver::MenuEntry(const QString& text) const {
     const auto* menu = openMenu();
     if (!menu)

@@ -47,6 +47,9 @@ public Q_SLOTS:
     /// The native window of the context menu; 0 while it is closed.
     Q_SCRIPTABLE uint Menu() const;
 
+    /// Where the window of the context menu is on the desktop.
+    Q_SCRIPTABLE QList<double> MenuPlace() const;
+
     /// Where an entry of the context menu is in the menu's window.
     Q_SCRIPTABLE QList<double> MenuEntry(const QString& text) const;
 
