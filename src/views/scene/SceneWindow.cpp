@@ -2,7 +2,6 @@
 
 #include "platform/qt/QtMainLoop.h"
 
-#include <QInputDevice>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -121,7 +120,7 @@ void SceneWindow::mousePressEvent(QMouseEvent* event) {
 
 void SceneWindow::mouseReleaseEvent(QMouseEvent* event) {
     pointer_.release(event->position(), event->button());
-    if (event->deviceType() == QInputDevice::DeviceType::TouchScreen)
+    if (event->source() == Qt::MouseEventSynthesizedByQt)
         pointer_.leave(); // a lifted finger hovers over nothing
 }
 

@@ -88,7 +88,7 @@ TEST_F(SceneWindowTest, AFingerTapsAndHoversNoLongerThanItTouches) {
     EXPECT_FALSE(hovered);
 }
 
-TEST_F(SceneWindowTest, ATouchPadGoesOnHoveringAfterATap) {
+TEST_F(SceneWindowTest, AMouseGoesOnHoveringWhateverItsDevice) {
     TapArea area(QAccessible::Button, &window.root());
     area.setSize({40, 40});
     area.mindHovering();

@@ -20,10 +20,10 @@ constexpr std::chrono::seconds retryDelay{1};
 /// In which a window that was opened from the menu takes the keyboard itself.
 constexpr std::chrono::milliseconds focusDelay{100};
 
-/// Qt's mouse events on Wayland come from a touch pad, whose pointers are fingers as well.
-bool isFromTouchScreen(const QEvent& event) {
-    return static_cast<const QPointerEvent&>(event).deviceType() ==
-           QInputDevice::DeviceType::TouchScreen;
+/// The device does not tell: Qt gives all mouse events on Wayland the same one.
+bool isFromFinger(const QEvent& event) {
+    return event.type() == QEvent::MouseMove &&
+           static_cast<const QMouseEvent&>(event).source() == Qt::MouseEventSynthesizedByQt;
 }
 
 } // namespace
@@ -88,7 +88,7 @@ bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::Enter:
     case QEvent::MouseMove:
-        if (!isFromTouchScreen(*event)) {
+        if (!isFromFinger(*event)) {
             const QPointF at = static_cast<QSinglePointEvent*>(event)->position();
             pointer_.move(Point{desktopFrame_.x + at.x(), desktopFrame_.maxY() - at.y()});
         }
