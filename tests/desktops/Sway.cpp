@@ -16,6 +16,7 @@ QByteArray configuration(const CompositorOptions& options, const QString& atStar
                           "default_border none\n"
                           "default_floating_border none\n"
                           "focus_follows_mouse no\n"
+                          "focus_on_window_activation focus\n"
                           "exec %5\n")
         .arg(options.xWayland ? QStringLiteral("enable") : QStringLiteral("disable"))
         .arg(pixels.width())

@@ -11,11 +11,22 @@
 #include <utility>
 
 namespace brellowind::test {
+namespace {
+
+QProcessEnvironment environmentOf(const QDBusConnection& bus) {
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.name());
+    return environment;
+}
+
+} // namespace
 
 PlayerProcess::PlayerProcess(QDBusConnection bus, const QString& name)
+    : PlayerProcess(bus, environmentOf(bus), name) {}
+
+PlayerProcess::PlayerProcess(QDBusConnection bus, const QProcessEnvironment& environment,
+                             const QString& name)
     : bus_(std::move(bus)), name_(QStringLiteral("org.mpris.MediaPlayer2.") + name) {
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus_.name());
     process_ =
         std::make_unique<demo::Companion>(QStringLiteral(BRELLOWIND_DEMO_PLAYER),
                                           QStringList{QStringLiteral("--name"), name}, environment);

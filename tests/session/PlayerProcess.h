@@ -4,6 +4,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QProcessEnvironment>
 #include <QVariantList>
 #include <QVariantMap>
 #include <chrono>
@@ -15,7 +16,12 @@ namespace brellowind::test {
 class PlayerProcess {
 public:
     /// Owns the bus name once this returns; fails the running test when it does not come.
+    /// `bus` has its address as its name.
     explicit PlayerProcess(QDBusConnection bus, const QString& name = QStringLiteral("spotify"));
+
+    /// `environment` leads to `bus`.
+    PlayerProcess(QDBusConnection bus, const QProcessEnvironment& environment,
+                  const QString& name = QStringLiteral("spotify"));
 
     /// The metadata that the Spotify application sends for a track.
     static QVariantMap metadata(const QString& title, const QString& artist, const QString& album,

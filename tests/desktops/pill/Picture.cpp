@@ -1,0 +1,44 @@
+#include "desktops/pill/Picture.h"
+
+#include <QDir>
+#include <algorithm>
+#include <cstdlib>
+
+namespace brellowind::test {
+
+QRect Picture::differing(const QColor& background, QRect within) const {
+    QRect found;
+    within &= image_.rect();
+    for (int y = within.top(); y <= within.bottom(); ++y)
+        for (int x = within.left(); x <= within.right(); ++x)
+            if (image_.pixelColor(x, y) != background)
+                found |= QRect(x, y, 1, 1);
+    return found;
+}
+
+std::optional<int> Picture::offCentre(int row, const QColor& background) const {
+    const QRect found = differing(background, {0, row, image_.width(), 1});
+    if (found.isEmpty())
+        return std::nullopt;
+    return image_.width() - 1 - found.right() - found.left();
+}
+
+int Picture::sharpestStep(QRect within) const {
+    int sharpest = 0;
+    within &= image_.rect();
+    for (int y = within.top(); y <= within.bottom(); ++y)
+        for (int x = within.left(); x < within.right(); ++x)
+            sharpest = std::max(
+                sharpest, std::abs(qGray(image_.pixel(x + 1, y)) - qGray(image_.pixel(x, y))));
+    return sharpest;
+}
+
+QString Picture::keep(const QString& name) const {
+    const QDir folder(QStringLiteral(BRELLOWIND_DESKTOP_PICTURES));
+    folder.mkpath(QStringLiteral("."));
+    const QString file = folder.filePath(name + QStringLiteral(".png"));
+    image_.save(file);
+    return file;
+}
+
+} // namespace brellowind::test

@@ -1,0 +1,55 @@
+#include "desktops/pill/PillOnCompositor.h"
+
+#include <QFile>
+
+namespace brellowind::test {
+namespace {
+
+class PillEnd : public PillOnCompositor {
+protected:
+    void expectFaultOfALineOrTwo() {
+        EXPECT_EQ(program->process().finish(), 1);
+        EXPECT_GE(program->errors().size(), 1);
+        EXPECT_LE(program->errors().size(), 2);
+    }
+};
+
+TEST_F(PillEnd, ComesWithTheCompositors) {
+    startSinging();
+    compositor->kill();
+    expectFaultOfALineOrTwo();
+}
+
+TEST_F(PillEnd, ComesWithTheCompositorsWhileMenuAndSettingsAreOpen) {
+    startSinging();
+    choose("Open Settings");
+    EXPECT_TRUE(waitUntil([&] { return program->settings().window() != 0; }));
+    openMenu();
+    compositor->kill();
+    expectFaultOfALineOrTwo();
+}
+
+TEST_F(PillEnd, OnRequestIsWithoutAFaultAndLeavesNothingOnTheScreen) {
+    below();
+    startSinging();
+    EXPECT_EQ(program->process().end(), 0);
+    EXPECT_EQ(program->errors(), QStringList());
+    EXPECT_TRUE(
+        shows("ended", [&](const Picture& picture) { return silhouette(picture).isEmpty(); }));
+}
+
+TEST_F(PillEnd, NoGraphicsDriverWasLoadedUntilThen) {
+    startSinging();
+    choose("Open Settings");
+    EXPECT_TRUE(waitUntil([&] { return program->settings().window() != 0; }));
+    openMenu();
+    QFile maps(QStringLiteral("/proc/%1/maps").arg(program->process().processId()));
+    ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
+    const QByteArray loaded = maps.readAll();
+    EXPECT_TRUE(loaded.contains("libQt6Gui"));
+    EXPECT_FALSE(loaded.contains("libLLVM"));
+    EXPECT_FALSE(loaded.contains("_dri.so"));
+}
+
+} // namespace
+} // namespace brellowind::test

@@ -1,0 +1,108 @@
+#include "desktops/pill/PillOnCompositor.h"
+
+namespace brellowind::test {
+namespace {
+
+const QByteArray lyrics = R"({"syncedLyrics":"[00:00.00]line"})";
+const auto errorFile = QStringLiteral("program.errors");
+
+using std::chrono::seconds;
+
+constexpr QSizeF pillWindow(640, 540);
+
+} // namespace
+
+PillOnCompositor::PillOnCompositor(const CompositorOptions& options)
+    : compositor(Compositor::make(QStringLiteral(BRELLOWIND_COMPOSITOR), options)),
+      service([](const demo::Exchange& exchange) { exchange.respond(200, lyrics); }) {
+    compositor->movePointerTo(screen().bottomLeft());
+}
+
+ObservedProgram& PillOnCompositor::start() {
+    const auto& user = compositor->session();
+    user.writeFile(errorFile, {});
+    const auto start = [&user](const QString& file, const QStringList& arguments) {
+        return user.start(file, arguments, errorFile);
+    };
+    return program.emplace(ProgramSession{user.bus(), start, user.file(errorFile)},
+                           service.origin());
+}
+
+ObservedProgram& PillOnCompositor::startSinging() {
+    player.emplace(compositor->session().bus(), compositor->session().environment());
+    player->setTrack(PlayerProcess::metadata(QStringLiteral("Song"), QStringLiteral("Artist"),
+                                             QStringLiteral("Album"), 600000));
+    player->setStatus("Playing");
+    auto& started = start();
+    EXPECT_TRUE(started.shows(QStringLiteral("line")));
+    EXPECT_TRUE(started.comesToRest());
+    return started;
+}
+
+QRectF PillOnCompositor::area() const {
+    const QRectF screen = this->screen();
+    const QSizeF size = pillWindow.boundedTo(screen.size());
+    return {QPointF(screen.center().x() - size.width() / 2, screen.top()), size};
+}
+
+QRectF PillOnCompositor::place(const char* item) {
+    return program->rectangle(item).translated(area().topLeft());
+}
+
+void PillOnCompositor::enterPill() {
+    compositor->movePointerTo(background());
+    EXPECT_TRUE(program->becomes("hovered"));
+    EXPECT_TRUE(program->comesToRest());
+}
+
+void PillOnCompositor::leavePill() {
+    compositor->movePointerBy({0, area().height()});
+    EXPECT_TRUE(program->becomes("hovered", false));
+    EXPECT_TRUE(program->comesToRest());
+}
+
+void PillOnCompositor::openMenuAt(QPointF place) {
+    compositor->click(place, Compositor::secondaryButton);
+    EXPECT_TRUE(waitUntil([&] { return program->hasMenu(); }));
+}
+
+bool PillOnCompositor::menuCloses() {
+    return waitUntil([&] { return !program->hasMenu(); });
+}
+
+QPointF PillOnCompositor::middleOfEntry(const char* text) {
+    return program->menuPlace().topLeft() + program->menuEntry(text).center();
+}
+
+void PillOnCompositor::choose(const char* entry) {
+    openMenu();
+    compositor->click(middleOfEntry(entry));
+}
+
+PressLog& PillOnCompositor::below() {
+    if (!below_)
+        below_.emplace(PressLog::fullScreen(*compositor, colourBelow()));
+    return *below_;
+}
+
+Picture PillOnCompositor::picture() const {
+    return Picture(compositor->screenshot());
+}
+
+QRect PillOnCompositor::silhouette(const Picture& picture) const {
+    const double scale = double(picture.image().width()) / screen().width();
+    const QRectF area = this->area();
+    return picture.differing(colourBelow(),
+                             QRectF(area.topLeft() * scale, area.size() * scale).toAlignedRect());
+}
+
+testing::AssertionResult
+PillOnCompositor::shows(const char* name, const std::function<bool(const Picture&)>& holds) const {
+    std::optional<Picture> seen;
+    const bool held = waitUntil([&] { return holds(seen.emplace(picture())); }, seconds(8));
+    const auto file = seen->keep(QStringLiteral(BRELLOWIND_COMPOSITOR "-") + QLatin1String(name));
+    return (held ? testing::AssertionSuccess() : testing::AssertionFailure())
+           << "see " << qPrintable(file);
+}
+
+} // namespace brellowind::test

@@ -1,0 +1,114 @@
+#include "desktops/pill/PillOnCompositor.h"
+
+#include <cmath>
+
+namespace brellowind::test {
+namespace {
+
+QRect inPixels(QRectF points, double scale) {
+    return QRectF(points.topLeft() * scale, points.size() * scale).toAlignedRect();
+}
+
+class PillAtScale : public PillOnCompositor, public testing::WithParamInterface<double> {
+protected:
+    explicit PillAtScale(const CompositorOptions& options = {.scale = GetParam()})
+        : PillOnCompositor(options) {}
+
+    QByteArray name(const char* what) const {
+        return what + QByteArray("-at-") + QByteArray::number(GetParam());
+    }
+
+    /// The pill has its size in pixels, in the middle of the top edge.
+    bool isInPlace(const Picture& picture) {
+        const QRect seen = silhouette(picture);
+        const QRectF told = program->rectangle("pill");
+        return seen.top() == 0 && std::abs(seen.width() - told.width() * GetParam()) <= 2 &&
+               std::abs(seen.height() - told.height() * GetParam()) <= 2 &&
+               std::abs(seen.left() + seen.right() + 1 - picture.image().width()) <= 1;
+    }
+
+    /// The text was not drawn at another size and stretched: that leaves no sharp edge.
+    bool isSharp(const Picture& picture) {
+        const QRect line = inPixels(place("lyricLine"), GetParam());
+        return picture.sharpestStep(line) > 150;
+    }
+
+    void expectSharpInPlace(const char* what) {
+        EXPECT_TRUE(
+            shows(name(what).constData(),
+                  [&](const Picture& picture) { return isInPlace(picture) && isSharp(picture); }))
+            << "sharpest step " << picture().sharpestStep(inPixels(place("lyricLine"), GetParam()));
+    }
+
+    void expectPointerFindsIt() {
+        enterPill();
+        EXPECT_TRUE(shows(name("hovered").constData(),
+                          [&](const Picture& picture) { return isSharp(picture); }));
+        compositor->click(background());
+        EXPECT_TRUE(program->becomes("isMinimized"));
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(, PillAtScale, testing::Values(1, 1.5, 2));
+
+TEST_P(PillAtScale, IsSharpAndInPlace) {
+    below();
+    startSinging();
+    expectSharpInPlace("rest");
+    expectPointerFindsIt();
+}
+
+TEST_P(PillAtScale, HasASharpMenuAndASharpPanel) {
+    below();
+    startSinging();
+    openMenu();
+    EXPECT_TRUE(shows(name("menu").constData(), [&](const Picture& picture) {
+        return picture.sharpestStep(inPixels(program->menuPlace(), GetParam())) > 150;
+    }));
+    compositor->type(1);
+    EXPECT_TRUE(menuCloses());
+    compositor->click(middleOf("artwork"));
+    EXPECT_TRUE(program->becomes("isArtExpanded"));
+    EXPECT_TRUE(program->comesToRest());
+    EXPECT_TRUE(shows(name("panel").constData(), [&](const Picture& picture) {
+        return silhouette(picture).height() > 200 * GetParam();
+    }));
+}
+
+/// A screen of 1600 x 1200 pixels.
+class PillAtScaleThatChanges : public PillAtScale {
+protected:
+    PillAtScaleThatChanges() : PillAtScale({.size = {1600, 1200}, .scale = 1}) {}
+
+    void setScale(double scale) {
+        compositor->setScale(scale);
+        const int width = static_cast<int>(std::lround(1600 / scale));
+        EXPECT_TRUE(waitUntil([&] { return std::abs(below().size().width() - width) <= 1; }));
+        EXPECT_TRUE(program->comesToRest());
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(, PillAtScaleThatChanges, testing::Values(1.5, 2));
+
+TEST_P(PillAtScaleThatChanges, IsSharpAndInPlace) {
+    below();
+    startSinging();
+    setScale(GetParam());
+    expectSharpInPlace("changed");
+    expectPointerFindsIt();
+}
+
+TEST_P(PillAtScaleThatChanges, IsAsBeforeWhenItChangesBack) {
+    below();
+    startSinging();
+    const Picture before = picture();
+    const auto outline = silhouette(before);
+    setScale(GetParam());
+    setScale(1);
+    EXPECT_TRUE(shows(name("changed-back").constData(),
+                      [&](const Picture& picture) { return silhouette(picture) == outline; }));
+    enterPill();
+}
+
+} // namespace
+} // namespace brellowind::test
