@@ -5,13 +5,24 @@
 #include <cstdlib>
 
 namespace brellowind::test {
+namespace {
+
+/// Compositors round when they scale or blend.
+constexpr int rounding = 3;
+
+bool differ(const QColor& a, const QColor& b) {
+    return std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                     std::abs(a.blue() - b.blue())}) > rounding;
+}
+
+} // namespace
 
 QRect Picture::differing(const QColor& background, QRect within) const {
     QRect found;
     within &= image_.rect();
     for (int y = within.top(); y <= within.bottom(); ++y)
         for (int x = within.left(); x <= within.right(); ++x)
-            if (image_.pixelColor(x, y) != background)
+            if (differ(image_.pixelColor(x, y), background))
                 found |= QRect(x, y, 1, 1);
     return found;
 }

@@ -37,7 +37,9 @@ protected:
         EXPECT_TRUE(
             shows(name(what).constData(),
                   [&](const Picture& picture) { return isInPlace(picture) && isSharp(picture); }))
-            << "sharpest step " << picture().sharpestStep(inPixels(place("lyricLine"), GetParam()));
+            << "sharpest step " << picture().sharpestStep(inPixels(place("lyricLine"), GetParam()))
+            << ", from " << silhouette(picture()).left() << " to " << silhouette(picture()).right()
+            << " of " << picture().image().width() << " pixels";
     }
 
     void expectPointerFindsIt() {
