@@ -145,8 +145,8 @@ TEST_P(ShellGetsSignal, EndsWithoutAFault) {
 }
 
 TEST_F(Shell, SurvivesItsTerminalWhenStartedByNohup) {
-    auto& started = program.emplace(desktop, service.origin(), environment,
-                                    QStringList{QStringLiteral("nohup")});
+    auto& started = program.emplace(
+        ProgramSession::on(desktop, environment, {QStringLiteral("nohup")}), service.origin());
     send(SIGHUP);
     EXPECT_TRUE(started.comesToRest());
     EXPECT_TRUE(started.process().isRunning());

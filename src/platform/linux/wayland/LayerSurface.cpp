@@ -41,7 +41,6 @@ void LayerSurface::setKeyboardExclusive(bool exclusive) {
 
 void LayerSurface::adoptPopup(xdg_popup* popup) {
     zwlr_layer_surface_v1_get_popup(layerSurface_.get(), popup);
-    hasPopup_ = true;
 }
 
 void LayerSurface::configure(void* self, zwlr_layer_surface_v1* surface, std::uint32_t serial,

@@ -29,10 +29,8 @@ public:
     /// Whether it has the keyboard to itself. Commits the surface.
     void setKeyboardExclusive(bool exclusive);
 
-    /// Makes `popup` a child of it, until it is destroyed.
+    /// Makes `popup` a child of it.
     void adoptPopup(xdg_popup* popup);
-    void popupDestroyed() { hasPopup_ = false; }
-    bool hasPopup() const { return hasPopup_; }
 
 private:
     static void configure(void* self, zwlr_layer_surface_v1* surface, std::uint32_t serial,
@@ -42,7 +40,6 @@ private:
     wl_surface* surface_;
     WaylandObject<zwlr_layer_surface_v1> layerSurface_;
     Handlers handlers_;
-    bool hasPopup_ = false;
 };
 
 } // namespace brellowind::platform

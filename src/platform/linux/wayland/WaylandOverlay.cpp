@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPlatformSurfaceEvent>
 #include <chrono>
+#include <utility>
 
 namespace brellowind::platform {
 namespace {
@@ -94,7 +95,8 @@ bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
         }
         break;
     case QEvent::FocusIn:
-        returnFocusSoon();
+        if (popupHasKeyboard())
+            returnFocusSoon();
         break;
     case QEvent::Leave:
         pointer_.move(std::nullopt);
@@ -127,6 +129,8 @@ void WaylandOverlay::show() {
 
 /// The layer surface goes before the surface.
 void WaylandOverlay::hide() {
+    if (closePopup_)
+        closePopup_();
     layerSurface_.reset();
     window_.hide();
     window_.destroy();
@@ -154,18 +158,45 @@ void WaylandOverlay::setInputRegion() {
     wl_surface_set_input_region(surface(), region.get());
 }
 
+void WaylandOverlay::popupOpens(xdg_popup* popup, std::function<void()> close) {
+    closePopup_ = std::move(close);
+    layerSurface_->adoptPopup(popup);
+    if (!popupHasKeyboard()) // before the grab, during which the keyboard goes nowhere else
+        layerSurface_->setKeyboardExclusive(true);
+}
+
+void WaylandOverlay::popupClosed() {
+    closePopup_ = nullptr;
+    if (popupHasKeyboard())
+        returnFocusSoon();
+    else if (layerSurface_)
+        layerSurface_->setKeyboardExclusive(false);
+}
+
+/// Whether the compositor gives the keyboard to a popup of a layer surface, and not to the surface.
+/// Then it also leaves the keyboard with a layer surface that wants none.
+bool WaylandOverlay::popupHasKeyboard() const {
+    return compositor_.layerShellVersion() < 4;
+}
+
 void WaylandOverlay::returnFocusSoon() {
     focusDelay_ = mainLoop_.scheduleOnce(focusDelay, [this] { returnFocus(); });
 }
 
 /// Not while a press may still open the menu, nor while the menu is open.
 void WaylandOverlay::returnFocus() {
-    if (!layerSurface_ || !window_.isActive())
+    if (!layerSurface_ || !hasFocus())
         return;
-    if (QGuiApplication::mouseButtons() != Qt::NoButton || layerSurface_->hasPopup())
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || closePopup_)
         returnFocusSoon();
     else
         focusReturn_.start(WaylandCompositor::output(*screen_));
+}
+
+/// Nobody in the program has it after the popup had it.
+bool WaylandOverlay::hasFocus() const {
+    const auto* focused = QGuiApplication::focusWindow();
+    return focused == &window_ || (popupHasKeyboard() && !focused);
 }
 
 } // namespace brellowind::platform

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QWindow>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -33,9 +34,16 @@ public:
     void setOutline(const Path& outline) override;
     void setIgnoresMouseEvents(bool /*ignores*/) override {}
 
-    /// Both null while it is not shown.
-    LayerSurface* layerSurface() { return layerSurface_ ? &*layerSurface_ : nullptr; }
-    wl_surface* surface() const { return WaylandCompositor::surface(window_); }
+    bool isShown() const { return layerSurface_.has_value(); }
+    const QWindow& window() const { return window_; }
+    wl_surface* surface() const { return WaylandCompositor::surface(window_); } ///< may be null
+
+    /// Makes `popup`, whose grab is still to come, a child. `close` closes it, and is called before
+    /// the overlay is hidden. REQUIRES: it is shown.
+    void popupOpens(xdg_popup* popup, std::function<void()> close);
+
+    /// The roles of the popup are gone.
+    void popupClosed();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -49,6 +57,8 @@ private:
     void setInputRegion();
     void returnFocusSoon();
     void returnFocus();
+    bool hasFocus() const;
+    bool popupHasKeyboard() const;
 
     QWindow& window_;
     const WaylandCompositor& compositor_;
@@ -65,6 +75,7 @@ private:
     std::unique_ptr<Timer> retry_;
     FocusReturn focusReturn_{compositor_};
     std::unique_ptr<Timer> focusDelay_;
+    std::function<void()> closePopup_; ///< absent while there is none
 };
 
 } // namespace brellowind::platform

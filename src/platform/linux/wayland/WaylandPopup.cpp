@@ -7,10 +7,6 @@
 namespace brellowind::platform {
 namespace {
 
-/// From this version of the layer shell on compositors give the keyboard to the layer surface that
-/// a popup belongs to, and not to the popup.
-constexpr std::uint32_t keyboardStaysWithParent = 4;
-
 using Positioner = WaylandObject<xdg_positioner>;
 
 /// With the top left corner at a point of the parent, moved as far as the screen's edges make it.
@@ -34,16 +30,15 @@ WaylandPopup::~WaylandPopup() {
         window_->close();
 }
 
-void WaylandPopup::show(const Popup& popup, LayerSurface& parent) {
+void WaylandPopup::show(const Popup& popup, WaylandOverlay& overlay) {
     if (window_)
         window_->close();
     window_ = &popup.window;
-    overlay_ = &popup.overlay;
-    parent_ = &parent;
+    overlay_ = &overlay;
     // With the hint Qt gives the surface no role.
     window_->setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
                       Qt::BypassWindowManagerHint);
-    window_->setScreen(overlay_->screen());
+    window_->setScreen(popup.overlay.screen());
     window_->create();
     surface_.reset(
         xdg_wm_base_get_xdg_surface(compositor_.shell(), WaylandCompositor::surface(*window_)));
@@ -53,10 +48,7 @@ void WaylandPopup::show(const Popup& popup, LayerSurface& parent) {
         surface_.get(), nullptr, positioner(compositor_.shell(), popup.at, window_->size()).get()));
     static constexpr xdg_popup_listener popupListener{configure, finish, nullptr};
     xdg_popup_add_listener(popup_.get(), &popupListener, this);
-    parent_->adoptPopup(popup_.get());
-    // Before the grab, during which nothing else gets the keyboard.
-    if (compositor_.layerShellVersion() >= keyboardStaysWithParent)
-        parent_->setKeyboardExclusive(true);
+    overlay_->popupOpens(popup_.get(), [this] { window_->close(); });
     xdg_popup_grab(popup_.get(), compositor_.seat(), compositor_.serial());
     wl_surface_commit(WaylandCompositor::surface(*window_));
     QCoreApplication::instance()->installEventFilter(this);
@@ -70,7 +62,7 @@ void WaylandPopup::configureSurface(void* self, xdg_surface* surface, std::uint3
 void WaylandPopup::configure(void* self, xdg_popup* /*popup*/, std::int32_t x, std::int32_t y,
                              std::int32_t /*width*/, std::int32_t /*height*/) {
     auto& popup = *static_cast<WaylandPopup*>(self);
-    popup.window_->setPosition(popup.overlay_->position() + QPoint(x, y));
+    popup.window_->setPosition(popup.overlay_->window().position() + QPoint(x, y));
 }
 
 void WaylandPopup::finish(void* self, xdg_popup* /*popup*/) {
@@ -87,7 +79,7 @@ bool WaylandPopup::eventFilter(QObject* receiver, QEvent* event) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        return receiver == overlay_ && handleKey(event);
+        return receiver == &overlay_->window() && handleKey(event);
     default:
         return false;
     }
@@ -107,9 +99,7 @@ void WaylandPopup::release() {
     window_ = nullptr;
     popup_.reset();
     surface_.reset();
-    parent_->popupDestroyed();
-    if (compositor_.layerShellVersion() >= keyboardStaysWithParent)
-        parent_->setKeyboardExclusive(false);
+    overlay_->popupClosed();
 }
 
 } // namespace brellowind::platform

@@ -1,24 +1,23 @@
 #pragma once
 
 #include "platform/WindowSystem.h"
-#include "platform/linux/wayland/LayerSurface.h"
+#include "platform/linux/wayland/WaylandOverlay.h"
 
 #include <QObject>
 #include <QWindow>
 
 namespace brellowind::platform {
 
-/// Shows a window as a popup of a layer surface. The compositor keeps it on the screen, gives it
+/// Shows a window as a popup of an overlay. The compositor keeps it on the screen, gives it
 /// the pointer, and closes it on a press anywhere else.
 class WaylandPopup final : public QObject {
 public:
     explicit WaylandPopup(const WaylandCompositor& compositor) : compositor_(compositor) {}
     ~WaylandPopup() override;
 
-    /// Closes the one that is shown. `parent`, of the popup's overlay, outlives its being shown.
-    void show(const Popup& popup, LayerSurface& parent);
-
-    bool isShown() const { return window_ != nullptr; }
+    /// Closes the one that is shown. `overlay` is that of the popup's overlay window, is shown, and
+    /// outlives the popup's being shown.
+    void show(const Popup& popup, WaylandOverlay& overlay);
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -34,8 +33,7 @@ private:
 
     const WaylandCompositor& compositor_;
     QWindow* window_ = nullptr; ///< while it is shown
-    QWindow* overlay_ = nullptr;
-    LayerSurface* parent_ = nullptr;
+    WaylandOverlay* overlay_ = nullptr;
     WaylandObject<xdg_surface> surface_;
     WaylandObject<xdg_popup> popup_;
 };

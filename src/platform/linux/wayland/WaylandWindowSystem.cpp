@@ -15,8 +15,8 @@ std::unique_ptr<Overlay> WaylandWindowSystem::makeOverlay(QWindow& window) {
 }
 
 void WaylandWindowSystem::popUp(const Popup& popup) {
-    if (auto* parent = overlay_->layerSurface())
-        popup_.show(popup, *parent);
+    if (overlay_->isShown())
+        popup_.show(popup, *overlay_);
 }
 
 void WaylandWindowSystem::activate() {
