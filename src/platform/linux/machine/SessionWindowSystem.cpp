@@ -2,8 +2,10 @@
 
 #include "platform/linux/wayland/WaylandDisplay.h"
 #include "platform/linux/wayland/WaylandWindowSystem.h"
+#include "platform/linux/x11/PlainX11Input.h"
 #include "platform/linux/x11/X11Display.h"
 #include "platform/linux/x11/X11WindowSystem.h"
+#include "platform/linux/x11/XWaylandInput.h"
 
 #include <array>
 #include <cstdio>
@@ -61,7 +63,12 @@ std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv) {
 std::unique_ptr<WindowSystem> makeWindowSystem(MainLoop& mainLoop, ScreenLock& screenLock) {
     if (QGuiApplication::platformName() == wayland)
         return std::make_unique<WaylandWindowSystem>(mainLoop);
-    return std::make_unique<X11WindowSystem>(mainLoop, screenLock);
+    std::unique_ptr<X11Input> input;
+    if (isXWayland())
+        input = std::make_unique<XWaylandInput>(mainLoop, QDBusConnection::sessionBus());
+    else
+        input = std::make_unique<PlainX11Input>(mainLoop);
+    return std::make_unique<X11WindowSystem>(mainLoop, screenLock, std::move(input));
 }
 
 } // namespace brellowind::platform

@@ -21,16 +21,10 @@ constexpr std::chrono::seconds retryDelay{1};
 /// In which a window that was opened from the menu takes the keyboard itself.
 constexpr std::chrono::milliseconds focusDelay{100};
 
-/// The device does not tell: Qt gives all mouse events on Wayland the same one.
-bool isFromFinger(const QEvent& event) {
-    return event.type() == QEvent::MouseMove &&
-           static_cast<const QMouseEvent&>(event).source() == Qt::MouseEventSynthesizedByQt;
-}
-
 } // namespace
 
 WaylandOverlay::WaylandOverlay(QWindow& window, const WaylandCompositor& compositor,
-                               WaylandPointer& pointer, MainLoop& mainLoop)
+                               WindowPointer& pointer, MainLoop& mainLoop)
     : window_(window), compositor_(compositor), pointer_(pointer), mainLoop_(mainLoop),
       resize_(mainLoop.onNextTurn([this] { resize(); })) {
     // With the hint Qt gives the surface no role.
@@ -89,17 +83,14 @@ bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::Enter:
     case QEvent::MouseMove:
-        if (!isFromFinger(*event)) {
-            const QPointF at = static_cast<QSinglePointEvent*>(event)->position();
-            pointer_.move(Point{desktopFrame_.x + at.x(), desktopFrame_.maxY() - at.y()});
-        }
+        pointer_.moveWithin(desktopFrame_, static_cast<QSinglePointEvent&>(*event));
         break;
     case QEvent::FocusIn:
         if (popupHasKeyboard())
             returnFocusSoon();
         break;
     case QEvent::Leave:
-        pointer_.move(std::nullopt);
+        pointer_.leave();
         break;
     default:
         break;
@@ -134,7 +125,7 @@ void WaylandOverlay::hide() {
     layerSurface_.reset();
     window_.hide();
     window_.destroy();
-    pointer_.move(std::nullopt);
+    pointer_.leave();
 }
 
 void WaylandOverlay::closed() {

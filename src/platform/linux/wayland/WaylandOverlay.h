@@ -4,7 +4,7 @@
 #include "platform/Overlay.h"
 #include "platform/linux/wayland/FocusReturn.h"
 #include "platform/linux/wayland/LayerSurface.h"
-#include "platform/linux/wayland/WaylandPointer.h"
+#include "platform/qt/WindowPointer.h"
 
 #include <QObject>
 #include <QPointer>
@@ -24,7 +24,7 @@ namespace brellowind::platform {
 class WaylandOverlay final : public QObject, public Overlay {
 public:
     /// Sets the flags of `window`, whose native window does not exist yet. All outlive this.
-    WaylandOverlay(QWindow& window, const WaylandCompositor& compositor, WaylandPointer& pointer,
+    WaylandOverlay(QWindow& window, const WaylandCompositor& compositor, WindowPointer& pointer,
                    MainLoop& mainLoop);
     ~WaylandOverlay() override;
 
@@ -62,7 +62,7 @@ private:
 
     QWindow& window_;
     const WaylandCompositor& compositor_;
-    WaylandPointer& pointer_;
+    WindowPointer& pointer_;
     MainLoop& mainLoop_;
     QPointer<QScreen> screen_; ///< that it belongs on
     QRect frame_;              ///< in Qt's coordinates

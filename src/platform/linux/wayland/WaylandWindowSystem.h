@@ -5,8 +5,8 @@
 #include "platform/linux/screens/QtScreens.h"
 #include "platform/linux/wayland/WaylandActivation.h"
 #include "platform/linux/wayland/WaylandCompositor.h"
-#include "platform/linux/wayland/WaylandPointer.h"
 #include "platform/linux/wayland/WaylandPopup.h"
+#include "platform/qt/WindowPointer.h"
 
 namespace brellowind::platform {
 
@@ -31,7 +31,7 @@ private:
     MainLoop& mainLoop_;
     WaylandCompositor compositor_;
     QtScreens screens_;
-    WaylandPointer pointer_;
+    WindowPointer pointer_;
     WaylandPopup popup_{compositor_};
     WaylandActivation activation_;
     WaylandOverlay* overlay_ = nullptr; ///< the one that was made last

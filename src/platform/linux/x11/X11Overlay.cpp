@@ -1,7 +1,6 @@
 #include "platform/linux/x11/X11Overlay.h"
 
 #include "platform/linux/screens/QtScreens.h"
-#include "platform/qt/OutlineRegion.h"
 
 #include <QPlatformSurfaceEvent>
 #include <QSurfaceFormat>
@@ -20,12 +19,12 @@ QRect wholePoints(const Rect& rect) {
 
 } // namespace
 
-X11Overlay::Native::Native(const X11Connection& x11, const QWindow& window, MainLoop& mainLoop)
-    : shape(x11, static_cast<xcb_window_t>(window.winId())), stayOnTop(x11, window, mainLoop) {}
+X11Overlay::Native::Native(X11Overlay& overlay)
+    : shape(overlay.input_.shape(overlay.window_, [&overlay] { overlay.updateShape(); })),
+      stayOnTop(overlay.x11_, overlay.window_, overlay.mainLoop_) {}
 
-X11Overlay::X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock)
-    : window_(window), mainLoop_(mainLoop), screenLock_(screenLock),
-      compositingManager_(x11_, [this] { updateShape(); }),
+X11Overlay::X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock, X11Input& input)
+    : window_(window), mainLoop_(mainLoop), screenLock_(screenLock), input_(input),
       screenSaver_(x11_, [this] { updateVisibility(); }),
       lockChange_(screenLock.onChange([this] { updateVisibility(); })) {
     window_.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
@@ -81,7 +80,7 @@ bool X11Overlay::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void X11Overlay::adoptNativeWindow() {
-    native_.emplace(x11_, window_, mainLoop_);
+    native_.emplace(*this);
     forbidShadow();
     updateShape();
 }
@@ -95,14 +94,8 @@ void X11Overlay::forbidShadow() {
 }
 
 void X11Overlay::updateShape() {
-    if (!native_)
-        return;
-    const bool isBounded = !compositingManager_.isRunning();
-    const QRegion region = isBounded || !ignoresMouseEvents_
-                               ? outlineRegion(outline_, window_.devicePixelRatio())
-                               : QRegion();
-    native_->shape.setBounding(isBounded ? std::optional(region) : std::nullopt);
-    native_->shape.setInput(ignoresMouseEvents_ ? QRegion() : region);
+    if (native_)
+        native_->shape->update(outline_, window_.devicePixelRatio(), ignoresMouseEvents_);
 }
 
 void X11Overlay::updateVisibility() {

@@ -3,14 +3,14 @@
 #include "platform/MainLoop.h"
 #include "platform/Overlay.h"
 #include "platform/linux/ScreenLock.h"
-#include "platform/linux/x11/CompositingManager.h"
 #include "platform/linux/x11/StayOnTop.h"
 #include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11Input.h"
 #include "platform/linux/x11/X11ScreenSaver.h"
-#include "platform/linux/x11/X11Shape.h"
 
 #include <QObject>
 #include <QWindow>
+#include <memory>
 #include <optional>
 
 namespace brellowind::platform {
@@ -18,13 +18,12 @@ namespace brellowind::platform {
 /// Makes a transparent window of Qt an overlay on an X server.
 ///
 /// It bypasses the window manager, so that none places, focuses or lists it, and raises itself when
-/// another window covers it. It takes the pointer within its content's outline only, and without a
-/// compositing manager it exists within that outline only, since all else would be black. While the
-/// session is locked or the screen saver is active it is hidden.
+/// another window covers it. While the session is locked or the screen saver is active it is
+/// hidden.
 class X11Overlay final : public QObject, public Overlay {
 public:
-    /// Sets the flags of `window`, whose native window does not exist yet. All three outlive this.
-    X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock);
+    /// Sets the flags of `window`, whose native window does not exist yet. All outlive this.
+    X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock, X11Input& input);
 
     /// Does nothing while there is no screen.
     void setFrame(const Rect& frame) override;
@@ -38,9 +37,9 @@ protected:
 private:
     /// What is bound to the native window.
     struct Native {
-        Native(const X11Connection& x11, const QWindow& window, MainLoop& mainLoop);
+        explicit Native(X11Overlay& overlay);
 
-        X11Shape shape;
+        std::unique_ptr<OverlayShape> shape;
         StayOnTop stayOnTop;
     };
 
@@ -52,8 +51,8 @@ private:
     QWindow& window_;
     MainLoop& mainLoop_;
     ScreenLock& screenLock_;
+    X11Input& input_;
     X11Connection x11_;
-    CompositingManager compositingManager_;
     X11ScreenSaver screenSaver_;
     Subscription lockChange_;
     std::optional<Native> native_;

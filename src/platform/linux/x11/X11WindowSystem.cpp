@@ -5,14 +5,16 @@
 
 #include <QGuiApplication>
 #include <QWindow>
+#include <utility>
 
 namespace brellowind::platform {
 
-X11WindowSystem::X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock)
-    : mainLoop_(mainLoop), screenLock_(screenLock), screens_(mainLoop), pointer_(mainLoop) {}
+X11WindowSystem::X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock,
+                                 std::unique_ptr<X11Input> input)
+    : mainLoop_(mainLoop), screenLock_(screenLock), screens_(mainLoop), input_(std::move(input)) {}
 
 std::unique_ptr<Overlay> X11WindowSystem::makeOverlay(QWindow& window) {
-    return std::make_unique<X11Overlay>(window, mainLoop_, screenLock_);
+    return std::make_unique<X11Overlay>(window, mainLoop_, screenLock_, *input_);
 }
 
 void X11WindowSystem::activate() {

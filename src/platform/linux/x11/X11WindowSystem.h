@@ -4,7 +4,7 @@
 #include "platform/WindowSystem.h"
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/screens/QtScreens.h"
-#include "platform/linux/x11/X11Pointer.h"
+#include "platform/linux/x11/X11Input.h"
 #include "platform/linux/x11/X11Popup.h"
 
 namespace brellowind::platform {
@@ -12,12 +12,12 @@ namespace brellowind::platform {
 /// The X server that the Qt application shows its windows on.
 class X11WindowSystem final : public WindowSystem {
 public:
-    /// REQUIRES: a `QGuiApplication` on the platform "xcb". Both arguments outlive this.
-    X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock);
+    /// REQUIRES: a `QGuiApplication` on the platform "xcb". Both references outlive this.
+    X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock, std::unique_ptr<X11Input> input);
 
     std::unique_ptr<Overlay> makeOverlay(QWindow& window) override;
     Screens& screens() override { return screens_; }
-    Pointer& pointer() override { return pointer_; }
+    Pointer& pointer() override { return input_->pointer(); }
     void popUp(const Popup& popup) override { popup_.show(popup); }
     void activate() override;
     void adoptActivation(const std::string& /*token*/) override {}
@@ -27,7 +27,7 @@ private:
     MainLoop& mainLoop_;
     ScreenLock& screenLock_;
     QtScreens screens_;
-    X11Pointer pointer_;
+    std::unique_ptr<X11Input> input_;
     X11Popup popup_;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/ScreenLock.h"
+#include "platform/linux/x11/PlainX11Input.h"
 #include "platform/linux/x11/X11Overlay.h"
 #include "platform/qt/QtMainLoop.h"
 #include "session/Desktop.h"
@@ -110,7 +111,8 @@ protected:
     SessionBus bus;
     platform::ScreenLock lock{bus.connection(), bus.connection()};
     GreenWindow window;
-    platform::X11Overlay overlay{window, mainLoop, lock};
+    platform::PlainX11Input input_{mainLoop};
+    platform::X11Overlay overlay{window, mainLoop, lock, input_};
     XClient x{display};
     Person person{x};
     std::optional<PlainWindow> beneath_;

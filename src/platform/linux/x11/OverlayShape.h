@@ -1,0 +1,16 @@
+#pragma once
+
+#include "foundation/Path.h"
+
+namespace brellowind::platform {
+
+/// What the native window of an overlay takes of the pointer, and what there is of it at all.
+class OverlayShape {
+public:
+    virtual ~OverlayShape() = default;
+
+    /// `outline`, in points of `scale` pixels, and `ignoresMouseEvents` are those of the overlay.
+    virtual void update(const Path& outline, double scale, bool ignoresMouseEvents) = 0;
+};
+
+} // namespace brellowind::platform

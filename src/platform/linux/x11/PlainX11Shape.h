@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/linux/x11/CompositingManager.h"
+#include "platform/linux/x11/OverlayShape.h"
+#include "platform/linux/x11/X11Shape.h"
+
+#include <QWindow>
+
+namespace brellowind::platform {
+
+/// The shape on an X server of its own. Without a compositing manager the window exists within the
+/// outline only, since all else would be black.
+class PlainX11Shape final : public OverlayShape {
+public:
+    /// Calls `changed` when a compositing manager comes or goes.
+    PlainX11Shape(const QWindow& window, std::function<void()> changed);
+
+    void update(const Path& outline, double scale, bool ignoresMouseEvents) override;
+
+private:
+    X11Connection x11_;
+    CompositingManager compositingManager_;
+    X11Shape shape_;
+};
+
+} // namespace brellowind::platform

@@ -1,0 +1,50 @@
+#include "platform/qt/WindowPointer.h"
+
+#include <QMouseEvent>
+#include <utility>
+
+namespace brellowind::platform {
+namespace {
+
+class WindowPointerMonitor final : public PointerMonitor {
+public:
+    explicit WindowPointerMonitor(Subscription subscription)
+        : subscription_(std::move(subscription)) {}
+
+private:
+    Subscription subscription_;
+};
+
+/// The device does not tell: Qt gives all mouse events on Wayland the same one.
+bool isFromFinger(const QEvent& event) {
+    return event.type() == QEvent::MouseMove &&
+           static_cast<const QMouseEvent&>(event).source() == Qt::MouseEventSynthesizedByQt;
+}
+
+} // namespace
+
+std::unique_ptr<PointerMonitor> WindowPointer::addGlobalMonitor(Handler /*handler*/) {
+    return nullptr;
+}
+
+std::unique_ptr<PointerMonitor> WindowPointer::addLocalMonitor(Handler handler) {
+    return std::make_unique<WindowPointerMonitor>(observers_->add(std::move(handler)));
+}
+
+void WindowPointer::moveWithin(const Rect& frame, const QSinglePointEvent& event) {
+    if (isFromFinger(event))
+        return;
+    const QPointF at = event.position();
+    move(Point{frame.x + at.x(), frame.maxY() - at.y()});
+}
+
+void WindowPointer::leave() {
+    move(std::nullopt);
+}
+
+void WindowPointer::move(std::optional<Point> location) {
+    location_ = location;
+    observers_->notify();
+}
+
+} // namespace brellowind::platform
