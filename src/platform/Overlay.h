@@ -24,6 +24,9 @@ public:
     /// what lies beneath.
     virtual void setOutline(const Path& outline) = 0;
 
+    /// The window is about to show something else. Called in every frame after its outline is set.
+    virtual void beginFrame() {}
+
     /// Whether clicks and movements within the outline fall through as well, which they do at
     /// first. Repeating the present value costs nothing. Without effect where the system tells this
     /// program of the pointer only while it is over a window that takes it.

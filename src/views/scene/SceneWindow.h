@@ -41,6 +41,9 @@ protected:
     /// Called before every frame is drawn.
     virtual void aboutToShow() {}
 
+    /// Called before every frame that differs from the one before is shown.
+    virtual void aboutToFlush() {}
+
     bool event(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -18,6 +18,10 @@ void NotchView::resizeEvent(QResizeEvent* event) {
     pill_->fill(size());
 }
 
+void NotchView::aboutToFlush() {
+    overlay_->beginFrame();
+}
+
 void NotchView::aboutToShow() {
     const PillShape& shape = pill_->shape();
     const QRectF rect = shape.mapRectToScene(shape.boundingRect());

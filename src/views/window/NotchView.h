@@ -23,6 +23,7 @@ public:
 
 protected:
     void aboutToShow() override;
+    void aboutToFlush() override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -11,6 +11,9 @@ public:
 
     /// `outline`, in points of `scale` pixels, and `ignoresMouseEvents` are those of the overlay.
     virtual void update(const Path& outline, double scale, bool ignoresMouseEvents) = 0;
+
+    /// As of the overlay.
+    virtual void beginFrame() {}
 };
 
 } // namespace brellowind::platform

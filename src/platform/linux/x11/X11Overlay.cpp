@@ -59,6 +59,11 @@ void X11Overlay::setOutline(const Path& outline) {
     updateShape();
 }
 
+void X11Overlay::beginFrame() {
+    if (native_)
+        native_->shape->beginFrame();
+}
+
 void X11Overlay::setIgnoresMouseEvents(bool ignores) {
     if (ignoresMouseEvents_ == ignores)
         return;

@@ -29,6 +29,7 @@ public:
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
     void setOutline(const Path& outline) override;
+    void beginFrame() override;
     void setIgnoresMouseEvents(bool ignores) override;
 
 protected:

@@ -20,13 +20,12 @@ void shape(const X11Connection& x11, xcb_window_t window, xcb_shape_kind_t kind,
 
 X11Shape::X11Shape(const X11Connection& x11, xcb_window_t window) : x11_(x11), window_(window) {}
 
-bool X11Shape::setInput(const QRegion& region) {
+void X11Shape::setInput(const QRegion& region) {
     if (input_ == region)
-        return false;
+        return;
     input_ = region;
     shape(x11_, window_, XCB_SHAPE_SK_INPUT, region);
     x11_.flush();
-    return true;
 }
 
 void X11Shape::setBounding(const std::optional<QRegion>& region) {

@@ -12,9 +12,8 @@ class X11Shape {
 public:
     X11Shape(const X11Connection& x11, xcb_window_t window);
 
-    /// Where the window takes the pointer; elsewhere it falls through to what lies beneath. Returns
-    /// whether that is a change.
-    bool setInput(const QRegion& region);
+    /// Where the window takes the pointer; elsewhere it falls through to what lies beneath.
+    void setInput(const QRegion& region);
 
     /// Where there is a window at all; absent: everywhere. Where a bounded window grows it is black
     /// until it is drawn.

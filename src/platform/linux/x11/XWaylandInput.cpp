@@ -22,6 +22,8 @@ public:
         shape_.update(outline, scale);
     }
 
+    void beginFrame() override { shape_.beginFrame(); }
+
 private:
     XWaylandShape shape_;
     XWaylandHover hover_;

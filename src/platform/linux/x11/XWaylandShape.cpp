@@ -20,12 +20,14 @@ XWaylandShape::XWaylandShape(const QWindow& window)
 }
 
 void XWaylandShape::update(const Path& outline, double scale) {
-    if (!shape_.setInput(outlineRegion(outline, scale)))
-        return;
+    shape_.setInput(outlineRegion(outline, scale));
+}
+
+void XWaylandShape::beginFrame() {
     extra_ = extra_ % mostExtra + 1;
     const auto height = static_cast<std::uint32_t>(this->height() + extra_);
     xcb_configure_window(x11_.get(), window_, XCB_CONFIG_WINDOW_HEIGHT, &height);
-    x11_.flush();
+    xcb_clear_area(x11_.get(), 0, window_, 0, static_cast<std::int16_t>(this->height()), 0, 0);
 }
 
 bool XWaylandShape::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {

@@ -8,11 +8,12 @@
 
 namespace brellowind::platform {
 
-/// Lets a window take the pointer within an outline under a compositor that heeds a new input shape
-/// only when the window is shown or resized, as GNOME's does.
+/// Lets a window take the pointer within an outline under GNOME's compositor, which looks at the
+/// input shape of a window when its size changes, and forgets it when the window shows something
+/// else at the same size.
 ///
-/// After each change the window gets another height, one or two pixels more than Qt gave it. What
-/// comes to it there is transparent, and Qt does not hear of it.
+/// So in every frame the window has another height: one or two pixels more than Qt gave it, which
+/// are transparent and of which Qt does not hear.
 class XWaylandShape final : public QAbstractNativeEventFilter {
 public:
     /// The native window of `window` exists and outlives this.
@@ -20,6 +21,9 @@ public:
 
     /// `outline` is in points of `scale` pixels.
     void update(const Path& outline, double scale);
+
+    /// Before the window shows something else.
+    void beginFrame();
 
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
