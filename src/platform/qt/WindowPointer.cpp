@@ -1,6 +1,8 @@
 #include "platform/qt/WindowPointer.h"
 
 #include <QMouseEvent>
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace brellowind::platform {
@@ -35,7 +37,8 @@ void WindowPointer::moveWithin(const Rect& frame, const QSinglePointEvent& event
     if (isFromFinger(event))
         return;
     const QPointF at = event.position();
-    move(Point{frame.x + at.x(), frame.maxY() - at.y()});
+    const double y = frame.maxY() - at.y();
+    move(Point{frame.x + at.x(), std::min(y, std::nextafter(frame.maxY(), frame.y))});
 }
 
 void WindowPointer::leave() {

@@ -17,8 +17,8 @@ public:
     std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) override;
     std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) override;
 
-    /// The pointer is where `event` is in the window that has `frame` on the desktop. Nothing comes
-    /// of a finger.
+    /// The pointer is where `event` is in the window that has `frame` on the desktop; at its top
+    /// edge it is within the frame. Nothing comes of a finger.
     void moveWithin(const Rect& frame, const QSinglePointEvent& event);
 
     /// The pointer has left.
