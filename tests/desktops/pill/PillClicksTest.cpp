@@ -77,7 +77,7 @@ TEST_F(PillClicks, BesideTheHoveredPillReachTheWindowBelowAtTheirPlace) {
     EXPECT_EQ(reached(), places);
 }
 
-TEST_F(PillClicks, BesideTheOpenPanelReachTheWindowBelowAtTheirPlace) {
+TEST_F(PillClicks, BesideThePanelReachTheWindowBelowWhileItIsOpenAndAfterwards) {
     below();
     startSinging();
     enterPill();
@@ -94,22 +94,15 @@ TEST_F(PillClicks, BesideTheOpenPanelReachTheWindowBelowAtTheirPlace) {
     for (const QPointF at : covered)
         click(at);
     EXPECT_EQ(reached(), QList<QPointF>());
-}
 
-TEST_F(PillClicks, BesideThePillThatWasHigherReachTheWindowBelowAtTheirPlace) {
-    below();
-    startSinging();
-    enterPill();
-    compositor->click(middleOf("artwork"));
-    EXPECT_TRUE(program->becomes("isArtExpanded"));
-    EXPECT_TRUE(program->comesToRest());
     compositor->click(middleOf("artwork"));
     EXPECT_TRUE(program->becomes("isArtExpanded", false));
     leavePill();
-    const auto places = beside();
-    for (const QPointF at : places)
+    const auto placesAfterwards = beside();
+    ASSERT_GT(placesAfterwards.size(), 150);
+    for (const QPointF at : placesAfterwards)
         click(at);
-    EXPECT_EQ(reached(), places);
+    EXPECT_EQ(reached(), placesAfterwards);
 }
 
 TEST_F(PillClicks, OnThePillNeverReachTheWindowBelow) {

@@ -9,7 +9,7 @@ TEST_F(PillScreensOff, AndOnAgainShowThePillAsBefore) {
     below();
     startSinging();
     const QRect before = silhouette(picture());
-    for (int time = 0; time < 3; ++time) {
+    for (int time = 0; time < 2; ++time) {
         compositor->setScreensOn(false);
         runFor(std::chrono::milliseconds(500)); // in which the pill goes on singing
         compositor->setScreensOn(true);
