@@ -3,6 +3,8 @@
 #include "foundation/Geometry.h"
 #include "foundation/Path.h"
 
+#include <functional>
+
 namespace brellowind::platform {
 
 /// A borderless, transparent window without a shadow, above every other window and the menu bar, on
@@ -24,8 +26,9 @@ public:
     /// what lies beneath.
     virtual void setOutline(const Path& outline) = 0;
 
-    /// The window is about to show something else. Called in every frame after its outline is set.
-    virtual void beginFrame() {}
+    /// Shows a frame after its outline is set: calls `flush`, which hands the frame to the window
+    /// system.
+    virtual void present(const std::function<void()>& flush) { flush(); }
 
     /// Whether clicks and movements within the outline fall through as well, which they do at
     /// first. Repeating the present value costs nothing. Without effect where the system tells this

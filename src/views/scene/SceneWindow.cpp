@@ -142,8 +142,7 @@ void SceneWindow::makeFrame() {
     store_.beginPaint(region);
     paintStore(region);
     store_.endPaint();
-    aboutToFlush();
-    store_.flush(region);
+    present([&] { store_.flush(region); });
     Q_EMIT frameShown();
     pointer_.follow();
 }

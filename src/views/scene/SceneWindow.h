@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QRegion>
 #include <QWindow>
+#include <functional>
 #include <memory>
 
 namespace brellowind {
@@ -41,8 +42,8 @@ protected:
     /// Called before every frame is drawn.
     virtual void aboutToShow() {}
 
-    /// Called before every frame that differs from the one before is shown.
-    virtual void aboutToFlush() {}
+    /// Shows a frame that is drawn: calls `flush`, which hands it to the window system.
+    virtual void present(const std::function<void()>& flush) { flush(); }
 
     bool event(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -18,8 +18,8 @@ void NotchView::resizeEvent(QResizeEvent* event) {
     pill_->fill(size());
 }
 
-void NotchView::aboutToFlush() {
-    overlay_->beginFrame();
+void NotchView::present(const std::function<void()>& flush) {
+    overlay_->present(flush);
 }
 
 void NotchView::aboutToShow() {

@@ -23,7 +23,7 @@ public:
 
 protected:
     void aboutToShow() override;
-    void aboutToFlush() override;
+    void present(const std::function<void()>& flush) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

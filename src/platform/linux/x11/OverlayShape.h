@@ -2,6 +2,8 @@
 
 #include "foundation/Path.h"
 
+#include <functional>
+
 namespace brellowind::platform {
 
 /// What the native window of an overlay takes of the pointer, and what there is of it at all.
@@ -13,7 +15,7 @@ public:
     virtual void update(const Path& outline, double scale, bool ignoresMouseEvents) = 0;
 
     /// As of the overlay.
-    virtual void beginFrame() {}
+    virtual void present(const std::function<void()>& flush) { flush(); }
 };
 
 } // namespace brellowind::platform

@@ -59,9 +59,9 @@ void X11Overlay::setOutline(const Path& outline) {
     updateShape();
 }
 
-void X11Overlay::beginFrame() {
+void X11Overlay::present(const std::function<void()>& flush) {
     if (native_)
-        native_->shape->beginFrame();
+        native_->shape->present(flush);
 }
 
 void X11Overlay::setIgnoresMouseEvents(bool ignores) {

@@ -29,7 +29,7 @@ public:
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
     void setOutline(const Path& outline) override;
-    void beginFrame() override;
+    void present(const std::function<void()>& flush) override;
     void setIgnoresMouseEvents(bool ignores) override;
 
 protected:

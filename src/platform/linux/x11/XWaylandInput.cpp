@@ -22,7 +22,7 @@ public:
         shape_.update(outline, scale);
     }
 
-    void beginFrame() override { shape_.beginFrame(); }
+    void present(const std::function<void()>& flush) override { shape_.present(flush); }
 
 private:
     XWaylandShape shape_;

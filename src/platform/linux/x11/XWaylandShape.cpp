@@ -8,12 +8,13 @@
 namespace brellowind::platform {
 namespace {
 
-constexpr int mostExtra = 2; ///< with two Qt's own height is always another one
+constexpr int mostExtra = 8;
 
 } // namespace
 
 XWaylandShape::XWaylandShape(const QWindow& window)
-    : qtWindow_(window), window_(static_cast<xcb_window_t>(window.winId())), shape_(x11_, window_) {
+    : qtWindow_(window), window_(static_cast<xcb_window_t>(window.winId())), shape_(x11_, window_),
+      commitsAllowed_(x11_.atom("_XWAYLAND_ALLOW_COMMITS")) {
     constexpr std::uint32_t transparent = 0;
     xcb_change_window_attributes(x11_.get(), window_, XCB_CW_BACK_PIXEL, &transparent);
     QCoreApplication::instance()->installNativeEventFilter(this);
@@ -23,11 +24,14 @@ void XWaylandShape::update(const Path& outline, double scale) {
     shape_.setInput(outlineRegion(outline, scale));
 }
 
-void XWaylandShape::beginFrame() {
+void XWaylandShape::present(const std::function<void()>& flush) {
     extra_ = extra_ % mostExtra + 1;
     const auto height = static_cast<std::uint32_t>(this->height() + extra_);
+    setCommitsAllowed(false);
     xcb_configure_window(x11_.get(), window_, XCB_CONFIG_WINDOW_HEIGHT, &height);
-    xcb_clear_area(x11_.get(), 0, window_, 0, static_cast<std::int16_t>(this->height()), 0, 0);
+    flush();
+    setCommitsAllowed(true);
+    x11_.flush();
 }
 
 bool XWaylandShape::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
@@ -44,6 +48,13 @@ bool XWaylandShape::nativeEventFilter(const QByteArray& type, void* message, qin
 /// In pixels, as Qt has asked for it.
 int XWaylandShape::height() const {
     return qtWindow_.handle()->geometry().height();
+}
+
+/// Of what the window shows, by XWayland to the compositor.
+void XWaylandShape::setCommitsAllowed(bool allowed) const {
+    const std::uint32_t value = allowed;
+    xcb_change_property(x11_.get(), XCB_PROP_MODE_REPLACE, window_, commitsAllowed_,
+                        XCB_ATOM_CARDINAL, 32, 1, &value);
 }
 
 } // namespace brellowind::platform

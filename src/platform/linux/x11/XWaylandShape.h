@@ -5,6 +5,7 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QWindow>
+#include <functional>
 
 namespace brellowind::platform {
 
@@ -12,8 +13,9 @@ namespace brellowind::platform {
 /// input shape of a window when its size changes, and forgets it when the window shows something
 /// else at the same size.
 ///
-/// So in every frame the window has another height: one or two pixels more than Qt gave it, which
-/// are transparent and of which Qt does not hear.
+/// So in every frame the window has another height, and XWayland hands over height and content
+/// together. The height is a few pixels more than Qt gave it; they are transparent, and Qt does not
+/// hear of them.
 class XWaylandShape final : public QAbstractNativeEventFilter {
 public:
     /// The native window of `window` exists and outlives this.
@@ -22,18 +24,20 @@ public:
     /// `outline` is in points of `scale` pixels.
     void update(const Path& outline, double scale);
 
-    /// Before the window shows something else.
-    void beginFrame();
+    /// Shows a frame: calls `flush`, which sends it to the X server.
+    void present(const std::function<void()>& flush);
 
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
 private:
     int height() const;
+    void setCommitsAllowed(bool allowed) const;
 
     X11Connection x11_;
     const QWindow& qtWindow_;
     xcb_window_t window_;
     X11Shape shape_;
+    xcb_atom_t commitsAllowed_;
     int extra_ = 0; ///< pixels of height
 };
 
