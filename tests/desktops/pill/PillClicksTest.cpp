@@ -70,8 +70,7 @@ TEST_F(PillClicks, BesideTheHoveredPillReachTheWindowBelowAtTheirPlace) {
     const auto places = beside();
     ASSERT_GT(places.size(), 150);
     for (const QPointF at : places) {
-        compositor->movePointerTo(background());
-        ASSERT_TRUE(program->becomes("hovered"));
+        ASSERT_TRUE(hoverPill());
         click(at);
     }
     EXPECT_EQ(reached(), places);

@@ -10,10 +10,17 @@ using std::chrono::seconds;
 
 constexpr QSizeF pillWindow(640, 540);
 
+/// mutter has no layer shell.
+CompositorOptions withWindowSystem(CompositorOptions options) {
+    options.xWayland = QLatin1String(BRELLOWIND_COMPOSITOR) == QLatin1String("mutter");
+    return options;
+}
+
 } // namespace
 
 PillOnCompositor::PillOnCompositor(const CompositorOptions& options)
-    : compositor(Compositor::make(QStringLiteral(BRELLOWIND_COMPOSITOR), options)),
+    : compositor(
+          Compositor::make(QStringLiteral(BRELLOWIND_COMPOSITOR), withWindowSystem(options))),
       service([](const demo::Exchange& exchange) { exchange.respond(200, lyrics); }) {
     compositor->movePointerTo(screen().bottomLeft());
 }
@@ -49,9 +56,17 @@ QRectF PillOnCompositor::place(const char* item) {
     return program->rectangle(item).translated(area().topLeft());
 }
 
-void PillOnCompositor::enterPill() {
+bool PillOnCompositor::hoverPill() {
+    double step = 1;
     compositor->movePointerTo(background());
-    EXPECT_TRUE(program->becomes("hovered"));
+    return waitUntil([&] {
+        compositor->movePointerBy({step = -step, 0});
+        return program->is("hovered");
+    });
+}
+
+void PillOnCompositor::enterPill() {
+    EXPECT_TRUE(hoverPill());
     EXPECT_TRUE(program->comesToRest());
 }
 

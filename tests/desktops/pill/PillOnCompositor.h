@@ -41,6 +41,9 @@ protected:
     /// A place of the pill that shows nothing.
     QPointF background() const { return {area().center().x(), area().top() + 12}; }
 
+    /// Moves the pointer into the pill and on within it, as a mouse does, until the pill knows.
+    bool hoverPill();
+
     /// Moves the pointer into the pill and waits until the pill is lifted.
     void enterPill();
 

@@ -19,8 +19,7 @@ TEST_F(PillPointer, OverThePillHoversItUntilItMovesAway) {
     EXPECT_FALSE(program->is("hovered"));
     enterPill();
     leavePill();
-    compositor->movePointerBy({0, -area().height()});
-    EXPECT_TRUE(program->becomes("hovered"));
+    EXPECT_TRUE(hoverPill());
     compositor->movePointerBy({place("pill").width(), 0});
     EXPECT_TRUE(program->becomes("hovered", false));
 }
