@@ -44,6 +44,21 @@ int Picture::sharpestStep(QRect within) const {
     return sharpest;
 }
 
+double Picture::repeatedColumns(QRect within) const {
+    within &= image_.rect();
+    const auto column = [&](int x) { return image_.copy(x, within.top(), 1, within.height()); };
+    int columns = 0;
+    int repeated = 0;
+    for (int x = within.left() + 1; x <= within.right(); ++x) {
+        const QImage here = column(x);
+        if (here == here.copy(0, 0, 1, 1).scaled(here.size()))
+            continue;
+        ++columns;
+        repeated += here == column(x - 1) ? 1 : 0;
+    }
+    return columns > 0 ? double(repeated) / columns : 1;
+}
+
 QString Picture::keep(const QString& name) const {
     const QDir folder(QStringLiteral(BRELLOWIND_DESKTOP_PICTURES));
     folder.mkpath(QStringLiteral("."));

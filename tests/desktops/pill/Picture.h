@@ -27,6 +27,10 @@ public:
     /// The largest step in brightness between neighbours in a row of `within`, of 255.
     int sharpestStep(QRect within) const;
 
+    /// How many of the columns of `within` that are not of one colour are the same as the one before
+    /// them, from 0 to 1.
+    double repeatedColumns(QRect within) const;
+
     /// Saves it for people to look at, and gives the file.
     QString keep(const QString& name) const;
 
