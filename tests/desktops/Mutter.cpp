@@ -63,9 +63,20 @@ Mutter::Mutter(const CompositorOptions& options)
     setEnabled(spareScreen, false);
     if (options.scale != 1)
         setScale(options.scale);
+    if (options.xWayland && !isLaidOutInPoints_)
+        tellXClients(options.scale);
     remote_ = std::make_unique<MutterRemote>(this->session());
     wakeDevices();
     awaitDevices();
+}
+
+void Mutter::tellXClients(double scale) {
+    requireProgram(QStringLiteral("xrdb"), QStringLiteral("x11-xserver-utils"));
+    constexpr double dotsPerInch = 96;
+    mutableSession().writeFile(QStringLiteral("resources"),
+                               "Xft.dpi: " + QByteArray::number(dotsPerInch * scale) + '\n');
+    session().run(QStringLiteral("xrdb"), {QStringLiteral("-nocpp"), QStringLiteral("-merge"),
+                                           session().file(QStringLiteral("resources"))});
 }
 
 void Mutter::wakeDevices() {

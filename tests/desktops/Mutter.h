@@ -39,6 +39,10 @@ private:
     /// Uses each device once: mutter has none that was never used.
     void wakeDevices();
 
+    /// As GNOME's settings daemon does, since X clients are not scaled where screens are laid out
+    /// in pixels.
+    void tellXClients(double scale);
+
     Pixel pixelAt(QPointF place) const;
     QRect geometry(const MutterScreen& screen) const;
     bool setEnabled(const QString& name, bool isEnabled);

@@ -87,6 +87,11 @@ bool PressLog::awaitLine(const QString& line) {
     });
 }
 
+bool PressLog::hasKeyboard() {
+    return lines().lastIndexOf(QStringLiteral("keyboard enter")) >
+           lines().lastIndexOf(QStringLiteral("keyboard leave"));
+}
+
 const QStringList& PressLog::lines() {
     unfinished_ += process_->remainingOutput();
     for (auto end = unfinished_.indexOf('\n'); end >= 0; end = unfinished_.indexOf('\n')) {

@@ -42,6 +42,9 @@ public:
     /// drops what came before it. False when it does not come.
     bool awaitLine(const QString& line);
 
+    /// Whether keys come to it.
+    bool hasKeyboard();
+
     /// All lines of clients/InputLog.h and clients/PlainSurface.h that have come so far.
     const QStringList& lines();
 

@@ -3,7 +3,9 @@
 namespace brellowind::test {
 namespace {
 
-const QByteArray lyrics = R"({"syncedLyrics":"[00:00.00]line"})";
+/// Lyrics, and the release that runs.
+const QByteArray answer =
+    R"({"syncedLyrics":"[00:00.00]line", "version":"0.1.0", "url":"http://localhost/"})";
 const auto errorFile = QStringLiteral("program.errors");
 
 using std::chrono::seconds;
@@ -21,7 +23,7 @@ CompositorOptions withWindowSystem(CompositorOptions options) {
 PillOnCompositor::PillOnCompositor(const CompositorOptions& options)
     : compositor(
           Compositor::make(QStringLiteral(BRELLOWIND_COMPOSITOR), withWindowSystem(options))),
-      service([](const demo::Exchange& exchange) { exchange.respond(200, lyrics); }) {
+      service([](const demo::Exchange& exchange) { exchange.respond(200, answer); }) {
     compositor->movePointerTo(screen().bottomLeft());
 }
 
@@ -79,6 +81,10 @@ void PillOnCompositor::leavePill() {
 void PillOnCompositor::openMenuAt(QPointF place) {
     compositor->click(place, Compositor::secondaryButton);
     EXPECT_TRUE(waitUntil([&] { return program->hasMenu(); }));
+    runFor(std::chrono::milliseconds(200)); // until the compositor shows it to the pointer
+    if (below_) {
+        EXPECT_TRUE(waitUntil([&] { return !below_->hasKeyboard(); }));
+    }
 }
 
 bool PillOnCompositor::menuCloses() {

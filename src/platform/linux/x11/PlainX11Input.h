@@ -19,6 +19,8 @@ public:
         return std::make_unique<PlainX11Shape>(window, std::move(changed));
     }
 
+    void giveKeyboard(QWindow& /*menu*/) override {} // it can take it
+
 private:
     X11Pointer pointer_;
 };

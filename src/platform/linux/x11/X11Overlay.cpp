@@ -62,6 +62,8 @@ void X11Overlay::setOutline(const Path& outline) {
 void X11Overlay::present(const std::function<void()>& flush) {
     if (native_)
         native_->shape->present(flush);
+    else
+        flush();
 }
 
 void X11Overlay::setIgnoresMouseEvents(bool ignores) {

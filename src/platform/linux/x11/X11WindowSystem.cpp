@@ -17,6 +17,11 @@ std::unique_ptr<Overlay> X11WindowSystem::makeOverlay(QWindow& window) {
     return std::make_unique<X11Overlay>(window, mainLoop_, screenLock_, *input_);
 }
 
+void X11WindowSystem::popUp(const Popup& popup) {
+    input_->giveKeyboard(popup.window);
+    popup_.show(popup);
+}
+
 void X11WindowSystem::activate() {
     for (auto* window : QGuiApplication::topLevelWindows()) {
         const bool takesFocus = !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus);

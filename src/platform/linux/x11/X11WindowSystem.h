@@ -18,7 +18,7 @@ public:
     std::unique_ptr<Overlay> makeOverlay(QWindow& window) override;
     Screens& screens() override { return screens_; }
     Pointer& pointer() override { return input_->pointer(); }
-    void popUp(const Popup& popup) override { popup_.show(popup); }
+    void popUp(const Popup& popup) override;
     void activate() override;
     void adoptActivation(const std::string& /*token*/) override {}
     std::string sessionName() const override;

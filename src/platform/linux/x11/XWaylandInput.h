@@ -2,6 +2,7 @@
 
 #include "platform/MainLoop.h"
 #include "platform/linux/x11/X11Input.h"
+#include "platform/linux/x11/XWaylandMenuFocus.h"
 #include "platform/qt/WindowPointer.h"
 
 #include <QDBusConnection>
@@ -21,11 +22,13 @@ public:
 
     Pointer& pointer() override { return pointer_; }
     std::unique_ptr<OverlayShape> shape(QWindow& window, std::function<void()> changed) override;
+    void giveKeyboard(QWindow& menu) override { menuFocus_.follow(menu); }
 
 private:
     MainLoop& mainLoop_;
     QDBusConnection sessionBus_;
     WindowPointer pointer_;
+    XWaylandMenuFocus menuFocus_;
 };
 
 } // namespace brellowind::platform

@@ -8,6 +8,7 @@
 namespace brellowind::platform {
 namespace {
 
+/// The same height comes again after so many frames, which XWayland never hands over as one.
 constexpr int mostExtra = 8;
 
 } // namespace
