@@ -81,10 +81,10 @@ void PillOnCompositor::leavePill() {
 void PillOnCompositor::openMenuAt(QPointF place) {
     compositor->click(place, Compositor::secondaryButton);
     EXPECT_TRUE(waitUntil([&] { return program->hasMenu(); }));
-    runFor(std::chrono::milliseconds(200)); // until the compositor shows it to the pointer
     if (below_) {
         EXPECT_TRUE(waitUntil([&] { return !below_->hasKeyboard(); }));
     }
+    runFor(std::chrono::milliseconds(200)); // until it is there for pointer and keyboard
 }
 
 bool PillOnCompositor::menuCloses() {

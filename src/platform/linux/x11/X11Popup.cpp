@@ -50,7 +50,9 @@ void X11Popup::show(const Popup& popup) {
     auto& window = popup.window;
     const QPoint corner = popup.overlay.mapToGlobal(QPointF(popup.at.x, popup.at.y)).toPoint();
     const auto* at = QGuiApplication::screenAt(corner);
-    window.setFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    // Not of the type Popup, of which Qt tells assistive programs nothing.
+    window.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
+                    Qt::BypassWindowManagerHint);
     window.setTransientParent(&popup.overlay);
     window.setPosition(
         placeWithin((at ? at : popup.overlay.screen())->geometry(), corner, window.size()));
