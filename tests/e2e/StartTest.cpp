@@ -100,6 +100,14 @@ TEST_F(StartWithoutDisplay, SaysSoWhateverQtIsToldToShowWindowsOn) {
     endsWithOneLine();
 }
 
+TEST_F(Start, EndsWithOneLineWhenTheDisplayGoes) {
+    const auto program = start();
+    EXPECT_TRUE(waitUntil([&] { return pills(x) == 1; }));
+    desktop.xServer.end();
+    EXPECT_EQ(program->finish(), 1);
+    EXPECT_EQ(errors(), "brellowind: the display is gone\n");
+}
+
 class SecondStart : public Start {
 protected:
     std::unique_ptr<demo::Companion> startFirst() {

@@ -39,6 +39,8 @@ public:
 
     QString display() const { return display_; }
 
+    void end() { server_.end(); }
+
 private:
     demo::Companion server_;
     QString display_;

@@ -1,8 +1,10 @@
 #include "platform/linux/machine/SessionWindowSystem.h"
 
+#include "platform/linux/machine/DisplayLoss.h"
 #include "platform/linux/wayland/WaylandDisplay.h"
 #include "platform/linux/wayland/WaylandWindowSystem.h"
 #include "platform/linux/x11/PlainX11Input.h"
+#include "platform/linux/x11/X11Connection.h"
 #include "platform/linux/x11/X11Display.h"
 #include "platform/linux/x11/X11WindowSystem.h"
 #include "platform/linux/x11/XWaylandInput.h"
@@ -46,6 +48,7 @@ public:
 } // namespace
 
 std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv) {
+    silenceQt();
     const bool hasWayland =
         offersLayerShell() && QPlatformIntegrationFactory::keys().contains(wayland);
     // Held until Qt has connected: some servers reset themselves when their only client goes.
@@ -61,8 +64,12 @@ std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv) {
 }
 
 std::unique_ptr<WindowSystem> makeWindowSystem(MainLoop& mainLoop, ScreenLock& screenLock) {
-    if (QGuiApplication::platformName() == wayland)
-        return std::make_unique<WaylandWindowSystem>(mainLoop);
+    if (QGuiApplication::platformName() == wayland) {
+        auto system = std::make_unique<WaylandWindowSystem>(mainLoop);
+        endWithDisplay(system->socket());
+        return system;
+    }
+    endWithDisplay(xcb_get_file_descriptor(X11Connection().get()));
     std::unique_ptr<X11Input> input;
     if (isXWayland())
         input = std::make_unique<XWaylandInput>(mainLoop, QDBusConnection::sessionBus());

@@ -27,6 +27,9 @@ public:
     void adoptActivation(const std::string& token) override { activation_.adopt(token); }
     std::string sessionName() const override;
 
+    /// The connection to the compositor, which this keeps.
+    int socket() const { return wl_display_get_fd(compositor_.display()); }
+
 private:
     MainLoop& mainLoop_;
     WaylandCompositor compositor_;

@@ -2,8 +2,16 @@
 
 #include <QEvent>
 #include <QSurfaceFormat>
+#include <QTimer>
+#include <chrono>
 
 namespace brellowind::platform {
+namespace {
+
+/// The window manager may take the focus for a moment while it gives it to the new window.
+constexpr std::chrono::milliseconds changeOfFocus(50);
+
+} // namespace
 
 XWaylandMenuFocus::XWaylandMenuFocus() {
     QSurfaceFormat format;
@@ -26,10 +34,15 @@ bool XWaylandMenuFocus::eventFilter(QObject* watched, QEvent* event) {
             show(menu_->position());
         else if (event->type() == QEvent::Hide)
             holder_.hide();
-    } else if (event->type() == QEvent::FocusOut && menu_) {
-        menu_->close();
+    } else if (event->type() == QEvent::FocusOut) {
+        QTimer::singleShot(changeOfFocus, this, &XWaylandMenuFocus::closeWithoutFocus);
     }
     return QObject::eventFilter(watched, event);
+}
+
+void XWaylandMenuFocus::closeWithoutFocus() {
+    if (menu_ && !holder_.isActive())
+        menu_->close();
 }
 
 void XWaylandMenuFocus::show(QPoint place) {

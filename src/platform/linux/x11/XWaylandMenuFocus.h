@@ -24,6 +24,7 @@ protected:
 
 private:
     void show(QPoint place);
+    void closeWithoutFocus();
 
     QPointer<QWindow> menu_;
     QWindow holder_;
