@@ -15,6 +15,9 @@ public:
     /// The native window; 0 while it is closed.
     quint32 window() const { return observer_.ask("Window").toUInt(); }
 
+    /// Whether it has the keyboard.
+    bool isActive() const { return observer_.ask("IsActive").toBool(); }
+
     /// Whether the program holds the window, be it open or not.
     bool exists() const { return observer_.ask("Exists").toBool(); }
 

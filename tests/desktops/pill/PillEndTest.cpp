@@ -7,6 +7,12 @@ namespace {
 
 class PillEnd : public PillOnCompositor {
 protected:
+    void openSettingsAndMenu() {
+        choose("Open Settings");
+        EXPECT_TRUE(waitUntil([&] { return program->settings().isActive(); }));
+        openMenu(); // not earlier: a menu closes when another window gets the keyboard
+    }
+
     void expectFaultOfALine() {
         EXPECT_EQ(program->process().finish(), 1);
         EXPECT_EQ(program->errors(),
@@ -22,9 +28,7 @@ TEST_F(PillEnd, ComesWithTheCompositors) {
 
 TEST_F(PillEnd, ComesWithTheCompositorsWhileMenuAndSettingsAreOpen) {
     startSinging();
-    choose("Open Settings");
-    EXPECT_TRUE(waitUntil([&] { return program->settings().window() != 0; }));
-    openMenu();
+    openSettingsAndMenu();
     compositor->kill();
     expectFaultOfALine();
 }
@@ -40,9 +44,7 @@ TEST_F(PillEnd, OnRequestIsWithoutAFaultAndLeavesNothingOnTheScreen) {
 
 TEST_F(PillEnd, NoGraphicsDriverWasLoadedUntilThen) {
     startSinging();
-    choose("Open Settings");
-    EXPECT_TRUE(waitUntil([&] { return program->settings().window() != 0; }));
-    openMenu();
+    openSettingsAndMenu();
     QFile maps(QStringLiteral("/proc/%1/maps").arg(program->process().processId()));
     ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
     const QByteArray loaded = maps.readAll();

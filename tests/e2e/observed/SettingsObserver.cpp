@@ -72,6 +72,11 @@ uint SettingsObserver::Window() const {
     return window && window->isVisible() ? static_cast<uint>(window->winId()) : 0;
 }
 
+bool SettingsObserver::IsActive() const {
+    const auto* window = settingsWindow();
+    return window && window->isActive();
+}
+
 QStringList SettingsObserver::Texts() const {
     QStringList texts;
     visitVisible([&](const QQuickItem* item) {

@@ -26,6 +26,9 @@ public Q_SLOTS:
     /// The native window; 0 while it is closed.
     Q_SCRIPTABLE uint Window() const;
 
+    /// Whether the window has the keyboard.
+    Q_SCRIPTABLE bool IsActive() const;
+
     /// The texts that can be seen.
     Q_SCRIPTABLE QStringList Texts() const;
 

@@ -1,6 +1,7 @@
 #include "platform/linux/machine/DisplayLoss.h"
 
 #include <QString>
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <poll.h>
@@ -12,12 +13,15 @@ namespace {
 
 /// Global since signal and message handlers can reach no object.
 volatile std::sig_atomic_t displaySocket = -1;
+std::atomic_flag isEnding;
 
 /// Only what is allowed in a signal handler.
 void endIfDisplayIsGone() {
     pollfd display{displaySocket, POLLRDHUP, 0};
     if (::poll(&display, 1, 0) <= 0)
         return;
+    if (isEnding.test_and_set())
+        ::pause(); // another thread of Qt's came here first
     constexpr std::string_view line = "brellowind: the display is gone\n";
     if (::write(STDERR_FILENO, line.data(), line.size()) < 0) {
         // Nobody listens.
