@@ -9,7 +9,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 
 set(CPACK_PACKAGE_NAME brellowind)
 set(CPACK_PACKAGE_VENDOR "The Brellowind authors")
-set(CPACK_PACKAGE_CONTACT "The Brellowind authors <${BRELLOWIND_FEEDBACK_EMAIL}>")
+set(CPACK_PACKAGE_CONTACT "${BRELLOWIND_PACKAGER}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "lyrics of the playing song at the top of the screen")
 set(CPACK_PACKAGE_DESCRIPTION
 "Brellowind shows the line being sung of what Spotify plays, in a small black
@@ -24,7 +24,9 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "${BRELLOWIND_WEBSITE_URL}")
+if(BRELLOWIND_WEBSITE_URL)
+  set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "${BRELLOWIND_WEBSITE_URL}")
+endif()
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 
 # The libraries are computed. Qt's Wayland plugin, QML modules and plugins are loaded while the program runs, links are

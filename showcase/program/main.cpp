@@ -76,6 +76,13 @@ int main(int argc, char** argv) {
         return complain("the demo lyrics service did not start");
 
     constants.lyricsOrigin = origin.toStdString();
+    constants.updateFeedURL = constants.lyricsOrigin + "/latest.json";
+    constants.websiteURL = constants.lyricsOrigin + "/website";
+    constants.socialURL = constants.lyricsOrigin + "/social";
+    constants.privacyPolicyURL = constants.lyricsOrigin + "/privacy";
+    constants.termsURL = constants.lyricsOrigin + "/terms";
+    constants.feedbackEmail = "feedback@brellowind.example";
+    constants.legalNotice = "© brellowind.example";
     BrellowindApp app(*machine, constants);
     Recorder recorder(app);
     std::optional<Backdrop> backdrop;

@@ -29,8 +29,15 @@ void answer(const DemoSong& song, const Exchange& exchange) {
         exchange.respond(200, song.cover, "image/png");
         return;
     }
-    const bool known = exchange.path == "/api/get" &&
-                       exchange.field(QStringLiteral("track_name")) == song.title &&
+    if (exchange.path == "/latest.json") {
+        exchange.respond(200, R"({"version": "0", "url": "http://localhost/"})");
+        return;
+    }
+    if (exchange.path != "/api/get") {
+        exchange.respond(200, "<title>Brellowind</title><p>A page of the product.", "text/html");
+        return;
+    }
+    const bool known = exchange.field(QStringLiteral("track_name")) == song.title &&
                        exchange.field(QStringLiteral("artist_name")) == song.artist;
     if (known)
         exchange.respond(200, found(song));

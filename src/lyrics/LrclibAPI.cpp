@@ -1,5 +1,6 @@
 #include "lyrics/LrclibAPI.h"
 
+#include "foundation/PercentEncoding.h"
 #include "foundation/Utf8.h"
 #include "lyrics/LRCParser.h"
 #include "lyrics/LrclibResponse.h"
@@ -18,7 +19,6 @@ constexpr int notFoundStatus = 404;
 /// Appends `value` so that any decoder of URL queries or forms reads the same bytes back: all but
 /// the unreserved characters become percent escapes.
 void appendEscaped(std::string& url, std::string_view value) {
-    constexpr std::string_view hex = "0123456789ABCDEF";
     for (const char character : value) {
         const auto byte = static_cast<unsigned char>(character);
         const bool unreserved = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
@@ -27,7 +27,7 @@ void appendEscaped(std::string& url, std::string_view value) {
         if (unreserved)
             url += character;
         else
-            url.append({'%', hex[byte >> 4], hex[byte & 0xF]});
+            appendEscape(url, character);
     }
 }
 
@@ -81,6 +81,11 @@ LyricsState interpret(int status, std::string_view body) {
     return LyricsState::notFound();
 }
 
+std::string userAgent(const std::string& websiteURL) {
+    const std::string program = "Brellowind v0.1";
+    return websiteURL.empty() ? program : program + " (" + websiteURL + ')';
+}
+
 Task<LyricsState> fetch(platform::HttpClient& http, const platform::ProductConstants& constants,
                         Track track) {
     auto url = requestURL(constants.lyricsOrigin, track);
@@ -88,7 +93,7 @@ Task<LyricsState> fetch(platform::HttpClient& http, const platform::ProductConst
         co_return LyricsState::failed();
     platform::HttpRequest request{
         .url = std::move(*url),
-        .headers = {{"User-Agent", "Brellowind v0.1 (" + constants.websiteURL + ")"}},
+        .headers = {{"User-Agent", userAgent(constants.websiteURL)}},
         .maximumBodyBytes = maximumBodyBytes,
     };
     const auto result = co_await http.fetch(std::move(request));

@@ -5,7 +5,8 @@
 
 namespace brellowind::platform {
 
-/// The constants that the product's owner or a packager supplies, compiled in.
+/// The constants that the product's owner or a packager supplies, compiled in. An empty address,
+/// mailbox or notice leaves out what would use it.
 struct ProductConstants {
     std::string version;      ///< short version, such as "1.2"; empty in a build without one
     std::string lyricsOrigin; ///< scheme, host and optional port, without a trailing slash

@@ -16,11 +16,17 @@ std::string UpdateChecker::currentVersion() const {
     return constants_.version.empty() ? "0" : constants_.version;
 }
 
+bool UpdateChecker::hasFeed() const {
+    return !constants_.updateFeedURL.empty();
+}
+
 Task<void> UpdateChecker::check() {
     return run(shared_from_this());
 }
 
 Task<void> UpdateChecker::run(std::shared_ptr<UpdateChecker> self) {
+    if (!self->hasFeed())
+        co_return;
     self->state.set(State::checking());
     platform::HttpRequest request{.url = self->constants_.updateFeedURL,
                                   .headers = {},

@@ -31,9 +31,12 @@ public:
     /// The program's own short version; "0" in a build without one.
     std::string currentVersion() const;
 
-    /// One check, from `checking` to its outcome. A failed one, cancellation included, writes one
-    /// line to the log. A check that begins while another runs sends its own request, and each
-    /// sets the state when it ends.
+    /// Whether there is a release feed to ask.
+    bool hasFeed() const;
+
+    /// Does nothing without a release feed. Otherwise one check, from `checking` to its outcome. A
+    /// failed one, cancellation included, writes one line to the log. A check that begins while
+    /// another runs sends its own request, and each sets the state when it ends.
     Task<void> check();
 
     /// Opens the download address of an `available` release; does nothing in any other state.

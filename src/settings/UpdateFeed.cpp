@@ -2,7 +2,9 @@
 
 #include "foundation/AbsoluteURL.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
+#include <string>
 #include <utility>
 
 namespace brellowind::UpdateFeed {
@@ -12,6 +14,20 @@ namespace {
 std::string* textAt(nlohmann::json& object, const char* key) {
     const auto value = object.find(key);
     return value == object.end() ? nullptr : value->get_ptr<std::string*>();
+}
+
+/// Whether a browser can open it: http or https, and a host.
+bool isWebAddress(std::string_view url) {
+    const auto authority = url.find("://");
+    if (!isAbsoluteURL(url) || authority == std::string_view::npos)
+        return false;
+    std::string scheme(url.substr(0, authority));
+    std::ranges::transform(scheme, scheme.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; });
+    auto host = url.substr(authority + 3);
+    host = host.substr(0, host.find_first_of("/?#"));
+    host = host.substr(host.find('@') + 1); // npos + 1 is 0
+    return (scheme == "http" || scheme == "https") && !host.substr(0, host.find(':')).empty();
 }
 
 } // namespace
@@ -28,8 +44,8 @@ std::variant<Release, Undecodable> decode(std::string_view document) {
     auto* url = textAt(feed, "url");
     if (!url)
         return Undecodable{"the release feed has no url that is a text"};
-    if (!isAbsoluteURL(*url))
-        return Undecodable{"the url of the release feed is not an absolute URL"};
+    if (!isWebAddress(*url))
+        return Undecodable{"the url of the release feed is not a web address"};
     Release release{std::move(*version), std::move(*url), std::nullopt};
     if (const auto notes = feed.find("notes"); notes != feed.end() && !notes->is_null()) {
         if (!notes->is_string())

@@ -14,7 +14,7 @@ struct Undecodable {
 };
 
 /// Reads `version`, `url` and, when it is there, `notes`. One of them of a wrong type, a missing
-/// `version` or `url` and a `url` that is not an absolute URL spoil the whole feed; keys that it
+/// `version` or `url` and a `url` that is no web address spoil the whole feed; keys that it
 /// does not know do not.
 std::variant<Release, Undecodable> decode(std::string_view document);
 

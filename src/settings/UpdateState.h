@@ -9,7 +9,7 @@ namespace brellowind {
 /// A release of the program, as the release feed describes it.
 struct Release {
     std::string version;
-    std::string url; ///< absolute: where people download it
+    std::string url; ///< http or https: where people download it
     std::optional<std::string> notes;
 
     bool operator==(const Release&) const = default;

@@ -1,16 +1,25 @@
 #include "views/Artwork.h"
 
 #include "foundation/AbsoluteURL.h"
+#include "foundation/PercentEncoding.h"
 
 #include <utility>
 
 namespace brellowind {
+namespace {
+
+bool isFile(std::string_view url) {
+    return url.starts_with("file:");
+}
+
+} // namespace
 
 Artwork::Artwork(TaskRunner& tasks, platform::HttpClient& http, platform::LocalFiles& files,
                  platform::ImageDecoder& images)
     : tasks_(tasks), http_(http), files_(files), images_(images) {}
 
-void Artwork::load(const std::optional<std::string>& url) {
+void Artwork::load(const std::optional<std::string>& location) {
+    const auto url = location && isFile(*location) ? fileURL(*location) : location;
     if (url && isAbsoluteURL(*url))
         tasks_.start(fetchInto(weak_from_this(), fetchBytes(http_, files_, *url)));
     else
@@ -28,7 +37,7 @@ Task<void> Artwork::fetchInto(std::weak_ptr<Artwork> weakArtwork, Task<Bytes> fe
 
 Task<Artwork::Bytes> Artwork::fetchBytes(platform::HttpClient& http, platform::LocalFiles& files,
                                          std::string url) {
-    if (url.starts_with("file:"))
+    if (isFile(url))
         co_return files.read(url, maximumBytes);
     platform::HttpRequest request{
         .url = std::move(url), .headers = {}, .maximumBodyBytes = maximumBytes};

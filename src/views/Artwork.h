@@ -27,10 +27,10 @@ public:
     Artwork(TaskRunner& tasks, platform::HttpClient& http, platform::LocalFiles& files,
             platform::ImageDecoder& images);
 
-    /// Fetches the image at `url`, over HTTP or from a file, and shows it once it is there; until
-    /// then, and for good when it cannot be had, the present one stays. Without a valid location
-    /// there is no image at once. Of overlapping loads the one that ends last counts.
-    void load(const std::optional<std::string>& url);
+    /// Fetches the image at `location`, over HTTP or from a file, and shows it once it is there;
+    /// until then, and for good when it cannot be had, the present one stays. Without a valid
+    /// location there is no image at once. Of overlapping loads the one that ends last counts.
+    void load(const std::optional<std::string>& location);
 
     Published<std::shared_ptr<const platform::Image>, Artwork> image{nullptr}; ///< null: none
 

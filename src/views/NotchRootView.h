@@ -97,6 +97,8 @@ public:
     /// Minimises or restores the pill.
     void tapBackground() { change(form_.isMinimized, !form_.isMinimized); }
 
+    bool checksForUpdates() const { return environment_.updater.hasFeed(); }
+
     // The entries of the context menu.
     void openSettings();
     void checkForUpdates(); ///< shows the check in the settings window

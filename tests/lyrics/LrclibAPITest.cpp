@@ -214,6 +214,13 @@ TEST(LrclibFetch, NamesTheProductsWebsiteToTheService) {
     EXPECT_TRUE(fetch.request().url.starts_with("http://127.0.0.1:8080/api/get?track_name="));
 }
 
+TEST(LrclibFetch, NamesNoWebsiteWhereThereIsNone) {
+    Fetch fetch(song());
+    fetch.machine.constants.websiteURL.clear();
+    fetch.machine.mainLoop.runTurns();
+    EXPECT_EQ(fetch.request().headers.at(0).second, "Brellowind v0.1");
+}
+
 TEST(LrclibFetch, FailsWithoutARequestWhenATextIsNotUtf8) {
     Fetch fetch(titled("caf\xE9"));
     fetch.machine.mainLoop.runTurns();

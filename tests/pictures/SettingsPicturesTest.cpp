@@ -16,7 +16,9 @@ using platform::HttpResponse;
 /// The settings window on a machine of the test's own, in any state.
 class SettingsPictures : public testing::Test {
 protected:
-    SettingsPictures() {
+    explicit SettingsPictures(
+        const platform::ProductConstants& constants = TestMachine().constants) {
+        machine.constants = constants;
         machine.loginItem.current = platform::LoginItem::Status::enabled;
         settings.open();
         machine.mainLoop.runTurns(); // the check of the General tab is under way
@@ -45,17 +47,31 @@ protected:
     SettingsWindow settings{parts.services()};
 };
 
+class SettingsPicturesWithoutAddresses : public SettingsPictures {
+protected:
+    SettingsPicturesWithoutAddresses() : SettingsPictures(constantsWithoutAddresses()) {}
+};
+
+TEST_F(SettingsPicturesWithoutAddresses, General) {
+    expectLook("without-addresses");
+}
+
+TEST_F(SettingsPicturesWithoutAddresses, About) {
+    parts.router.setSelectedTab(SettingsTab::about);
+    expectLook("about-without-addresses");
+}
+
 TEST_F(SettingsPictures, Checking) {
     expectLook("checking");
 }
 
 TEST_F(SettingsPictures, UpToDate) {
-    answer(HttpResponse{200, R"({"version": "1.0", "url": "a:b"})"});
+    answer(HttpResponse{200, R"({"version": "1.0", "url": "http://a"})"});
     expectLook("up-to-date");
 }
 
 TEST_F(SettingsPictures, UpdateAvailable) {
-    answer(HttpResponse{200, R"({"version": "1.2", "url": "a:b"})"});
+    answer(HttpResponse{200, R"({"version": "1.2", "url": "http://a"})"});
     expectLook("available");
 }
 
@@ -65,7 +81,7 @@ TEST_F(SettingsPictures, CheckFailed) {
 }
 
 TEST_F(SettingsPictures, KeyboardOnTheSwitch) {
-    answer(HttpResponse{200, R"({"version": "1.0", "url": "a:b"})"});
+    answer(HttpResponse{200, R"({"version": "1.0", "url": "http://a"})"});
     focus("launchAtLogin");
     expectLook("keyboard-on-switch");
 }

@@ -135,7 +135,7 @@ TEST_F(GeneralSettingsTest, DisappearingCancelsTheCheckOfTheAppearance) {
     settings.disappear();
     EXPECT_TRUE(machine.http.requests[0]->aborted);
     appear(settings);
-    answerLast(R"({"version": "1.0", "url": "a:b"})");
+    answerLast(R"({"version": "1.0", "url": "http://a"})");
     EXPECT_EQ(checkState(), State::upToDate());
 }
 
@@ -143,7 +143,7 @@ TEST_F(GeneralSettingsTest, DisappearingAfterTheCheckKeepsItsOutcome) {
     GeneralSettings settings(parts.services());
     settings.disappear();
     appear(settings);
-    answerLast(R"({"version": "1.0", "url": "a:b"})");
+    answerLast(R"({"version": "1.0", "url": "http://a"})");
     settings.disappear();
     machine.mainLoop.runTurns();
     EXPECT_EQ(checkState(), State::upToDate());
@@ -159,7 +159,7 @@ TEST_F(GeneralSettingsTest, TheButtonStartsACheckThatOutlivesTheTab) {
         settings.disappear();
     }
     ASSERT_EQ(machine.http.requests.size(), 1U);
-    answerLast(R"({"version": "1.0", "url": "a:b"})");
+    answerLast(R"({"version": "1.0", "url": "http://a"})");
     EXPECT_EQ(checkState(), State::upToDate());
 }
 

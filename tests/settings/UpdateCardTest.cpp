@@ -65,7 +65,7 @@ TEST(UpdateCard, LooksUpToDateBeforeTheFirstCheck) {
 
 TEST(UpdateCard, ShowsVersionsAsTheyAre) {
     EXPECT_EQ(updateCard(State::idle(), "%1 <b>").versionText, "ver-%1 <b>");
-    EXPECT_EQ(updateCard(State::available({"", "a:b", {}}), "0").versionText,
+    EXPECT_EQ(updateCard(State::available({"", "http://a", {}}), "0").versionText,
               "ver-0  \u2192  ver-");
 }
 

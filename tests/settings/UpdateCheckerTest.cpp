@@ -51,6 +51,14 @@ TEST_F(UpdateCheckerTest, BeginsIdle) {
     EXPECT_THAT(machine.http.requests, IsEmpty());
 }
 
+TEST_F(UpdateCheckerTest, StaysIdleWithoutAFeed) {
+    machine.constants.updateFeedURL.clear();
+    EXPECT_FALSE(checker.hasFeed());
+    startCheck();
+    EXPECT_EQ(checker.state.get(), State::idle());
+    EXPECT_THAT(machine.http.requests, IsEmpty());
+}
+
 TEST_F(UpdateCheckerTest, AsksNothingBeforeTheTaskRuns) {
     const auto task = checker.check();
     machine.mainLoop.runTurns();
@@ -103,9 +111,9 @@ TEST_F(UpdateCheckerTest, TheSameOrAnOlderVersionIsUpToDate) {
 }
 
 TEST_F(UpdateCheckerTest, KeepsTheNotesOfARelease) {
-    const auto state = outcome(
-        HttpResponse{200, R"({"version": "2", "url": "a:b", "notes": "Louder.", "more": []})"});
-    EXPECT_EQ(state, State::available({"2", "a:b", "Louder."}));
+    const auto state = outcome(HttpResponse{
+        200, R"({"version": "2", "url": "http://a", "notes": "Louder.", "more": []})"});
+    EXPECT_EQ(state, State::available({"2", "http://a", "Louder."}));
 }
 
 TEST_F(UpdateCheckerTest, LooksAtTheFeedAndNotAtTheStatus) {
@@ -208,10 +216,10 @@ TEST(UpdateCheckerStates, AreEqualWhenCaseAndReleaseAre) {
     EXPECT_NE(State::available(release("1")), State::available(release("2")));
     EXPECT_NE(State::available(release("1")), State::upToDate());
     EXPECT_NE(State::idle(), State::upToDate());
-    const Release plain{"1", "a:b", std::nullopt};
+    const Release plain{"1", "http://a", std::nullopt};
     EXPECT_NE(plain, (Release{"1", "a:c", std::nullopt}));
-    EXPECT_NE(plain, (Release{"1", "a:b", ""}));
-    EXPECT_NE(plain, (Release{"2", "a:b", std::nullopt}));
+    EXPECT_NE(plain, (Release{"1", "http://a", ""}));
+    EXPECT_NE(plain, (Release{"2", "http://a", std::nullopt}));
 }
 
 TEST(UpdateCheckerEnd, AMachineMayEndWhileACheckIsUnderWay) {

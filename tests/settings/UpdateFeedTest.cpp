@@ -29,21 +29,27 @@ TEST(UpdateFeed, DoesWithoutNotes) {
 }
 
 TEST(UpdateFeed, TellsEmptyNotesFromAbsentOnes) {
-    EXPECT_EQ(
-        std::get<Release>(decode(R"({"version": "1", "url": "a:b", "notes": ""})")).notes.value(),
-        "");
+    EXPECT_EQ(std::get<Release>(decode(R"({"version": "1", "url": "http://a", "notes": ""})"))
+                  .notes.value(),
+              "");
 }
 
 TEST(UpdateFeed, AcceptsAnyTextAsVersion) {
-    EXPECT_EQ(std::get<Release>(decode(R"({"version": "", "url": "a:b"})")).version, "");
-    EXPECT_EQ(std::get<Release>(decode(R"({"version": " v1 ♪", "url": "a:b"})")).version, " v1 ♪");
+    EXPECT_EQ(std::get<Release>(decode(R"({"version": "", "url": "http://a"})")).version, "");
+    EXPECT_EQ(std::get<Release>(decode(R"({"version": " v1 ♪", "url": "http://a"})")).version,
+              " v1 ♪");
+}
+
+TEST(UpdateFeed, AcceptsAnyWebAddress) {
+    for (const std::string url : {"http://a", "HTTPS://a.example:8080/x?y=z#w", "https://u:p@a/"})
+        EXPECT_EQ(std::get<Release>(decode(R"({"version": "1", "url": ")" + url + "\"}")).url, url);
 }
 
 TEST(UpdateFeed, IgnoresOtherKeys) {
     EXPECT_EQ(
         std::get<Release>(decode(
-            R"({"Version": 1, "size": 9, "files": [{"url": 3}], "version": "1", "url": "a:b"})")),
-        (Release{"1", "a:b", std::nullopt}));
+            R"({"Version": 1, "size": 9, "files": [{"url": 3}], "version": "1", "url": "http://a"})")),
+        (Release{"1", "http://a", std::nullopt}));
 }
 
 TEST(UpdateFeed, NestingOfAnyDepthIsReadOrRefusedLikeAnythingElse) {
@@ -53,7 +59,7 @@ TEST(UpdateFeed, NestingOfAnyDepthIsReadOrRefusedLikeAnythingElse) {
     EXPECT_TRUE(std::holds_alternative<Undecodable>(decode(open)));
     EXPECT_TRUE(std::holds_alternative<Undecodable>(decode(closed)));
     EXPECT_TRUE(std::holds_alternative<Release>(
-        decode(R"({"version": "1", "url": "a:b", "more": )" + closed + "}")));
+        decode(R"({"version": "1", "url": "http://a", "more": )" + closed + "}")));
 }
 
 class UndecodableFeed : public testing::TestWithParam<const char*> {};
@@ -69,17 +75,18 @@ TEST_P(UndecodableFeed, GivesADescriptionThatRepeatsNothingOfIt) {
 
 INSTANTIATE_TEST_SUITE_P(NoJSON, UndecodableFeed,
                          testing::Values("", " ", "<html>SECRET</html>",
-                                         R"({"version": "1", "url": "a:b")",
-                                         R"({"version": "1", "url": "a:b"} SECRET)",
+                                         R"({"version": "1", "url": "http://a")",
+                                         R"({"version": "1", "url": "http://a"} SECRET)",
                                          "{\"version\": \"\xFFSECRET\", \"url\": \"a:b\"}"));
 INSTANTIATE_TEST_SUITE_P(NoObject, UndecodableFeed,
                          testing::Values("null", "1", R"("SECRET")", R"(["version", "url"])",
-                                         R"([{"version": "1", "url": "a:b"}])"));
+                                         R"([{"version": "1", "url": "http://a"}])"));
 INSTANTIATE_TEST_SUITE_P(NoVersion, UndecodableFeed,
-                         testing::Values(R"({"url": "a:b"})", R"({"version": null, "url": "a:b"})",
-                                         R"({"version": 1.3, "url": "a:b"})",
-                                         R"({"version": ["SECRET"], "url": "a:b"})",
-                                         R"({"Version": "SECRET", "url": "a:b"})"));
+                         testing::Values(R"({"url": "http://a"})",
+                                         R"({"version": null, "url": "http://a"})",
+                                         R"({"version": 1.3, "url": "http://a"})",
+                                         R"({"version": ["SECRET"], "url": "http://a"})",
+                                         R"({"Version": "SECRET", "url": "http://a"})"));
 INSTANTIATE_TEST_SUITE_P(NoURL, UndecodableFeed,
                          testing::Values(R"({"version": "SECRET"})",
                                          R"({"version": "1", "url": null})",
@@ -89,11 +96,18 @@ INSTANTIATE_TEST_SUITE_P(NoURL, UndecodableFeed,
                                          R"({"version": "1", "url": "SECRET.example/1.3"})",
                                          R"({"version": "1", "url": "https://host/SECRET here"})",
                                          R"({"version": "1", "url": "https://host/\nSECRET"})",
-                                         R"({"version": "1", "url": "https:"})"));
-INSTANTIATE_TEST_SUITE_P(NotesOfAWrongType, UndecodableFeed,
-                         testing::Values(R"({"version": "1", "url": "a:b", "notes": 1})",
-                                         R"({"version": "1", "url": "a:b", "notes": false})",
-                                         R"({"version": "1", "url": "a:b", "notes": ["SECRET"]})"));
+                                         R"({"version": "1", "url": "https:"})",
+                                         R"({"version": "1", "url": "https:///SECRET"})",
+                                         R"({"version": "1", "url": "https://SECRET@/"})",
+                                         R"({"version": "1", "url": "https://:443/SECRET"})",
+                                         R"({"version": "1", "url": "mailto:SECRET@a.example"})",
+                                         R"({"version": "1", "url": "ftp://SECRET/1.3"})",
+                                         R"({"version": "1", "url": "file:///SECRET"})"));
+INSTANTIATE_TEST_SUITE_P(
+    NotesOfAWrongType, UndecodableFeed,
+    testing::Values(R"({"version": "1", "url": "http://a", "notes": 1})",
+                    R"({"version": "1", "url": "http://a", "notes": false})",
+                    R"({"version": "1", "url": "http://a", "notes": ["SECRET"]})"));
 
 } // namespace
 } // namespace brellowind

@@ -142,6 +142,13 @@ public:
     std::map<std::string, std::string> contents;
 };
 
+/// Of a build whose owner supplied no address.
+inline platform::ProductConstants constantsWithoutAddresses() {
+    platform::ProductConstants constants;
+    constants.version = "1.0";
+    return constants;
+}
+
 /// The whole machine of one test.
 struct TestMachine {
     FakeMainLoop mainLoop;

@@ -77,6 +77,12 @@ TEST_F(NotchRootViewArtwork, MayLieInALocalFile) {
     EXPECT_EQ(fetches().size(), 1U) << "that of the song before";
 }
 
+TEST_F(NotchRootViewArtwork, MayLieInAFileWithAnyName) {
+    view.machine.files.contents["file:///My%20covers/%C3%BC%20%23.png"] = "image of Next";
+    play("Next", "file:///My covers/ü%20%23.png");
+    EXPECT_EQ(shown(), "image of Next");
+}
+
 TEST_F(NotchRootViewArtwork, IsKeptWhenTheFileOfTheNextIsMissingOrTooLong) {
     answer(0, HttpResponse{200, "image of Song"});
     play("Next", "file:///covers/missing.png");

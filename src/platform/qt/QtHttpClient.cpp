@@ -176,6 +176,9 @@ QNetworkRequest networkRequest(const HttpRequest& request) {
     QNetworkRequest network(webAddress(request.url));
     network.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::ManualRedirectPolicy);
+    // HTTP/2 gains nothing for one small body at a time, and its flow control does not keep a
+    // server from filling the memory: Qt buffers such a body whole.
+    network.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
     network.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     network.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     network.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);

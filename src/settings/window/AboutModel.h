@@ -18,26 +18,38 @@ class AboutModel : public QObject {
     Q_PROPERTY(QString version MEMBER version CONSTANT FINAL)
     Q_PROPERTY(QString description MEMBER description CONSTANT FINAL)
     Q_PROPERTY(QString legalNotice MEMBER legalNotice CONSTANT FINAL)
+    Q_PROPERTY(QString websiteURL MEMBER websiteURL CONSTANT FINAL)
+    Q_PROPERTY(QString socialURL MEMBER socialURL CONSTANT FINAL)
+    Q_PROPERTY(QString privacyPolicyURL MEMBER privacyPolicyURL CONSTANT FINAL)
+    Q_PROPERTY(QString termsURL MEMBER termsURL CONSTANT FINAL)
 
 public:
     explicit AboutModel(const SettingsServices& services)
-        : version(QString::fromStdString(AppInfo::version(services.constants.version))),
-          legalNotice(QString::fromStdString(services.constants.legalNotice)),
-          constants_(services.constants), links_(services.links) {}
+        : AboutModel(services.constants, services.links) {}
 
     const QString name = QString::fromUtf8(AppInfo::name);
     const QString version;
     const QString description = QString::fromUtf8(AppInfo::description);
     const QString legalNotice;
 
-    // Each opens its page in the user's browser.
-    Q_INVOKABLE void openWebsite() const { links_.open(constants_.websiteURL); }
-    Q_INVOKABLE void openSocialProfile() const { links_.open(constants_.socialURL); }
-    Q_INVOKABLE void openPrivacyPolicy() const { links_.open(constants_.privacyPolicyURL); }
-    Q_INVOKABLE void openTerms() const { links_.open(constants_.termsURL); }
+    // Empty: there is no such page.
+    const QString websiteURL;
+    const QString socialURL;
+    const QString privacyPolicyURL;
+    const QString termsURL;
+
+    /// Opens a page in the user's browser.
+    Q_INVOKABLE void open(const QString& url) const { links_.open(url.toStdString()); }
 
 private:
-    const platform::ProductConstants& constants_;
+    AboutModel(const platform::ProductConstants& constants, platform::LinkOpener& links)
+        : version(QString::fromStdString(AppInfo::version(constants.version))),
+          legalNotice(QString::fromStdString(constants.legalNotice)),
+          websiteURL(QString::fromStdString(constants.websiteURL)),
+          socialURL(QString::fromStdString(constants.socialURL)),
+          privacyPolicyURL(QString::fromStdString(constants.privacyPolicyURL)),
+          termsURL(QString::fromStdString(constants.termsURL)), links_(links) {}
+
     platform::LinkOpener& links_;
 };
 

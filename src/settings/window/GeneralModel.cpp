@@ -5,7 +5,8 @@
 namespace brellowind {
 
 GeneralModel::GeneralModel(const SettingsServices& services)
-    : updater_(services.updater), settings_(services),
+    : takesFeedback(!services.constants.feedbackEmail.empty()),
+      checksForUpdates(services.updater.hasFeed()), updater_(services.updater), settings_(services),
       launchAtLogin_(settings_.launchAtLogin.get()), card_(publishedCard()),
       nextTurn_(services.mainLoop.onNextTurn([this] { refresh(); })) {
     const auto refreshNextTurn = [this] { nextTurn_->request(); };

@@ -19,6 +19,8 @@ class GeneralModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the settings window")
+    Q_PROPERTY(bool takesFeedback MEMBER takesFeedback CONSTANT FINAL)
+    Q_PROPERTY(bool checksForUpdates MEMBER checksForUpdates CONSTANT FINAL)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged FINAL)
     Q_PROPERTY(QString cardIcon READ cardIcon NOTIFY cardChanged FINAL)
     Q_PROPERTY(int cardColor READ cardColor NOTIFY cardChanged FINAL)
@@ -30,6 +32,10 @@ class GeneralModel : public QObject {
 
 public:
     explicit GeneralModel(const SettingsServices& services);
+
+    // Whether the program has an address for it.
+    const bool takesFeedback;
+    const bool checksForUpdates;
 
     /// The tab is shown: each time, an update check starts.
     void appear() { settings_.appear(); }

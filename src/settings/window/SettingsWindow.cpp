@@ -4,6 +4,7 @@
 #include "settings/window/SettingsModel.h"
 
 #include <QColor>
+#include <QIcon>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QSGRendererInterface>
@@ -52,6 +53,14 @@ private:
     std::function<void()> hidden_;
 };
 
+/// For desktops that find no icon by the name of the program's desktop file.
+QIcon icon() {
+    QIcon icon;
+    for (const auto* size : {"32x32", "64x64"})
+        icon.addFile(QStringLiteral(":/%1/org.brellowind.Brellowind.png").arg(QLatin1String(size)));
+    return icon;
+}
+
 } // namespace
 
 /// Destroyed from the bottom up: what draws goes before what it draws from.
@@ -89,6 +98,7 @@ void SettingsWindow::build() {
     content_ = std::make_unique<Content>(services_, [this] { closed(); });
     auto& [model, view] = *content_;
     view.setTitle(QString::fromUtf8(AppInfo::name));
+    view.setIcon(icon());
     view.setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                   Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     view.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}});

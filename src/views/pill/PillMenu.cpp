@@ -33,11 +33,11 @@ public:
 PillMenu::PillMenu(NotchRootView& view) {
     setObjectName(QStringLiteral("menu"));
     auto* background = new MenuBackground(&root());
-    const std::pair<QString, void (NotchRootView::*)()> entries[] = {
-        {tr("Open Settings"), &NotchRootView::openSettings},
-        {tr("Check for Updates…"), &NotchRootView::checkForUpdates},
-        {tr("Quit Brellowind"), &NotchRootView::quit},
-    };
+    std::vector<std::pair<QString, void (NotchRootView::*)()>> entries;
+    entries.emplace_back(tr("Open Settings"), &NotchRootView::openSettings);
+    if (view.checksForUpdates())
+        entries.emplace_back(tr("Check for Updates…"), &NotchRootView::checkForUpdates);
+    entries.emplace_back(tr("Quit Brellowind"), &NotchRootView::quit);
     double top = padding;
     for (const auto& [text, action] : entries) {
         auto* entry = new PillMenuEntry(text, &root());

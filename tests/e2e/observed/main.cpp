@@ -19,6 +19,12 @@ int main(int argc, char** argv) {
     auto constants = compiledConstants();
     constants.lyricsOrigin = origin;
     constants.updateFeedURL = origin + "/latest.json";
+    constants.websiteURL = origin + "/website";
+    constants.socialURL = origin + "/social";
+    constants.privacyPolicyURL = origin + "/privacy";
+    constants.termsURL = origin + "/terms";
+    constants.feedbackEmail = "feedback@brellowind.example";
+    constants.legalNotice = "© brellowind.example";
     const auto machine = platform::makeMachine(1, argv, constants);
     if (!machine)
         return 1;

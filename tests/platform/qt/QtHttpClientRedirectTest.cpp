@@ -153,6 +153,15 @@ TEST_F(QtHttpClientRedirect, FromHttpsToHttpsIsFollowed) {
     EXPECT_TRUE(arrives(secure.url("/start")));
 }
 
+TEST_F(QtHttpClientRedirect, AServerThatOffersHttp2IsAskedInHttp1) {
+    const TrustedCertificate trust(tls());
+    auto offer = tls();
+    offer.setAllowedNextProtocols({"h2", "http/1.1"});
+    Signpost secure(offer); // which would not understand HTTP/2
+    secure.location = "/goal";
+    EXPECT_TRUE(arrives(secure.url("/start")));
+}
+
 TEST_F(QtHttpClientRedirect, FromHttpsToHttpIsRefusedBeforeAnythingIsSent) {
     const TrustedCertificate trust(tls());
     Signpost plain;

@@ -51,6 +51,23 @@ TEST_F(AboutTabTest, LinksOpenTheirPages) {
     }
 }
 
+TEST_F(AboutTabTest, LeavesOutThePagesThatThereAreNot) {
+    auto& constants = machine.constants;
+    constants.socialURL.clear();
+    constants.privacyPolicyURL.clear();
+    openAbout();
+    EXPECT_THAT(visibleTexts(), ElementsAre("General", "About", "Brellowind", "Version 1.0",
+                                            "Lyrics that live in your notch", "Visit our website",
+                                            "© brellowind.example", "Terms of Use"));
+}
+
+TEST_F(AboutTabTest, ShowsTheVersionAloneInABuildWithoutAddresses) {
+    machine.constants = test::constantsWithoutAddresses();
+    openAbout();
+    EXPECT_THAT(visibleTexts(), ElementsAre("General", "About", "Brellowind", "Version 1.0",
+                                            "Lyrics that live in your notch"));
+}
+
 TEST_F(AboutTabTest, EverythingFitsBetweenTheEdges) {
     machine.constants.legalNotice = "© " + std::string(400, 'm');
     openAbout();

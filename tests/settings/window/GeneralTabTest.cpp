@@ -36,6 +36,15 @@ TEST_F(GeneralTabTest, SaysWhatItDoes) {
                                             "Send Feedback", "Quit", "Quit Brellowind"));
 }
 
+TEST_F(GeneralTabTest, NeitherChecksNorTakesFeedbackInABuildWithoutAddresses) {
+    machine.constants = test::constantsWithoutAddresses();
+    open();
+    EXPECT_THAT(visibleTexts(), ElementsAre("General", "About", "ver-1.0", "Launch at Login",
+                                            "Quit", "Quit Brellowind"));
+    EXPECT_THAT(machine.http.requests, IsEmpty());
+    EXPECT_THAT(machine.log.lines, IsEmpty());
+}
+
 TEST_F(GeneralTabTest, TheSwitchTurnsLaunchAtLoginOnAndOff) {
     open();
     EXPECT_FALSE(isSwitchOn());

@@ -2,6 +2,7 @@
 #include "settings/UpdateChecker.h"
 #include "settings/window/SettingsFixture.h"
 
+#include <QIcon>
 #include <QPointer>
 #include <QQmlEngine>
 #include <QTest>
@@ -30,6 +31,12 @@ TEST_F(SettingsWindowTest, IsAnOrdinaryWindowWithTheProgramsName) {
     EXPECT_FALSE(window().flags() & Qt::WindowStaysOnTopHint);
     EXPECT_FALSE(window().flags() & Qt::FramelessWindowHint);
     EXPECT_FALSE(window().flags() & Qt::WindowMaximizeButtonHint);
+}
+
+TEST_F(SettingsWindowTest, HasTheProgramsIcon) {
+    open();
+    for (const int size : {32, 64})
+        EXPECT_EQ(window().icon().actualSize({size, size}), QSize(size, size));
 }
 
 TEST_F(SettingsWindowTest, IsAsLargeAsItsContentAndNobodyCanPullIt) {

@@ -41,6 +41,13 @@ TEST_F(PillMenuTest, IsMadeWhenItIsFirstWantedAndThenKept) {
     EXPECT_EQ(menu(), made);
 }
 
+TEST_F(PillMenuTest, OffersNoCheckWithoutAReleaseFeed) {
+    machine.constants.updateFeedURL.clear();
+    open();
+    EXPECT_EQ(texts(),
+              QStringList({QStringLiteral("Open Settings"), QStringLiteral("Quit Brellowind")}));
+}
+
 TEST_F(PillMenuTest, OpensOnASecondaryClickAnywhereOnThePill) {
     for (auto* piece : {pill(), artwork(), waveform()}) {
         const auto before = form();

@@ -23,11 +23,13 @@ Item {
             objectName: "websiteButton"
             text: "Visit our website"
             prominent: true
-            onClicked: root.model.openWebsite()
+            visible: root.model.websiteURL !== ""
+            onClicked: root.model.open(root.model.websiteURL)
         }
         BorderedButton {
             text: "Follow on X"
-            onClicked: root.model.openSocialProfile()
+            visible: root.model.socialURL !== ""
+            onClicked: root.model.open(root.model.socialURL)
         }
     }
     LegalFoot {

@@ -35,10 +35,12 @@ Item {
 
             FormRow {
                 label: "Support"
+                visible: root.model.takesFeedback
                 action: "Send Feedback"
                 onPressed: root.model.sendFeedback()
             }
             Divider {
+                visible: root.model.takesFeedback
                 x: Style.inset
                 width: parent.width - 2 * x
             }

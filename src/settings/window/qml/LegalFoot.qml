@@ -13,6 +13,7 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(implicitWidth, root.width)
         text: root.model.legalNotice
+        visible: text !== ""
         color: Style.secondaryText
         font.pixelSize: Style.captionSize
         elide: Text.ElideRight
@@ -22,18 +23,25 @@ Column {
         spacing: 6
 
         TextLink {
+            id: privacyPolicy
+
             text: "Privacy Policy"
-            onClicked: root.model.openPrivacyPolicy()
+            visible: root.model.privacyPolicyURL !== ""
+            onClicked: root.model.open(root.model.privacyPolicyURL)
         }
         PlainText {
             text: "·"
+            visible: privacyPolicy.visible && terms.visible
             color: Style.secondaryText
             font.pixelSize: Style.captionSize
             Accessible.ignored: true
         }
         TextLink {
+            id: terms
+
             text: "Terms of Use"
-            onClicked: root.model.openTerms()
+            visible: root.model.termsURL !== ""
+            onClicked: root.model.open(root.model.termsURL)
         }
     }
 }

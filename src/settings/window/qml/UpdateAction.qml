@@ -7,9 +7,11 @@ Item {
 
     required property GeneralModel model
 
-    implicitHeight: button.height
+    implicitHeight: button.visible ? button.height : version.height
 
     PlainText {
+        id: version
+
         objectName: "versionText"
         anchors { left: parent.left; right: button.left; rightMargin: 12; verticalCenter: parent.verticalCenter }
         text: root.model.cardVersion
@@ -21,6 +23,7 @@ Item {
 
         objectName: "updateButton"
         anchors.right: parent.right
+        visible: root.model.checksForUpdates
         enabled: root.model.cardButtonEnabled
         text: root.model.cardButton
         onClicked: root.model.pressUpdateButton()

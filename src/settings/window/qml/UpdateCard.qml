@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** What is known of newer releases, in the colour of the state of things. */
+/** The version, and what is known of newer releases in the colour of the state. */
 Rectangle {
     id: root
 
@@ -10,9 +10,9 @@ Rectangle {
 
     implicitHeight: rows.height + 2 * Style.inset
     radius: Style.cardRadius
-    color: Qt.alpha(tint, model.cardTintOpacity)
+    color: model.checksForUpdates ? Qt.alpha(tint, model.cardTintOpacity) : Style.section
     Accessible.role: Accessible.Grouping
-    Accessible.name: model.cardTitle
+    Accessible.name: model.checksForUpdates ? model.cardTitle : ""
     Accessible.description: model.cardVersion
 
     Column {
@@ -23,11 +23,13 @@ Rectangle {
 
         UpdateState {
             width: parent.width
+            visible: root.model.checksForUpdates
             model: root.model
             tint: root.tint
         }
         Divider {
             width: parent.width
+            visible: root.model.checksForUpdates
         }
         UpdateAction {
             width: parent.width
