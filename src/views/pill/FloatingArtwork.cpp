@@ -17,6 +17,11 @@ namespace {
 constexpr double popScale = 0.18;
 constexpr double popTilt = -6; ///< degrees
 
+/// The corner of the pill that is pressed like the thumbnail in it, which reaches just as far as the
+/// indicator in the other corner does.
+constexpr QSizeF corner(style::sidePadding + style::thumbnailWidth + style::indicatorReach,
+                        style::topPadding + style::bandHeight + style::spacing);
+
 } // namespace
 
 FloatingArtwork::FloatingArtwork(NotchRootView& view, const PillContent& content, Item* parent)
@@ -50,7 +55,8 @@ void FloatingArtwork::layOut(const PillMotion& motion, double left) {
         std::max(0.0, style::mix(style::thumbnailRadius, style::artworkRadius, expand)));
     image_->setScale(1 + popScale * motion.thumbnail.value());
     image_->setRotation(popTilt * motion.thumbnail.value());
-    area_->setSize(size());
+    area_->setPosition(QPointF(left, 0) - position());
+    area_->setSize(corner);
     showCaption(std::clamp(2 * expand - 1, 0.0, 1.0));
 }
 

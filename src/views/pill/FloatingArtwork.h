@@ -11,7 +11,8 @@ class TapArea;
 struct PillContent;
 struct PillMotion;
 
-/// The cover, gliding between the thumbnail's place and the panel's.
+/// The cover, gliding between the thumbnail's place and the panel's. It takes the pointer in the
+/// thumbnail's corner of the pill alone, wherever it glides.
 class FloatingArtwork : public Item {
     Q_OBJECT
 

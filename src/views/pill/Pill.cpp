@@ -10,6 +10,7 @@
 #include "views/pill/Waveform.h"
 #include "views/scene/TapArea.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace brellowind {
@@ -130,7 +131,7 @@ void Pill::layOut() {
     centre(*shape_, width());
     view_.sizeChanged({shape_->width(), shape_->height()});
     background_->setPosition(shape_->position());
-    background_->setSize(shape_->size());
+    background_->setSize({shape_->width(), backgroundHeight()});
 
     layOutTexts();
     artwork_->layOut(motion_, shape_->x());
@@ -161,6 +162,12 @@ void Pill::layOutTexts() {
     panelLine_->setY(style::panelTopPadding + style::bandHeight + style::panelSpacing +
                      style::artworkSide + style::panelSpacing);
     centre(*panelLine_, inside_->width());
+}
+
+/// Where the panel still closes there is nothing to tap.
+double Pill::backgroundHeight() const {
+    return content_.form.isArtExpanded ? shape_->height()
+                                       : std::min(shape_->height(), collapsedHeight());
 }
 
 double Pill::bottomPadding() const {

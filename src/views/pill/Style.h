@@ -17,6 +17,7 @@ inline constexpr double minimizedBottomPadding = 8;
 inline constexpr double minimumContentWidth = 232;
 inline constexpr double thumbnailWidth = 19;
 inline constexpr double thumbnailRadius = 4;
+inline constexpr double indicatorReach = 10; ///< around it, within which it is pressed as well
 
 inline constexpr double panelWidth = 352;
 inline constexpr double panelSidePadding = 16;

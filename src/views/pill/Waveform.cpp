@@ -6,6 +6,7 @@
 #include "views/pill/Fade.h"
 #include "views/pill/PillContent.h"
 #include "views/pill/PillMotion.h"
+#include "views/pill/Style.h"
 #include "views/scene/TapArea.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@ namespace {
 constexpr double side = 16;
 constexpr double buttonWidth = 10;
 constexpr double buttonShift = -0.2; ///< from the middle
-constexpr double reach = 10;         ///< around it, within which it is pressed as well
 
 constexpr double playingOpacity = 0.9;
 constexpr double pausedOpacity = 0.4;
@@ -31,6 +31,7 @@ Waveform::Waveform(NotchRootView& view, const PillContent& content, Item* parent
     waveform_->setSize(size());
     button_->setPosition({(side - buttonWidth) / 2 + buttonShift, 0});
     button_->setSize({buttonWidth, side});
+    constexpr double reach = style::indicatorReach;
     area_->setPosition({-reach, -reach});
     area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
     area_->mindHovering();

@@ -29,12 +29,12 @@ TEST_F(PillTap, OnTheBackgroundMinimizesAndRestores) {
     EXPECT_FALSE(form().isMinimized);
 }
 
-TEST_F(PillTap, InEveryCornerOfTheRectangleCounts) {
+TEST_F(PillTap, InEveryCornerOfTheRectangleButTheCoversCounts) {
     machine.appear();
     const double right = pill()->width() - 1;
     const double bottom = pill()->height() - 1;
     for (const QPointF corner :
-         {QPointF(1, 1), QPointF(right, 1), QPointF(1, bottom), QPointF(right, bottom)}) {
+         {QPointF(right, 1), QPointF(1, bottom), QPointF(right, bottom)}) {
         const bool before = form().isMinimized;
         click(onWindow(pill(), corner));
         EXPECT_NE(form().isMinimized, before) << corner.x() << ", " << corner.y();
@@ -55,6 +55,42 @@ TEST_F(PillTap, OnTheCoverOpensTheArtworkPanel) {
     click(artwork());
     EXPECT_TRUE(form().isArtExpanded);
     EXPECT_FALSE(form().isMinimized);
+}
+
+TEST_F(PillTap, InTheWholeCornerBesideTheCoverOpensTheArtworkPanel) {
+    machine.appear();
+    for (const QPointF at : {QPointF(1, 1), QPointF(1, 32), QPointF(48, 1), QPointF(48, 32)}) {
+        click(onWindow(pill(), at));
+        EXPECT_TRUE(form().isArtExpanded) << at.x() << ", " << at.y();
+        settle();
+        click(item("panelLine"));
+        settle();
+    }
+    for (const QPointF at : {QPointF(50, 20), QPointF(20, 34)}) {
+        const bool before = form().isMinimized;
+        click(onWindow(pill(), at));
+        EXPECT_FALSE(form().isArtExpanded) << at.x() << ", " << at.y();
+        EXPECT_NE(form().isMinimized, before);
+        settle();
+        click(onWindow(pill(), {130, 12}));
+        settle();
+    }
+}
+
+TEST_F(PillTap, TwiceOnTheArtworkOnlyClosesThePanel) {
+    openArtPanel();
+    const QPoint at = middle(artwork());
+    for (const double pause : {0.0, 0.05, 0.1, 0.2}) {
+        click(at);
+        ASSERT_FALSE(form().isArtExpanded);
+        step(0);
+        step(pause);
+        click(at);
+        EXPECT_FALSE(form().isArtExpanded) << pause;
+        EXPECT_FALSE(form().isMinimized) << pause;
+        settle();
+        openArtPanel();
+    }
 }
 
 TEST_F(PillTap, OnTheArtworkClosesThePanel) {
@@ -234,6 +270,21 @@ TEST_F(PillHover, OfTheCoverDoesNotOutlastThePanelThatItOpens) {
     settle();
     ASSERT_FALSE(form().isArtExpanded);
     EXPECT_FALSE(form().coverHovered) << "the pointer is far below the thumbnail";
+}
+
+TEST_F(PillHover, OfTheCoverNeverBeginsOnTheArtworkInFlight) {
+    machine.appear();
+    click(artwork());
+    settle();
+    const QPoint at = middle(artwork());
+    hover(at);
+    click(at);
+    step(0);
+    for (int frame = 0; frame < 40; ++frame) {
+        step(0.016);
+        hover(at + QPoint(frame % 2, 0));
+        EXPECT_FALSE(form().coverHovered) << frame;
+    }
 }
 
 TEST_F(PillHover, OfTheThumbnailIsOnceMoreKnownWhenThePanelHasClosed) {
