@@ -9,6 +9,7 @@
 #include "views/scene/TapArea.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace brellowind {
@@ -21,6 +22,14 @@ constexpr double popTilt = -6; ///< degrees
 /// indicator in the other corner does.
 constexpr QSizeF corner(style::sidePadding + style::thumbnailWidth + style::indicatorReach,
                         style::topPadding + style::bandHeight + style::spacing);
+
+/// How much may be seen of what does not tilt with a cover that pops out by so much: all of it at
+/// a tilt that nobody sees, nothing from a tenth of the whole tilt on.
+double upright(double pop) {
+    constexpr double unseen = 0.02;
+    constexpr double plain = 0.1;
+    return std::clamp((plain - std::abs(pop)) / (plain - unseen), 0.0, 1.0);
+}
 
 } // namespace
 
@@ -57,7 +66,7 @@ void FloatingArtwork::layOut(const PillMotion& motion, double left) {
     image_->setRotation(popTilt * motion.thumbnail.value());
     area_->setPosition(QPointF(left, 0) - position());
     area_->setSize(corner);
-    showCaption(std::clamp(2 * expand - 1, 0.0, 1.0));
+    showCaption(std::clamp(2 * expand - 1, 0.0, 1.0) * upright(motion.thumbnail.value()));
 }
 
 /// The caption is laid out once for the whole artwork, with which it grows.

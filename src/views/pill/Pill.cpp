@@ -144,6 +144,7 @@ void Pill::layOut() {
     centre(*grabber_, width());
     grabber_->setY(shape_->height() - grabber_->height() -
                    style::mix(bottomPadding(), style::panelBottomPadding, expand));
+    layOutPanelLine();
 }
 
 /// Texts are clipped to the pill's straight sides, between its flaring top corners, and its bottom.
@@ -156,11 +157,16 @@ void Pill::layOutTexts() {
     fade(*line_, 1 - 2.5 * expand); // gone before the artwork is there
     line_->setY(style::topPadding + style::bandHeight + style::spacing);
     centre(*line_, inside_->width());
+}
+
+/// In the middle between artwork and grabber, and not seen while there is too little room for it.
+void Pill::layOutPanelLine() {
     if (!panelLine_)
         return;
-    fade(*panelLine_, expand);
-    panelLine_->setY(style::panelTopPadding + style::bandHeight + style::panelSpacing +
-                     style::artworkSide + style::panelSpacing);
+    constexpr double roomy = 0.7; // of the way to the panel
+    fade(*panelLine_, (motion_.expand.value() - roomy) / (1 - roomy));
+    const double top = artwork_->y() + artwork_->height();
+    panelLine_->setY((top + grabber_->y() - panelLine_->height()) / 2);
     centre(*panelLine_, inside_->width());
 }
 

@@ -44,6 +44,7 @@ private:
     void openMenu(QPointF position);
     void layOut();
     void layOutTexts();
+    void layOutPanelLine();
     double backgroundHeight() const;
     double bottomPadding() const;
     double collapsedHeight() const;

@@ -278,6 +278,51 @@ TEST_F(PillLayout, ShowsTheCaptionInThePanelAlone) {
     EXPECT_NE(below(artwork(), "ArtworkCaption"), nullptr);
 }
 
+TEST_F(PillLayout, NeverShowsTheCaptionOnATiltedCover) {
+    appearWith("Title of the song");
+    machine.view.hoverCover(true);
+    settle();
+    machine.view.tapCover();
+    step(0);
+    for (int frame = 0; frame < 40; ++frame) {
+        step(0.016);
+        const auto degrees = scaleAndRotation(*below(artwork(), "ArtworkImage")).second;
+        const auto* caption = below(artwork(), "ArtworkCaption");
+        const double seen = caption ? caption->opacity() : 0;
+        EXPECT_TRUE(seen == 0 || std::abs(degrees) < 0.6) << frame << ": " << degrees;
+    }
+    settle();
+    EXPECT_EQ(below(artwork(), "ArtworkCaption")->opacity(), 1);
+}
+
+TEST_F(PillLayout, KeepsThePanelsLineBetweenArtworkAndGrabberWhereverItIsSeen) {
+    appearIdle();
+    for (const bool minimized : {false, true}) {
+        if (minimized)
+            machine.view.tapBackground();
+        settle();
+        int seen = 0;
+        for (const bool opens : {true, false}) {
+            opens ? machine.view.tapCover() : machine.view.tapArtwork();
+            if (opens && minimized)
+                machine.view.tapBackground(); // as a pause does
+            step(0);
+            for (int frame = 0; frame < 60; ++frame) {
+                step(0.008);
+                auto* line = window.root().findChild<Item*>(QStringLiteral("panelLine"));
+                if (!line || !line->isVisible())
+                    continue;
+                ++seen;
+                const QRectF at = layout(line);
+                EXPECT_GE(at.top(), layout(artwork()).bottom()) << opens << ", " << frame;
+                EXPECT_LE(at.bottom(), layout(grabber()).top()) << opens << ", " << frame;
+                EXPECT_LE(at.bottom(), layout(pill()).bottom()) << opens << ", " << frame;
+            }
+        }
+        EXPECT_GT(seen, 20) << "it is seen at all";
+    }
+}
+
 TEST_F(PillLayout, ShowsTheIndicatorAsThePlayerStands) {
     machine.appear();
     settle();
