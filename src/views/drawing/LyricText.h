@@ -12,7 +12,8 @@
 namespace brellowind {
 
 /// One line of text in any script, as wide as it is and never cut. When its text changes, the old
-/// line blurs and fades away while the new one sharpens and fades in, both about the same middle.
+/// line blurs, shrinks a little and fades away while the new one sharpens, grows into place and
+/// fades in, both about the same middle.
 class LyricText : public PainterItem, public Accessible, private Animated {
     Q_OBJECT
 

@@ -16,6 +16,7 @@ constexpr double strongestSigma = 5; ///< points, of a line that is away
 const double strongestReach = std::ceil(blurReach(strongestSigma));
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
+constexpr double smallestScale = 0.92; ///< of a line that is away
 
 /// A line that overshoots its target by at most this comes back by less than 1/255: each swing of
 /// its spring has a 26th of the amplitude of the one before.
@@ -133,6 +134,11 @@ double TextLayer::sigma() const {
     return sigma < faintestSigma ? 0 : sigma;
 }
 
+double TextLayer::scale() const {
+    constexpr double sharp = 1 - faintestSigma / strongestSigma; // then it has its size as well
+    return smallestScale + (1 - smallestScale) * std::clamp(shown_ / sharp, 0.0, 1.0);
+}
+
 void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin) const {
     painter.setPen(color);
     layout_.draw(&painter, origin);
@@ -143,10 +149,13 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     // Nothing further outside the visible part can be blurred into it.
     const QRectF line =
         layout_.boundingRect().adjusted(-inkOverhang, -inkOverhang, inkOverhang, inkOverhang);
-    const double left =
-        std::max(line.left(), std::floor(seen.left() - origin.x() - strongestReach));
-    const double right =
-        std::min(line.right(), std::ceil(seen.right() - origin.x() + strongestReach));
+    // At every scale, so that one picture serves for the whole motion.
+    const double middleX = layout_.boundingRect().center().x();
+    const auto unscaled = [&](double x) {
+        return middleX + (x - origin.x() - middleX) / smallestScale;
+    };
+    const double left = std::max(line.left(), std::floor(unscaled(seen.left()) - strongestReach));
+    const double right = std::min(line.right(), std::ceil(unscaled(seen.right()) + strongestReach));
     if (right <= left)
         return;
     // Aligned to pixels, like the line's origin: otherwise it would look softer than the line at
@@ -156,6 +165,10 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     takePicture(part, color, ratio);
     blurPicture(blurRadius(sigma() * ratio));
     const QSizeF room = (blurred_.size() - picture_.size()) / 2 / ratio;
+    const QPointF middle = origin + layout_.boundingRect().center();
+    painter.translate(middle);
+    painter.scale(scale(), scale());
+    painter.translate(-middle);
     painter.drawImage(origin + part.topLeft() - QPointF(room.width(), room.height()), blurred_);
 }
 

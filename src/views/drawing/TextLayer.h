@@ -13,8 +13,8 @@ class QPainter;
 
 namespace brellowind {
 
-/// One line of text on its way in or out: laid out once, blurred and clear when it is away, sharp
-/// and opaque when it is there.
+/// One line of text on its way in or out: laid out once, blurred, a little smaller and clear when
+/// it is away, sharp and opaque when it is there.
 class TextLayer {
 public:
     /// `presence` is its initial state: 0 away, 1 there. A `maximumWidth` above 0 ends a wider line
@@ -45,6 +45,7 @@ private:
     void moveTo(double presence, double now);
     bool isAtRest(double now) const;
     double sigma() const;
+    double scale() const;
     void paintSharp(QPainter& painter, QColor color, QPointF origin) const;
     void paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen);
     void takePicture(QRectF part, QColor color, double ratio);

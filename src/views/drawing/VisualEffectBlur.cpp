@@ -13,8 +13,8 @@ namespace {
 constexpr int blurredSide = 80;
 constexpr double sigma = 0.05 * blurredSide;
 
-/// The dark, slightly see-through material of overlays: dark enough for white text at three quarters
-/// of its strength on a white cover.
+/// The dark, slightly see-through material of overlays: dark enough for white text at three
+/// quarters of its strength on a white cover.
 const QColor material(28, 28, 30, 165);
 const QColor dimming(0, 0, 0, 51); ///< black at 0.2
 

@@ -18,8 +18,8 @@ namespace {
 constexpr double popScale = 0.18;
 constexpr double popTilt = -6; ///< degrees
 
-/// The corner of the pill that is pressed like the thumbnail in it, which reaches just as far as the
-/// indicator in the other corner does.
+/// The corner of the pill that is pressed like the thumbnail in it, which reaches just as far as
+/// the indicator in the other corner does.
 constexpr QSizeF corner(style::sidePadding + style::thumbnailWidth + style::indicatorReach,
                         style::topPadding + style::bandHeight + style::spacing);
 

@@ -172,6 +172,52 @@ TEST(TextLayer, IsBlurredOnItsWay) {
     EXPECT_TRUE(sharp.adjusted(-overhang, -overhang, overhang, overhang).contains(soft));
 }
 
+TEST(TextLayer, ShrinksALittleAsItGoesAndGrowsIntoPlaceAsItComes) {
+    const QString ends = u'H' + QString(30, u' ') + u'H';
+    // Between the middles of the ink in both halves: no blur changes that.
+    const auto distance = [](TextLayer& line) {
+        const QImage image = paintedLayer(line);
+        double sums[2] = {0, 0};
+        double moments[2] = {0, 0};
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                sums[x / 200] += qAlpha(image.pixel(x, y));
+                moments[x / 200] += qAlpha(image.pixel(x, y)) * x;
+            }
+        return moments[1] / sums[1] - moments[0] / sums[0];
+    };
+    TextLayer there = layer(ends);
+    const double whole = distance(there);
+    ASSERT_GT(whole, 80);
+    TextLayer going = layer(ends);
+    TextLayer coming = layer(ends, 0);
+    going.goAway(10);
+    coming.comeIn(10);
+    double gone = 1;
+    double come = 0;
+    for (const double time : {10.06, 10.1, 10.14}) {
+        going.advance(time);
+        coming.advance(time);
+        EXPECT_LT(distance(going) / whole, gone - 0.005);
+        EXPECT_GT(distance(coming) / whole, come + 0.005);
+        gone = distance(going) / whole;
+        come = distance(coming) / whole;
+    }
+    EXPECT_GT(gone, 0.9);
+    EXPECT_LT(come, 1);
+}
+
+TEST(TextLayer, WiderThanTheWindowFillsItOnItsWay) {
+    TextLayer line = layer(QString(200, u'H'), 1);
+    line.goAway(10);
+    line.advance(10.2);
+    const QImage image = test::painted(
+        {640, 80}, [&](QPainter& painter) { line.paint(painter, Qt::white, 320, 30, 0, 640); });
+    const auto columnInk = [&](int from) { return test::ink(image.copy(from, 0, 40, 80)); };
+    EXPECT_NEAR(columnInk(0), columnInk(300), 0.1 * columnInk(300)) << "to the very edge";
+    EXPECT_NEAR(columnInk(600), columnInk(300), 0.1 * columnInk(300));
+}
+
 TEST(TextLayer, KeepsItsColourOnItsWay) {
     const QColor colour(250, 100, 0);
     TextLayer going = layer(QStringLiteral("HHHHHH"));

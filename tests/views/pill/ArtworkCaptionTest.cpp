@@ -39,9 +39,7 @@ TEST(ArtworkCaption, CanBeReadOnACoverOfAnyLightColour) {
         QImage cover(320, 320, QImage::Format_RGB32);
         cover.fill(color);
         caption.setImage(cover);
-        const auto painted = [&] {
-            return test::painted(caption, caption.size().toSize(), {}, 4);
-        };
+        const auto painted = [&] { return test::painted(caption, caption.size().toSize(), {}, 4); };
         const QRectF artist(0, 0, 320, caption.height() / 2 - 4);
         const QRectF title(0, caption.height() / 2 + 4, 320, caption.height() / 2 - 24);
         const double behind = brightest(painted(), artist);

@@ -33,8 +33,7 @@ TEST_F(PillTap, InEveryCornerOfTheRectangleButTheCoversCounts) {
     machine.appear();
     const double right = pill()->width() - 1;
     const double bottom = pill()->height() - 1;
-    for (const QPointF corner :
-         {QPointF(right, 1), QPointF(1, bottom), QPointF(right, bottom)}) {
+    for (const QPointF corner : {QPointF(right, 1), QPointF(1, bottom), QPointF(right, bottom)}) {
         const bool before = form().isMinimized;
         click(onWindow(pill(), corner));
         EXPECT_NE(form().isMinimized, before) << corner.x() << ", " << corner.y();
