@@ -3,10 +3,12 @@
 #include "notch/NotchShape.h"
 #include "platform/qt/PainterPath.h"
 #include "views/drawing/Blur.h"
+#include "views/scene/SceneWindow.h"
 
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace brellowind {
 namespace {
@@ -17,10 +19,14 @@ constexpr double topRadius = 8;
 constexpr double bottomRadius = 12;
 
 constexpr double shadowOpacity = 0.5;
-constexpr double shadowSigma = 10; ///< a shadow of radius 20
+constexpr double shadowSigma = 20; ///< its radius
 constexpr double shadowDrop = 10;
+constexpr double shadowFade = 24; ///< points in which it fades out where its window ends
 
-const double shadowReach = std::ceil(blurReach(shadowSigma));
+/// How far beyond the pill a shadow at that lift goes.
+double reach(double lift) {
+    return std::ceil(blurReach(shadowSigma * lift));
+}
 
 const NotchShape shape(topRadius, bottomRadius);
 
@@ -32,30 +38,48 @@ Path notchPath(QSizeF size) {
     return shape.path({0, 0, size.width(), size.height()});
 }
 
+/// Lets the rows of `alpha` fade from `top` on, to nothing `height` below it.
+void fadeOut(QImage& alpha, double top, double height) {
+    for (int y = std::max(0, static_cast<int>(top)); y < alpha.height(); ++y) {
+        const double share = std::clamp((top + height - (y + 1)) / height, 0.0, 1.0);
+        auto* row = alpha.scanLine(y);
+        std::transform(row, row + alpha.width(), row,
+                       [share](uchar a) { return static_cast<uchar>(a * share); });
+    }
+}
+
 /// The blurred alpha of a pill as high as `size` and just so wide that its middle column knows
-/// nothing of either end, if `size` is not narrower itself.
-QImage narrowShadow(QSizeF size, double ratio) {
-    const double narrowest = 2 * (shadowReach + topRadius + bottomRadius) + 1;
+/// nothing of either end, if `size` is not narrower itself. It has faded out `room` points below
+/// the pill, where its window ends.
+QImage narrowShadow(QSizeF size, double lift, double room, double ratio) {
+    const double reach = brellowind::reach(lift);
+    const double narrowest = 2 * (reach + topRadius + bottomRadius) + 1;
     const QSizeF pill(std::min(narrowest, size.width()), size.height());
-    const QSizeF whole = pill + QSizeF(2 * shadowReach, 2 * shadowReach);
+    const QSizeF whole = pill + QSizeF(2 * reach, 2 * reach);
     QImage alpha((whole * ratio).toSize(), QImage::Format_Alpha8);
     alpha.fill(0);
     QPainter painter(&alpha);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(ratio, ratio);
-    painter.translate(shadowReach, shadowReach);
+    painter.translate(reach, reach);
     painter.fillPath(painterPath(notchPath(pill)),
                      QColor(0, 0, 0, static_cast<int>(255 * shadowOpacity)));
     painter.end();
-    blur(alpha, shadowSigma * ratio);
+    blur(alpha, shadowSigma * lift * ratio);
+    const double drop = shadowDrop * lift;
+    if (room < reach + drop) {
+        const double fade = std::min(shadowFade, room);
+        const double end = reach + size.height() + room - drop;
+        fadeOut(alpha, (end - fade) * ratio, fade * ratio);
+    }
     return alpha;
 }
 
 /// A shadow so wide that nobody sees its ends: a line without end casts none without end.
-double widestShadow(const QPainter& painter) {
+double widestShadow(const QPainter& painter, double lift) {
     const auto* device = painter.device();
     const double seen = device->width() / device->devicePixelRatioF();
-    return 2 * std::ceil(seen / 2 + shadowReach + topRadius + bottomRadius);
+    return 2 * std::ceil(seen / 2 + reach(lift) + topRadius + bottomRadius);
 }
 
 /// Black with `alpha`, whose middle column is drawn out until it is `width` pixels wide.
@@ -99,7 +123,8 @@ Path PillShape::outline() const {
 QRectF PillShape::paintedRect() const {
     if (lift_ <= 0)
         return boundingRect();
-    return boundingRect().adjusted(-shadowReach, 0, shadowReach, shadowReach + shadowDrop);
+    const double reach = brellowind::reach(lift_);
+    return boundingRect().adjusted(-reach, 0, reach, reach + std::ceil(shadowDrop * lift_));
 }
 
 void PillShape::paint(QPainter& painter) {
@@ -116,21 +141,31 @@ void PillShape::paint(QPainter& painter) {
     painter.drawPath(painterPath(outline()));
 }
 
+/// The shadow is blurred anew when anything of it changes, which is in every frame of a motion.
 void PillShape::paintShadow(QPainter& painter) {
     const double ratio = pixelRatio();
-    const QSizeF cast(std::min(width(), widestShadow(painter)), height());
-    if (shadow_.isNull() || shadowSize_ != cast || shadow_.devicePixelRatio() != ratio) {
-        shadow_ = widened(narrowShadow(cast, ratio),
-                          static_cast<int>(std::lround((cast.width() + 2 * shadowReach) * ratio)));
+    const double reach = brellowind::reach(lift_);
+    const Cast cast{.pill = {std::min(width(), widestShadow(painter, lift_)), height()},
+                    .lift = lift_,
+                    .room = roomBelow()};
+    if (shadow_.isNull() || cast != cast_ || shadow_.devicePixelRatio() != ratio) {
+        shadow_ = widened(narrowShadow(cast.pill, cast.lift, cast.room, ratio),
+                          static_cast<int>(std::lround((cast.pill.width() + 2 * reach) * ratio)));
         shadow_.setDevicePixelRatio(ratio);
-        shadowSize_ = cast;
+        cast_ = cast;
     }
     painter.save();
     painter.setOpacity(painter.opacity() * std::clamp(lift_, 0.0, 1.0));
     painter.drawImage(
-        QPointF((width() - cast.width()) / 2 - shadowReach, shadowDrop * lift_ - shadowReach),
-        shadow_);
+        QPointF((width() - cast.pill.width()) / 2 - reach, shadowDrop * lift_ - reach), shadow_);
     painter.restore();
+}
+
+/// Points between its lower edge and the end of its window.
+double PillShape::roomBelow() const {
+    if (!window())
+        return std::numeric_limits<double>::infinity();
+    return std::max(1.0, mapFromScene(QPointF(0, window()->height())).y() - height());
 }
 
 } // namespace brellowind

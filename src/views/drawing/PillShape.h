@@ -17,7 +17,8 @@ public:
     /// How far the top corners flare beyond the sides.
     double flare() const;
 
-    /// 0: no shadow. 1: the whole shadow. In between both its strength and its reach grow.
+    /// 0: no shadow. 1: the whole shadow. In between strength, softness and reach grow. It fades
+    /// out where the window ends.
     void setLift(double lift);
 
     /// The outline, in the item's coordinates.
@@ -27,11 +28,21 @@ public:
     QRectF paintedRect() const override;
 
 private:
+    /// What a shadow looks like, but for the pixels.
+    struct Cast {
+        QSizeF pill; ///< that casts it; no wider than anybody sees
+        double lift = 0;
+        double room = 0; ///< points below the pill
+
+        bool operator==(const Cast&) const = default;
+    };
+
     void paintShadow(QPainter& painter);
+    double roomBelow() const;
 
     double lift_ = 0;
-    QImage shadow_;     ///< null while there is none
-    QSizeF shadowSize_; ///< of the pill that casts it; no wider than anybody sees
+    QImage shadow_; ///< null while there is none
+    Cast cast_;     ///< of `shadow_`
 };
 
 } // namespace brellowind

@@ -2,6 +2,7 @@
 
 #include "notch/NotchShape.h"
 #include "views/Painting.h"
+#include "views/scene/SceneWindow.h"
 
 #include <QPainter>
 #include <gtest/gtest.h>
@@ -106,6 +107,45 @@ TEST(PillShape, CastsAShadowBelowItWhileItIsLifted) {
     EXPECT_GT(qAlpha(image.pixel(200, 80)), qAlpha(image.pixel(200, 95)));
     for (int x = 0; x < 200; ++x)
         ASSERT_NEAR(qAlpha(image.pixel(x, 65)), qAlpha(image.pixel(399 - x, 65)), 1) << x;
+}
+
+TEST(PillShape, CastsAShadowWhoseDropSoftnessAndStrengthGrowWithTheLift) {
+    for (const double lift : {0.5, 1.0}) {
+        PillShape pill;
+        pill.setSize({400, 200}); // so large that its other edges do not count
+        pill.setLift(lift);
+        const QImage image = test::painted(pill, {400, 300});
+        const int edge = static_cast<int>(200 + 10 * lift);
+        const double whole = 255 * 0.5 * lift;
+        const auto strength = [&](double deviations) {
+            const int y = edge + static_cast<int>(20 * lift * deviations);
+            return (qAlpha(image.pixel(200, y - 1)) + qAlpha(image.pixel(200, y))) / 2.0;
+        };
+        // The normal distribution.
+        EXPECT_NEAR(strength(0), whole * 0.5, 2) << lift;
+        EXPECT_NEAR(strength(1), whole * 0.159, 2) << lift;
+        EXPECT_NEAR(strength(2), whole * 0.023, 1.5) << lift;
+    }
+}
+
+TEST(PillShape, CastsAShadowThatFadesOutWhereItsWindowEnds) {
+    SceneWindow window;
+    window.resize(480, 96);
+    PillShape pill(&window.root());
+    pill.setSize({280, 60});
+    pill.setPosition({100, 0});
+    pill.setLift(1);
+    const QImage image = window.grab();
+    int last = qAlpha(image.pixel(240, 61));
+    EXPECT_GT(last, 60) << "as strong as ever at the pill";
+    for (int y = 62; y < 96; ++y) {
+        const int now = qAlpha(image.pixel(240, y));
+        EXPECT_LE(now, last) << y;
+        EXPECT_GT(now, last - 10) << y;
+        last = now;
+    }
+    EXPECT_LE(last, 1);
+    EXPECT_GT(qAlpha(image.pixel(95, 50)), 20) << "beside the pill it is whole";
 }
 
 TEST(PillShape, CastsAStrongerShadowTheHigherItIsLifted) {
