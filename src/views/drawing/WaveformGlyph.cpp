@@ -1,6 +1,7 @@
 #include "views/drawing/WaveformGlyph.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
@@ -15,26 +16,31 @@ constexpr int stepsInARound = 15;
 constexpr int barCount = 5;
 constexpr std::array<double, barCount> heights{0.36, 0.74, 1, 0.56, 0.28}; ///< of the symbol's
 constexpr double barWidth = 2;                                             ///< of 16
-constexpr double gapWidth = 1; ///< with bars on whole points, which keeps them sharp
-constexpr double faintest = 0.35;
+constexpr double gapWidth = 1;    ///< with bars on whole points, which keeps them sharp
+constexpr double faintest = 0.45; ///< so that playing it is not fainter than paused
 
-/// The strength of the bar `index` in a step of the wave, which reaches one bar to each side and
-/// has left the symbol for a while in every round.
-double strength(int index, int step) {
+/// The opacity, of 255, of the bar `index` in a step of the wave, which reaches one bar to each
+/// side and has left the symbol for a while in every round.
+int strength(int index, int step) {
     const double crest = step * (barCount + 3.0) / stepsInARound - 1.5;
     const double distance = std::abs(crest - index);
     if (distance >= 1.5)
-        return faintest;
-    return faintest + (1 - faintest) * (0.5 + 0.5 * std::cos(std::numbers::pi * distance / 1.5));
+        return qRound(255 * faintest);
+    const double share = 0.5 + 0.5 * std::cos(std::numbers::pi * distance / 1.5);
+    return qRound(255 * (faintest + (1 - faintest) * share));
 }
 
-/// A bar in a symbol of that size.
-QRectF barRect(int index, QSizeF symbol) {
+/// A bar in a symbol that fills `symbol`, in pixels. Bars, and the gaps between them, are whole
+/// pixels wide wherever the symbol stands and however it is scaled.
+QRectF barRect(int index, const QRectF& symbol) {
     const double unit = symbol.width() / 16;
-    const double pitch = (barWidth + gapWidth) * unit;
-    const double left = (symbol.width() - (barCount - 1) * pitch - barWidth * unit) / 2;
-    const double height = symbol.height() * heights[static_cast<std::size_t>(index)];
-    return {left + index * pitch, (symbol.height() - height) / 2, barWidth * unit, height};
+    const double width = std::max(1.0, std::round(barWidth * unit));
+    const double pitch = width + std::max(1.0, std::round(gapWidth * unit));
+    const double left = std::round(symbol.center().x() - ((barCount - 1) * pitch + width) / 2);
+    const double half = symbol.height() * heights[static_cast<std::size_t>(index)] / 2;
+    const double top = std::round(symbol.center().y() - half);
+    const double bottom = std::round(symbol.center().y() + half);
+    return {left + index * pitch, top, width, bottom - top};
 }
 
 } // namespace
@@ -60,11 +66,14 @@ void WaveformGlyph::setStep(int step) {
 }
 
 void WaveformGlyph::paint(QPainter& painter) {
+    const double ratio = painter.device()->devicePixelRatioF();
+    const auto toPixels = painter.transform() * QTransform::fromScale(ratio, ratio);
+    const QRectF symbol = toPixels.mapRect(boundingRect());
+    painter.setTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
     painter.setPen(Qt::NoPen);
     for (int i = 0; i < barCount; ++i) {
-        const double opacity = active_ ? strength(i, step_) : 1;
-        painter.setBrush(QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity)));
-        const QRectF bar = barRect(i, size());
+        painter.setBrush(QColor(255, 255, 255, active_ ? strength(i, step_) : 255));
+        const QRectF bar = barRect(i, symbol);
         painter.drawRoundedRect(bar, bar.width() / 2, bar.width() / 2);
     }
 }

@@ -2,10 +2,12 @@
 #include "views/Painting.h"
 #include "views/drawing/Glyph.h"
 #include "views/drawing/LyricText.h"
+#include "views/drawing/WaveformGlyph.h"
 #include "views/pill/Stage.h"
 
 #include <QAbstractEventDispatcher>
 #include <QFontMetricsF>
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -336,6 +338,27 @@ TEST_F(PillLayout, ShowsTheIndicatorAsThePlayerStands) {
     settle();
     EXPECT_DOUBLE_EQ(glyph->opacity(), 0.9);
     EXPECT_TRUE(ticks(*glyph));
+}
+
+TEST_F(PillLayout, NeverShowsAPlayingIndicatorFainterThanAPausedOne) {
+    machine.appear();
+    settle();
+    auto* glyph = dynamic_cast<WaveformGlyph*>(below(waveform(), "WaveformGlyph"));
+    const auto faintest = [&] {
+        const QImage image = test::painted(*glyph, {16, 16}, {}, 4);
+        int least = 255;
+        for (int x = 0; x < image.width(); ++x)
+            if (const int alpha = qAlpha(image.pixel(x, image.height() / 2)))
+                least = std::min(least, alpha);
+        return least * glyph->opacity();
+    };
+    const double paused = faintest();
+    machine.resume();
+    settle();
+    for (int step = 0; step < 15; ++step) {
+        glyph->setStep(step);
+        EXPECT_GE(faintest(), paused) << step;
+    }
 }
 
 TEST_F(PillLayout, ShowsThePlayButtonUnderThePointer) {
