@@ -4,6 +4,7 @@
 #include "foundation/Path.h"
 
 #include <functional>
+#include <vector>
 
 namespace brellowind::platform {
 
@@ -21,18 +22,19 @@ public:
     /// Shows the window in front of all others without activating the program.
     virtual void orderFrontRegardless() = 0;
 
-    /// The outline of what the window shows, in points from its top left corner, y downward. It may
-    /// differ in every frame; at first it is empty. Clicks and movements outside it fall through to
-    /// what lies beneath.
-    virtual void setOutline(const Path& outline) = 0;
+    /// The outline of what the window shows, and the rectangles that take clicks and movements as
+    /// well while it does not ignore them, in points from its top left corner, y downward. Both may
+    /// differ in every frame; at first they are empty. Elsewhere clicks and movements fall through
+    /// to what lies beneath, and where the window cannot be transparent, outside the outline too.
+    virtual void setOutline(const Path& outline, const std::vector<Rect>& reach) = 0;
 
     /// Shows a frame after its outline is set: calls `flush`, which hands the frame to the window
     /// system.
     virtual void present(const std::function<void()>& flush) { flush(); }
 
-    /// Whether clicks and movements within the outline fall through as well, which they do at
-    /// first. Repeating the present value costs nothing. Without effect where the system tells this
-    /// program of the pointer only while it is over a window that takes it.
+    /// Whether clicks and movements fall through everywhere, which they do at first. Repeating the
+    /// present value costs nothing. Where the system tells this program of the pointer only while
+    /// it is over a window that takes it, those within the outline never fall through.
     virtual void setIgnoresMouseEvents(bool ignores) = 0;
 };
 

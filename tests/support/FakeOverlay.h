@@ -34,13 +34,15 @@ public:
         calls.emplace_back(SetIgnoresMouseEvents{ignores});
     }
 
-    void setOutline(const Path& newOutline) override {
+    void setOutline(const Path& newOutline, const std::vector<Rect>& newReach) override {
         outline = newOutline;
+        reach = newReach;
         ++outlines;
     }
 
     std::vector<Call> calls;
     Path outline;
+    std::vector<Rect> reach;
     int outlines = 0; ///< how often it was told one
 };
 

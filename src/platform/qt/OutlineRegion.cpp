@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTransform>
+#include <cmath>
 
 namespace brellowind::platform {
 
@@ -21,6 +22,19 @@ QRegion outlineRegion(const Path& outline, double scale) {
     painter.fillPath(path, Qt::color1);
     painter.end();
     return QRegion(covered).translated(bounds.topLeft());
+}
+
+QRegion reachRegion(const std::vector<Rect>& reach, double scale) {
+    QRegion region;
+    for (const Rect& rect : reach) {
+        const auto pixel = [scale](double edge) {
+            return static_cast<int>(std::ceil(edge * scale - 0.5));
+        };
+        const QPoint from(pixel(rect.minX()), pixel(rect.minY()));
+        const QPoint to(pixel(rect.maxX()), pixel(rect.maxY()));
+        region |= QRect(from, to - QPoint(1, 1));
+    }
+    return region;
 }
 
 } // namespace brellowind::platform

@@ -77,6 +77,18 @@ void Pill::fill(QSizeF size) {
     layOut();
 }
 
+std::vector<Rect> Pill::reach() const {
+    const auto inWindow = [](const Item& item) {
+        const QRectF rect = item.mapRectToScene(item.boundingRect());
+        return Rect{rect.x(), rect.y(), rect.width(), rect.height()};
+    };
+    std::vector<Rect> reach{inWindow(*shape_)};
+    for (const auto* area : findChildren<TapArea*>())
+        if (area->isVisible() && area->isEnabled())
+            reach.push_back(inWindow(*area));
+    return reach;
+}
+
 std::optional<double> Pill::advance(double now) {
     const auto speed = motion_.advance(now);
     followPanel();

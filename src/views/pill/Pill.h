@@ -7,6 +7,7 @@
 #include "views/scene/Item.h"
 
 #include <memory>
+#include <vector>
 
 namespace brellowind {
 
@@ -34,6 +35,9 @@ public:
     void fill(QSizeF size);
 
     const PillShape& shape() const { return *shape_; }
+
+    /// Where it is tapped: its whole rectangle and the reaches of its buttons, in the window.
+    std::vector<Rect> reach() const;
 
 private:
     std::optional<double> advance(double now) override;

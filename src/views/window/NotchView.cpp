@@ -26,12 +26,13 @@ void NotchView::aboutToShow() {
     const PillShape& shape = pill_->shape();
     const QRectF rect = shape.mapRectToScene(shape.boundingRect());
     if (rect == pillRect_)
-        return;
+        return; // so is the outline, and what the pill reaches
     pillRect_ = rect;
-    overlay_->setOutline(shape.outline().mapped([transform = shape.transform()](Point point) {
+    const auto toWindow = [transform = shape.transform()](Point point) {
         const QPointF mapped = transform.map(QPointF(point.x, point.y));
         return Point{mapped.x(), mapped.y()};
-    }));
+    };
+    overlay_->setOutline(shape.outline().mapped(toWindow), pill_->reach());
 }
 
 } // namespace brellowind

@@ -2,6 +2,7 @@
 
 #include "support/PrintGeometry.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 namespace brellowind {
@@ -35,6 +36,28 @@ TEST_F(PillOutline, IsThatOfThePill) {
     const auto end = windowSystem.overlay->outline.elements().at(last).to;
     const QPointF topRight = pill()->transform().map(pill()->boundingRect().topRight());
     EXPECT_EQ(end, (Point{topRight.x(), topRight.y()}));
+}
+
+TEST_F(PillOutline, ComesWithTheWholeRectangleAndTheReachesOfTheButtons) {
+    machine.view.tapBackground(); // in which state the grabber reaches beyond the pill
+    machine.movePointer(test::View::overThePill);
+    settle();
+    draw();
+    const auto reaches = [this](QPointF at) { // from a corner of the laid out pill
+        const QPointF place = pill()->transform().map(at);
+        return std::ranges::any_of(windowSystem.overlay->reach, [place](const Rect& rect) {
+            return rect.contains({place.x(), place.y()});
+        });
+    };
+    const double right = pill()->width();
+    const double bottom = pill()->height();
+    for (const QPointF corner : {QPointF(1, 1), QPointF(right - 1, 1), QPointF(1, bottom - 1),
+                                 QPointF(right - 1, bottom - 1)})
+        EXPECT_TRUE(reaches(corner)) << corner.x() << ", " << corner.y();
+    EXPECT_TRUE(reaches({right / 2, bottom + 3})) << "below the grabber";
+    EXPECT_FALSE(reaches({right / 2, bottom + 5}));
+    EXPECT_FALSE(reaches({40, bottom + 1}));
+    EXPECT_FALSE(reaches({-1, 10}));
 }
 
 TEST_F(PillOutline, FollowsThePillInEveryFrameOfItsMotion) {

@@ -62,13 +62,19 @@ void WaylandOverlay::orderFrontRegardless() {
     show();
 }
 
-void WaylandOverlay::setOutline(const Path& outline) {
+void WaylandOverlay::setOutline(const Path& outline, const std::vector<Rect>& reach) {
     outline_ = outlineRegion(outline, 1);
+    reach_ = reachRegion(reach, 1);
     if (!layerSurface_)
         return;
     setInputRegion();
     if (geometry().size() != window_.size())
         resize_->request(); // not while the frame with this outline is being drawn
+}
+
+void WaylandOverlay::setIgnoresMouseEvents(bool ignores) {
+    if (std::exchange(ignoresMouseEvents_, ignores) != ignores && layerSurface_)
+        setInputRegion();
 }
 
 bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
@@ -144,7 +150,7 @@ void WaylandOverlay::resize() {
 /// Applied by the next frame.
 void WaylandOverlay::setInputRegion() {
     const WaylandObject<wl_region> region(wl_compositor_create_region(compositor_.surfaces()));
-    for (const QRect& rect : outline_)
+    for (const QRect& rect : ignoresMouseEvents_ ? outline_ : outline_ | reach_)
         wl_region_add(region.get(), rect.x(), rect.y(), rect.width(), rect.height());
     wl_surface_set_input_region(surface(), region.get());
 }

@@ -13,11 +13,13 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace brellowind::platform {
 
 /// Makes a transparent window of Qt an overlay by a layer shell. It takes the pointer within its
-/// content's outline, always, and tells `pointer` where that is.
+/// content's outline, always, and tells `pointer` where that is; within its reach only while it
+/// does not ignore mouse events.
 ///
 /// The surface is only as high as what it shows needs, which saves memory and the compositor's
 /// work. It is made anew on another screen or at another scale.
@@ -31,8 +33,8 @@ public:
     /// Without a screen it is hidden.
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
-    void setOutline(const Path& outline) override;
-    void setIgnoresMouseEvents(bool /*ignores*/) override {}
+    void setOutline(const Path& outline, const std::vector<Rect>& reach) override;
+    void setIgnoresMouseEvents(bool ignores) override;
 
     bool isShown() const { return layerSurface_.has_value(); }
     const QWindow& window() const { return window_; }
@@ -68,6 +70,8 @@ private:
     QRect frame_;              ///< in Qt's coordinates
     Rect desktopFrame_;
     QRegion outline_; ///< in points
+    QRegion reach_;   ///< in points
+    bool ignoresMouseEvents_ = true;
     bool ordered_ = false;
     double ratio_ = 0; ///< pixels per point of `screen_` when it was placed
     std::optional<LayerSurface> layerSurface_;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "foundation/Geometry.h"
 #include "foundation/Path.h"
 
 #include <functional>
+#include <vector>
 
 namespace brellowind::platform {
 
@@ -11,8 +13,10 @@ class OverlayShape {
 public:
     virtual ~OverlayShape() = default;
 
-    /// `outline`, in points of `scale` pixels, and `ignoresMouseEvents` are those of the overlay.
-    virtual void update(const Path& outline, double scale, bool ignoresMouseEvents) = 0;
+    /// `outline` and `reach`, in points of `scale` pixels, and `ignoresMouseEvents` are those of
+    /// the overlay.
+    virtual void update(const Path& outline, const std::vector<Rect>& reach, double scale,
+                        bool ignoresMouseEvents) = 0;
 
     /// As of the overlay.
     virtual void present(const std::function<void()>& flush) { flush(); }

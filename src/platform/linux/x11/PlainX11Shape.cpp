@@ -11,12 +11,15 @@ PlainX11Shape::PlainX11Shape(const QWindow& window, std::function<void()> change
     : compositingManager_(x11_, std::move(changed)),
       shape_(x11_, static_cast<xcb_window_t>(window.winId())) {}
 
-void PlainX11Shape::update(const Path& outline, double scale, bool ignoresMouseEvents) {
+void PlainX11Shape::update(const Path& outline, const std::vector<Rect>& reach, double scale,
+                           bool ignoresMouseEvents) {
     const bool isBounded = !compositingManager_.isRunning();
     const QRegion region =
         isBounded || !ignoresMouseEvents ? outlineRegion(outline, scale) : QRegion();
     shape_.setBounding(isBounded ? std::optional(region) : std::nullopt);
-    shape_.setInput(ignoresMouseEvents ? QRegion() : region);
+    shape_.setInput(ignoresMouseEvents ? QRegion()
+                    : isBounded        ? region
+                                       : region | reachRegion(reach, scale));
 }
 
 } // namespace brellowind::platform

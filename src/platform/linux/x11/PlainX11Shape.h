@@ -15,7 +15,8 @@ public:
     /// Calls `changed` when a compositing manager comes or goes.
     PlainX11Shape(const QWindow& window, std::function<void()> changed);
 
-    void update(const Path& outline, double scale, bool ignoresMouseEvents) override;
+    void update(const Path& outline, const std::vector<Rect>& reach, double scale,
+                bool ignoresMouseEvents) override;
 
 private:
     X11Connection x11_;

@@ -54,8 +54,9 @@ void X11Overlay::orderFrontRegardless() {
         native_->stayOnTop.raise();
 }
 
-void X11Overlay::setOutline(const Path& outline) {
+void X11Overlay::setOutline(const Path& outline, const std::vector<Rect>& reach) {
     outline_ = outline;
+    reach_ = reach;
     updateShape();
 }
 
@@ -102,7 +103,7 @@ void X11Overlay::forbidShadow() {
 
 void X11Overlay::updateShape() {
     if (native_)
-        native_->shape->update(outline_, window_.devicePixelRatio(), ignoresMouseEvents_);
+        native_->shape->update(outline_, reach_, window_.devicePixelRatio(), ignoresMouseEvents_);
 }
 
 void X11Overlay::updateVisibility() {

@@ -12,6 +12,7 @@
 #include <QWindow>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace brellowind::platform {
 
@@ -28,7 +29,7 @@ public:
     /// Does nothing while there is no screen.
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
-    void setOutline(const Path& outline) override;
+    void setOutline(const Path& outline, const std::vector<Rect>& reach) override;
     void present(const std::function<void()>& flush) override;
     void setIgnoresMouseEvents(bool ignores) override;
 
@@ -58,6 +59,7 @@ private:
     Subscription lockChange_;
     std::optional<Native> native_;
     Path outline_;
+    std::vector<Rect> reach_;
     bool ignoresMouseEvents_ = true;
     bool ordered_ = false; ///< in front, unless hidden for the time being
 };

@@ -3,6 +3,7 @@
 #include "platform/linux/x11/X11Connection.h"
 #include "platform/linux/x11/XWaylandHover.h"
 #include "platform/linux/x11/XWaylandShape.h"
+#include "platform/qt/OutlineRegion.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -18,8 +19,10 @@ public:
                   const QDBusConnection& sessionBus)
         : shape_(window), hover_(window, pointer, mainLoop, sessionBus) {}
 
-    void update(const Path& outline, double scale, bool /*ignoresMouseEvents*/) override {
-        shape_.update(outline, scale);
+    void update(const Path& outline, const std::vector<Rect>& reach, double scale,
+                bool ignoresMouseEvents) override {
+        const QRegion region = outlineRegion(outline, scale);
+        shape_.update(ignoresMouseEvents ? region : region | reachRegion(reach, scale));
     }
 
     void present(const std::function<void()>& flush) override { shape_.present(flush); }

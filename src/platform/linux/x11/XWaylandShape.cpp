@@ -1,7 +1,5 @@
 #include "platform/linux/x11/XWaylandShape.h"
 
-#include "platform/qt/OutlineRegion.h"
-
 #include <QCoreApplication>
 #include <qpa/qplatformwindow.h>
 
@@ -19,10 +17,6 @@ XWaylandShape::XWaylandShape(const QWindow& window)
     constexpr std::uint32_t transparent = 0;
     xcb_change_window_attributes(x11_.get(), window_, XCB_CW_BACK_PIXEL, &transparent);
     QCoreApplication::instance()->installNativeEventFilter(this);
-}
-
-void XWaylandShape::update(const Path& outline, double scale) {
-    shape_.setInput(outlineRegion(outline, scale));
 }
 
 void XWaylandShape::present(const std::function<void()>& flush) {

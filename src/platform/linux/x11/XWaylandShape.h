@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/Path.h"
 #include "platform/linux/x11/X11Shape.h"
 
 #include <QAbstractNativeEventFilter>
@@ -9,7 +8,7 @@
 
 namespace brellowind::platform {
 
-/// Lets a window take the pointer within an outline under GNOME's compositor, which looks at the
+/// Lets a window take the pointer within a part of it under GNOME's compositor, which looks at the
 /// input shape of a window when its size changes, and forgets it when the window shows something
 /// else at the same size.
 ///
@@ -21,8 +20,8 @@ public:
     /// The native window of `window` exists and outlives this.
     explicit XWaylandShape(const QWindow& window);
 
-    /// `outline` is in points of `scale` pixels.
-    void update(const Path& outline, double scale);
+    /// `input` is in pixels.
+    void update(const QRegion& input) { shape_.setInput(input); }
 
     /// Shows a frame: calls `flush`, which sends it to the X server.
     void present(const std::function<void()>& flush);

@@ -18,6 +18,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <optional>
+#include <vector>
 
 namespace brellowind::test {
 
@@ -88,9 +89,9 @@ protected:
         return beneath;
     }
 
-    void setOutline(const QRect& pill) {
+    void setOutline(const QRect& pill, const std::vector<Rect>& reach = {}) {
         window.pill = pill;
-        overlay.setOutline(rectanglePath(pill));
+        overlay.setOutline(rectanglePath(pill), reach);
         window.update();
     }
 

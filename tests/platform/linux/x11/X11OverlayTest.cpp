@@ -100,6 +100,23 @@ TEST_F(X11Overlay, TakesThePointerInTheNewOutlineWhenItChanges) {
     EXPECT_TRUE(input().isEmpty());
 }
 
+TEST_F(X11Overlay, TakesThePointerInItsReachToo) {
+    const CompositingManager compositing(x);
+    show();
+    setOutline(pillInWindow, {{90, 0, 220, 60}, {150, 50, 100, 20}});
+    const QRegion whole = QRegion(90, 0, 220, 60) | QRegion(150, 50, 100, 20);
+    EXPECT_TRUE(waitUntil([&] { return input() == whole; }));
+    overlay.setIgnoresMouseEvents(true);
+    EXPECT_TRUE(input().isEmpty());
+}
+
+TEST_F(X11Overlay, ReachesNoFurtherThanThePillWithoutACompositingManager) {
+    show();
+    setOutline(pillInWindow, {{90, 0, 220, 60}});
+    EXPECT_EQ(bounding(), QRegion(pillInWindow)) << "it would be black there";
+    EXPECT_EQ(input(), QRegion(pillInWindow));
+}
+
 TEST_F(X11Overlay, IgnoresThePointerUntilItIsToldOtherwise) {
     setOutline(pillInWindow);
     overlay.orderFrontRegardless();
