@@ -21,8 +21,12 @@ public:
     using PainterItem::PainterItem;
 
     void paint(QPainter& painter) override {
-        painter.setPen(QColor::fromRgbF(1, 1, 1, 0.12F));
+        // The fill goes on below the line at its edge, through which the desktop would shine.
+        painter.setPen(Qt::NoPen);
         painter.setBrush(QColor::fromRgbF(0.11F, 0.11F, 0.12F));
+        painter.drawRoundedRect(boundingRect(), PillMenu::radius, PillMenu::radius);
+        painter.setPen(QColor::fromRgbF(1, 1, 1, 0.12F));
+        painter.setBrush(Qt::NoBrush);
         constexpr double radius = PillMenu::radius - 0.5;
         painter.drawRoundedRect(boundingRect().adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     }

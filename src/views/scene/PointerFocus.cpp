@@ -30,7 +30,12 @@ void PointerFocus::press(QPointF position, Qt::MouseButton button) {
     move(position);
     if (pressed_)
         return; // it already is, by another button
-    pressed_ = topmost(root_, position, [button](auto& area) { return area.takes(button); });
+    auto* area = topmost(root_, position, [button](auto& found) { return found.takes(button); });
+    if (area && button == Qt::RightButton) {
+        area->requestMenu(position);
+        return;
+    }
+    pressed_ = area;
     button_ = button;
 }
 
@@ -38,7 +43,7 @@ void PointerFocus::release(QPointF position, Qt::MouseButton button) {
     if (pressed_ && button == button_) {
         TapArea& area = *std::exchange(pressed_, nullptr);
         if (area.contains(area.mapFromScene(position))) // otherwise the tap was cancelled
-            area.tap(button, position);
+            Q_EMIT area.tapped();
     }
     move(position);
 }

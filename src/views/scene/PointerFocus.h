@@ -11,8 +11,9 @@ class Item;
 class TapArea;
 
 /// Dispatches the pointer's events to a window's tap areas. A press goes to the topmost area under
-/// it that takes that button, and so does the release, wherever it happens. While no button is down
-/// the topmost area under the pointer that minds hovering is hovered.
+/// it that takes that button, and so does the release, wherever it happens; a press of the right
+/// button counts by itself. While no button is down the topmost area under the pointer that minds
+/// hovering is hovered.
 class PointerFocus {
 public:
     /// `root` is an ancestor of all areas and must outlive this.

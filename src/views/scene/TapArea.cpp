@@ -22,13 +22,6 @@ bool TapArea::takes(Qt::MouseButton button) const {
     return button == Qt::LeftButton || (takesRightButton_ && button == Qt::RightButton);
 }
 
-void TapArea::tap(Qt::MouseButton button, QPointF position) {
-    if (button == Qt::LeftButton)
-        Q_EMIT tapped();
-    else
-        Q_EMIT menuRequested(position);
-}
-
 void TapArea::visibilityChanged() {
     const bool visible = isVisible() && enabled_;
     if (!visible)

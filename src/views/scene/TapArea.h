@@ -26,8 +26,8 @@ public:
     void mindHovering() { mindsHovering_ = true; }
     void setHovered(bool hovered);
 
-    /// The button was pressed and released here; `position` is in points of the window.
-    void tap(Qt::MouseButton button, QPointF position);
+    /// The right button was pressed here; `position` is in points of the window.
+    void requestMenu(QPointF position) { Q_EMIT menuRequested(position); }
 
     QAccessible::Role accessibleRole() const override { return role_; }
     QString accessibleName() const override { return name_; }
@@ -41,7 +41,7 @@ Q_SIGNALS:
     /// The pointer has entered or left. Only from areas that mind hovering.
     void hoveredChanged(bool hovered);
 
-    /// A tap of the right button, if the area takes it; `position` is in points of the window.
+    /// A press of the right button, if the area takes it; `position` is in points of the window.
     void menuRequested(QPointF position);
 
 protected:

@@ -8,9 +8,17 @@ void Person::pointAt(QPoint pixel) {
     fake(XCB_MOTION_NOTIFY, 0, pixel);
 }
 
-void Person::press(int button) {
+void Person::hold(int button) {
     fake(XCB_BUTTON_PRESS, button, {});
+}
+
+void Person::release(int button) {
     fake(XCB_BUTTON_RELEASE, button, {});
+}
+
+void Person::press(int button) {
+    hold(button);
+    release(button);
 }
 
 void Person::pressAt(QPoint pixel, int button) {

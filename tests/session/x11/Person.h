@@ -15,6 +15,10 @@ public:
     /// Moves the pointer to a pixel.
     void pointAt(QPoint pixel);
 
+    /// Presses a button where the pointer is and keeps it down, until it is released.
+    void hold(int button = primary);
+    void release(int button = primary);
+
     /// Presses and releases a button where the pointer is.
     void press(int button = primary);
 

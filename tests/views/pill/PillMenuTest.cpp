@@ -61,6 +61,36 @@ TEST_F(PillMenuTest, OpensOnASecondaryClickAnywhereOnThePill) {
     EXPECT_EQ(machine.spotify.toggles(), 0U);
 }
 
+TEST_F(PillMenuTest, OpensOnThePressWhereverTheButtonIsReleased) {
+    const QPoint at = onWindow(pill(), {150, 40});
+    QTest::mousePress(&window, Qt::RightButton, {}, at);
+    ASSERT_NE(menu(), nullptr);
+    EXPECT_TRUE(menu()->isVisible());
+    EXPECT_EQ(windowSystem.poppedUpAt, (Point{double(at.x()), double(at.y())}));
+    const auto before = form();
+    QTest::mouseRelease(&window, Qt::RightButton, {}, at + QPoint(60, 0));
+    machine.runTurns();
+    EXPECT_TRUE(menu()->isVisible());
+    EXPECT_EQ(form(), before);
+    menu()->close();
+    click(onWindow(pill(), {130, 15}));
+    EXPECT_TRUE(form().isMinimized) << "the next press acts as ever";
+}
+
+TEST_F(PillMenuTest, IsFilledToItsEdgeUnderTheLineThatRunsThere) {
+    open();
+    QCoreApplication::processEvents();
+    const QImage image = menu()->grab();
+    const double ratio = image.devicePixelRatio();
+    const int middle = image.height() / 2;
+    const int first = qAlpha(image.pixel(0, middle));
+    const int last = qAlpha(image.pixel(image.width() - 1, middle));
+    EXPECT_EQ(first, 255) << "nothing of the desktop shines through";
+    EXPECT_EQ(last, 255);
+    EXPECT_GT(qGray(image.pixel(0, middle)), qGray(image.pixel(int(3 * ratio), middle)));
+    EXPECT_EQ(qAlpha(image.pixel(0, 0)), 0) << "its corners are round";
+}
+
 TEST_F(PillMenuTest, OpensInTheArtworkPanelAndWhileMinimized) {
     click(artwork());
     settle();

@@ -7,17 +7,19 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <xcb/xinput.h>
 
 namespace brellowind::platform {
 namespace {
 
-/// All that a rectangle with round corners touches. What it only touches in part shows little of
-/// what is behind the corners.
+/// What a rectangle with round corners covers as a whole: what it covers in part would be mixed
+/// with black.
 QRegion roundedRegion(QSize size, double radius) {
     QRegion region(QRect(QPoint(0, 0), size));
     for (int y = 0; y < radius; ++y) {
-        const double rise = std::max(0.0, radius - (y + 1));
-        const int cut = static_cast<int>(radius - std::sqrt(radius * radius - rise * rise));
+        const double rise = radius - y; // of the row's outer edge
+        const double run = std::sqrt(radius * radius - rise * rise);
+        const int cut = static_cast<int>(std::ceil(radius - run));
         for (const int row : {y, size.height() - 1 - y}) {
             region -= QRect(0, row, cut, 1);
             region -= QRect(size.width() - cut, row, cut, 1);
@@ -32,13 +34,20 @@ QPoint placeWithin(const QRect& area, QPoint corner, QSize size) {
             std::max(area.y(), std::min(corner.y(), area.y() + area.height() - size.height()))};
 }
 
-/// Whether the server would let `window` grab the pointer, which Qt's own grab does not tell.
+/// Whether the server would let `window` grab the pointer, which Qt's own grab does not tell. It is
+/// a grab of the same kind as Qt's, so that the program may hold the pointer already, by a button
+/// that is down.
 bool isPointerFree(const X11Connection& x11, xcb_window_t window) {
-    const auto answer = x11.ask<xcb_grab_pointer, xcb_grab_pointer_reply>(
-        std::uint8_t(0), window, std::uint16_t(0), std::uint8_t(XCB_GRAB_MODE_ASYNC),
-        std::uint8_t(XCB_GRAB_MODE_ASYNC), xcb_window_t(XCB_WINDOW_NONE),
-        xcb_cursor_t(XCB_CURSOR_NONE), xcb_timestamp_t(XCB_CURRENT_TIME));
-    xcb_ungrab_pointer(x11.get(), XCB_CURRENT_TIME); // Qt's grab is of another kind
+    const auto pointer =
+        x11.ask<xcb_input_xi_get_client_pointer, xcb_input_xi_get_client_pointer_reply>(
+            xcb_window_t(XCB_WINDOW_NONE));
+    if (!pointer)
+        return false;
+    const std::uint32_t events = 0;
+    const auto answer = x11.ask<xcb_input_xi_grab_device, xcb_input_xi_grab_device_reply>(
+        window, xcb_timestamp_t(XCB_CURRENT_TIME), xcb_cursor_t(XCB_CURSOR_NONE), pointer->deviceid,
+        std::uint8_t(XCB_INPUT_GRAB_MODE_22_ASYNC), std::uint8_t(XCB_INPUT_GRAB_MODE_22_ASYNC),
+        std::uint8_t(XCB_INPUT_GRAB_OWNER_NO_OWNER), std::uint16_t(1), &events);
     return answer && answer->status == XCB_GRAB_STATUS_SUCCESS;
 }
 
@@ -57,7 +66,9 @@ void X11Popup::show(const Popup& popup) {
     window.setPosition(
         placeWithin((at ? at : popup.overlay.screen())->geometry(), corner, window.size()));
     window.create(); // what is not there yet has no mask
-    window.setMask(roundedRegion(window.size(), popup.cornerRadius));
+    window.setMask(compositingManager_.isRunning()
+                       ? QRegion()
+                       : roundedRegion(window.size(), popup.cornerRadius));
     window_ = &window;
     qGuiApp->installEventFilter(this);
     window.show();

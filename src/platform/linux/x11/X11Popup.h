@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/WindowSystem.h"
+#include "platform/linux/x11/CompositingManager.h"
 #include "platform/linux/x11/X11Connection.h"
 
 #include <QObject>
@@ -26,6 +27,7 @@ private:
     bool handleKey(const QObject* receiver, QEvent* event);
 
     X11Connection x11_;
+    CompositingManager compositingManager_{x11_, [] {}};
     QPointer<QWindow> window_; ///< while it is shown
     bool held_ = false;
 };

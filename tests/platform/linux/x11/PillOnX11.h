@@ -37,6 +37,7 @@ class GreenWindow : public QRasterWindow {
 public:
     QRect pill;
     std::function<void()> onPointer = [] {}; ///< entered or moved
+    std::function<void()> onPress = [] {};
     int presses = 0;
 
 protected:
@@ -47,7 +48,10 @@ protected:
         painter.fillRect(pill, Qt::green);
     }
 
-    void mousePressEvent(QMouseEvent*) override { ++presses; }
+    void mousePressEvent(QMouseEvent*) override {
+        ++presses;
+        onPress();
+    }
 
     bool event(QEvent* event) override {
         if (event->type() == QEvent::Enter || event->type() == QEvent::MouseMove)

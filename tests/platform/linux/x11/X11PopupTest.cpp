@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QShortcut>
+#include <cmath>
 
 namespace brellowind::test {
 namespace {
@@ -140,14 +141,48 @@ TEST_F(X11Popup, CanBeShownAgain) {
     EXPECT_TRUE(closes());
 }
 
-TEST_F(X11Popup, HasRoundCorners) {
+TEST_F(X11Popup, OpensWhileAButtonIsHeldOnTheOverlay) {
+    show();
+    window.onPress = [this] { popUp(); };
+    person.pointAt(onPill);
+    person.hold(Person::secondary);
+    ASSERT_TRUE(waitUntil([this] { return holdsPointer(); }));
+    runFor(std::chrono::milliseconds(100));
+    EXPECT_TRUE(menu.isVisible());
+    person.release(Person::secondary);
+    runFor(std::chrono::milliseconds(50));
+    EXPECT_TRUE(menu.isVisible());
+    window.onPress = [] {};
+    PlainWindow other(display, {0, 500, 400, 200}, PlainWindow::Kind::unmanaged);
+    person.pressAt({100, 600});
+    EXPECT_TRUE(closes()) << "it holds the pointer";
+    EXPECT_EQ(other.presses(), 0);
+    person.pressAt({100, 600});
+    EXPECT_TRUE(waitUntil([&] { return other.presses() == 1; })) << "the pointer is free again";
+}
+
+TEST_F(X11Popup, IsWithoutACompositingManagerWhatItsRoundCornersCoverAsAWhole) {
     openMenu();
     settle();
     const auto shape = x.shape(static_cast<xcb_window_t>(menu.winId()), XCB_SHAPE_SK_BOUNDING);
-    EXPECT_FALSE(shape.contains(QPoint(0, 0)));
-    EXPECT_FALSE(shape.contains(QPoint(199, 89)));
-    EXPECT_TRUE(shape.contains(QPoint(10, 0)));
+    constexpr double radius = 10;
+    for (int row = 0; row < radius; ++row)
+        for (int column = 0; column < radius; ++column) {
+            const bool whole = std::hypot(radius - column, radius - row) <= radius;
+            for (const QPoint pixel : {QPoint(column, row), QPoint(199 - column, row),
+                                       QPoint(column, 89 - row), QPoint(199 - column, 89 - row)})
+                EXPECT_EQ(shape.contains(pixel), whole) << pixel.x() << ", " << pixel.y();
+        }
+    EXPECT_TRUE(shape.contains(QPoint(100, 0)));
     EXPECT_TRUE(shape.contains(QPoint(0, 45)));
+}
+
+TEST_F(X11Popup, IsWithACompositingManagerTheWholeRectangle) {
+    const CompositingManager compositing(x);
+    openMenu();
+    settle();
+    EXPECT_EQ(x.shape(static_cast<xcb_window_t>(menu.winId()), XCB_SHAPE_SK_BOUNDING),
+              QRegion(QRect(QPoint(0, 0), menuSize)));
 }
 
 } // namespace
