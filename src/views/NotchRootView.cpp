@@ -72,6 +72,11 @@ void NotchRootView::tapCover() {
     change(form_.isArtExpanded, true);
 }
 
+void NotchRootView::tapWaveform() {
+    if (environment_.nowPlaying->track.get())
+        environment_.nowPlaying->togglePlayPause();
+}
+
 void NotchRootView::tapGrabber() {
     if (form_.isArtExpanded)
         tapArtwork();

@@ -85,8 +85,8 @@ public:
     /// Opens the artwork panel.
     void tapCover();
 
-    /// Plays or pauses.
-    void tapWaveform() { environment_.nowPlaying->togglePlayPause(); }
+    /// Plays or pauses, if there is a track.
+    void tapWaveform();
 
     /// Closes the artwork panel, else minimises or restores the pill.
     void tapGrabber();

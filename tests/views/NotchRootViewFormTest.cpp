@@ -166,6 +166,22 @@ TEST(NotchRootViewTap, OnTheIndicatorPlaysAndPausesAtOnce) {
     EXPECT_EQ(view.spotify.toggles(), 2U);
 }
 
+TEST(NotchRootViewTap, OnTheIndicatorWithoutATrackDoesNothing) {
+    View view;
+    view.spotify.quit();
+    view.appear();
+    view.view.tapWaveform();
+    view.advance(1s);
+    EXPECT_FALSE(view.view.nowPlaying().isPlaying.get());
+    EXPECT_EQ(view.spotify.toggles(), 0U);
+    EXPECT_FALSE(view.form().playPulse);
+    view.spotify.launch();
+    view.advance(1s);
+    view.view.tapWaveform();
+    view.runTurns();
+    EXPECT_EQ(view.spotify.toggles(), 1U) << "now there is one";
+}
+
 TEST(NotchRootViewTap, OnTheIndicatorOfTheArtworkPanelKeepsItOpen) {
     View view;
     view.appear();
