@@ -86,13 +86,12 @@ void NotchRootView::tapGrabber() {
 
 void NotchRootView::openSettings() {
     environment_.application.activate();
+    environment_.router.setSelectedTab(SettingsTab::general);
     environment_.openSettings();
 }
 
 void NotchRootView::checkForUpdates() {
-    environment_.application.activate();
-    environment_.router.setSelectedTab(SettingsTab::general);
-    environment_.openSettings();
+    openSettings();
     environment_.tasks.start(environment_.updater.check());
 }
 

@@ -99,7 +99,7 @@ public:
 
     bool checksForUpdates() const { return environment_.updater.hasFeed(); }
 
-    // The entries of the context menu.
+    // The entries of the context menu. The settings show their General tab.
     void openSettings();
     void checkForUpdates(); ///< shows the check in the settings window
     void quit() { environment_.application.terminate(); }

@@ -9,17 +9,20 @@ namespace {
 
 using test::View;
 
-TEST(NotchRootViewMenu, OpensTheSettingsAfterTheProgramHasComeToTheFront) {
+TEST(NotchRootViewMenu, OpensTheSettingsOnTheGeneralTabAfterTheProgramHasComeToTheFront) {
     View view;
     view.parts.router.setSelectedTab(SettingsTab::about);
     int activations = 0;
-    view.onSettingsOpening = [&] { activations = view.machine.application.activations; };
+    auto tab = SettingsTab::about;
+    view.onSettingsOpening = [&] {
+        activations = view.machine.application.activations;
+        tab = view.parts.router.selectedTab.get();
+    };
     view.view.openSettings();
     EXPECT_EQ(view.settingsOpenings, 1);
     EXPECT_EQ(activations, 1);
     EXPECT_EQ(view.machine.application.activations, 1);
-    EXPECT_EQ(view.parts.router.selectedTab.get(), SettingsTab::about)
-        << "the tab stays as it was left";
+    EXPECT_EQ(tab, SettingsTab::general) << "chosen before the settings open";
     EXPECT_EQ(view.requests(), 0U);
 }
 
