@@ -6,6 +6,14 @@
 #include <utility>
 
 namespace brellowind {
+namespace {
+
+auto firstAfter(const std::vector<LyricLine>& lines, double seconds) {
+    return std::ranges::partition_point(
+        lines, [seconds](double time) { return time <= seconds; }, &LyricLine::time);
+}
+
+} // namespace
 
 LyricsStore::LyricsStore(TaskRunner& tasks, platform::HttpClient& http,
                          const platform::ProductConstants& constants)
@@ -39,12 +47,17 @@ Task<void> LyricsStore::fetchInto(std::weak_ptr<LyricsStore> weakStore, Task<Lyr
 }
 
 std::optional<std::size_t> LyricsStore::activeIndex(double seconds) const {
-    const auto& all = lines();
-    const auto next = std::ranges::partition_point(
-        all, [seconds](double time) { return time <= seconds; }, &LyricLine::time);
-    if (next == all.begin())
+    const auto next = firstAfter(lines(), seconds);
+    if (next == lines().begin())
         return std::nullopt;
-    return static_cast<std::size_t>(next - all.begin()) - 1;
+    return static_cast<std::size_t>(next - lines().begin()) - 1;
+}
+
+std::optional<double> LyricsStore::nextTime(double seconds) const {
+    const auto next = firstAfter(lines(), seconds);
+    if (next == lines().end())
+        return std::nullopt;
+    return next->time;
 }
 
 } // namespace brellowind

@@ -38,6 +38,9 @@ public:
     /// The index of the last line whose time is not after `seconds`, if there is one.
     std::optional<std::size_t> activeIndex(double seconds) const;
 
+    /// The time of the first line that is after `seconds`, if there is one.
+    std::optional<double> nextTime(double seconds) const;
+
     Published<State, LyricsStore> state{State::idle()};
 
 private:

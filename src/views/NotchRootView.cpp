@@ -58,6 +58,12 @@ std::string_view NotchRootView::currentLineText() const {
     return track->title;
 }
 
+std::optional<double> NotchRootView::timeUntilNextLine() const {
+    const double position = environment_.nowPlaying->positionSec.get();
+    const auto next = environment_.lyrics->nextTime(position);
+    return next ? std::optional(*next - position) : std::nullopt;
+}
+
 Subscription NotchRootView::onRedraw(Observers::Callback redraw) {
     return redraw_->add(std::move(redraw));
 }

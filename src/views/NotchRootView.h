@@ -67,6 +67,10 @@ public:
     /// The text of the pill, UTF-8, valid until the next turn of the main loop. Allocates nothing.
     std::string_view currentLineText() const;
 
+    /// In how many seconds of playback the next line of the lyrics begins; none after the last one,
+    /// and without lyrics.
+    std::optional<double> timeUntilNextLine() const;
+
     const Form& form() const { return form_; }
     const NowPlaying& nowPlaying() const { return *environment_.nowPlaying; }
     const LyricsStore& lyrics() const { return *environment_.lyrics; }

@@ -286,6 +286,20 @@ TEST(LyricsStoreActiveIndex, IsTheLastLineThatHasBegun) {
     EXPECT_EQ(active(std::numeric_limits<double>::quiet_NaN()), std::nullopt);
 }
 
+TEST(LyricsStoreNextTime, IsThatOfTheFirstLineStillToCome) {
+    Store store;
+    EXPECT_EQ(store.lyrics->nextTime(0), std::nullopt) << "no lyrics";
+    store.loadAnswered(track("A"), synced(R"([00:01.00]a\n[00:02.00]b\n[00:02.00]c\n[00:03.00]d)"));
+    const auto next = [&](double seconds) { return store.lyrics->nextTime(seconds); };
+    EXPECT_EQ(next(-infinity), 1);
+    EXPECT_EQ(next(0.5), 1);
+    EXPECT_EQ(next(1), 2);
+    EXPECT_EQ(next(1.999), 2);
+    EXPECT_EQ(next(2), 3);
+    EXPECT_EQ(next(3), std::nullopt) << "after the last";
+    EXPECT_EQ(next(infinity), std::nullopt);
+}
+
 TEST(LyricsStoreActiveIndex, OfASingleLine) {
     Store store;
     store.loadAnswered(track("A"), synced("[00:00.00]a"));

@@ -95,6 +95,27 @@ QImage longLineInPanel(PillStage& stage) {
     return stage.pill();
 }
 
+const auto endlessLine = QStringLiteral(
+    "and somebody left a saucer on the windowsill for the moon, and the moon came down to "
+    "drink, and the cat looked on, and nobody in the whole of the street said a word");
+const auto endlessArabic = QString::fromUtf8(
+    "ارفع الضوء عاليا في آخر الطريق وقل للقمر أن ينزل إلى النافذة ليشرب من الصحن الصغير، والقطة "
+    "تنظر إليه ولا يقول أحد في الشارع كله كلمة");
+
+/// How the pill, or its panel, looks so many seconds after a song with a long line began.
+std::function<QImage(PillStage&)> glide(const QString& line, double seconds, bool inPanel = false) {
+    return [line, seconds, inPanel](PillStage& stage) {
+        if (inPanel)
+            stage.view().tapCover();
+        stage.play(QStringLiteral("Paper Lanterns for Everybody Who Could Not Come Tonight"),
+                   QStringLiteral("The Windowsill Quartet and the Kettles of the Lower Street"),
+                   QStringLiteral("[00:00.00]") + line, true);
+        for (int i = 0; i < 60 * seconds; ++i)
+            stage.step();
+        return stage.pill();
+    };
+}
+
 const Look looks[] = {
     {"no-music", noMusic},
     {"default", line("Hold the light, hold it low")},
@@ -105,9 +126,16 @@ const Look looks[] = {
     {"loading", loading},
     {"note", note},
     {"wide-line", line("Now the kettle keeps the tempo, now the rain has learned the tune")},
-    {"line-wider-than-the-window",
-     line("and somebody left a saucer on the windowsill for the moon, and the moon came down to "
-          "drink, and the cat looked on, and nobody in the whole of the street said a word")},
+    {"long-line-beginning", glide(endlessLine, 2)},
+    {"long-line-middle", glide(endlessLine, 6)},
+    {"long-line-end", glide(endlessLine, 20)},
+    {"long-arabic-beginning", glide(endlessArabic, 2)},
+    {"long-arabic-middle", glide(endlessArabic, 4)},
+    {"long-arabic-end", glide(endlessArabic, 20)},
+    {"artwork-long-beginning", glide(endlessLine, 2, true)},
+    {"artwork-long-middle", glide(endlessLine, 4, true)},
+    {"artwork-long-end", glide(endlessLine, 30, true)},
+    {"artwork-long-arabic", glide(endlessArabic, 4, true)},
     {"arabic", line("ارفع الضوء عاليا في آخر الطريق")},
     {"hebrew", line("תחזיק את האור נמוך, 7 רחובות מכאן")},
     {"chinese-japanese-korean", line("夜に駆ける 明日へ 把灯举起来 불을 낮게 들어")},

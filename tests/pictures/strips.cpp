@@ -11,8 +11,6 @@ using namespace brellowind::test;
 
 namespace {
 
-constexpr int columns = 6;
-
 /// A motion, how it begins, and how many sixtieths of a second are worth seeing.
 struct Motion {
     const char* name;
@@ -20,6 +18,8 @@ struct Motion {
     std::function<void(PillStage&)> begin;
     int frames;
     QRectF seen; ///< of the window, in points
+    int columns = 6;
+    int steps = 1; ///< sixtieths of a second from one picture to the next
 };
 
 void sing(PillStage& stage) {
@@ -34,10 +34,21 @@ void singTwo(PillStage& stage) {
     stage.rest();
 }
 
+/// A line that is wider than the window, with another one 6 seconds later.
+void singLong(PillStage& stage) {
+    stage.play(
+        QStringLiteral("Song"), QStringLiteral("Artist"),
+        QStringLiteral("[00:00.00]and somebody left a saucer on the windowsill for the moon, "
+                       "and the moon came down to drink, and the cat looked on\n"
+                       "[00:06.00]Hold the light, hold it low"),
+        true);
+}
+
 void nothing(PillStage&) {}
 
 constexpr QRectF narrow(140, 0, 360, 104);
 constexpr QRectF wide(100, 0, 440, 76);
+constexpr QRectF whole(0, 0, 640, 76);
 constexpr QRectF panel(120, 0, 400, 470);
 
 const Motion motions[] = {
@@ -70,6 +81,7 @@ const Motion motions[] = {
      QRectF(170, 0, 80, 60)},
     {"waveform-hover", sing, [](PillStage& stage) { stage.view().hoverWaveform(true); }, 24,
      QRectF(400, 0, 80, 60)},
+    {"glide", singLong, nothing, 28, whole, 2, 15},
 };
 
 /// The frames of a motion from left to right and from top to bottom.
@@ -79,15 +91,17 @@ QImage strip(const Motion& motion) {
     motion.begin(stage);
     const double scale = QGuiApplication::primaryScreen()->devicePixelRatio();
     const QSize frame = (motion.seen.size() * scale).toSize();
-    const int rows = (motion.frames + columns - 1) / columns;
-    QImage all(frame.width() * columns, frame.height() * rows, QImage::Format_RGB32);
+    const int rows = (motion.frames + motion.columns - 1) / motion.columns;
+    QImage all(frame.width() * motion.columns, frame.height() * rows, QImage::Format_RGB32);
     all.fill(Qt::white);
     QPainter painter(&all);
     for (int i = 0; i < motion.frames; ++i) {
         QImage shown = cropped(stage.window(), motion.seen);
         shown.setDevicePixelRatio(1);
-        painter.drawImage(i % columns * frame.width(), i / columns * frame.height(), shown);
-        stage.step();
+        painter.drawImage(i % motion.columns * frame.width(), i / motion.columns * frame.height(),
+                          shown);
+        for (int step = 0; step < motion.steps; ++step)
+            stage.step();
     }
     return all;
 }

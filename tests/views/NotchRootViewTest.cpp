@@ -124,6 +124,28 @@ TEST(NotchRootViewText, SaysThatNothingPlaysFromTheReadingThatMissesThePlayer) {
     EXPECT_EQ(view.text(), "No music playing");
 }
 
+TEST(NotchRootViewText, KnowsInHowManySecondsTheNextLineComes) {
+    View view;
+    view.spotify.position = 5;
+    view.appear();
+    EXPECT_EQ(view.view.timeUntilNextLine(), std::nullopt) << "no lyrics yet";
+    view.machine.http.answer(0, synced(R"([00:07.00]one\n[00:12.50]two)"));
+    view.runTurns();
+    EXPECT_EQ(view.view.timeUntilNextLine(), 2) << "before the first";
+    const auto seekTo = [&](double seconds) {
+        view.spotify.position = seconds;
+        view.advance(1s);
+    };
+    seekTo(8);
+    EXPECT_EQ(view.view.timeUntilNextLine(), 4.5);
+    seekTo(13);
+    EXPECT_EQ(view.view.timeUntilNextLine(), std::nullopt) << "after the last";
+    seekTo(8);
+    view.spotify.quit();
+    view.advance(1s);
+    EXPECT_EQ(view.view.timeUntilNextLine(), std::nullopt) << "the song is over";
+}
+
 TEST(NotchRootViewLoad, IsStartedOncePerSong) {
     View view;
     view.spotify.plays = true;

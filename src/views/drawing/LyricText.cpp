@@ -1,5 +1,6 @@
 #include "views/drawing/LyricText.h"
 
+#include "views/drawing/SoftEnds.h"
 #include "views/scene/SceneWindow.h"
 
 #include <QFontMetricsF>
@@ -9,12 +10,23 @@
 #include <utility>
 
 namespace brellowind {
+namespace {
+
+/// Over how many points a text fades where it is cut.
+constexpr double softness = 24;
+
+/// A glide counts as a motion by so many points per second, for which it gets 30 frames a second:
+/// at the pace of reading these are steps of two whole points.
+constexpr double glideSpeed = 15;
+
+} // namespace
 
 LyricText::LyricText(Look look, const QString& text, bool present, FrameDriver& frames,
                      Item* parent)
     : PainterItem(parent), frames_(frames), look_(std::move(look)), text_(text), present_(present) {
-    layers_.emplace_back(text_, look_.font, look_.maximumWidth, present_ ? 1.0 : 0.0);
+    layers_.emplace_back(text_, look_.font, present_ ? 1.0 : 0.0);
     followSize();
+    beginGlide();
 }
 
 LyricText::~LyricText() {
@@ -30,14 +42,16 @@ void LyricText::setText(const QString& text) {
     layers_.back().goAway(now);
     const auto leaving = std::ranges::find(layers_, text_, &TextLayer::text);
     if (leaving == layers_.end())
-        layers_.emplace_back(text_, look_.font, look_.maximumWidth, 0.0);
+        layers_.emplace_back(text_, look_.font, 0.0);
     else
         layers_.splice(layers_.end(), layers_, leaving);
     if (present_)
         layers_.back().comeIn(now);
     followSize();
+    beginGlide();
     frames_.drive(*this);
-    announceName(*this);
+    if (isAvailable())
+        announceName(*this);
 }
 
 void LyricText::setPresent(bool present) {
@@ -45,36 +59,99 @@ void LyricText::setPresent(bool present) {
         return;
     present_ = present;
     const double now = frames_.now();
-    if (present_)
+    if (present_) {
         layers_.back().comeIn(now);
-    else
+        beginGlide();
+    } else {
         layers_.back().goAway(now);
+    }
     frames_.drive(*this);
 }
 
+void LyricText::setRoom(double width) {
+    if (width == look_.room)
+        return;
+    look_.room = width;
+    followSize();
+    beginGlide();
+    update();
+}
+
+void LyricText::setHeld(bool held) {
+    if (held == held_)
+        return;
+    held_ = held;
+    lastGlide_ = frames_.now();
+    if (mayGlide())
+        frames_.drive(*this);
+}
+
 void LyricText::visibilityChanged() {
-    announceVisibility(*this, isVisible());
+    if (isVisible())
+        beginGlide();
+    if (isAvailable())
+        announceVisibility(*this, isVisible());
 }
 
 void LyricText::followSize() {
-    setSize({std::ceil(naturalWidth()), std::ceil(QFontMetricsF(look_.font).height())});
+    setSize({std::min(std::ceil(naturalWidth()), look_.room),
+             std::ceil(QFontMetricsF(look_.font).height())});
+}
+
+bool LyricText::mayGlide() const {
+    return naturalWidth() > look_.room && present_ && !held_ && isVisible();
+}
+
+/// From the beginning of the text, with the next frame.
+void LyricText::beginGlide() {
+    glide_.reset();
+    layers_.back().setOffset(0);
+    if (mayGlide())
+        frames_.drive(*this);
+}
+
+std::optional<double> LyricText::glide(double now) {
+    if (!mayGlide())
+        return std::nullopt;
+    if (!glide_) {
+        glide_.emplace(naturalWidth() - look_.room, timeLeft_());
+        glided_ = 0;
+    } else {
+        glided_ += now - lastGlide_;
+    }
+    lastGlide_ = now;
+    layers_.back().setOffset(glide_->offset(glided_));
+    if (glide_->isOver(glided_))
+        return std::nullopt;
+    return glide_->hasBegun(glided_) ? glideSpeed : 0;
 }
 
 std::optional<double> LyricText::advance(double now) {
     std::optional<double> fastest;
-    for (auto& layer : layers_)
+    bool changed = false;
+    for (auto& layer : layers_) {
+        changed |= !layer.isResting();
         fastest = std::max(fastest, layer.advance(now)); // no value is less than any speed
+    }
     while (layers_.size() > 1 && layers_.front().isGone())
         layers_.pop_front();
-    update();
+    const double before = layers_.back().offset();
+    fastest = std::max(fastest, glide(now));
+    if (changed || layers_.back().offset() != before)
+        update();
     return fastest;
+}
+
+double LyricText::visibleWidth(const TextLayer& layer) const {
+    return layer.width() > look_.room ? look_.room + 2 * softReach : layer.width();
 }
 
 QRectF LyricText::paintedRect() const {
     QRectF all;
     for (const auto& layer : layers_) {
         const double overhang = layer.overhang();
-        const double beside = (layer.width() - width()) / 2 + overhang;
+        const double beside =
+            (visibleWidth(layer) - width()) / 2 + (layer.width() > look_.room ? 0 : overhang);
         all |= boundingRect().adjusted(-beside, -overhang, beside, overhang);
     }
     return all;
@@ -85,7 +162,28 @@ void LyricText::paint(QPainter& painter) {
     const double left = fromWindow.map(QPointF(0, 0)).x();
     const double right = window() ? fromWindow.map(QPointF(window()->width(), 0)).x() : width();
     for (auto& layer : layers_)
-        layer.paint(painter, look_.color, width() / 2, 0, left, right);
+        if (layer.width() > look_.room)
+            paintCut(layer, painter);
+        else
+            layer.paint(painter, look_.color, width() / 2, 0, left, right);
+}
+
+/// An end of the text that is in the room lies clear of the fade beside it.
+void LyricText::paintCut(TextLayer& layer, QPainter& painter) const {
+    const double hidden = layer.width() - look_.room;
+    const double hiddenLeft = layer.isRightToLeft() ? hidden - layer.offset() : layer.offset();
+    const auto fade = [](double hiddenBeside) {
+        return std::min(softness, softReach + hiddenBeside);
+    };
+    const double left = (width() - look_.room) / 2;
+    const double overhang = layer.overhang();
+    const QRectF seen(left - softReach, -overhang, look_.room + 2 * softReach,
+                      height() + 2 * overhang);
+    paintWithSoftEnds(painter, {seen, fade(hiddenLeft), fade(hidden - hiddenLeft)},
+                      [&](QPainter& inside) {
+                          layer.paint(inside, look_.color, left - hiddenLeft + layer.width() / 2, 0,
+                                      seen.left(), seen.right());
+                      });
 }
 
 } // namespace brellowind

@@ -22,6 +22,10 @@ constexpr double smallestScale = 0.92; ///< of a line that is away
 /// its spring has a 26th of the amplitude of the one before.
 constexpr double unseenSwing = 0.1;
 
+/// In characters: drawing what is not seen of such a text takes no time worth saving.
+constexpr qsizetype shortText = 256;
+constexpr qsizetype glyphsInPiece = 32;
+
 /// By how many points glyphs may extend beyond the line's rectangle.
 constexpr double inkOverhang = 6;
 
@@ -61,12 +65,9 @@ QImage tinted(const QImage& coverage, QColor color) {
 
 } // namespace
 
-TextLayer::TextLayer(const QString& text, const QFont& font, double maximumWidth, double presence)
+TextLayer::TextLayer(const QString& text, const QFont& font, double presence)
     : text_(text), presence_(springs::morph, presence), shown_(presence) {
-    QString line = singleLine(text);
-    if (maximumWidth > 0)
-        line = QFontMetricsF(font).elidedText(line, Qt::ElideRight, maximumWidth);
-    layout_.setText(line);
+    layout_.setText(singleLine(text));
     layout_.setFont(font);
     layout_.setCacheEnabled(true);
     QTextOption option;
@@ -84,6 +85,26 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double maximumWidth
         only.setLineWidth(width_);
     }
     layout_.endLayout();
+    if (layout_.text().size() > shortText)
+        takeApart();
+}
+
+void TextLayer::takeApart() {
+    for (const QGlyphRun& run : layout_.glyphRuns()) {
+        const auto glyphs = run.glyphIndexes();
+        const auto positions = run.positions();
+        for (qsizetype first = 0; first < glyphs.size(); first += glyphsInPiece) {
+            QGlyphRun& piece = pieces_.emplace_back();
+            piece.setRawFont(run.rawFont());
+            piece.setGlyphIndexes(glyphs.mid(first, glyphsInPiece));
+            piece.setPositions(positions.mid(first, glyphsInPiece));
+            piece.setBoundingRect(piece.boundingRect()); // computed once
+        }
+    }
+}
+
+bool TextLayer::isRightToLeft() const {
+    return layout_.text().isRightToLeft();
 }
 
 void TextLayer::moveTo(double presence, double now) {
@@ -111,7 +132,7 @@ void TextLayer::paint(QPainter& painter, QColor color, double centre, double top
     // Rounding the left end, not the middle, keeps a line of any width on whole pixels.
     const QPointF origin = onPixel(painter, QPointF(centre - width_ / 2, top));
     if (resting_)
-        paintSharp(painter, color, origin);
+        paintSharp(painter, color, origin, left, right);
     else
         paintMoving(painter, color, origin, QRectF(left, top, right - left, 0));
     painter.restore();
@@ -139,9 +160,16 @@ double TextLayer::scale() const {
     return smallestScale + (1 - smallestScale) * std::clamp(shown_ / sharp, 0.0, 1.0);
 }
 
-void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin) const {
+void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin, double left,
+                           double right) const {
     painter.setPen(color);
-    layout_.draw(&painter, origin);
+    if (pieces_.empty())
+        layout_.draw(&painter, origin);
+    for (const QGlyphRun& piece : pieces_) {
+        const QRectF rect = piece.boundingRect().translated(origin);
+        if (rect.right() >= left && rect.left() <= right)
+            painter.drawGlyphRun(origin, piece);
+    }
 }
 
 void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen) {
@@ -182,7 +210,7 @@ void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::TextAntialiasing);
-        paintSharp(painter, in, -part.topLeft());
+        paintSharp(painter, in, -part.topLeft(), 0, part.width());
         return image;
     };
     // Nearly all text has one colour; emoji have their own. To blur one channel instead of four

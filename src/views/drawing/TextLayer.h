@@ -4,10 +4,12 @@
 
 #include <QColor>
 #include <QFont>
+#include <QGlyphRun>
 #include <QImage>
 #include <QString>
 #include <QTextLayout>
 #include <optional>
+#include <vector>
 
 class QPainter;
 
@@ -17,18 +19,25 @@ namespace brellowind {
 /// it is away, sharp and opaque when it is there.
 class TextLayer {
 public:
-    /// `presence` is its initial state: 0 away, 1 there. A `maximumWidth` above 0 ends a wider line
-    /// in an ellipsis.
-    TextLayer(const QString& text, const QFont& font, double maximumWidth, double presence);
+    /// `presence` is its initial state: 0 away, 1 there.
+    TextLayer(const QString& text, const QFont& font, double presence);
 
     const QString& text() const { return text_; }
     double width() const { return width_; }
+    bool isRightToLeft() const;
+
+    /// How far it has glided from its beginning, in points.
+    double offset() const { return offset_; }
+    void setOffset(double offset) { offset_ = offset; }
 
     void comeIn(double now) { moveTo(1, now); }
     void goAway(double now) { moveTo(0, now); }
 
     /// Shows the moment `now` and tells how fast it changes, as what is `Animated` does.
     std::optional<double> advance(double now);
+
+    /// Neither coming nor going.
+    bool isResting() const { return resting_; }
 
     /// At rest and away.
     bool isGone() const { return shown_ <= 0 && resting_; }
@@ -46,14 +55,18 @@ private:
     bool isAtRest(double now) const;
     double sigma() const;
     double scale() const;
-    void paintSharp(QPainter& painter, QColor color, QPointF origin) const;
+    void takeApart();
+    void paintSharp(QPainter& painter, QColor color, QPointF origin, double left,
+                    double right) const;
     void paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen);
     void takePicture(QRectF part, QColor color, double ratio);
     void blurPicture(int radius);
 
     QString text_;
     QTextLayout layout_;
+    std::vector<QGlyphRun> pieces_; ///< of a text so long that drawing all of it takes its time
     double width_ = 0;
+    double offset_ = 0;
     Spring presence_;
     double shown_;
     bool resting_ = true; ///< it shows no further change

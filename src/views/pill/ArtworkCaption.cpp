@@ -1,9 +1,9 @@
 #include "views/pill/ArtworkCaption.h"
 
+#include "views/drawing/LyricText.h"
 #include "views/pill/Style.h"
 
 #include <QFontMetricsF>
-#include <QPainter>
 #include <cmath>
 
 namespace brellowind {
@@ -11,6 +11,7 @@ namespace {
 
 constexpr double padding = 10;
 constexpr double gap = 2;
+constexpr double room = style::artworkSide - 2 * style::panelSidePadding;
 
 const QColor artistColor = QColor::fromRgbF(1, 1, 1, 0.75F);
 const QColor titleColor = Qt::white;
@@ -27,39 +28,36 @@ double lineHeight(const QFont& font) {
     return std::ceil(QFontMetricsF(font).height());
 }
 
-/// Draws one line at the top of `rect`, at the side where its script begins.
-void drawLine(QPainter& painter, const QRectF& rect, const QString& text, const QFont& font,
-              const QColor& color) {
-    painter.setFont(font);
-    painter.setPen(color);
-    const QString cut = QFontMetricsF(font).elidedText(text, Qt::ElideRight, rect.width());
-    painter.drawText(rect, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, cut);
-}
+/// A text that assistive programs do not find.
+class CaptionText final : public LyricText {
+public:
+    using LyricText::LyricText;
+
+    bool isAvailable() const override { return false; }
+};
 
 } // namespace
 
-ArtworkCaption::ArtworkCaption(Item* parent)
-    : VisualEffectBlur(style::artworkSide, style::artworkRadius, parent) {
+ArtworkCaption::ArtworkCaption(FrameDriver& frames, Item* parent)
+    : VisualEffectBlur(style::artworkSide, style::artworkRadius, parent), frames_(frames) {
     setSize({style::artworkSide,
              2 * padding + lineHeight(artistFont()) + gap + lineHeight(titleFont())});
 }
 
 void ArtworkCaption::setTexts(const QString& artist, const QString& title) {
-    if (artist == artist_ && title == title_)
-        return;
-    artist_ = artist;
-    title_ = title;
-    update();
+    show(artist_, artist, artistFont(), artistColor, padding);
+    show(title_, title, titleFont(), titleColor, padding + lineHeight(artistFont()) + gap);
 }
 
-void ArtworkCaption::paint(QPainter& painter) {
-    VisualEffectBlur::paint(painter);
-    QRectF line(style::panelSidePadding, padding, width() - 2 * style::panelSidePadding,
-                lineHeight(artistFont()));
-    drawLine(painter, line, artist_, artistFont(), artistColor);
-    line.translate(0, line.height() + gap);
-    line.setHeight(lineHeight(titleFont()));
-    drawLine(painter, line, title_, titleFont(), titleColor);
+/// A text takes the place of another at once, at the side where its script begins.
+void ArtworkCaption::show(LyricText*& line, const QString& text, const QFont& font,
+                          const QColor& color, double top) {
+    if (line && line->accessibleName() == text)
+        return;
+    delete line;
+    line = new CaptionText({font, color, room}, text, true, frames_, this);
+    const double beside = line->isRightToLeft() ? room - line->width() : 0;
+    line->setPosition({style::panelSidePadding + beside, top});
 }
 
 } // namespace brellowind

@@ -2,24 +2,32 @@
 
 #include "views/drawing/VisualEffectBlur.h"
 
+#include <QColor>
+#include <QFont>
 #include <QString>
 
 namespace brellowind {
 
-/// Artist and title on the lower edge of the enlarged artwork, elided to its width.
+class FrameDriver;
+class LyricText;
+
+/// Artist and title on the lower edge of the enlarged artwork.
 class ArtworkCaption : public VisualEffectBlur {
     Q_OBJECT
 
 public:
-    explicit ArtworkCaption(Item* parent);
+    /// `frames` must outlive it.
+    ArtworkCaption(FrameDriver& frames, Item* parent);
 
     void setTexts(const QString& artist, const QString& title);
 
-    void paint(QPainter& painter) override;
-
 private:
-    QString artist_;
-    QString title_;
+    void show(LyricText*& line, const QString& text, const QFont& font, const QColor& color,
+              double top);
+
+    FrameDriver& frames_;
+    LyricText* artist_ = nullptr;
+    LyricText* title_ = nullptr;
 };
 
 } // namespace brellowind

@@ -33,8 +33,9 @@ double upright(double pop) {
 
 } // namespace
 
-FloatingArtwork::FloatingArtwork(NotchRootView& view, const PillContent& content, Item* parent)
-    : Item(parent), content_(content), image_(new ArtworkImage(this)),
+FloatingArtwork::FloatingArtwork(NotchRootView& view, const PillContent& content,
+                                 FrameDriver& frames, Item* parent)
+    : Item(parent), content_(content), frames_(frames), image_(new ArtworkImage(this)),
       area_(new TapArea(QAccessible::Button, this)) {
     area_->setName(tr("Show artwork"));
     area_->mindHovering();
@@ -76,7 +77,7 @@ void FloatingArtwork::showCaption(double opacity) {
         return;
     }
     if (!caption_) {
-        caption_ = new ArtworkCaption(this);
+        caption_ = new ArtworkCaption(frames_, this);
         caption_->stackBefore(*area_);
         caption_->setTransformOrigin(BottomLeft);
         fillCaption();

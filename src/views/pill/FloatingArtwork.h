@@ -6,6 +6,7 @@ namespace brellowind {
 
 class ArtworkCaption;
 class ArtworkImage;
+class FrameDriver;
 class NotchRootView;
 class TapArea;
 struct PillContent;
@@ -17,7 +18,8 @@ class FloatingArtwork : public Item {
     Q_OBJECT
 
 public:
-    FloatingArtwork(NotchRootView& view, const PillContent& content, Item* parent);
+    FloatingArtwork(NotchRootView& view, const PillContent& content, FrameDriver& frames,
+                    Item* parent);
 
     /// Shows the content as it is now.
     void follow();
@@ -30,6 +32,7 @@ private:
     void fillCaption();
 
     const PillContent& content_;
+    FrameDriver& frames_;
     ArtworkImage* image_;
     ArtworkCaption* caption_ = nullptr; ///< there while it is visible
     TapArea* area_;

@@ -11,6 +11,7 @@
 #include "views/scene/TapArea.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace brellowind {
@@ -46,13 +47,14 @@ Pill::Pill(NotchRootView& view, FrameDriver& frames, platform::WindowSystem& win
       line_(named(
           new LyricText(lineLook(), content_.line, !content_.form.isMinimized, frames, inside_),
           "lyricLine")),
-      artwork_(named(new FloatingArtwork(view, content_, this), "artwork")),
+      artwork_(named(new FloatingArtwork(view, content_, frames, this), "artwork")),
       waveform_(named(new Waveform(view, content_, this), "waveform")),
       grabber_(named(new Grabber(view, content_, this), "grabber")),
-      motion_(content_, line_->naturalWidth()), redraws_(view.onRedraw([this] { redraw(); })) {
+      motion_(content_, line_->width()), redraws_(view.onRedraw([this] { redraw(); })) {
     setObjectName(QStringLiteral("notch"));
     setTransformOrigin(Top);
     inside_->setClip(true);
+    line_->glideWithin([&view] { return view.timeUntilNextLine(); });
     background_->takeRightButton();
     connect(background_, &TapArea::tapped, this, &Pill::tapBackground);
     connect(background_, &TapArea::menuRequested, this, &Pill::openMenu);
@@ -74,7 +76,8 @@ void Pill::openMenu(QPointF position) {
 
 void Pill::fill(QSizeF size) {
     setSize(size);
-    layOut();
+    line_->setRoom(lineRoom());
+    follow();
 }
 
 std::vector<Rect> Pill::reach() const {
@@ -104,25 +107,35 @@ void Pill::redraw() {
 void Pill::follow() {
     line_->setText(content_.line);
     line_->setPresent(!content_.form.isMinimized);
+    line_->setHeld(isLineHeld());
     background_->setName(content_.line);
     followPanel();
     artwork_->follow();
     waveform_->follow();
     grabber_->follow();
-    motion_.follow(content_, line_->naturalWidth());
+    motion_.follow(content_, line_->width());
     if (motion_.isMoving())
         frames_.drive(*this);
     layOut();
 }
 
 void Pill::followPanel() {
-    if (!content_.form.isArtExpanded && motion_.expand.value() == 0)
+    if (!content_.form.isArtExpanded && motion_.expand.value() == 0) {
         delete std::exchange(panelLine_, nullptr);
-    else if (panelLine_)
-        panelLine_->setText(content_.line);
-    else
+        return;
+    }
+    if (!panelLine_) {
         panelLine_ = named(new LyricText(panelLineLook(), content_.line, true, frames_, inside_),
                            "panelLine");
+        panelLine_->glideWithin([this] { return view_.timeUntilNextLine(); });
+    }
+    panelLine_->setText(content_.line);
+    panelLine_->setHeld(isLineHeld());
+}
+
+/// While the player is paused, a line that the next one will follow does not run ahead of the song.
+bool Pill::isLineHeld() const {
+    return !content_.isPlaying && view_.timeUntilNextLine();
 }
 
 void Pill::tapBackground() {
@@ -186,6 +199,13 @@ void Pill::layOutPanelLine() {
 double Pill::backgroundHeight() const {
     return content_.form.isArtExpanded ? shape_->height()
                                        : std::min(shape_->height(), collapsedHeight());
+}
+
+/// So wide that the pill stays within its window also while it is lifted and pulses.
+double Pill::lineRoom() const {
+    const double widest = width() / ((1 + hoverScale) * PillMotion::pulseScale);
+    return std::max(style::minimumContentWidth,
+                    2 * std::floor((widest - 2 * style::sidePadding) / 2));
 }
 
 double Pill::bottomPadding() const {

@@ -44,12 +44,14 @@ private:
     void redraw();
     void follow();
     void followPanel();
+    bool isLineHeld() const;
     void tapBackground();
     void openMenu(QPointF position);
     void layOut();
     void layOutTexts();
     void layOutPanelLine();
     double backgroundHeight() const;
+    double lineRoom() const;
     double bottomPadding() const;
     double collapsedHeight() const;
     double panelHeight() const;

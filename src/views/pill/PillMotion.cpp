@@ -7,28 +7,23 @@
 #include <cmath>
 
 namespace brellowind {
-namespace {
 
-constexpr double pulseScale = 1.06;
-
-} // namespace
-
-PillMotion::PillMotion(const PillContent& content, double naturalLineWidth) {
-    follow(content, naturalLineWidth);
+PillMotion::PillMotion(const PillContent& content, double widthOfLine) {
+    follow(content, widthOfLine);
     for (auto* spring : all())
         spring->settle();
 }
 
-void PillMotion::follow(const PillContent& content, double naturalLineWidth) {
+void PillMotion::follow(const PillContent& content, double widthOfLine) {
     const bool minimized = content.form.isMinimized;
     const bool expanded = content.form.isArtExpanded;
     hover.setTarget(content.form.hovered);
     unfold.setTarget(!minimized);
     expand.setTarget(expanded);
     // Even, so that the pill's edges fall on whole points about the middle.
-    lineWidth.setTarget(
-        minimized ? style::minimumContentWidth
-                  : 2 * std::ceil(std::max(style::minimumContentWidth, naturalLineWidth) / 2));
+    lineWidth.setTarget(minimized
+                            ? style::minimumContentWidth
+                            : 2 * std::ceil(std::max(style::minimumContentWidth, widthOfLine) / 2));
     if (content.form.playPulse)
         pulse.setTarget(pulseScale, springs::pulseRise);
     else

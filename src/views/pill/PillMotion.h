@@ -12,11 +12,13 @@ struct PillContent;
 
 /// All springs of the pill: fractions from 0 to 1 that may overshoot, unless stated otherwise.
 struct PillMotion {
-    /// At rest where `content` wants it, with a line `naturalLineWidth` points wide.
-    PillMotion(const PillContent& content, double naturalLineWidth);
+    static constexpr double pulseScale = 1.06;
+
+    /// At rest where `content` wants it, with a line that shows `widthOfLine` points of its text.
+    PillMotion(const PillContent& content, double widthOfLine);
 
     /// Sets the target of every spring.
-    void follow(const PillContent& content, double naturalLineWidth);
+    void follow(const PillContent& content, double widthOfLine);
 
     /// Whether any spring has yet to reach its target.
     bool isMoving();

@@ -19,8 +19,8 @@ double height() {
     return QFontMetricsF(font()).height();
 }
 
-TextLayer layer(const QString& text, double presence = 1, double maximumWidth = 0) {
-    return {text, font(), maximumWidth, presence};
+TextLayer layer(const QString& text, double presence = 1) {
+    return {text, font(), presence};
 }
 
 constexpr QSize room(400, 80);
@@ -130,15 +130,6 @@ TEST(TextLayer, IsSharpWhereverItsMiddleFalls) {
         const QImage shifted = at(200 + shift);
         EXPECT_EQ(shifted.copy(test::inkRect(shifted)), reference.copy(ink)) << shift;
     }
-}
-
-TEST(TextLayer, EndsInAnEllipsisWhereItMayNotGoOn) {
-    const QString text = QStringLiteral("A line that is much wider than its place");
-    TextLayer cut = layer(text, 1, 100);
-    EXPECT_LE(cut.width(), 100.5);
-    EXPECT_GT(cut.width(), 60);
-    EXPECT_EQ(cut.text(), text);
-    EXPECT_NEAR(layer(text, 1, 1000).width(), layer(text).width(), 1e-6);
 }
 
 TEST(TextLayer, ComesInFromNothingAndEndsAsIfItHadAlwaysBeenThere) {
@@ -270,6 +261,28 @@ TEST(TextLayer, DrawsNoMoreThanWillBeSeenOfALineOnItsWay) {
     painter.end();
     EXPECT_GT(window.largestImage(), 640 * 10);
     EXPECT_LT(window.largestImage(), 700 * 100);
+}
+
+TEST(TextLayer, DrawsALongTextAsItDrawsAShortOne) {
+    for (const char16_t* text : {u"Hamburgefons 🎤 ", u"夜に駆ける ", u"नमस्ते ", u"שלום עולם ",
+                                 u"ارفع الضوء ", u"7 שלום one "}) {
+        const QString unit = QString::fromUtf16(text);
+        const auto beginning = [&](qsizetype characters) {
+            TextLayer line = layer(unit.repeated(characters / unit.size()));
+            const double middle =
+                line.isRightToLeft() ? room.width() - line.width() / 2 : line.width() / 2;
+            return test::painted(room, [&](QPainter& painter) {
+                line.paint(painter, Qt::white, middle, 30, 0, room.width());
+            });
+        };
+        const QImage longer = beginning(2000);
+        const QImage shorter = beginning(200);
+        EXPECT_GT(test::ink(shorter), 100);
+        if (unit.isRightToLeft()) // its letters begin at other parts of a pixel
+            EXPECT_NEAR(test::ink(longer) / test::ink(shorter), 1, 0.02) << qPrintable(unit);
+        else
+            EXPECT_LE(test::largestDifference(longer, shorter), 2) << qPrintable(unit);
+    }
 }
 
 TEST(TextLayer, DrawsNoImageOutsideWhatWillBeSeen) {

@@ -2,6 +2,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QSignalSpy>
+#include <chrono>
 
 namespace brellowind {
 namespace {
@@ -66,6 +67,22 @@ TEST_F(PillRest, IsNotDisturbedByTicksThatChangeNoLine) {
     EXPECT_GE(redraws, 100);
     EXPECT_EQ(shown.count(), 0);
     EXPECT_FALSE(isMoving());
+}
+
+TEST_F(PillRest, IsDisturbedByALineThatGlidesThirtyTimesASecond) {
+    machine.spotify.title = std::string(100, 'H');
+    machine.spotify.plays = true;
+    machine.view.hoverWaveform(true); // no wave runs then
+    machine.appearAnswered(platform::HttpResponse{404, ""});
+    EXPECT_TRUE(QTest::qWaitFor([this] { return isMoving(); }));
+    QSignalSpy shown(&window, &SceneWindow::frameShown);
+    QTest::qWait(1000); // it has come in, and stands
+    shown.clear();
+    const auto timer = std::chrono::steady_clock::now();
+    QTest::qWait(1500);
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - timer;
+    EXPECT_GT(shown.count(), 1);
+    EXPECT_LE(static_cast<double>(shown.count()), 31 * seconds.count() + 1);
 }
 
 TEST_F(PillRest, IsNotDisturbedByThePointerMovingOnThePill) {

@@ -1,0 +1,37 @@
+#include "views/motion/Glide.h"
+
+#include <algorithm>
+
+namespace brellowind {
+namespace {
+
+constexpr double pace = 60;          ///< points per second, of reading
+constexpr double longestStand = 1.2; ///< seconds at the beginning
+constexpr double longestRest = 0.8;  ///< seconds at the end, before the text goes
+constexpr double shortest = 1;       ///< seconds, of a motion that is faster than reading
+constexpr double easing = 0.4;       ///< seconds in which it gathers speed, and in which it slows
+
+} // namespace
+
+Glide::Glide(double distance, std::optional<double> life)
+    : distance_(distance), stand_(longestStand), duration_(distance / pace + easing) {
+    if (!life)
+        return;
+    duration_ = std::min(duration_, std::max(shortest, *life - longestStand - longestRest));
+    const double spare = std::max(0.0, *life - duration_);
+    stand_ = std::min(longestStand, spare * longestStand / (longestStand + longestRest));
+}
+
+double Glide::offset(double elapsed) const {
+    const double time = std::clamp(elapsed - stand_, 0.0, duration_);
+    const double ease = std::min(easing, duration_ / 2);
+    const double speed = distance_ / (duration_ - ease);
+    if (time < ease)
+        return speed * time * time / (2 * ease);
+    const double left = duration_ - time;
+    if (left < ease)
+        return distance_ - speed * left * left / (2 * ease);
+    return speed * (time - ease / 2);
+}
+
+} // namespace brellowind
