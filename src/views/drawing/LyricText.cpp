@@ -99,7 +99,7 @@ void LyricText::followSize() {
 }
 
 bool LyricText::mayGlide() const {
-    return naturalWidth() > look_.room && present_ && !held_ && isVisible();
+    return isCut(layers_.back()) && present_ && !held_ && isVisible();
 }
 
 /// From the beginning of the text, with the next frame.
@@ -142,19 +142,18 @@ std::optional<double> LyricText::advance(double now) {
     return fastest;
 }
 
-double LyricText::visibleWidth(const TextLayer& layer) const {
-    return layer.width() > look_.room ? look_.room + 2 * softReach : layer.width();
-}
-
 QRectF LyricText::paintedRect() const {
     QRectF all;
-    for (const auto& layer : layers_) {
-        const double overhang = layer.overhang();
-        const double beside =
-            (visibleWidth(layer) - width()) / 2 + (layer.width() > look_.room ? 0 : overhang);
-        all |= boundingRect().adjusted(-beside, -overhang, beside, overhang);
-    }
+    for (const auto& layer : layers_)
+        all |= paintedRect(layer);
     return all;
+}
+
+QRectF LyricText::paintedRect(const TextLayer& layer) const {
+    const double above = layer.overhang();
+    const double beside = isCut(layer) ? softReach : above;
+    const double half = std::min(layer.width(), look_.room) / 2 + beside;
+    return {width() / 2 - half, -above, 2 * half, height() + 2 * above};
 }
 
 void LyricText::paint(QPainter& painter) {
@@ -162,27 +161,24 @@ void LyricText::paint(QPainter& painter) {
     const double left = fromWindow.map(QPointF(0, 0)).x();
     const double right = window() ? fromWindow.map(QPointF(window()->width(), 0)).x() : width();
     for (auto& layer : layers_)
-        if (layer.width() > look_.room)
+        if (isCut(layer))
             paintCut(layer, painter);
         else
             layer.paint(painter, look_.color, width() / 2, 0, left, right);
 }
 
-/// An end of the text that is in the room lies clear of the fade beside it.
+/// An end of the text that lies in the room is beside the fade, not in it.
 void LyricText::paintCut(TextLayer& layer, QPainter& painter) const {
     const double hidden = layer.width() - look_.room;
     const double hiddenLeft = layer.isRightToLeft() ? hidden - layer.offset() : layer.offset();
     const auto fade = [](double hiddenBeside) {
         return std::min(softness, softReach + hiddenBeside);
     };
-    const double left = (width() - look_.room) / 2;
-    const double overhang = layer.overhang();
-    const QRectF seen(left - softReach, -overhang, look_.room + 2 * softReach,
-                      height() + 2 * overhang);
+    const QRectF seen = paintedRect(layer);
+    const double centre = width() / 2 + hidden / 2 - hiddenLeft;
     paintWithSoftEnds(painter, {seen, fade(hiddenLeft), fade(hidden - hiddenLeft)},
                       [&](QPainter& inside) {
-                          layer.paint(inside, look_.color, left - hiddenLeft + layer.width() / 2, 0,
-                                      seen.left(), seen.right());
+                          layer.paint(inside, look_.color, centre, 0, seen.left(), seen.right());
                       });
 }
 

@@ -73,7 +73,8 @@ private:
     bool mayGlide() const;
     void beginGlide();
     std::optional<double> glide(double now);
-    double visibleWidth(const TextLayer& layer) const;
+    bool isCut(const TextLayer& layer) const { return layer.width() > look_.room; }
+    QRectF paintedRect(const TextLayer& layer) const;
     void paintCut(TextLayer& layer, QPainter& painter) const;
 
     FrameDriver& frames_;
