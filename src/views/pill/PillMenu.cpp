@@ -4,8 +4,11 @@
 #include "views/pill/PillMenuEntry.h"
 #include "views/scene/Item.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QStyleHints>
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -67,6 +70,12 @@ void PillMenu::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Up:
         highlightBeside(-1);
         break;
+    case Qt::Key_Home:
+        highlight(entries_.front());
+        break;
+    case Qt::Key_End:
+        highlight(entries_.back());
+        break;
     case Qt::Key_Enter:
     case Qt::Key_Return:
     case Qt::Key_Space:
@@ -77,13 +86,39 @@ void PillMenu::keyPressEvent(QKeyEvent* event) {
         close();
         break;
     default:
-        break;
+        highlightNext(event->text());
     }
+}
+
+void PillMenu::mousePressEvent(QMouseEvent* event) {
+    isPressed_ = true;
+    SceneWindow::mousePressEvent(event);
+}
+
+void PillMenu::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton)
+        isPressed_ = false;
+    else if (!isPressed_ && !dragBegan_)
+        dragBegan_ = event->position();
+    SceneWindow::mouseMoveEvent(event);
+}
+
+/// The button that opened the menu may be released over an entry. A hand that is not quite still
+/// chooses nothing.
+void PillMenu::mouseReleaseEvent(QMouseEvent* event) {
+    const auto began = std::exchange(dragBegan_, std::nullopt);
+    isPressed_ = false;
+    SceneWindow::mouseReleaseEvent(event);
+    const int farEnough = QGuiApplication::styleHints()->startDragDistance();
+    if (began && highlighted_ && (event->position() - *began).manhattanLength() >= farEnough)
+        Q_EMIT highlighted_->triggered();
 }
 
 void PillMenu::hideEvent(QHideEvent* event) {
     SceneWindow::hideEvent(event);
     highlight(nullptr);
+    isPressed_ = false;
+    dragBegan_.reset();
 }
 
 void PillMenu::highlight(PillMenuEntry* entry) {
@@ -101,6 +136,21 @@ void PillMenu::highlightBeside(int step) {
     const auto at = std::ranges::find(entries_, highlighted_) - entries_.begin();
     const auto next = at == count ? (step > 0 ? 0 : count - 1) : (at + step + count) % count;
     highlight(entries_[static_cast<std::size_t>(next)]);
+}
+
+/// The next entry that begins with `letter`, from the highlighted one on and around.
+void PillMenu::highlightNext(const QString& letter) {
+    const auto matches = [&](const PillMenuEntry* entry) {
+        return !letter.isEmpty() && entry->text().startsWith(letter, Qt::CaseInsensitive);
+    };
+    auto from = std::ranges::find(entries_, highlighted_);
+    if (from != entries_.end())
+        ++from;
+    auto found = std::find_if(from, entries_.end(), matches);
+    if (found == entries_.end())
+        found = std::ranges::find_if(entries_, matches);
+    if (found != entries_.end())
+        highlight(*found);
 }
 
 } // namespace brellowind

@@ -2,6 +2,8 @@
 
 #include "views/scene/SceneWindow.h"
 
+#include <QPointF>
+#include <optional>
 #include <vector>
 
 namespace brellowind {
@@ -10,8 +12,8 @@ class NotchRootView;
 class PillMenuEntry;
 
 /// The context menu of the pill, a small window of its own. The entry under the pointer is
-/// highlighted; the arrow keys highlight another one, and Enter or the space bar chooses it. Escape
-/// closes it.
+/// highlighted; arrow keys, Home, End and first letters highlight another one, and Enter or the
+/// space bar chooses it, as does releasing the button that opened the menu. Escape closes it.
 class PillMenu : public SceneWindow {
     Q_OBJECT
 
@@ -25,14 +27,20 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     void highlight(PillMenuEntry* entry);
     void highlightBeside(int step);
+    void highlightNext(const QString& letter);
 
     std::vector<PillMenuEntry*> entries_;
     PillMenuEntry* highlighted_ = nullptr;
+    bool isPressed_ = false;
+    std::optional<QPointF> dragBegan_; ///< with a button that was pressed elsewhere
 };
 
 } // namespace brellowind

@@ -15,6 +15,8 @@ public:
 
     PillMenuEntry(const QString& text, Item* parent);
 
+    const QString& text() const { return text_; }
+
     void setHighlighted(bool highlighted);
 
     void paint(QPainter& painter) override;

@@ -13,11 +13,9 @@ TEST_F(PillLock, HidesThePillAndTakesThePointerFromIt) {
     const QColor locked(0x11, 0x22, 0x33);
     const auto lock = compositor->session().start(
         QStringLiteral("swaylock"),
-        {QStringLiteral("--no-unlock-indicator"), QStringLiteral("--color"),
-         locked.name().mid(1)});
-    EXPECT_TRUE(shows("locked", [&](const Picture& picture) {
-        return picture.differing(locked).isEmpty();
-    }));
+        {QStringLiteral("--no-unlock-indicator"), QStringLiteral("--color"), locked.name().mid(1)});
+    EXPECT_TRUE(shows("locked",
+                      [&](const Picture& picture) { return picture.differing(locked).isEmpty(); }));
     compositor->movePointerTo(background());
     compositor->movePointerBy({1, 0});
     compositor->click(background());

@@ -3,6 +3,8 @@
 #include "settings/SettingsRouter.h"
 #include "views/scene/TapArea.h"
 
+#include <QMouseEvent>
+
 namespace brellowind {
 namespace {
 
@@ -23,6 +25,18 @@ protected:
         for (auto* entry : entries())
             result.push_back(entry->accessibleName());
         return result;
+    }
+
+    /// Of the button that opened the menu.
+    void drag(QPoint from, QPoint to) {
+        const auto send = [&](QEvent::Type type, QPoint at, Qt::MouseButtons held) {
+            QMouseEvent event(type, at, menu()->mapToGlobal(at),
+                              held ? Qt::NoButton : Qt::RightButton, held, Qt::NoModifier);
+            QCoreApplication::sendEvent(menu(), &event);
+        };
+        send(QEvent::MouseMove, from, Qt::RightButton);
+        send(QEvent::MouseMove, to, Qt::RightButton);
+        send(QEvent::MouseButtonRelease, to, Qt::NoButton);
     }
 
     void choose(std::size_t index) {
@@ -149,6 +163,46 @@ TEST_F(PillMenuTest, ArrowKeysAndEnterChooseAnEntry) {
     EXPECT_EQ(machine.settingsOpenings, 1);
     EXPECT_EQ(machine.requests(), before) << "the second entry makes one";
     EXPECT_FALSE(menu()->isVisible());
+}
+
+TEST_F(PillMenuTest, HomeAndEndGoToTheEnds) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_End);
+    QTest::keyClick(menu(), Qt::Key_Home);
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_EQ(machine.settingsOpenings, 1);
+    open();
+    QTest::keyClick(menu(), Qt::Key_End);
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_EQ(machine.machine.application.terminations, 1);
+}
+
+TEST_F(PillMenuTest, ALetterGoesToTheNextEntryThatBeginsWithIt) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_X);
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_TRUE(menu()->isVisible()) << "nothing is highlighted";
+    QTest::keyClick(menu(), Qt::Key_Q);
+    QTest::keyClick(menu(), Qt::Key_O);
+    QTest::keyClick(menu(), Qt::Key_O);
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_EQ(machine.settingsOpenings, 1);
+    EXPECT_EQ(machine.machine.application.terminations, 0);
+}
+
+TEST_F(PillMenuTest, ADragFromThePillChoosesWhereItEnds) {
+    open();
+    drag({2, 2}, middle(entries().at(2)));
+    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_FALSE(menu()->isVisible());
+}
+
+TEST_F(PillMenuTest, AHandThatIsNotQuiteStillChoosesNothing) {
+    open();
+    const QPoint at = middle(entries().at(2));
+    drag(at, at + QPoint(1, 1));
+    EXPECT_TRUE(menu()->isVisible());
+    EXPECT_EQ(machine.machine.application.terminations, 0);
 }
 
 TEST_F(PillMenuTest, ArrowKeysGoOnFromOneEndAtTheOther) {
