@@ -52,5 +52,14 @@ TEST_F(PillAccessibility, TheCoverOpensThePanelAndTheGrabberClosesIt) {
     EXPECT_TRUE(program->becomes("isArtExpanded", false));
 }
 
+TEST_F(PillAccessibility, TheMenuCanBeUsed) {
+    startSinging();
+    openMenu();
+    const auto settings = waitFor("Open Settings", "menu item");
+    ASSERT_TRUE(settings);
+    EXPECT_TRUE(reader.press(*settings));
+    EXPECT_TRUE(waitUntil([&] { return program->settings().window() != 0; }));
+}
+
 } // namespace
 } // namespace brellowind::test

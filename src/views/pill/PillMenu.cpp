@@ -2,6 +2,7 @@
 
 #include "views/NotchRootView.h"
 #include "views/pill/PillMenuEntry.h"
+#include "views/scene/Accessible.h"
 #include "views/scene/Item.h"
 
 #include <QGuiApplication>
@@ -114,8 +115,14 @@ void PillMenu::mouseReleaseEvent(QMouseEvent* event) {
         Q_EMIT highlighted_->triggered();
 }
 
+void PillMenu::showEvent(QShowEvent* event) {
+    SceneWindow::showEvent(event);
+    announceMenu(*this, true);
+}
+
 void PillMenu::hideEvent(QHideEvent* event) {
     SceneWindow::hideEvent(event);
+    announceMenu(*this, false);
     highlight(nullptr);
     isPressed_ = false;
     dragBegan_.reset();

@@ -16,14 +16,15 @@ const QColor highlight = QColor::fromRgbF(1, 1, 1, 0.14F);
 
 } // namespace
 
-PillMenuEntry::PillMenuEntry(const QString& text, Item* parent) : PainterItem(parent), text_(text) {
+PillMenuEntry::PillMenuEntry(const QString& text, Item* parent)
+    : PainterItem(parent), text_(text), area_(new TapArea(QAccessible::MenuItem, this)) {
     setSize({entryWidth, entryHeight});
-    auto* area = new TapArea(QAccessible::MenuItem, this);
-    area->setSize(size());
-    area->setName(text);
-    area->mindHovering();
-    connect(area, &TapArea::hoveredChanged, this, &PillMenuEntry::hoveredChanged);
-    connect(area, &TapArea::tapped, this, &PillMenuEntry::triggered);
+    area_->setFocused(false);
+    area_->setSize(size());
+    area_->setName(text);
+    area_->mindHovering();
+    connect(area_, &TapArea::hoveredChanged, this, &PillMenuEntry::hoveredChanged);
+    connect(area_, &TapArea::tapped, this, &PillMenuEntry::triggered);
 }
 
 void PillMenuEntry::paint(QPainter& painter) {
@@ -40,6 +41,7 @@ void PillMenuEntry::paint(QPainter& painter) {
 
 void PillMenuEntry::setHighlighted(bool highlighted) {
     highlighted_ = highlighted;
+    area_->setFocused(highlighted);
     update();
 }
 

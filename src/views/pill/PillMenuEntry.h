@@ -6,6 +6,8 @@
 
 namespace brellowind {
 
+class TapArea;
+
 /// One entry of the context menu.
 class PillMenuEntry : public PainterItem {
     Q_OBJECT
@@ -27,6 +29,7 @@ Q_SIGNALS:
 
 private:
     QString text_;
+    TapArea* area_;
     bool highlighted_ = false;
 };
 

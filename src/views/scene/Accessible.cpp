@@ -37,6 +37,8 @@ public:
     QAccessible::State state() const override {
         QAccessible::State state;
         state.invisible = !item().window() || !item().window()->isVisible() || !item().isVisible();
+        state.focusable = accessible_.isFocusable();
+        state.focused = accessible_.isFocused();
         return state;
     }
 
@@ -125,10 +127,10 @@ QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* obje
     return window ? new AccessibleWindow(*window) : nullptr;
 }
 
-void announce(Item& item, QAccessible::Event what) {
+void announce(QObject& object, QAccessible::Event what) {
     if (!QAccessible::isActive())
         return;
-    QAccessibleEvent event(&item, what);
+    QAccessibleEvent event(&object, what);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -144,6 +146,14 @@ void announceName(Item& item) {
 
 void announceVisibility(Item& item, bool visible) {
     announce(item, visible ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+}
+
+void announceFocus(Item& item) {
+    announce(item, QAccessible::Focus);
+}
+
+void announceMenu(SceneWindow& menu, bool open) {
+    announce(menu, open ? QAccessible::PopupMenuStart : QAccessible::PopupMenuEnd);
 }
 
 } // namespace brellowind

@@ -6,6 +6,7 @@
 namespace brellowind {
 
 class Item;
+class SceneWindow;
 
 /// What assistive programs can read and do. An item that they shall find derives from it as well.
 class Accessible {
@@ -20,6 +21,9 @@ public:
 
     virtual bool isPressable() const { return false; }
     virtual void press() {}
+
+    virtual bool isFocusable() const { return false; }
+    virtual bool isFocused() const { return false; }
 };
 
 /// Lets assistive programs find the accessible items of every `SceneWindow`. Idempotent.
@@ -30,5 +34,11 @@ void announceName(Item& item);
 
 /// Notifies them that `item` can be found from now on, or no longer.
 void announceVisibility(Item& item, bool visible);
+
+/// Notifies them that `item` has the focus now.
+void announceFocus(Item& item);
+
+/// Notifies them that `menu` opens or has closed.
+void announceMenu(SceneWindow& menu, bool open);
 
 } // namespace brellowind

@@ -36,4 +36,11 @@ void TapArea::setHovered(bool hovered) {
     Q_EMIT hoveredChanged(hovered);
 }
 
+void TapArea::setFocused(bool focused) {
+    isFocusable_ = true;
+    isFocused_ = focused;
+    if (focused)
+        announceFocus(*this);
+}
+
 } // namespace brellowind

@@ -26,12 +26,17 @@ public:
     void mindHovering() { mindsHovering_ = true; }
     void setHovered(bool hovered);
 
+    /// For assistive programs: the keyboard can be on it, and is or is not.
+    void setFocused(bool focused);
+
     /// The right button was pressed here; `position` is in points of the window.
     void requestMenu(QPointF position) { Q_EMIT menuRequested(position); }
 
     QAccessible::Role accessibleRole() const override { return role_; }
     QString accessibleName() const override { return name_; }
     bool isAvailable() const override { return enabled_; }
+    bool isFocusable() const override { return isFocusable_; }
+    bool isFocused() const override { return isFocused_; }
     bool isPressable() const override { return true; }
     void press() override { Q_EMIT tapped(); }
 
@@ -54,6 +59,8 @@ private:
     bool takesRightButton_ = false;
     bool mindsHovering_ = false;
     bool hovered_ = false;
+    bool isFocusable_ = false;
+    bool isFocused_ = false;
 };
 
 } // namespace brellowind

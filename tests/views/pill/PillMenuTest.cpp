@@ -165,6 +165,17 @@ TEST_F(PillMenuTest, ArrowKeysAndEnterChooseAnEntry) {
     EXPECT_FALSE(menu()->isVisible());
 }
 
+TEST_F(PillMenuTest, AssistiveProgramsFindTheFocusOnTheHighlightedEntry) {
+    open();
+    QTest::keyClick(menu(), Qt::Key_Down);
+    QTest::keyClick(menu(), Qt::Key_Down);
+    for (int index = 0; index < 3; ++index) {
+        const auto state = QAccessible::queryAccessibleInterface(entries().at(index))->state();
+        EXPECT_TRUE(state.focusable);
+        EXPECT_EQ(state.focused, index == 1) << index;
+    }
+}
+
 TEST_F(PillMenuTest, HomeAndEndGoToTheEnds) {
     open();
     QTest::keyClick(menu(), Qt::Key_End);
