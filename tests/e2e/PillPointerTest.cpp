@@ -54,6 +54,18 @@ TEST_F(PillPointer, IsInsideFromTheVeryTopToEightPointsBelowThePill) {
     EXPECT_TRUE(program->becomes("hovered"));
 }
 
+TEST_F(PillPointer, ThatDragsSomethingIsOutsideUntilTheButtonIsUpAndItMoves) {
+    startSinging();
+    person.pointAt({100, 500});
+    person.hold();
+    person.pointAt({720, 20});
+    EXPECT_TRUE(staysOutside());
+    person.release();
+    EXPECT_TRUE(staysOutside());
+    person.pointAt({721, 20});
+    EXPECT_TRUE(program->becomes("hovered"));
+}
+
 TEST_F(PillPointer, StaysInsideOverThePillThatGrewUnderIt) {
     startSinging();
     const int before = pill().bottom() + margin;

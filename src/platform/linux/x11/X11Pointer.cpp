@@ -51,6 +51,12 @@ void selectRawMotion(const X11Connection& x11, bool selected) {
     x11.flush();
 }
 
+bool isButtonHeld(const xcb_query_pointer_reply_t& pointer) {
+    constexpr auto buttons =
+        XCB_KEY_BUT_MASK_BUTTON_1 | XCB_KEY_BUT_MASK_BUTTON_2 | XCB_KEY_BUT_MASK_BUTTON_3;
+    return (pointer.mask & buttons) != 0;
+}
+
 } // namespace
 
 X11Pointer::X11Pointer(MainLoop& mainLoop)
@@ -67,11 +73,14 @@ X11Pointer::~X11Pointer() {
 }
 
 std::optional<Point> X11Pointer::location() {
-    const auto position = query(x11_.root());
+    auto position = query(x11_.root());
     if (!position || !position->same_screen)
         return std::nullopt;
-    return ScreenArrangement::current().coordinates.desktopPoint(position->root_x,
-                                                                 position->root_y);
+    const Point at = ScreenArrangement::current().coordinates.desktopPoint(position->root_x,
+                                                                           position->root_y);
+    if (isButtonHeld(*position) && !isOverOwnWindow(std::move(position)))
+        return std::nullopt;
+    return at;
 }
 
 std::unique_ptr<PointerMonitor> X11Pointer::addGlobalMonitor(Handler handler) {
