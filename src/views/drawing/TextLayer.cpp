@@ -1,6 +1,7 @@
 #include "views/drawing/TextLayer.h"
 
 #include "views/drawing/Blur.h"
+#include "views/drawing/Ideographs.h"
 #include "views/motion/Springs.h"
 
 #include <QFontMetricsF>
@@ -70,6 +71,8 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double presence)
     layout_.setText(singleLine(text));
     layout_.setFont(font);
     layout_.setCacheEnabled(true);
+    if (font.weight() == QFont::Medium)
+        layout_.setFormats(regularIdeographs(layout_.text()));
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
     option.setUseDesignMetrics(false);

@@ -1,7 +1,9 @@
 #include "views/pill/ArtworkCaption.h"
 
 #include "views/Painting.h"
+#include "views/SteppedFrames.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -35,11 +37,21 @@ double brightest(const QImage& image, QRectF rect) {
 
 TEST(ArtworkCaption, CanBeReadOnACoverOfAnyLightColour) {
     for (const QColor color : {QColor(Qt::white), QColor(Qt::yellow), QColor(Qt::cyan)}) {
-        ArtworkCaption caption(nullptr);
+        test::SteppedFrames frames;
+        ArtworkCaption caption(frames, nullptr);
         QImage cover(320, 320, QImage::Format_RGB32);
         cover.fill(color);
         caption.setImage(cover);
-        const auto painted = [&] { return test::painted(caption, caption.size().toSize(), {}, 4); };
+        const auto paintAll = [&](QPainter& painter) {
+            caption.paint(painter);
+            for (auto* text : caption.childItems()) {
+                painter.save();
+                painter.translate(text->position());
+                text->paint(painter);
+                painter.restore();
+            }
+        };
+        const auto painted = [&] { return test::painted(caption.size().toSize(), paintAll, 4); };
         const QRectF artist(0, 0, 320, caption.height() / 2 - 4);
         const QRectF title(0, caption.height() / 2 + 4, 320, caption.height() / 2 - 24);
         const double behind = brightest(painted(), artist);

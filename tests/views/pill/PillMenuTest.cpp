@@ -56,7 +56,7 @@ TEST_F(PillMenuTest, IsMadeWhenItIsFirstWantedAndThenKept) {
 }
 
 TEST_F(PillMenuTest, OffersNoCheckWithoutAReleaseFeed) {
-    machine.constants.updateFeedURL.clear();
+    machine.machine.constants.updateFeedURL.clear();
     open();
     EXPECT_EQ(texts(),
               QStringList({QStringLiteral("Open Settings"), QStringLiteral("Quit Brellowind")}));

@@ -76,8 +76,8 @@ std::optional<Point> X11Pointer::location() {
     auto position = query(x11_.root());
     if (!position || !position->same_screen)
         return std::nullopt;
-    const Point at = ScreenArrangement::current().coordinates.desktopPoint(position->root_x,
-                                                                           position->root_y);
+    const auto at =
+        ScreenArrangement::current().coordinates.desktopPoint(position->root_x, position->root_y);
     if (isButtonHeld(*position) && !isOverOwnWindow(std::move(position)))
         return std::nullopt;
     return at;
