@@ -40,8 +40,9 @@ void HoverMonitor::evaluate() {
         return;
     const auto location = pointer_.location();
     const bool inside = location && hoverRectangle(screen->frame, currentSize).contains(*location);
-    if (inside != isInside.get())
-        isInside.set(inside);
+    if (inside == isInside.get() || (inside && pointer_.isButtonHeld()))
+        return;
+    isInside.set(inside);
 }
 
 } // namespace brellowind

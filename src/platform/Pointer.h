@@ -26,6 +26,9 @@ public:
     /// windows.
     virtual std::optional<Point> location() = 0;
 
+    /// Whether a button is held down, as in a drag. False where the system does not tell.
+    virtual bool isButtonHeld() { return false; }
+
     /// Calls `handler` after every movement over anything but this program's windows, on the main
     /// thread. Absent when the system refuses.
     virtual std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) = 0;

@@ -83,14 +83,14 @@ TEST_F(Shell, BringsOpenSettingsToTheFrontFromThePillsMenu) {
     EXPECT_EQ(settings().window(), window) << "there is one settings window";
 }
 
-TEST_F(Shell, OpensSettingsOnTheTabThatWasPickedLast) {
+TEST_F(Shell, OpensSettingsOnTheGeneralTab) {
     startWithSettings();
     press("About");
     EXPECT_TRUE(settings().shows(QStringLiteral("Lyrics that live in your notch")));
     person.pressEscape();
     ASSERT_TRUE(settingsAreGone());
     choose("Open Settings");
-    EXPECT_TRUE(settings().shows(QStringLiteral("Lyrics that live in your notch")));
+    EXPECT_TRUE(settings().shows(QStringLiteral("Launch at Login")));
 }
 
 TEST_F(Shell, LivesOnWhenSettingsCloseAndFreesTheirWindow) {

@@ -308,5 +308,17 @@ TEST_F(HoverMonitorTest, FollowsAScreenThatChanges) {
     EXPECT_TRUE(insideAt({1500, 1990}));
 }
 
+TEST_F(HoverMonitorTest, APointerWithAButtonHeldStaysOutsideButDoesNotLeave) {
+    hover->start();
+    hover->currentSize = {280, 59};
+    machine.pointer.buttonHeld = true;
+    EXPECT_FALSE(insideAt(overThePill));
+    machine.pointer.buttonHeld = false;
+    EXPECT_TRUE(insideAt(overThePill));
+    machine.pointer.buttonHeld = true;
+    EXPECT_TRUE(insideAt(overThePill));
+    EXPECT_FALSE(insideAt(elsewhere));
+}
+
 } // namespace
 } // namespace brellowind

@@ -15,6 +15,8 @@ public:
         return position;
     }
 
+    bool isButtonHeld() override { return buttonHeld; }
+
     std::unique_ptr<platform::PointerMonitor> addGlobalMonitor(Handler handler) override;
     std::unique_ptr<platform::PointerMonitor> addLocalMonitor(Handler handler) override;
 
@@ -28,6 +30,7 @@ public:
     std::size_t localMonitorCount() const { return local_.size(); }
 
     std::optional<Point> position;
+    bool buttonHeld = false;
     bool refusesGlobalMonitors = false;
     bool refusesLocalMonitors = false;
     int locationReadings = 0;

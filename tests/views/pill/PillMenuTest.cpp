@@ -167,7 +167,7 @@ TEST_F(PillMenuTest, ArrowKeysAndEnterChooseAnEntry) {
 
 TEST_F(PillMenuTest, AssistiveProgramsFindTheFocusOnTheHighlightedEntry) {
     open();
-    QTest::keyClick(menu(), Qt::Key_Down);
+    QTest::keyClick(menu(), Qt::Key_Home);
     QTest::keyClick(menu(), Qt::Key_Down);
     for (int index = 0; index < 3; ++index) {
         const auto state = QAccessible::queryAccessibleInterface(entries().at(index))->state();
@@ -190,15 +190,16 @@ TEST_F(PillMenuTest, HomeAndEndGoToTheEnds) {
 
 TEST_F(PillMenuTest, ALetterGoesToTheNextEntryThatBeginsWithIt) {
     open();
-    QTest::keyClick(menu(), Qt::Key_X);
-    QTest::keyClick(menu(), Qt::Key_Return);
-    EXPECT_TRUE(menu()->isVisible()) << "nothing is highlighted";
     QTest::keyClick(menu(), Qt::Key_Q);
     QTest::keyClick(menu(), Qt::Key_O);
     QTest::keyClick(menu(), Qt::Key_O);
+    QTest::keyClick(menu(), Qt::Key_X); // which none begins with
     QTest::keyClick(menu(), Qt::Key_Return);
     EXPECT_EQ(machine.settingsOpenings, 1);
-    EXPECT_EQ(machine.machine.application.terminations, 0);
+    open();
+    QTest::keyClick(menu(), Qt::Key_Q);
+    QTest::keyClick(menu(), Qt::Key_Return);
+    EXPECT_EQ(machine.machine.application.terminations, 1);
 }
 
 TEST_F(PillMenuTest, ADragFromThePillChoosesWhereItEnds) {

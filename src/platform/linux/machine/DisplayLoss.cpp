@@ -17,7 +17,7 @@ std::atomic_flag isEnding;
 
 /// Only what is allowed in a signal handler.
 void endIfDisplayIsGone() {
-    pollfd display{displaySocket, POLLRDHUP, 0};
+    pollfd display{displaySocket, POLLRDHUP, 0}; // nothing happens to a socket of -1
     if (::poll(&display, 1, 0) <= 0)
         return;
     if (isEnding.test_and_set())
@@ -49,6 +49,10 @@ void silenceQt() {
 void endWithDisplay(int socket) {
     displaySocket = socket;
     std::signal(SIGSEGV, handleFault);
+}
+
+void ignoreDisplay() {
+    displaySocket = -1;
 }
 
 } // namespace brellowind::platform

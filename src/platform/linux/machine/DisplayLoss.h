@@ -10,4 +10,7 @@ void silenceQt();
 /// reading an answer that is not there. REQUIRES: `silenceQt` was called.
 void endWithDisplay(int socket);
 
+/// To be called before the program closes the connection itself.
+void ignoreDisplay();
+
 } // namespace brellowind::platform

@@ -3,6 +3,7 @@
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/SingleInstance.h"
 #include "platform/linux/XdgLoginItem.h"
+#include "platform/linux/machine/DisplayLoss.h"
 #include "platform/linux/machine/SessionWindowSystem.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHttpClient.h"
@@ -47,6 +48,8 @@ public:
         QGuiApplication::setDesktopFileName(QStringLiteral("org.brellowind.Brellowind"));
         QGuiApplication::setQuitOnLastWindowClosed(false);
     }
+
+    ~LinuxMachine() override { ignoreDisplay(); }
 
     MainLoop& mainLoop() override { return mainLoop_; }
     Clock& clock() override { return clock_; }

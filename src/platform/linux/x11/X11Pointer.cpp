@@ -51,12 +51,6 @@ void selectRawMotion(const X11Connection& x11, bool selected) {
     x11.flush();
 }
 
-bool isButtonHeld(const xcb_query_pointer_reply_t& pointer) {
-    constexpr auto buttons =
-        XCB_KEY_BUT_MASK_BUTTON_1 | XCB_KEY_BUT_MASK_BUTTON_2 | XCB_KEY_BUT_MASK_BUTTON_3;
-    return (pointer.mask & buttons) != 0;
-}
-
 } // namespace
 
 X11Pointer::X11Pointer(MainLoop& mainLoop)
@@ -73,14 +67,18 @@ X11Pointer::~X11Pointer() {
 }
 
 std::optional<Point> X11Pointer::location() {
-    auto position = query(x11_.root());
+    const auto position = query(x11_.root());
     if (!position || !position->same_screen)
         return std::nullopt;
-    const auto at =
-        ScreenArrangement::current().coordinates.desktopPoint(position->root_x, position->root_y);
-    if (isButtonHeld(*position) && !isOverOwnWindow(std::move(position)))
-        return std::nullopt;
-    return at;
+    return ScreenArrangement::current().coordinates.desktopPoint(position->root_x,
+                                                                 position->root_y);
+}
+
+bool X11Pointer::isButtonHeld() {
+    constexpr auto buttons =
+        XCB_KEY_BUT_MASK_BUTTON_1 | XCB_KEY_BUT_MASK_BUTTON_2 | XCB_KEY_BUT_MASK_BUTTON_3;
+    const auto position = query(x11_.root());
+    return position && (position->mask & buttons) != 0;
 }
 
 std::unique_ptr<PointerMonitor> X11Pointer::addGlobalMonitor(Handler handler) {

@@ -12,15 +12,14 @@ namespace brellowind::platform {
 
 /// The pointer of an X server. Its movements are told by the server, wherever it moves and whoever
 /// holds it (XInput 2.1 raw events); nothing happens while it rests. Several movements that have
-/// come by the time of the next turn of the main loop count as one. While a button is held its
-/// location is known over the program's own windows only: what is dragged elsewhere comes to no
-/// window of the program.
+/// come by the time of the next turn of the main loop count as one.
 class X11Pointer final : public QObject, public Pointer {
 public:
     explicit X11Pointer(MainLoop& mainLoop);
     ~X11Pointer() override;
 
     std::optional<Point> location() override;
+    bool isButtonHeld() override;
     std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) override;
     std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) override;
 
