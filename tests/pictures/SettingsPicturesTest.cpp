@@ -58,6 +58,7 @@ TEST_F(SettingsPicturesWithoutAddresses, General) {
 
 TEST_F(SettingsPicturesWithoutAddresses, About) {
     parts.router.setSelectedTab(SettingsTab::about);
+    machine.mainLoop.runTurns();
     expectLook("about-without-addresses");
 }
 
