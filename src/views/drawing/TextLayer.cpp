@@ -196,11 +196,26 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     takePicture(part, color, ratio);
     blurPicture(blurRadius(sigma() * ratio));
     const QSizeF room = (blurred_.size() - picture_.size()) / 2 / ratio;
-    const QPointF middle = origin + layout_.boundingRect().center();
-    painter.translate(middle);
-    painter.scale(scale(), scale());
-    painter.translate(-middle);
-    painter.drawImage(origin + part.topLeft() - QPointF(room.width(), room.height()), blurred_);
+    const QRectF place(origin + part.topLeft() - QPointF(room.width(), room.height()),
+                       QSizeF(blurred_.size()) / ratio);
+    if (scale() < 1)
+        paintSmaller(painter, place, origin + layout_.boundingRect().center());
+    else
+        painter.drawImage(place.topLeft(), blurred_);
+}
+
+/// Draws `blurred_` in `place` shrunk about `middle`. The picture is scaled to whole pixels first:
+/// a painter that scales while it draws wakes threads for it.
+void TextLayer::paintSmaller(QPainter& painter, const QRectF& place, QPointF middle) const {
+    const double ratio = blurred_.devicePixelRatio();
+    const auto pixel = [&](double edge, double about) {
+        return qRound((about + (edge - about) * scale()) * ratio);
+    };
+    const QPoint from(pixel(place.left(), middle.x()), pixel(place.top(), middle.y()));
+    const QPoint to(pixel(place.right(), middle.x()), pixel(place.bottom(), middle.y()));
+    painter.drawImage(QPointF(from) / ratio,
+                      blurred_.scaled(QSize(to.x() - from.x(), to.y() - from.y()),
+                                      Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
