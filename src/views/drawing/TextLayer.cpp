@@ -207,15 +207,13 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
 /// Draws `blurred_` in `place` shrunk about `middle`. The picture is scaled to whole pixels first:
 /// a painter that scales while it draws wakes threads for it.
 void TextLayer::paintSmaller(QPainter& painter, const QRectF& place, QPointF middle) const {
-    const double ratio = blurred_.devicePixelRatio();
-    const auto pixel = [&](double edge, double about) {
-        return qRound((about + (edge - about) * scale()) * ratio);
+    const auto shrunk = [&](QPointF corner) {
+        return onPixel(painter, middle + (corner - middle) * scale());
     };
-    const QPoint from(pixel(place.left(), middle.x()), pixel(place.top(), middle.y()));
-    const QPoint to(pixel(place.right(), middle.x()), pixel(place.bottom(), middle.y()));
-    painter.drawImage(QPointF(from) / ratio,
-                      blurred_.scaled(QSize(to.x() - from.x(), to.y() - from.y()),
-                                      Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    const QPointF from = shrunk(place.topLeft());
+    const QPointF size = (shrunk(place.bottomRight()) - from) * blurred_.devicePixelRatio();
+    painter.drawImage(from, blurred_.scaled(qRound(size.x()), qRound(size.y()),
+                                            Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
