@@ -42,6 +42,11 @@ std::int64_t wholeSeconds(double durationMs) {
     return static_cast<std::int64_t>(seconds);
 }
 
+std::string userAgent(const std::string& websiteURL) {
+    const std::string program = "Brellowind v0.1";
+    return websiteURL.empty() ? program : program + " (" + websiteURL + ')';
+}
+
 } // namespace
 
 std::optional<std::string> requestURL(std::string_view origin, const Track& track) {
@@ -79,11 +84,6 @@ LyricsState interpret(int status, std::string_view body) {
     if (!plain.empty())
         return LyricsState::plain(std::move(plain));
     return LyricsState::notFound();
-}
-
-std::string userAgent(const std::string& websiteURL) {
-    const std::string program = "Brellowind v0.1";
-    return websiteURL.empty() ? program : program + " (" + websiteURL + ')';
 }
 
 Task<LyricsState> fetch(platform::HttpClient& http, const platform::ProductConstants& constants,
