@@ -9,7 +9,10 @@ namespace brellowind::platform {
 CompositingManager::CompositingManager(const X11Connection& x11, std::function<void()> onChange)
     : onChange_(std::move(onChange)),
       selection_(x11.atom(("_NET_WM_CM_S" + std::to_string(x11.screenNumber())).c_str())),
-      observer_([this](const xcb_generic_event_t& event) { handle(event); }) {
+      observer_([this](const xcb_generic_event_t& event) {
+          handle(event);
+          return false;
+      }) {
     const auto* xfixes = xcb_get_extension_data(x11.get(), &xcb_xfixes_id);
     if (xfixes && xfixes->present) {
         selectionNotify_ = xfixes->first_event + XCB_XFIXES_SELECTION_NOTIFY;

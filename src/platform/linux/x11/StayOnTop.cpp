@@ -29,7 +29,7 @@ StayOnTop::StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& 
     : x11_(x11), qtWindow_(window), window_(static_cast<xcb_window_t>(window.winId())),
       managedMark_(x11.atom("WM_STATE")), mainLoop_(mainLoop),
       nextTurn_(mainLoop.onNextTurn([this] { check(); })),
-      observer_([this](const xcb_generic_event_t& event) { handle(event); }) {
+      observer_([this](const xcb_generic_event_t& event) { return handle(event); }) {
     x11_.hearOfRoot(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
 }
 
@@ -48,25 +48,34 @@ void StayOnTop::putOnTop(xcb_window_t window) {
     xcb_configure_window(x11_.get(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
 }
 
-void StayOnTop::handle(const xcb_generic_event_t& event) {
-    const auto concernsRoot = [&] {
-        switch (eventType(event)) {
-        case XCB_MAP_NOTIFY:
-            return eventAs<xcb_map_notify_event_t>(event).event == x11_.root();
-        case XCB_UNMAP_NOTIFY: // it may have been a shield
-            return eventAs<xcb_unmap_notify_event_t>(event).event == x11_.root();
-        case XCB_CONFIGURE_NOTIFY:
-            return eventAs<xcb_configure_notify_event_t>(event).event == x11_.root();
-        case XCB_CIRCULATE_NOTIFY:
-            return eventAs<xcb_circulate_notify_event_t>(event).event == x11_.root();
-        case XCB_REPARENT_NOTIFY:
-            return eventAs<xcb_reparent_notify_event_t>(event).event == x11_.root();
-        default:
-            return false;
-        }
-    };
-    if (!pause_ && concernsRoot())
+/// Events about children of the root window are kept from Qt: it takes a child's ConfigureNotify
+/// for one of the root window and asks for the whole arrangement of screens.
+bool StayOnTop::handle(const xcb_generic_event_t& event) {
+    if (!concernsChildOfRoot(event))
+        return false;
+    if (!pause_)
         nextTurn_->request();
+    return true;
+}
+
+bool StayOnTop::concernsChildOfRoot(const xcb_generic_event_t& event) const {
+    const auto concernsChild = [&]<typename Event>(const Event& change) {
+        return change.event == x11_.root() && change.window != x11_.root();
+    };
+    switch (eventType(event)) {
+    case XCB_MAP_NOTIFY:
+        return concernsChild(eventAs<xcb_map_notify_event_t>(event));
+    case XCB_UNMAP_NOTIFY: // it may have been a shield
+        return concernsChild(eventAs<xcb_unmap_notify_event_t>(event));
+    case XCB_CONFIGURE_NOTIFY:
+        return concernsChild(eventAs<xcb_configure_notify_event_t>(event));
+    case XCB_CIRCULATE_NOTIFY:
+        return concernsChild(eventAs<xcb_circulate_notify_event_t>(event));
+    case XCB_REPARENT_NOTIFY:
+        return concernsChild(eventAs<xcb_reparent_notify_event_t>(event));
+    default:
+        return false;
+    }
 }
 
 void StayOnTop::check() {

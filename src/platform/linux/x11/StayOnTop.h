@@ -26,7 +26,8 @@ public:
 private:
     struct Neighbour;
 
-    void handle(const xcb_generic_event_t& event);
+    bool handle(const xcb_generic_event_t& event);
+    bool concernsChildOfRoot(const xcb_generic_event_t& event) const;
     void check();
     void putOnTop(xcb_window_t window);
 

@@ -58,9 +58,8 @@ X11EventObserver::X11EventObserver(Handler handler) : handler_(std::move(handler
 }
 
 bool X11EventObserver::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
-    if (type == "xcb_generic_event_t")
-        handler_(*static_cast<const xcb_generic_event_t*>(message));
-    return false;
+    return type == "xcb_generic_event_t" &&
+           handler_(*static_cast<const xcb_generic_event_t*>(message));
 }
 
 } // namespace brellowind::platform

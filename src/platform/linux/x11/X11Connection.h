@@ -53,10 +53,11 @@ private:
     xcb_window_t root_;
 };
 
-/// Hears of every event of the application's connection before Qt handles it.
+/// Observes every event of the application's connection before Qt handles it.
 class X11EventObserver final : public QAbstractNativeEventFilter {
 public:
-    using Handler = std::function<void(const xcb_generic_event_t&)>;
+    /// Returns whether Qt shall not handle the event.
+    using Handler = std::function<bool(const xcb_generic_event_t&)>;
 
     explicit X11EventObserver(Handler handler);
 

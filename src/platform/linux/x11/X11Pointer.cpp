@@ -55,7 +55,10 @@ void selectRawMotion(const X11Connection& x11, bool selected) {
 
 X11Pointer::X11Pointer(MainLoop& mainLoop)
     : xinput_(xinputNumber(x11_)), nextTurn_(mainLoop.onNextTurn([this] { tellMovement(); })),
-      observer_([this](const xcb_generic_event_t& event) { handle(event); }) {
+      observer_([this](const xcb_generic_event_t& event) {
+          handle(event);
+          return false;
+      }) {
     if (xinput_ < 0)
         return;
     selectRawMotion(x11_, true);

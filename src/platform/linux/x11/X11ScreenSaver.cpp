@@ -13,8 +13,10 @@ bool isActive(std::uint8_t state) {
 } // namespace
 
 X11ScreenSaver::X11ScreenSaver(const X11Connection& x11, std::function<void()> onChange)
-    : onChange_(std::move(onChange)),
-      observer_([this](const xcb_generic_event_t& event) { handle(event); }) {
+    : onChange_(std::move(onChange)), observer_([this](const xcb_generic_event_t& event) {
+          handle(event);
+          return false;
+      }) {
     const auto* extension = xcb_get_extension_data(x11.get(), &xcb_screensaver_id);
     if (!extension || !extension->present)
         return;

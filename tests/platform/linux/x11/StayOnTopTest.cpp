@@ -1,5 +1,8 @@
 #include "platform/linux/x11/PillOnX11.h"
+#include "platform/linux/x11/X11Connection.h"
 
+#include <QAbstractNativeEventFilter>
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 
 namespace brellowind::test {
@@ -90,6 +93,34 @@ TEST_F(StayOnTop, FightsForTheTopFiveTimesASecondAtMost) {
     EXPECT_EQ(raises, 5);
     EXPECT_TRUE(x.isAbove(rival.id(), id()));
     EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); })); // after the pause
+}
+
+/// Counts what Qt is told of windows of other programs.
+class ForeignConfigures final : public QAbstractNativeEventFilter {
+public:
+    ForeignConfigures() { QCoreApplication::instance()->installNativeEventFilter(this); }
+
+    bool nativeEventFilter(const QByteArray& /*type*/, void* message, qintptr*) override {
+        const auto& event = *static_cast<const xcb_generic_event_t*>(message);
+        const auto& configure = platform::eventAs<xcb_configure_notify_event_t>(event);
+        count += platform::eventType(event) == XCB_CONFIGURE_NOTIFY &&
+                 configure.event != configure.window;
+        return false;
+    }
+
+    int count = 0;
+};
+
+// It would ask for all screens again at each of them.
+TEST_F(StayOnTop, KeepsTheMovesOfOtherWindowsFromQt) {
+    ForeignConfigures foreign; // filters are asked from the last to the first
+    show();
+    PlainWindow rival(display, {0, 400, 600, 200}, Kind::unmanaged);
+    for (int i = 0; i < 20; ++i)
+        rival.moveTo({i, 400});
+    rival.moveTo({300, 0});
+    ASSERT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); }));
+    EXPECT_EQ(foreign.count, 0);
 }
 
 } // namespace
