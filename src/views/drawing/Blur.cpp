@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <numeric>
 #include <vector>
 
 namespace brellowind {
@@ -36,39 +35,51 @@ struct Line {
 
     uchar* first;
     std::ptrdiff_t step; ///< bytes from sample to sample
-    std::size_t length;
 };
-
-/// Replaces each sum by that of itself and the `width` - 1 before it. They may wrap around on the
-/// way: their differences are exact all the same.
-void addUp(std::vector<std::uint32_t>& sums, std::size_t width) {
-    std::partial_sum(sums.begin(), sums.end(), sums.begin());
-    for (auto i = sums.size(); i-- > width;)
-        sums[i] -= sums[i - width];
-}
 
 std::size_t radius(const Widths& widths) {
     return widths[0] / 2 + widths[1] / 2 + widths[2] / 2;
 }
 
-/// `sums` is room to work in.
-void blurLine(const Line& line, const Widths& widths, std::vector<std::uint32_t>& sums) {
-    // Each filter moves what it adds up by half of its width.
-    const std::size_t shift = radius(widths);
-    sums.assign(line.length + shift, 0);
-    std::uint32_t ink = 0;
-    for (std::size_t i = 0; i < line.length; ++i) {
-        sums[i] = line[i];
-        ink |= sums[i];
+/// Blurs lines of one length. Main thread only.
+class LineBlur {
+public:
+    LineBlur(const Widths& widths, std::size_t length)
+        : widths_(widths), length_(length), room_(*std::ranges::max_element(widths)),
+          // Each filter moves what it adds up by half of its width.
+          from_(room_ + length + radius(widths)), to_(from_.size()) {}
+
+    void operator()(const Line& line) {
+        std::uint32_t ink = 0;
+        for (std::size_t i = 0; i < length_; ++i)
+            ink |= from_[room_ + i] = line[i];
+        if (ink == 0)
+            return;
+        std::fill(from_.begin() + static_cast<std::ptrdiff_t>(room_ + length_), from_.end(), 0);
+        for (const std::size_t width : widths_) {
+            addUp(width);
+            from_.swap(to_);
+        }
+        const std::uint32_t* const sums = &from_[room_ + radius(widths_)];
+        const double share = 1.0 / static_cast<double>(widths_[0] * widths_[1] * widths_[2]);
+        for (std::size_t i = 0; i < length_; ++i)
+            line[i] = static_cast<uchar>(sums[i] * share + 0.5);
     }
-    if (ink == 0)
-        return;
-    for (const std::size_t width : widths)
-        addUp(sums, width);
-    const double share = 1.0 / static_cast<double>(widths[0] * widths[1] * widths[2]);
-    for (std::size_t i = 0; i < line.length; ++i)
-        line[i] = static_cast<uchar>(sums[i + shift] * share + 0.5);
-}
+
+private:
+    /// Makes each sum that of the sample and the `width` - 1 before it.
+    void addUp(std::size_t width) {
+        std::uint32_t sum = 0;
+        for (std::size_t i = room_; i < from_.size(); ++i)
+            to_[i] = sum += from_[i] - from_[i - width];
+    }
+
+    Widths widths_;
+    std::size_t length_;
+    std::size_t room_; ///< of clear samples before the first
+    std::vector<std::uint32_t> from_;
+    std::vector<std::uint32_t> to_;
+};
 
 } // namespace
 
@@ -80,12 +91,13 @@ void blur(QImage& image, double sigma) {
     const auto height = static_cast<std::size_t>(image.height());
     const std::ptrdiff_t channels = image.depth() / 8;
     uchar* const first = image.bits();
-    std::vector<std::uint32_t> sums;
+    LineBlur blurRow(widths, width);
     for (int y = 0; y < image.height(); ++y)
         for (std::ptrdiff_t channel = 0; channel < channels; ++channel)
-            blurLine({first + y * image.bytesPerLine() + channel, channels, width}, widths, sums);
+            blurRow({first + y * image.bytesPerLine() + channel, channels});
+    LineBlur blurColumn(widths, height);
     for (std::ptrdiff_t sample = 0; sample < channels * image.width(); ++sample)
-        blurLine({first + sample, image.bytesPerLine(), height}, widths, sums);
+        blurColumn({first + sample, image.bytesPerLine()});
 }
 
 double blurReach(double sigma) {

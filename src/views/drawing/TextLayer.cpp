@@ -1,6 +1,7 @@
 #include "views/drawing/TextLayer.h"
 
 #include "views/drawing/Blur.h"
+#include "views/drawing/Coverage.h"
 #include "views/drawing/Ideographs.h"
 #include "views/motion/Springs.h"
 
@@ -53,15 +54,6 @@ QPointF onPixel(const QPainter& painter, QPointF point) {
     const QPointF pixel = transform.map(point) * ratio;
     const QPointF rounded(std::round(pixel.x()), std::round(pixel.y()));
     return transform.inverted().map(rounded / ratio);
-}
-
-/// `coverage` (Alpha8) painted in `color`.
-QImage tinted(const QImage& coverage, QColor color) {
-    QImage image = coverage.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    QPainter painter(&image);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(QRectF(QPointF(0, 0), image.deviceIndependentSize()), color);
-    return image;
 }
 
 } // namespace
@@ -198,22 +190,21 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     const QSizeF room = (blurred_.size() - picture_.size()) / 2 / ratio;
     const QRectF place(origin + part.topLeft() - QPointF(room.width(), room.height()),
                        QSizeF(blurred_.size()) / ratio);
-    if (scale() < 1)
-        paintSmaller(painter, place, origin + layout_.boundingRect().center());
-    else
-        painter.drawImage(place.topLeft(), blurred_);
+    paintShrunk(painter, place, origin + layout_.boundingRect().center());
 }
 
 /// Draws `blurred_` in `place` shrunk about `middle`. The picture is scaled to whole pixels first:
 /// a painter that scales while it draws wakes threads for it.
-void TextLayer::paintSmaller(QPainter& painter, const QRectF& place, QPointF middle) const {
+void TextLayer::paintShrunk(QPainter& painter, const QRectF& place, QPointF middle) const {
     const auto shrunk = [&](QPointF corner) {
         return onPixel(painter, middle + (corner - middle) * scale());
     };
     const QPointF from = shrunk(place.topLeft());
-    const QPointF size = (shrunk(place.bottomRight()) - from) * blurred_.devicePixelRatio();
-    painter.drawImage(from, blurred_.scaled(qRound(size.x()), qRound(size.y()),
-                                            Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    const QPointF corner = (shrunk(place.bottomRight()) - from) * blurred_.devicePixelRatio();
+    const QSize size(qRound(corner.x()), qRound(corner.y()));
+    painter.drawImage(from, blurred_.depth() == 8 ? tinted(blurred_, picturedColor_, size)
+                                                  : blurred_.scaled(size, Qt::IgnoreAspectRatio,
+                                                                    Qt::SmoothTransformation));
 }
 
 void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
@@ -233,7 +224,7 @@ void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
     // keeps the processor's share while playing below its limit of 0.5 % above an empty window.
     const QImage white = painted(Qt::white);
     picture_ = white.convertToFormat(QImage::Format_Alpha8);
-    if (tinted(picture_, Qt::white) != white)
+    if (tinted(picture_, Qt::white, picture_.size()) != white)
         picture_ = painted(color);
     pictured_ = part;
     picturedColor_ = color;
@@ -248,8 +239,6 @@ void TextLayer::blurPicture(int radius) {
     const int margin = std::max(0, radius - static_cast<int>(inkOverhang * ratio));
     blurred_ = picture_.copy(picture_.rect().adjusted(-margin, -margin, margin, margin));
     blur(blurred_, sigma() * ratio);
-    if (blurred_.depth() == 8)
-        blurred_ = tinted(blurred_, picturedColor_);
     blurredRadius_ = radius;
 }
 

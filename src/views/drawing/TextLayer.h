@@ -59,7 +59,7 @@ private:
     void paintSharp(QPainter& painter, QColor color, QPointF origin, double left,
                     double right) const;
     void paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen);
-    void paintSmaller(QPainter& painter, const QRectF& place, QPointF middle) const;
+    void paintShrunk(QPainter& painter, const QRectF& place, QPointF middle) const;
     void takePicture(QRectF part, QColor color, double ratio);
     void blurPicture(int radius);
 

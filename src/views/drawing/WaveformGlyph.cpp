@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -32,7 +31,7 @@ int strength(int index, int step) {
 
 /// A bar in a symbol that fills `symbol`, in pixels. Bars, and the gaps between them, are whole
 /// pixels wide wherever the symbol stands and however it is scaled.
-QRectF barRect(int index, const QRectF& symbol) {
+QRect barRect(int index, const QRectF& symbol) {
     const double unit = symbol.width() / 16;
     const double width = std::max(1.0, std::round(barWidth * unit));
     const double pitch = width + std::max(1.0, std::round(gapWidth * unit));
@@ -40,7 +39,18 @@ QRectF barRect(int index, const QRectF& symbol) {
     const double half = symbol.height() * heights[static_cast<std::size_t>(index)] / 2;
     const double top = std::round(symbol.center().y() - half);
     const double bottom = std::round(symbol.center().y() + half);
-    return {left + index * pitch, top, width, bottom - top};
+    return QRectF(left + index * pitch, top, width, bottom - top).toRect();
+}
+
+QImage barPicture(QSize size) {
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(picture.rect(), size.width() / 2.0, size.width() / 2.0);
+    return picture;
 }
 
 } // namespace
@@ -70,11 +80,14 @@ void WaveformGlyph::paint(QPainter& painter) {
     const auto toPixels = painter.transform() * QTransform::fromScale(ratio, ratio);
     const QRectF symbol = toPixels.mapRect(boundingRect());
     painter.setTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
-    painter.setPen(Qt::NoPen);
+    const double opacity = painter.opacity();
     for (int i = 0; i < barCount; ++i) {
-        painter.setBrush(QColor(255, 255, 255, active_ ? strength(i, step_) : 255));
-        const QRectF bar = barRect(i, symbol);
-        painter.drawRoundedRect(bar, bar.width() / 2, bar.width() / 2);
+        const QRect bar = barRect(i, symbol);
+        QImage& picture = bars_[static_cast<std::size_t>(i)];
+        if (picture.size() != bar.size())
+            picture = barPicture(bar.size());
+        painter.setOpacity(active_ ? opacity * strength(i, step_) / 255 : opacity);
+        painter.drawImage(bar.topLeft(), picture);
     }
 }
 

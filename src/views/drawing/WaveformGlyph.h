@@ -3,6 +3,8 @@
 #include "views/scene/Item.h"
 
 #include <QBasicTimer>
+#include <QImage>
+#include <array>
 
 namespace brellowind {
 
@@ -30,6 +32,7 @@ private:
 
     bool active_ = false;
     int step_ = 0;
+    std::array<QImage, 5> bars_; ///< each as it is drawn, white
     QBasicTimer steps_;
 };
 
