@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
 namespace brellowind::platform {
 namespace {
@@ -53,9 +54,18 @@ void StayOnTop::putOnTop(xcb_window_t window) {
 bool StayOnTop::handle(const xcb_generic_event_t& event) {
     if (!concernsChildOfRoot(event))
         return false;
-    if (!pause_)
+    if (!pause_ && mayCover(event))
         nextTurn_->request();
     return true;
+}
+
+/// A change of this window that leaves it where it is in the stack covers nothing.
+bool StayOnTop::mayCover(const xcb_generic_event_t& event) {
+    if (eventType(event) != XCB_CONFIGURE_NOTIFY)
+        return true;
+    const auto& change = eventAs<xcb_configure_notify_event_t>(event);
+    return change.window != window_ ||
+           std::exchange(below_, change.above_sibling) != change.above_sibling;
 }
 
 bool StayOnTop::concernsChildOfRoot(const xcb_generic_event_t& event) const {

@@ -28,6 +28,7 @@ private:
 
     bool handle(const xcb_generic_event_t& event);
     bool concernsChildOfRoot(const xcb_generic_event_t& event) const;
+    bool mayCover(const xcb_generic_event_t& event);
     void check();
     void putOnTop(xcb_window_t window);
 
@@ -40,6 +41,7 @@ private:
     X11Connection x11_;
     const QWindow& qtWindow_;
     xcb_window_t window_;
+    xcb_window_t below_ = XCB_WINDOW_NONE; ///< the window right below this one
     xcb_atom_t managedMark_; ///< a property of the windows that a window manager manages
     MainLoop& mainLoop_;
     RaiseBudget budget_;

@@ -58,7 +58,8 @@ X11Pointer::X11Pointer(MainLoop& mainLoop)
       observer_([this](const xcb_generic_event_t& event) {
           handle(event);
           return false;
-      }) {
+      }),
+      use_([this] { handleUse(); }) {
     if (xinput_ < 0)
         return;
     selectRawMotion(x11_, true);
@@ -102,8 +103,18 @@ void X11Pointer::handle(const xcb_generic_event_t& event) {
     if (eventType(event) != XCB_GE_GENERIC)
         return;
     const auto& generic = eventAs<xcb_ge_generic_event_t>(event);
-    if (generic.extension != xinput_ || generic.event_type != XCB_INPUT_RAW_MOTION)
-        return;
+    if (generic.extension == xinput_ && generic.event_type == XCB_INPUT_RAW_MOTION)
+        requestMovement();
+}
+
+/// A press uses the pointer as well, without a movement.
+void X11Pointer::handleUse() {
+    const auto position = query(x11_.root());
+    if (position && told_ != std::pair<int, int>(position->root_x, position->root_y))
+        requestMovement();
+}
+
+void X11Pointer::requestMovement() {
     if (!std::exchange(moved_, true))
         qGuiApp->installEventFilter(this);
     nextTurn_->request();
@@ -121,7 +132,10 @@ void X11Pointer::tellMovement() {
     if (!std::exchange(moved_, false))
         return;
     qGuiApp->removeEventFilter(this);
-    if (isOverOwnWindow(query(x11_.root())))
+    auto position = query(x11_.root());
+    if (position)
+        told_.emplace(position->root_x, position->root_y);
+    if (isOverOwnWindow(std::move(position)))
         local_->notify();
     else
         global_->notify();

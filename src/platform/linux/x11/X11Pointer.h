@@ -4,6 +4,7 @@
 #include "platform/MainLoop.h"
 #include "platform/Pointer.h"
 #include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11PointerUse.h"
 
 #include <QObject>
 #include <memory>
@@ -11,8 +12,9 @@
 namespace brellowind::platform {
 
 /// The pointer of an X server. Its movements are told by the server, wherever it moves and whoever
-/// holds it (XInput 2.1 raw events); nothing happens while it rests. Several movements that have
-/// come by the time of the next turn of the main loop count as one.
+/// holds it (XInput 2.1 raw events), also when another program puts it elsewhere after it has
+/// rested; nothing happens while it rests. Several movements that have come by the time of the next
+/// turn of the main loop count as one.
 class X11Pointer final : public QObject, public Pointer {
 public:
     explicit X11Pointer(MainLoop& mainLoop);
@@ -30,6 +32,8 @@ private:
     using Position = X11Answer<xcb_query_pointer_reply_t>;
 
     void handle(const xcb_generic_event_t& event);
+    void handleUse();
+    void requestMovement();
     void tellMovement();
     Position query(xcb_window_t within) const;
     bool isOverOwnWindow(Position position) const;
@@ -38,10 +42,12 @@ private:
     X11Connection x11_;
     int xinput_ = -1; ///< the extension's number; -1 when it is absent or too old
     bool moved_ = false;
+    std::optional<std::pair<int, int>> told_; ///< the last location, in pixels of the root window
     std::shared_ptr<Observers> global_ = std::make_shared<Observers>();
     std::shared_ptr<Observers> local_ = std::make_shared<Observers>();
     std::unique_ptr<NextTurn> nextTurn_;
     X11EventObserver observer_;
+    X11PointerUse use_;
 };
 
 } // namespace brellowind::platform

@@ -62,7 +62,6 @@ void X11Popup::show(const Popup& popup) {
     // Not of the type Popup, of which Qt tells assistive programs nothing.
     window.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
                     Qt::BypassWindowManagerHint);
-    window.setTransientParent(&popup.overlay);
     window.setPosition(
         placeWithin((at ? at : popup.overlay.screen())->geometry(), corner, window.size()));
     window.create(); // what is not there yet has no mask

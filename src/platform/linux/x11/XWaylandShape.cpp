@@ -21,7 +21,7 @@ XWaylandShape::XWaylandShape(const QWindow& window)
 
 void XWaylandShape::present(const std::function<void()>& flush) {
     extra_ = extra_ % mostExtra + 1;
-    const auto height = static_cast<std::uint32_t>(this->height() + extra_);
+    const auto height = static_cast<std::uint32_t>(geometry().height() + extra_);
     setCommitsAllowed(false);
     xcb_configure_window(x11_.get(), window_, XCB_CONFIG_WINDOW_HEIGHT, &height);
     flush();
@@ -34,15 +34,18 @@ bool XWaylandShape::nativeEventFilter(const QByteArray& type, void* message, qin
     if (type != "xcb_generic_event_t" || eventType(event) != XCB_CONFIGURE_NOTIFY)
         return false;
     auto& configured = reinterpret_cast<xcb_configure_notify_event_t&>(event);
-    const int extra = configured.height - height();
-    if (configured.event == window_ && extra > 0 && extra <= mostExtra)
-        configured.height = static_cast<std::uint16_t>(height());
-    return false;
+    const QRect known = geometry();
+    const int extra = configured.height - known.height();
+    if (configured.event != window_ || extra <= 0 || extra > mostExtra)
+        return false;
+    configured.height = static_cast<std::uint16_t>(known.height());
+    return QPoint(configured.x, configured.y) == known.topLeft() &&
+           configured.width == known.width();
 }
 
-/// In pixels, as Qt has asked for it.
-int XWaylandShape::height() const {
-    return qtWindow_.handle()->geometry().height();
+/// In pixels, as Qt knows it.
+QRect XWaylandShape::geometry() const {
+    return qtWindow_.handle()->geometry();
 }
 
 /// Of what the window shows, by XWayland to the compositor.

@@ -29,7 +29,7 @@ public:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
 private:
-    int height() const;
+    QRect geometry() const;
     void setCommitsAllowed(bool allowed) const;
 
     X11Connection x11_;

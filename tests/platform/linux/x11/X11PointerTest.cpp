@@ -88,6 +88,26 @@ TEST_F(X11Pointer, IsSilentWhileItRests) {
     EXPECT_EQ(global + local, 0);
 }
 
+TEST_F(X11Pointer, TellsOfAPointerThatAProgramPutsElsewhere) {
+    for (const int column : {200, 640}) {
+        global = 0;
+        runFor(std::chrono::milliseconds(300));
+        const auto place = static_cast<std::int16_t>(column);
+        xcb_warp_pointer(x.get(), XCB_NONE, x.root(), 0, 0, 0, 0, place, 300);
+        x.finish();
+        EXPECT_TRUE(waitUntil([this] { return global == 1; })) << column;
+        EXPECT_EQ(pointer.location(), (Point{column + 0.5, 499.5}));
+    }
+}
+
+TEST_F(X11Pointer, TellsOfNoMovementWhenAButtonIsPressed) {
+    runFor(std::chrono::milliseconds(300));
+    global = 0;
+    person.press();
+    runFor(std::chrono::milliseconds(300));
+    EXPECT_EQ(global, 0);
+}
+
 TEST_F(X11Pointer, TellsNobodyWhoHasLeft) {
     globalMonitor.reset();
     int still = 0;

@@ -59,6 +59,12 @@ TEST_F(X11Popup, IsShownWhereItIsWantedAboveTheOverlay) {
     EXPECT_TRUE(x.isAbove(static_cast<xcb_window_t>(menu.winId()), id()));
 }
 
+// Window managers warn of a parent that bypasses them.
+TEST_F(X11Popup, TellsTheWindowManagerOfNoParent) {
+    openMenu();
+    EXPECT_TRUE(x.property(static_cast<xcb_window_t>(menu.winId()), "WM_TRANSIENT_FOR").isEmpty());
+}
+
 TEST_F(X11Popup, StaysOnTheScreen) {
     show();
     popUp({1000, 780}); // beside the overlay
