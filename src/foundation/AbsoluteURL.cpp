@@ -14,7 +14,7 @@ bool consistsOf(std::string_view text, std::string_view characters) {
     return text.find_first_not_of(characters) == std::string_view::npos;
 }
 
-/// Whether percent escapes and the unreserved and reserved characters are all that `text` holds.
+/// Whether `text` consists of percent escapes, unreserved and reserved characters only.
 bool isAddress(std::string_view text) {
     for (auto at = text.find('%'); at != text.npos; at = text.find('%', at + 1)) {
         const auto digits = text.substr(at + 1, 2);

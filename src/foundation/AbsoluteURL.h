@@ -4,9 +4,9 @@
 
 namespace brellowind {
 
-/// Whether `text` is an absolute URL: a scheme, a colon, and at least one character after it, all
-/// of them such that RFC 3986 lets them stand in a URL, and every percent sign followed by two
-/// hexadecimal digits. Nothing is asked of the scheme: mailto counts as https does.
+/// Whether `text` is an absolute URL: a scheme of any kind (mailto as well as https), a colon, and
+/// at least one character after it. All characters must be allowed by RFC 3986, and every percent
+/// sign must be followed by two hexadecimal digits.
 bool isAbsoluteURL(std::string_view text);
 
 } // namespace brellowind

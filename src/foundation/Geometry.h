@@ -2,8 +2,8 @@
 
 namespace brellowind {
 
-/// All lengths are in points. On the desktop the origin is the bottom left corner of the primary
-/// screen and y grows upward; in a view it is the top left corner and y grows downward.
+/// All lengths are in points. Desktop coordinates: origin at the bottom left corner of the primary
+/// screen, y upward. View coordinates: origin at the top left corner, y downward.
 struct Point {
     double x = 0;
     double y = 0;
@@ -31,7 +31,7 @@ struct Rect {
     constexpr double midY() const { return y + height / 2; }
     constexpr double maxY() const { return y + height; }
 
-    /// `minX` and `minY` are inside, `maxX` and `maxY` are not. False for what is no number.
+    /// `minX` and `minY` are inside, `maxX` and `maxY` are not. False for NaN.
     constexpr bool contains(Point point) const {
         return point.x >= minX() && point.x < maxX() && point.y >= minY() && point.y < maxY();
     }

@@ -51,7 +51,7 @@ void Observers::remove(std::uint64_t id) {
     if (entry == entries_.end())
         return;
     if (notifying_ > 0)
-        left_.push_back(std::move(entry->callback)); // it may be the one that runs just now
+        left_.push_back(std::move(entry->callback)); // it may be running now
     else
         entries_.erase(entry);
 }

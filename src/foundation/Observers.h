@@ -9,7 +9,7 @@ namespace brellowind {
 
 class Observers;
 
-/// Keeps one observer registered for as long as it lives. It may outlive what it observes.
+/// Keeps one observer registered until it is destroyed. It may outlive the observed object.
 class [[nodiscard]] Subscription {
 public:
     Subscription() = default;
@@ -17,7 +17,7 @@ public:
     Subscription& operator=(Subscription&& other) noexcept;
     ~Subscription();
 
-    /// Ends the observation; does nothing when it has ended already.
+    /// Unregisters the observer. Does nothing if it is not registered.
     void cancel();
 
 private:
@@ -28,8 +28,9 @@ private:
     std::uint64_t id_ = 0;
 };
 
-/// An ordered list of callbacks. During a notification observers may leave, and are not called any
-/// more, or come, and are first called by the next one. A notification allocates nothing.
+/// An ordered list of callbacks. An observer that is removed during a notification is not called
+/// any more; one that is added is first called by the next notification. Notifying does not
+/// allocate memory.
 class Observers : public std::enable_shared_from_this<Observers> {
 public:
     using Callback = std::function<void()>;
@@ -42,13 +43,13 @@ private:
 
     struct Entry {
         std::uint64_t id;
-        std::unique_ptr<Callback> callback; ///< absent once the observer has left
+        std::unique_ptr<Callback> callback; ///< null once removed
     };
 
     void remove(std::uint64_t id);
 
     std::vector<Entry> entries_;
-    std::vector<std::unique_ptr<Callback>> left_; ///< kept until no notification runs
+    std::vector<std::unique_ptr<Callback>> left_; ///< freed after the notification
     std::uint64_t lastId_ = 0;
     int notifying_ = 0;
 };

@@ -6,15 +6,15 @@
 
 namespace brellowind {
 
-/// An outline of straight lines and quadratic curves, for any toolkit to draw. What is inside is
-/// decided by the even-odd rule; a part that is left open counts as closed.
+/// An outline of straight lines and quadratic curves, independent of any toolkit. It is filled by
+/// the even-odd rule; open subpaths count as closed.
 class Path {
 public:
     struct Element {
         enum class Kind { move, line, quadCurve, close };
 
         Kind kind;
-        Point to{};      ///< not used by `close`, a straight line back to the last `move`
+        Point to{};      ///< not used by `close`, a straight line to the last `move`
         Point control{}; ///< used by `quadCurve` only
 
         bool operator==(const Element&) const = default;
@@ -29,7 +29,7 @@ public:
 
     const std::vector<Element>& elements() const { return elements_; }
 
-    /// The outline whose points are those of this one under `map`, which keeps lines straight.
+    /// The outline with `map`, an affine transformation, applied to every point.
     template <typename Map>
     Path mapped(Map map) const {
         Path path = *this;

@@ -12,8 +12,8 @@ inline void appendEscape(std::string& url, char character) {
     url.append({'%', hex[byte >> 4], hex[byte & 0xF]});
 }
 
-/// The URL of a local file as programs write it by hand, with spaces and letters outside ASCII,
-/// made a valid one. Escapes that are there stay.
+/// Makes a valid URL of a file URL that was written without escapes: percent-encodes spaces and
+/// non-ASCII characters. Existing escapes are kept.
 inline std::string fileURL(std::string_view text) {
     std::string url;
     for (const char character : text) {

@@ -6,10 +6,10 @@
 
 namespace brellowind {
 
-/// A property that everyone may read and observe and only `Writer` may assign.
+/// A property that everyone may read and observe but only `Writer` may assign.
 ///
-/// Every assignment notifies the observers just before the new value takes effect, also when the
-/// new value equals the old one: during the notification `get()` still returns the old value.
+/// Every assignment, also of an equal value, notifies the observers just before it takes effect:
+/// during the notification `get()` still returns the old value.
 template <typename Value, typename Writer>
 class Published {
 public:

@@ -8,7 +8,7 @@
 
 namespace brellowind {
 
-/// An immutable UTF-8 text: a slice of a string that copies and other slices share.
+/// An immutable UTF-8 text: a slice of a reference-counted string.
 class SharedText {
 public:
     SharedText() = default;
@@ -21,7 +21,7 @@ public:
     SharedText(std::shared_ptr<const std::string> whole, std::string_view slice)
         : whole_(std::move(whole)), slice_(slice) {}
 
-    /// Valid for as long as this text or a copy of it lives.
+    /// Valid as long as this object or a copy of it.
     std::string_view view() const { return slice_; }
     bool empty() const { return slice_.empty(); }
     std::size_t size() const { return slice_.size(); }

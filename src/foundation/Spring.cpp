@@ -8,7 +8,7 @@
 namespace brellowind {
 namespace {
 
-/// A quicker spring has arrived before anybody can see it move, and its stiffness would overflow.
+/// The stiffness of a shorter response would overflow.
 constexpr double shortestResponse = 1e-6;
 
 bool jumps(SpringParameters parameters) {
@@ -19,10 +19,10 @@ double angularFrequency(SpringParameters parameters) {
     return 2 * std::numbers::pi / parameters.response;
 }
 
-/// The two motions that all others are made of.
+/// The fundamental solutions of the spring equation.
 struct Basis {
-    double even; ///< begins at 1 with velocity -damping * frequency
-    double odd;  ///< begins at 0 with velocity 1
+    double even; ///< starts at 1 with velocity -damping * frequency
+    double odd;  ///< starts at 0 with velocity 1
 };
 
 Basis basis(double frequency, double damping, double time) {
@@ -32,7 +32,7 @@ Basis basis(double frequency, double damping, double time) {
         return {decay * std::cos(damped * time), decay * std::sin(damped * time) / damped};
     }
     if (damping > 1) {
-        // Written with the slower of the two decays, since the hyperbolic functions overflow.
+        // In terms of the slower decay, since the hyperbolic functions overflow.
         const double root = std::sqrt(damping * damping - 1);
         const double decay = std::exp(-frequency * time / (damping + root));
         const double fall = std::expm1(-2 * frequency * root * time);
@@ -72,8 +72,8 @@ double Spring::speed(double time) const {
     if (now.displacement == 0 && now.velocity == 0)
         return 0;
     if (jumps(parameters_))
-        return std::numeric_limits<double>::infinity(); // it has not begun
-    // The energy never grows, so neither does the velocity that all of it would make.
+        return std::numeric_limits<double>::infinity(); // not started yet
+    // The energy never grows, so its purely kinetic velocity is a bound.
     return std::hypot(now.displacement * angularFrequency(parameters_), now.velocity);
 }
 
@@ -81,7 +81,7 @@ bool Spring::isSettled(double time, double tolerance) const {
     const double fastest = speed(time);
     if (fastest == 0 || jumps(parameters_))
         return fastest == 0;
-    // By the same energy, this is as far as it can still go.
+    // The same energy bounds the displacement.
     return fastest / angularFrequency(parameters_) <= tolerance;
 }
 

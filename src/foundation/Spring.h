@@ -2,28 +2,28 @@
 
 namespace brellowind {
 
-/// How a spring moves: unit mass, stiffness (2π / response)², damping 4π · dampingFraction /
+/// A damped spring of unit mass: stiffness (2π / response)², damping 4π · dampingFraction /
 /// response.
 struct SpringParameters {
-    double response = 0;        ///< seconds; one that is not above 0 jumps to the target
-    double dampingFraction = 1; ///< not negative; below 1 it overshoots, above 1 it creeps
+    double response = 0;        ///< seconds; 0 or less jumps to the target
+    double dampingFraction = 1; ///< not negative; below 1 underdamped, above 1 overdamped
 
     bool operator==(const SpringParameters&) const = default;
 };
 
-/// A value that a damped spring pulls to its target, known at every time without stepping.
+/// A value driven to its target by a damped spring, computed in closed form for any time.
 ///
-/// Times are seconds on any one clock. Before the last change of target everything is as it was
-/// just before that change.
+/// Times are seconds on one clock of the caller's choice. Times before the last retargeting give
+/// the state at that retargeting.
 class Spring {
 public:
     /// At rest at `value`, which is also its target.
     Spring(SpringParameters parameters, double value);
 
-    /// Pulls to `target` from `time` on. The value and the velocity of that moment stay.
+    /// Changes the target from `time` on. Value and velocity are continuous.
     void retarget(double target, double time);
 
-    /// The same, by another spring from then on.
+    /// As above, and changes the parameters.
     void retarget(double target, double time, SpringParameters parameters);
 
     double target() const { return target_; }
@@ -33,16 +33,16 @@ public:
     /// The change of the value per second.
     double velocity(double time) const;
 
-    /// The greatest velocity, up or down, that it may still reach from `time` on.
+    /// An upper bound of the absolute velocity from `time` on.
     double speed(double time) const;
 
-    /// Whether the value stays within `tolerance` of the target from `time` on. Passing the target
-    /// at speed is not enough. Once true it stays true for later times.
+    /// Whether the value stays within `tolerance` of the target from `time` on. Once true, it is
+    /// true for all later times.
     bool isSettled(double time, double tolerance) const;
 
 private:
     struct Motion {
-        double displacement; ///< value less target
+        double displacement; ///< value minus target
         double velocity;
     };
 
@@ -51,7 +51,7 @@ private:
     SpringParameters parameters_;
     double target_;
     Motion initial_{0, 0};
-    double start_ = 0; ///< when the motion was `initial_`
+    double start_ = 0; ///< the time of `initial_`
 };
 
 } // namespace brellowind

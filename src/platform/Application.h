@@ -10,7 +10,7 @@ public:
     /// Brings the program's windows to the front, whichever application is active.
     virtual void activate() = 0;
 
-    /// Asks the program to end. It ends on a later turn of the main loop.
+    /// Asks the program to quit. It quits on a later turn of the main loop.
     virtual void terminate() = 0;
 };
 

@@ -7,15 +7,15 @@
 
 namespace brellowind::platform {
 
-/// Writes failures that may repeat to the system log: once, and again when they change.
+/// Logs failures without repetition: a failure is written when it differs from the previous one.
 class FailureLog {
 public:
-    /// Each line is `prefix` followed by the description. `log` outlives this.
+    /// Each line is `prefix` followed by the description. `log` must outlive this object.
     FailureLog(Log& log, std::string_view prefix);
 
     void failed(std::string_view description);
 
-    /// The next failure is written whatever its description.
+    /// The next failure is written, also if it equals the last one.
     void succeeded();
 
 private:

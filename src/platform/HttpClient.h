@@ -14,10 +14,9 @@
 
 namespace brellowind::platform {
 
-/// What caches may do with a request.
 enum class CachePolicy {
-    protocol, ///< what HTTP lets them do
-    reload,   ///< nothing: the answer comes from the origin, whatever is kept on the way
+    protocol, ///< caches are used as HTTP allows
+    reload,   ///< caches are bypassed; the answer comes from the origin
 };
 
 /// A GET request.
@@ -34,8 +33,8 @@ struct HttpResponse {
     std::string body;
 };
 
-/// No answer arrived: no connection, time-out, cancellation, a redirect that is unsafe or leads
-/// nowhere, a body too long, cut off or compressed.
+/// No usable answer: no connection, timeout, cancellation, an unsafe or invalid redirect, a body
+/// that is too long, truncated or compressed.
 struct TransportError {
     std::string description;
 };
@@ -54,17 +53,17 @@ class HttpClient {
 public:
     using Completion = std::function<void(HttpResult)>;
 
-    /// `mainLoop` must outlive it.
+    /// `mainLoop` must outlive this object.
     explicit HttpClient(MainLoop& mainLoop) : mainLoop_(mainLoop) {}
     HttpClient(const HttpClient&) = delete;
     HttpClient& operator=(const HttpClient&) = delete;
     virtual ~HttpClient() = default;
 
-    /// Sends `request`. Cancelling the task aborts the transfer and gives a transport error.
+    /// Sends `request`. Cancelling the task aborts the transfer and returns a transport error.
     Task<HttpResult> fetch(HttpRequest request);
 
-    /// Calls `completion` once, later, on the main thread, unless the transfer is destroyed first;
-    /// `completion` may destroy the transfer.
+    /// Calls `completion` once on the main thread, never from within this call, and not after the
+    /// transfer is destroyed. `completion` may destroy the transfer.
     virtual std::unique_ptr<Transfer> send(const HttpRequest& request, Completion completion) = 0;
 
 private:

@@ -5,20 +5,20 @@
 
 namespace brellowind::platform {
 
-/// A decoded image. What it holds is known to the implementation that decoded it alone.
+/// A decoded image, opaque to all but the implementation that decoded it.
 class Image {
 public:
     virtual ~Image() = default;
 };
 
-/// Decodes images that come from outside.
+/// Decodes untrusted images.
 class ImageDecoder {
 public:
     virtual ~ImageDecoder() = default;
 
-    /// The middle square of the image that `bytes` encode, scaled down to what is sharp when it is
-    /// drawn with sides of up to `largestPoints`. Null when they encode no image, or one that would
-    /// take too much memory to decode.
+    /// The center square of the image that `bytes` encode, scaled down to the resolution needed for
+    /// drawing it with sides of at most `largestPoints`. Null if `bytes` are no image, or decoding
+    /// it would take too much memory.
     virtual std::shared_ptr<const Image> decode(std::string_view bytes, int largestPoints) = 0;
 };
 

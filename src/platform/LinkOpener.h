@@ -4,12 +4,12 @@
 
 namespace brellowind::platform {
 
-/// Hands links to the programs that the user has chosen for them: browser, mail program.
+/// Opens links in the user's default programs: browser, mail client.
 class LinkOpener {
 public:
     virtual ~LinkOpener() = default;
 
-    /// `url` is absolute and percent-encoded. False when the system would not take it.
+    /// `url` is absolute and percent-encoded. Returns false if the system rejects it.
     virtual bool open(std::string_view url) = 0;
 };
 

@@ -7,13 +7,12 @@
 
 namespace brellowind::platform {
 
-/// The files of this machine.
 class LocalFiles {
 public:
     virtual ~LocalFiles() = default;
 
-    /// The contents of the ordinary file that `url` (of the scheme "file") names. Absent when there
-    /// is none, when it is no ordinary file, cannot be read, or is longer than `maximumBytes`.
+    /// The contents of the regular file that `url` (of the scheme "file") names. Returns nullopt if
+    /// it does not exist, is not a regular file, cannot be read, or is longer than `maximumBytes`.
     virtual std::optional<std::string> read(std::string_view url, std::size_t maximumBytes) = 0;
 };
 

@@ -9,7 +9,7 @@ class Log {
 public:
     virtual ~Log() = default;
 
-    /// Writes one line; `line` carries no line end.
+    /// Writes one line. `line` does not contain a line end.
     virtual void write(std::string_view line) = 0;
 };
 

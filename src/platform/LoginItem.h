@@ -5,12 +5,12 @@
 
 namespace brellowind::platform {
 
-/// The registration to be started at login. Others may change it at any time.
+/// The registration for launching at login. Other programs may change it at any time.
 class LoginItem {
 public:
     enum class Status {
         notRegistered,
-        enabled,          ///< the next login starts the program
+        enabled,          ///< launched at the next login
         requiresApproval, ///< registered, but the user has to allow it first
         notFound,         ///< the system cannot tell
     };
@@ -19,12 +19,12 @@ public:
 
     virtual Status status() = 0;
 
-    /// Absent on success, else what went wrong, in which case the registration is as it was.
-    /// Registering an item that is enabled succeeds and changes nothing.
+    /// Returns nullopt on success or if enabled already. Otherwise returns the error; the
+    /// registration is unchanged.
     virtual std::optional<std::string> registerItem() = 0;
 
-    /// Absent on success, else what went wrong, in which case the registration is as it was.
-    /// Unregistering an item that would not be started succeeds and changes nothing.
+    /// Returns nullopt on success or if disabled already. Otherwise returns the error; the
+    /// registration is unchanged.
     virtual std::optional<std::string> unregisterItem() = 0;
 };
 

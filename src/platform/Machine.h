@@ -18,7 +18,7 @@
 
 namespace brellowind::platform {
 
-/// All services of the system that the program runs on. Main thread only.
+/// Owns all services of the operating system. Main thread only.
 class Machine {
 public:
     virtual ~Machine() = default;
@@ -35,17 +35,17 @@ public:
     virtual LinkOpener& links() = 0;
     virtual LoginItem& loginItem() = 0;
 
-    /// Makes this process the only one of the program in its session. `onSecondStart` runs whenever
-    /// another process has found this one there. False when another process was first: that one has
-    /// been told, and this one should end. Called once.
+    /// Makes this process the only instance of the program in its session. `onSecondStart` runs
+    /// whenever another instance is started. Returns false if an instance is running already: it
+    /// has been notified, and this process should exit. Call once.
     virtual bool claimSession(std::function<void()> onSecondStart) = 0;
 
     /// Runs the main loop until the application terminates. Returns the exit status of the process.
     virtual int run() = 0;
 };
 
-/// Makes the machine of this process, once. Null, after one line on standard error, where there is
-/// no window system that the program can be shown on. What `argv` points to must outlive it.
+/// Makes the machine of this process. Call once. Returns null, after one line on standard error, if
+/// there is no usable window system. `argv` must outlive the machine.
 std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& constants);
 
 } // namespace brellowind::platform

@@ -19,24 +19,24 @@ public:
     virtual void setPaused(bool paused) = 0;
 };
 
-/// A handler that can be queued to run on the next turn of the main loop. Destroying this cancels a
-/// pending run; the handler may destroy it.
+/// Runs a handler on the next turn of the main loop, when requested. Destroying this object cancels
+/// a pending run; the handler may destroy it.
 class NextTurn {
 public:
     virtual ~NextTurn() = default;
 
-    /// Queues the handler. Does nothing if it is queued already.
+    /// Does nothing if a run is pending.
     virtual void request() = 0;
 };
 
-/// The main thread's event loop. No handler runs inside the call that schedules it.
+/// The main thread's event loop. A handler never runs within the call that schedules it.
 class MainLoop {
 public:
     using Handler = std::function<void()>;
 
     virtual ~MainLoop() = default;
 
-    /// `delay` counts on a monotonic clock; 0 means the next turn.
+    /// `delay` is measured by a monotonic clock; 0 means the next turn.
     virtual std::unique_ptr<Timer> scheduleOnce(std::chrono::milliseconds delay,
                                                 Handler handler) = 0;
     virtual std::unique_ptr<RepeatingTimer> scheduleRepeating(std::chrono::milliseconds interval,

@@ -10,10 +10,10 @@
 
 namespace brellowind::platform {
 
-/// Awaits something that the machine finishes later. `begin` starts it and returns its owner, whose
-/// destruction abandons it. The awaiting task resumes with what the machine reports. When it is
-/// cancelled first, the operation is abandoned at once, and the task resumes with `cancelled` on
-/// the next turn of `mainLoop`.
+/// Awaits an asynchronous operation. `begin` starts it and returns its owner; destroying the owner
+/// aborts it. The awaiting task resumes with the result. If the task is cancelled first, the
+/// operation is aborted at once, and the task resumes with `cancelled` on the next turn of
+/// `mainLoop`.
 template <typename Owner, typename Result>
 class Operation {
 public:

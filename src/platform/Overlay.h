@@ -9,32 +9,31 @@
 namespace brellowind::platform {
 
 /// A borderless, transparent window without a shadow, above every other window and the menu bar, on
-/// every desktop and beside full-screen applications. It never takes the keyboard focus, the user
-/// cannot move it, and its first click acts at once, whichever application is active.
+/// every desktop and over full-screen applications. It never takes the keyboard focus, cannot be
+/// moved by the user, and accepts the first click, whichever application is active.
 class Overlay {
 public:
     virtual ~Overlay() = default;
 
-    /// Places and redraws the window, in desktop coordinates (origin at the bottom left of the
-    /// primary screen, y upward). No menu bar or panel pushes it elsewhere.
+    /// Moves, resizes and redraws the window. `frame` is in desktop coordinates (origin at the
+    /// bottom left of the primary screen, y upward) and may cover menu bars and panels.
     virtual void setFrame(const Rect& frame) = 0;
 
-    /// Shows the window in front of all others without activating the program.
+    /// Raises the window above all others without activating the program.
     virtual void orderFrontRegardless() = 0;
 
-    /// The outline of what the window shows, and the rectangles that take clicks and movements as
-    /// well while it does not ignore them, in points from its top left corner, y downward. Both may
-    /// differ in every frame; at first they are empty. Elsewhere clicks and movements fall through
-    /// to what lies beneath, and where the window cannot be transparent, outside the outline too.
+    /// Sets the outline of the window's content, and further rectangles that receive input while
+    /// the window does not ignore it, in points from its top left corner, y downward. Input
+    /// elsewhere goes to the windows below. Without transparency the window is clipped to the
+    /// outline. May be called for every frame; initially both are empty.
     virtual void setOutline(const Path& outline, const std::vector<Rect>& reach) = 0;
 
-    /// Shows a frame after its outline is set: calls `flush`, which hands the frame to the window
-    /// system.
+    /// Presents a frame, after its outline is set. `flush` submits it to the window system.
     virtual void present(const std::function<void()>& flush) { flush(); }
 
-    /// Whether clicks and movements fall through everywhere, which they do at first. Repeating the
-    /// present value costs nothing. Where the system tells this program of the pointer only while
-    /// it is over a window that takes it, those within the outline never fall through.
+    /// Whether all clicks and movements go to the windows below; initially true. Setting the
+    /// current value again is cheap. Where the system reports the pointer only over windows with
+    /// input, the outline always receives input.
     virtual void setIgnoresMouseEvents(bool ignores) = 0;
 };
 

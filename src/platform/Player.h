@@ -11,24 +11,23 @@ namespace brellowind::platform {
 /// The player application. Main thread only; nothing here blocks.
 class Player {
 public:
-    /// What every line about the player in the system log begins with.
+    /// The prefix of all log lines about the player.
     static constexpr std::string_view logPrefix = "Spotify AppleScript error: ";
 
-    /// One reading.
     struct Snapshot {
         bool operator==(const Snapshot&) const = default;
 
         Track track;
         bool isPlaying;
-        double positionSec; ///< seconds at the moment of the answer; 0 when unreadable
+        double positionSec; ///< seconds, when the answer was made; 0 if unreadable
     };
 
-    /// The player does not run, or has no track loaded.
+    /// The player is not running, or has no track loaded.
     struct NotRunning {
         bool operator==(const NotRunning&) const = default;
     };
 
-    /// The player runs but its answer cannot be used.
+    /// The player is running but its answer is unusable.
     struct Unreadable {
         bool operator==(const Unreadable&) const = default;
     };
@@ -37,12 +36,12 @@ public:
 
     virtual ~Player() = default;
 
-    /// Asks once what is playing. Ends when the player answers, however late that is, and at once
-    /// when it quits. Ask again only after the previous question has ended. The first of several
-    /// failures in a row, and a player that takes long to answer, are written to the system log.
+    /// Asks what is playing. Completes when the player answers, however late, or quits. Call again
+    /// only after the previous call has completed. Logs the first of consecutive failures, and a
+    /// slow answer.
     virtual Task<Answer> read() = 0;
 
-    /// Ends when the player has taken the command. A failure is written to the system log.
+    /// Completes when the player has accepted the command. Logs a failure.
     virtual Task<void> playPause() = 0;
 };
 

@@ -8,7 +8,7 @@
 
 namespace brellowind::platform {
 
-/// Observes pointer movements until it is destroyed, also by its handler.
+/// Observes pointer movements until it is destroyed. The handler may destroy it.
 class PointerMonitor {
 public:
     virtual ~PointerMonitor() = default;
@@ -21,20 +21,19 @@ public:
 
     virtual ~Pointer() = default;
 
-    /// In desktop coordinates (origin at the bottom left of the primary screen, y upward). Absent
-    /// while the pointer is where the system does not let this program see it, so over none of its
-    /// windows.
+    /// In desktop coordinates (origin at the bottom left of the primary screen, y upward). Returns
+    /// nullopt while the pointer is over none of this program's windows and the system hides it.
     virtual std::optional<Point> location() = 0;
 
-    /// Whether a button is held down, as in a drag. False where the system does not tell.
+    /// Whether a button is pressed, as in a drag. False if unknown.
     virtual bool isButtonHeld() { return false; }
 
-    /// Calls `handler` after every movement over anything but this program's windows, on the main
-    /// thread. Absent when the system refuses.
+    /// Calls `handler` on the main thread after every movement outside this program's windows.
+    /// Returns null if the system refuses.
     virtual std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) = 0;
 
-    /// Calls `handler` after every movement over this program's windows, on the main thread, before
-    /// the movement is delivered to them as usual. Absent when the system refuses.
+    /// Calls `handler` on the main thread after every movement over this program's windows, before
+    /// the window receives it. Returns null if the system refuses.
     virtual std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) = 0;
 };
 

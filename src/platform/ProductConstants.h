@@ -5,10 +5,10 @@
 
 namespace brellowind::platform {
 
-/// The constants that the product's owner or a packager supplies, compiled in. An empty address,
-/// mailbox or notice leaves out what would use it.
+/// Compile-time constants from the product's owner or packager. An empty address, mailbox or notice
+/// disables what would use it.
 struct ProductConstants {
-    std::string version;      ///< short version, such as "1.2"; empty in a build without one
+    std::string version;      ///< short version, such as "1.2"; may be empty
     std::string lyricsOrigin; ///< scheme, host and optional port, without a trailing slash
     std::string websiteURL;
     std::string socialURL;
@@ -18,8 +18,8 @@ struct ProductConstants {
     std::string updateFeedURL; ///< https, of a document named latest.json
     std::string legalNotice;   ///< one line
 
-    /// The players that count as Spotify: bus names after "org.mpris.MediaPlayer2.", the preferred
-    /// one first. For systems whose players are on a message bus.
+    /// The players that count as Spotify, in order of preference: D-Bus names without
+    /// "org.mpris.MediaPlayer2.". Used on Linux.
     std::vector<std::string> mprisPlayers;
 };
 

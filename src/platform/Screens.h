@@ -11,26 +11,26 @@ namespace brellowind::platform {
 /// One screen, in desktop coordinates (origin at the bottom left of the primary screen, y upward).
 struct Screen {
     Rect frame;                                 ///< the whole screen
-    Rect visibleFrame{};                        ///< less the menu bar and the dock
-    double topSafeAreaInset = 0;                ///< above 0 on a screen with a notch
+    Rect visibleFrame{};                        ///< without menu bar and dock
+    double topSafeAreaInset = 0;                ///< positive on a screen with a notch
     std::optional<Rect> auxiliaryTopLeftArea{}; ///< left of the notch; absent without one
     std::optional<Rect> auxiliaryTopRightArea{};
 
     bool operator==(const Screen&) const = default;
 };
 
-/// The screens that are connected at this moment.
+/// The connected screens.
 class Screens {
 public:
     virtual ~Screens() = default;
 
-    /// In the order of the system; empty when there are none.
+    /// In the system's order. May be empty.
     virtual std::vector<Screen> screens() = 0;
 
-    /// The screen that the user works on, if any.
+    /// The screen with the user's focus, if any.
     virtual std::optional<Screen> main() = 0;
 
-    /// Calls `callback` once each time the arrangement has changed, when the new one can be read.
+    /// Calls `callback` after every change of the arrangement.
     virtual Subscription onChange(Observers::Callback callback) = 0;
 };
 

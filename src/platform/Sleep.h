@@ -7,7 +7,7 @@
 
 namespace brellowind::platform {
 
-/// Suspends the task for `duration`. False when the task was cancelled first.
+/// Suspends the task for `duration`. Returns false if the task is cancelled first.
 Task<bool> sleep(MainLoop& mainLoop, std::chrono::milliseconds duration);
 
 } // namespace brellowind::platform

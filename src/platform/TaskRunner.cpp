@@ -5,7 +5,7 @@
 
 namespace brellowind {
 
-/// The outermost coroutine of a started task. It frees itself when the task has ended.
+/// The outermost coroutine of a started task. Destroys itself when the task has finished.
 struct TaskRunner::Frame {
     struct promise_type {
         Frame get_return_object() {

@@ -9,7 +9,7 @@
 
 namespace brellowind {
 
-/// A started task, to request its cancellation with. Dropping it changes nothing for the task.
+/// Cancels a started task. Destroying the handle does not affect the task.
 class TaskHandle {
 public:
     explicit TaskHandle(std::stop_source source) : source_(std::move(source)) {}
@@ -20,7 +20,7 @@ private:
     std::stop_source source_;
 };
 
-/// Runs tasks to their end on the main thread. Destroying it destroys those that are suspended.
+/// Runs tasks on the main thread. Destroying it destroys all suspended tasks.
 class TaskRunner {
 public:
     explicit TaskRunner(platform::MainLoop& mainLoop);
@@ -28,10 +28,10 @@ public:
     TaskRunner& operator=(const TaskRunner&) = delete;
     ~TaskRunner();
 
-    /// `task` begins on the next turn of the main loop.
+    /// Starts `task` on the next turn of the main loop.
     TaskHandle start(Task<void> task);
 
-    /// How many tasks have started and not ended.
+    /// The number of unfinished tasks.
     std::size_t running() const { return roots_.size(); }
 
 private:

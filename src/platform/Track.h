@@ -7,9 +7,9 @@ namespace brellowind {
 
 /// One track as the player reports it. Texts are UTF-8 and may be empty.
 ///
-/// Equality compares every field; `id` tells whether two readings are the same song.
+/// Equality compares all fields. Readings of the same song have the same `id`.
 struct Track {
-    /// Title, artist and album joined by "|", which is not escaped.
+    /// Title, artist and album joined by an unescaped "|".
     std::string id() const { return title + '|' + artist + '|' + album; }
 
     bool operator==(const Track&) const = default;
@@ -17,8 +17,8 @@ struct Track {
     std::string title;
     std::string artist;
     std::string album;
-    double durationMs; ///< milliseconds; 0 when the player's value was unreadable
-    std::optional<std::string> artworkURL; ///< kept as text; absent when the player reported none
+    double durationMs;                     ///< milliseconds; 0 if unreadable
+    std::optional<std::string> artworkURL; ///< not validated
 };
 
 } // namespace brellowind
