@@ -12,11 +12,11 @@
 
 namespace brellowind {
 
-/// Creates the one notch window after launching, and keeps it over the notch.
+/// Creates the notch window after launch and keeps it over the notch.
 class AppDelegate {
 public:
-    /// `windowSystem` must outlive this. What the window is to show is complete but for the window
-    /// itself, which is filled in here.
+    /// `windowSystem` must outlive this object. `content` is complete but for the window, which is
+    /// set here.
     AppDelegate(platform::WindowSystem& windowSystem, NotchRootView::Environment content);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
@@ -24,10 +24,10 @@ public:
     void applicationDidFinishLaunching();
 
     NotchRootView& rootView() { return *rootView_; }
-    NotchView& window() { return notch_->content; } ///< there once launched
+    NotchView& window() { return notch_->content; } ///< only after launch
 
 private:
-    /// The window's sides: when it moves, what it draws, where it hangs.
+    /// The window: its frame clock, its content and its placement.
     struct Notch {
         Notch(NotchRootView& rootView, platform::WindowSystem& windowSystem);
 

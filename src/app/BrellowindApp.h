@@ -11,29 +11,29 @@
 
 namespace brellowind {
 
-/// The application: everything that is built on the services of a machine.
+/// The application. Owns everything that is built on the services of a machine.
 class BrellowindApp {
 public:
-    /// `machine` must outlive it.
+    /// `machine` must outlive this object.
     BrellowindApp(platform::Machine& machine, platform::ProductConstants constants);
     BrellowindApp(const BrellowindApp&) = delete;
     BrellowindApp& operator=(const BrellowindApp&) = delete;
 
-    /// False when this program runs already in this session: that one has been asked to show its
-    /// settings window, and this one should end.
+    /// Returns false if an instance is running in this session already: it has been asked to show
+    /// its settings window, and this process should exit.
     bool claimSession();
 
-    /// Creates the notch window and shows it. Called once.
+    /// Creates and shows the notch window. Call once.
     void launch() { delegate_.applicationDidFinishLaunching(); }
 
     NotchRootView& rootView() { return delegate_.rootView(); }
-    NotchView& window() { return delegate_.window(); } ///< there once launched
+    NotchView& window() { return delegate_.window(); } ///< only after launch
 
 private:
     SettingsServices settingsServices();
     NotchRootView::Environment notchContent();
 
-    // Destroyed from the bottom up: suspended tasks go before what they refer to.
+    // Members are destroyed in reverse order: suspended tasks before what they refer to.
     platform::Machine& machine_;
     const platform::ProductConstants constants_;
     SettingsRouter router_;

@@ -21,7 +21,7 @@ void SettingsLibrary::open() {
         window_->open();
 }
 
-/// It stays loaded: Qt keeps pointers into what registered types.
+/// The library is never unloaded: Qt keeps pointers into a library that registered types.
 void SettingsLibrary::load() {
     const std::string held = "/proc/self/fd/" + std::to_string(file_);
     void* library = dlopen(file_ < 0 ? path_.c_str() : held.c_str(), RTLD_NOW | RTLD_LOCAL);

@@ -7,25 +7,25 @@
 
 namespace brellowind {
 
-/// The settings window, in a library that is loaded when the window is first opened, and Qt Quick
-/// with it: most days nobody opens it. An upgrade of the program in between changes nothing, since
-/// the library's file is held open from the beginning.
+/// The settings window. Its library, and Qt Quick with it, is loaded when the window is first
+/// opened. The library's file is kept open from the start, so that an upgrade of the installed
+/// program does not mix two versions.
 class SettingsLibrary {
 public:
-    /// What `services` refers to must outlive it.
+    /// All objects in `services` must outlive this object.
     SettingsLibrary(const std::string& path, const SettingsServices& services);
     SettingsLibrary(const SettingsLibrary&) = delete;
     SettingsLibrary& operator=(const SettingsLibrary&) = delete;
     ~SettingsLibrary();
 
-    /// Opens the window. Where the library is missing or broken it says so in the log.
+    /// Opens the window. Logs an error if the library is missing or broken.
     void open();
 
 private:
     void load();
 
     std::string path_;
-    int file_; ///< below 0: it cannot be opened
+    int file_; ///< file descriptor; -1 if it cannot be opened
     SettingsServices services_;
     std::unique_ptr<SettingsOpener> window_;
 };

@@ -4,7 +4,7 @@
 int main(int /*argc*/, char** argv) {
     using namespace brellowind;
     const auto constants = compiledConstants();
-    const auto machine = platform::makeMachine(1, argv, constants); // it has no command line
+    const auto machine = platform::makeMachine(1, argv, constants); // ignores arguments
     if (!machine)
         return 1;
     BrellowindApp app(*machine, constants);

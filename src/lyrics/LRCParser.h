@@ -7,9 +7,8 @@
 
 namespace brellowind::LRCParser {
 
-/// Reads LRC text: one `LyricLine` for each time tag, sorted by time; lines of equal time keep
-/// their order. What it cannot read it skips. `text` is UTF-8; the lines share it, so no words are
-/// copied. Linear in the text's length, but for sorting.
+/// Parses LRC text: one `LyricLine` per time tag, stably sorted by time. Skips what is malformed.
+/// `text` is UTF-8 and is shared by the lines. Linear in the text's length, except for sorting.
 std::vector<LyricLine> parse(std::string text);
 
 } // namespace brellowind::LRCParser

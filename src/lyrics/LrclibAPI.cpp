@@ -16,8 +16,7 @@ namespace {
 
 constexpr int notFoundStatus = 404;
 
-/// Appends `value` so that any decoder of URL queries or forms reads the same bytes back: all but
-/// the unreserved characters become percent escapes.
+/// Appends `value`, percent-encoding all but the unreserved characters.
 void appendEscaped(std::string& url, std::string_view value) {
     for (const char character : value) {
         const auto byte = static_cast<unsigned char>(character);
@@ -72,7 +71,7 @@ std::optional<std::string> requestURL(std::string_view origin, const Track& trac
 LyricsState interpret(int status, std::string_view body) {
     if (status == notFoundStatus)
         return LyricsState::notFound();
-    // Of any other status: an error may answer with an object, too.
+    // Whatever the status: an error may carry a valid object.
     auto response = LrclibResponse::decode(body);
     if (!response)
         return LyricsState::failed();

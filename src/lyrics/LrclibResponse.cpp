@@ -8,8 +8,8 @@
 namespace brellowind {
 namespace {
 
-/// A number whose value is not used. The parser refuses numbers that a double cannot hold; this one
-/// reads as 0, so it accepts all.
+/// A number whose value is ignored. The parser rejects numbers that overflow; this type avoids that
+/// by always reading 0.
 struct Number {
     Number(double written) : written_(written) {}
     operator double&() { return written_; }
@@ -22,7 +22,7 @@ private:
 using Json = nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t,
                                   std::uint64_t, Number>;
 
-/// Listens to the parser and keeps the two texts. Returning false ends the parsing.
+/// SAX handler that stores the two texts. Returning false stops the parser.
 class Reader final : public Json::json_sax_t {
 public:
     std::optional<LrclibResponse> response() {
@@ -56,11 +56,11 @@ public:
     }
 
 private:
-    using Text = std::optional<std::string>; ///< absent: of a wrong type
+    using Text = std::optional<std::string>; ///< absent: wrong type
 
     static constexpr auto noText = std::nullopt;
 
-    /// Takes the value of the last key. Refuses one that stands outside of an object.
+    /// Handles the value of the last key. Rejects values outside an object.
     bool set(Text value) {
         if (depth_ == 1 && text_)
             *text_ = std::move(value);
@@ -79,14 +79,14 @@ private:
 
     Text synced_{""};
     Text plain_{""};
-    Text* text_ = nullptr; ///< what the last key of the outermost object names
+    Text* text_ = nullptr; ///< target of the outermost object's last key
     int depth_ = 0;
 };
 
 } // namespace
 
 std::optional<LrclibResponse> LrclibResponse::decode(std::string_view body) {
-    if (body.find('\0') != body.npos) // where the parser would take the body to end
+    if (body.find('\0') != body.npos) // the parser would stop there
         return std::nullopt;
     Reader reader;
     if (!Json::sax_parse(body, &reader))

@@ -6,16 +6,16 @@
 
 namespace brellowind {
 
-/// The texts in an answer of the lyrics service. One that is missing or null is empty.
+/// The texts in an answer of the lyrics service. Missing and null texts are empty.
 struct LrclibResponse {
     std::string syncedLyrics;
     std::string plainLyrics;
 
     bool operator==(const LrclibResponse&) const = default;
 
-    /// Absent unless `body` is a JSON object in which each text is a string, null or missing. Of a
-    /// key that is repeated the last value counts. Everything else is checked to be JSON and not
-    /// kept, so a body of a great many values takes little memory and time.
+    /// Returns nullopt unless `body` is a JSON object in which each text is a string, null or
+    /// missing. The last of repeated keys counts. Other values are validated but not stored, so a
+    /// hostile body takes little memory and time.
     static std::optional<LrclibResponse> decode(std::string_view body);
 };
 

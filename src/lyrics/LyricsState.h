@@ -8,14 +8,14 @@
 
 namespace brellowind {
 
-/// What is known of a track's lyrics.
+/// The state of a track's lyrics.
 class LyricsState {
 public:
     enum class Case {
         idle,     ///< no track
-        loading,  ///< a fetch is under way
-        loaded,   ///< synchronised lines, sorted by time, at least one
-        plain,    ///< only words without times, not empty
+        loading,  ///< a fetch is running
+        loaded,   ///< synchronised lines, sorted by time, not empty
+        plain,    ///< text without times, not empty
         notFound, ///< the service has no lyrics for the track
         failed,   ///< the fetch failed
     };
@@ -33,10 +33,10 @@ public:
 
     Case which() const { return case_; }
 
-    /// The lines of a `loaded` state; empty in every other.
+    /// The lines of a `loaded` state; empty in other states.
     const std::vector<LyricLine>& lines() const { return lines_; }
 
-    /// The words of a `plain` state; empty in every other.
+    /// The text of a `plain` state; empty in other states.
     const std::string& text() const { return text_; }
 
     bool operator==(const LyricsState&) const = default;

@@ -39,7 +39,7 @@ void LyricsStore::clear() {
 
 Task<void> LyricsStore::fetchInto(std::weak_ptr<LyricsStore> weakStore, Task<LyricsState> fetch) {
     auto result = co_await std::move(fetch);
-    // A later load or clear has cancelled this task before it resumes: its answer is stale.
+    // A later load or clear cancels this task: its answer is stale.
     if ((co_await CurrentStopToken{}).stop_requested())
         co_return;
     if (const auto store = weakStore.lock())

@@ -16,29 +16,30 @@
 
 namespace brellowind {
 
-/// Holds the lyrics of the current track. The answer for an earlier track never overwrites what is
-/// known of a later one. Held by a std::shared_ptr. Main thread only.
+/// Holds the lyrics of the current track. Stale answers for earlier tracks are ignored. Must be
+/// owned by a std::shared_ptr. Main thread only.
 class LyricsStore : public std::enable_shared_from_this<LyricsStore> {
 public:
     using State = LyricsState;
 
-    /// The services and the constants must outlive it and the tasks that it starts.
+    /// All references must outlive this object and the tasks that it starts.
     LyricsStore(TaskRunner& tasks, platform::HttpClient& http,
                 const platform::ProductConstants& constants);
 
-    /// Loads the lyrics of `track`, unless its `id` is the current one, however that load ended.
+    /// Loads the lyrics of `track`. Does nothing if its `id` is the current one, also after a
+    /// failure.
     void load(const Track& track);
 
-    /// Forgets the current track; a fetch under way is cancelled.
+    /// Forgets the current track and cancels a running fetch.
     void clear();
 
-    /// The lines of a `loaded` state, valid until `state` changes; empty in every other state.
+    /// The lines of a `loaded` state, valid until `state` changes; empty in other states.
     const std::vector<LyricLine>& lines() const { return state->lines(); }
 
     /// The index of the last line whose time is not after `seconds`, if there is one.
     std::optional<std::size_t> activeIndex(double seconds) const;
 
-    /// The time of the first line that is after `seconds`, if there is one.
+    /// The time of the first line after `seconds`, if there is one.
     std::optional<double> nextTime(double seconds) const;
 
     Published<State, LyricsStore> state{State::idle()};

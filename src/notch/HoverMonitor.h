@@ -10,28 +10,29 @@
 
 namespace brellowind {
 
-/// Where the pointer counts as over content of `contentSize` that hangs from the middle of the top
-/// edge of a screen: the content and 8 points more at the left, at the right and below.
+/// The hover area of content of `contentSize` at the middle of a screen's top edge: the content
+/// plus a margin of 8 points at the left, at the right and below.
 Rect hoverRectangle(const Rect& screenFrame, Size contentSize);
 
-/// Whether the pointer is over the pill. It follows every movement on the desktop, since the window
-/// under the pill lets most of them fall through. Held by a std::shared_ptr. Main thread only.
+/// Hit test: whether the pointer is over the pill. Observes all movements on the desktop, since the
+/// pill's window is click-through most of the time. Must be owned by a std::shared_ptr. Main thread
+/// only.
 class HoverMonitor : public std::enable_shared_from_this<HoverMonitor> {
 public:
-    /// Stopped: the pointer is not asked before `start()`. The services must outlive it.
+    /// Inactive until `start()`. The services must outlive this object.
     HoverMonitor(platform::Pointer& pointer, platform::Screens& screens)
         : pointer_(pointer), screens_(screens) {}
 
-    /// Begins watching, and looks at once. Watching already, it begins anew.
+    /// Starts or restarts monitoring, and evaluates at once.
     void start();
 
-    /// Ends watching; `isInside` keeps its value.
+    /// Stops monitoring; `isInside` keeps its value.
     void stop();
 
-    /// Assigned only when it changes. Without a screen it keeps its value.
+    /// Assigned only when it changes. Unchanged while there is no screen.
     Published<bool, HoverMonitor> isInside{false};
 
-    /// The size of the pill as it is laid out. The next movement uses it.
+    /// The laid-out size of the pill, used from the next movement on.
     Size currentSize{280, NotchMetrics::collapsedHeight};
 
 private:
@@ -40,8 +41,8 @@ private:
 
     platform::Pointer& pointer_;
     platform::Screens& screens_;
-    std::unique_ptr<platform::PointerMonitor> globalMonitor_; ///< absent when refused
-    std::unique_ptr<platform::PointerMonitor> localMonitor_;  ///< absent when refused
+    std::unique_ptr<platform::PointerMonitor> globalMonitor_; ///< null if refused
+    std::unique_ptr<platform::PointerMonitor> localMonitor_;  ///< null if refused
 };
 
 } // namespace brellowind

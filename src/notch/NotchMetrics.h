@@ -1,6 +1,6 @@
 #pragma once
 
-/// The measures that everything about the notch shares, in points.
+/// Shared dimensions of the notch window, in points.
 namespace brellowind::NotchMetrics {
 
 inline constexpr double windowHeight = 540;   ///< whatever the window shows

@@ -35,7 +35,7 @@ bool NotchShape::contains(const Rect& rect, const Rect& part) const {
         return false;
     if (beside >= round || below >= round)
         return true;
-    // On the curve the square roots of the distances from both its tangents add up to one.
+    // On the curve the square roots of the distances from its two tangents add up to one.
     return std::sqrt(beside / round) + std::sqrt(below / round) >= 1;
 }
 

@@ -5,16 +5,15 @@
 
 namespace brellowind {
 
-/// The outline of the collapsed pill. It hangs from the top edge of its rectangle like the notch
-/// itself: the top corners flare outward, the bottom corners are round. A change of a radius is
-/// never animated.
+/// The outline of the collapsed pill, like that of a notch: the top corners flare outward, the
+/// bottom corners are round. Changes of the radii are never animated.
 struct NotchShape {
     /// The closed outline in `rect`, in view coordinates (y downward). The top radius is limited to
-    /// half the width, then the bottom radius to the height that is left below the flares; it comes
-    /// out negative when none is left.
+    /// half the width, then the bottom radius to the height below the flares, which may be
+    /// negative.
     Path path(const Rect& rect) const;
 
-    /// Whether all of `part` is within that outline in `rect` and reaches into neither flare.
+    /// Whether `part` lies within the outline in `rect` and outside both flares.
     bool contains(const Rect& rect, const Rect& part) const;
 
     bool operator==(const NotchShape&) const = default;

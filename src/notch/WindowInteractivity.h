@@ -8,18 +8,18 @@
 
 namespace brellowind {
 
-/// Makes the window that an element stands in take mouse events or not. Main thread only.
+/// Switches whether the window of a view receives mouse events. Main thread only.
 class WindowInteractivity {
 public:
-    /// The window that the element stands in at the moment of the call, null when in none.
+    /// Returns the current window of the view; may be null.
     using WindowFinder = std::function<platform::Overlay*()>;
 
     WindowInteractivity(platform::MainLoop& mainLoop, WindowFinder window);
     WindowInteractivity(const WindowInteractivity&) = delete;
     WindowInteractivity& operator=(const WindowInteractivity&) = delete;
 
-    /// Takes effect on the next turn of the main loop, if there is a window by then. Of several
-    /// updates before that turn the last one counts.
+    /// Takes effect on the next turn of the main loop, if there is a window then. The last update
+    /// before that turn counts.
     void update(bool interactive);
 
 private:

@@ -17,7 +17,7 @@ NowPlaying::NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks,
 void NowPlaying::start() {
     stop();
     poll();
-    // Weak, so that timers keep no monitor alive; locked, so that an observer may release it.
+    // Weak, so that the timer does not keep this alive; locked, since an observer may release it.
     timer_ = mainLoop_.scheduleRepeating(pollInterval, [weakSelf = weak_from_this()] {
         if (const auto self = weakSelf.lock())
             self->poll();
@@ -79,7 +79,7 @@ void NowPlaying::playerQuit() {
 void NowPlaying::apply(Player::Snapshot reading) {
     if (!track.get() || track->value().id() != reading.track.id())
         track.set(std::move(reading.track));
-    if (!toggledSinceQuestion_) // otherwise the answer may be older than the toggle
+    if (!toggledSinceQuestion_) // else the answer may predate the toggle
         setPlaying(reading.isPlaying);
     positionSec.set(reading.positionSec);
     lastSyncDate_ = clock_.now();

@@ -14,29 +14,29 @@
 
 namespace brellowind {
 
-/// What Spotify plays, whether it plays, and where playback stands. It asks the player once a
-/// second, one question at a time, and advances the position itself in between; nothing ticks while
-/// nothing plays. Held by a std::shared_ptr. Main thread only.
+/// The track, state and position of Spotify. Polls the player once a second, with at most one open
+/// request, and advances the position in between; no timer ticks while nothing plays. Must be owned
+/// by a std::shared_ptr. Main thread only.
 class NowPlaying : public std::enable_shared_from_this<NowPlaying> {
 public:
     static constexpr std::chrono::milliseconds pollInterval{1000};
     static constexpr std::chrono::milliseconds tickInterval{50};
     static constexpr std::chrono::milliseconds confirmationDelay{150};
 
-    /// Idle: the player is not asked before `start()`. All services must outlive it.
+    /// Inactive until `start()`. All services must outlive this object.
     NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks, const platform::Clock& clock,
                platform::Player& player);
 
-    /// Begins monitoring with a reading at once. Monitoring already, it begins anew.
+    /// Starts or restarts monitoring, and polls at once.
     void start();
 
-    /// Ends monitoring. The properties keep their values; an answer that is due is dropped.
+    /// Stops monitoring. The properties keep their values; an open request is dropped.
     void stop();
 
-    /// Flips `isPlaying` at once, sends the command, and asks the player 150 ms later.
+    /// Toggles `isPlaying` at once, sends the command, and polls 150 ms later.
     void togglePlayPause();
 
-    Published<std::optional<Track>, NowPlaying> track{std::nullopt}; ///< absent: not running
+    Published<std::optional<Track>, NowPlaying> track{std::nullopt}; ///< absent if not running
     Published<bool, NowPlaying> isPlaying{false};
     Published<double, NowPlaying> positionSec{0}; ///< seconds; never clamped to the duration
 
@@ -53,11 +53,11 @@ private:
     TaskRunner& tasks_;
     const platform::Clock& clock_;
     platform::Player& player_;
-    std::optional<TaskHandle> question_; ///< present while the player has not answered it
+    std::optional<TaskHandle> question_; ///< present while a request is open
     bool toggledSinceQuestion_ = false;
     std::unique_ptr<platform::Timer> timer_;
-    std::unique_ptr<platform::RepeatingTimer> ticker_; ///< rests while nothing plays
-    platform::WallTime lastSyncDate_; ///< when `positionSec` was last read or advanced
+    std::unique_ptr<platform::RepeatingTimer> ticker_; ///< paused while nothing plays
+    platform::WallTime lastSyncDate_;                  ///< time of the last change of `positionSec`
 };
 
 } // namespace brellowind
