@@ -30,7 +30,7 @@ BusCall::BusCall(const QDBusConnection& bus, const QDBusMessage& call, int timeo
     QObject::connect(watcher_, &QDBusPendingCallWatcher::finished, watcher_,
                      [this, answered = std::move(answered)] {
                          auto* finished = std::exchange(watcher_, nullptr);
-                         finished->deleteLater(); // it is the sender of this signal
+                         finished->deleteLater(); // the sender of this signal
                          answered(finished->reply());
                      });
 }

@@ -8,13 +8,13 @@ namespace {
 constexpr std::string_view whitespace = " \t\r";
 constexpr std::string_view mainGroup = "[Desktop Entry]";
 
-/// An argument of Exec that holds one of them has to stand in double quotes.
+/// Characters that require double quotes around an argument of Exec.
 constexpr std::string_view reserved = " \t\n\"'\\><~|&;$*?#()`";
 
-/// Between double quotes they take a backslash before them.
+/// Characters that need a backslash within double quotes.
 constexpr std::string_view escapedInQuotes = "\"`$\\";
 
-/// What a value has escapes for, and the letters that stand for it behind a backslash.
+/// The escaped characters of a value, and the letters of their escapes.
 constexpr std::string_view escaped = " \n\t\r\\";
 constexpr std::string_view escapeCodes = "sntr\\";
 
@@ -27,14 +27,14 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(0, text.find_last_not_of(whitespace) + 1);
 }
 
-/// The text before the next `separator`; `rest` loses both.
+/// Removes the text up to the next `separator`, and it, from `rest`. Returns the text.
 std::string_view takeUntil(std::string_view& rest, char separator) {
     const auto piece = rest.substr(0, rest.find(separator));
     rest.remove_prefix(std::min(piece.size() + 1, rest.size()));
     return piece;
 }
 
-/// The first argument of a command line, without its quotes.
+/// The first argument of a command line, unquoted.
 std::optional<std::string> firstArgument(std::string_view line) {
     line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
     if (line.empty() || line.front() != '"') {
@@ -55,7 +55,7 @@ std::optional<std::string> firstArgument(std::string_view line) {
     return std::nullopt;
 }
 
-/// Halves doubled percent signs. A single one is a field code, which is no program.
+/// Unescapes doubled percent signs. Returns nullopt for a field code.
 std::optional<std::string> withoutFieldCodes(std::string_view argument) {
     std::string text;
     for (std::size_t i = 0; i < argument.size(); ++i) {
@@ -90,7 +90,7 @@ std::string escape(std::string_view text) {
         const bool isInside = 0 < i && i + 1 < text.size();
         if (code == std::string_view::npos || (text[i] == ' ' && isInside))
             value += text[i];
-        else // readers trim the spaces at the ends of values
+        else // readers trim values
             value.append({'\\', escapeCodes[code]});
     }
     return value;

@@ -14,7 +14,7 @@ constexpr std::string_view instanceMark = ".instance";
 MprisNames::MprisNames(QDBusConnection bus, std::vector<std::string> players, Changed changed,
                        std::function<void()> listed)
     : players_(std::move(players)), changed_(std::move(changed)) {
-    // Before the list is asked for, so that no change is missed in between.
+    // Before listing, so that no change is missed in between.
     watcher_.setConnection(bus);
     watcher_.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
     for (const auto& player : players_)

@@ -14,18 +14,17 @@
 
 namespace brellowind::platform {
 
-/// The configured players on the bus: those that own one of the names, or one of its ".instance…"
-/// forms. The bus is asked once; then it tells of changes.
+/// The configured players on the bus: the owners of one of the names or of its ".instance…" forms.
+/// Lists the names once, then observes NameOwnerChanged.
 class MprisNames {
 public:
-    /// A bus name behind its rank: the plain names as configured, then their instances.
+    /// Rank and bus name. The plain names rank as configured, before their instances.
     using Name = std::pair<std::size_t, QString>;
 
-    /// `name` has a new owner, or none.
     using Changed = std::function<void(const Name& name, bool isOwned)>;
 
-    /// `players` are names after "org.mpris.MediaPlayer2.". `changed` is called for each name that
-    /// is there at the start, and for each change after that; `listed` once, after the former.
+    /// `players` are names without "org.mpris.MediaPlayer2.". Calls `changed` for each initial
+    /// name, then `listed` once, then `changed` for each change of an owner.
     MprisNames(QDBusConnection bus, std::vector<std::string> players, Changed changed,
                std::function<void()> listed);
 

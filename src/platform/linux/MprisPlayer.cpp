@@ -11,7 +11,7 @@
 namespace brellowind::platform {
 namespace {
 
-/// Whether `changes` notified; otherwise the task was cancelled.
+/// Waits for the next notification. Returns false if the task is cancelled first.
 Task<bool> nextChange(Observers& changes, MainLoop& mainLoop) {
     using Change = Operation<Subscription, bool>;
     Change change(
@@ -24,7 +24,8 @@ Task<bool> nextChange(Observers& changes, MainLoop& mainLoop) {
     co_return co_await change;
 }
 
-/// The reply to `call`, an error if there is none in time. Absent when the task was cancelled.
+/// Sends `call` and waits for its reply, which is an error after a timeout. Returns nullopt if the
+/// task is cancelled first.
 Task<std::optional<QDBusMessage>> replyTo(QDBusConnection bus, QDBusMessage call,
                                           MainLoop& mainLoop) {
     using Reply = Operation<BusCall, std::optional<QDBusMessage>>;
@@ -55,10 +56,10 @@ MprisPlayer::MprisPlayer(QDBusConnection bus, std::vector<std::string> players, 
 }
 
 Task<Player::Answer> MprisPlayer::read() {
-    // While a late player is waited for, the others may change what they do.
+    // The states of other players may change while waiting for a late one.
     const auto repetition = mainLoop_.scheduleRepeating(
         MprisProxy::patience, [this, changes = std::weak_ptr(changes_)] {
-            if (!changes.expired()) // so is this player
+            if (!changes.expired()) // then this object exists
                 ask();
         });
     ask();
@@ -75,14 +76,14 @@ Task<void> MprisPlayer::playPause() {
         if (!co_await nextChange(*changes_, mainLoop_))
             co_return;
     const auto player = playerToControl();
-    auto& log = log_; // from here on this may be gone when the task goes on
+    auto& log = log_; // this object may be destroyed while the task is suspended
     const auto fail = [&log](std::string_view description) {
         log.write(std::string(logPrefix).append(description));
     };
     if (player == proxies_.end()) {
         fail("the player is not running");
     } else if (player->second.isLate()) {
-        fail("the player does not answer"); // and would obey when nobody expects it any more
+        fail("the player does not answer"); // and would execute the command late
     } else {
         const auto reply = co_await replyTo(bus_, player->second.playPauseCall(), mainLoop_);
         if (reply && reply->type() == QDBusMessage::ErrorMessage)
@@ -97,7 +98,7 @@ bool MprisPlayer::hasBus() {
     return false;
 }
 
-/// What the previous owner has answered, or has yet to answer, is forgotten.
+/// Discards the state of the previous owner.
 void MprisPlayer::changeOwner(const MprisNames::Name& name, bool isOwned) {
     proxies_.erase(name);
     if (isOwned)
@@ -106,13 +107,13 @@ void MprisPlayer::changeOwner(const MprisNames::Name& name, bool isOwned) {
     changes_->notify();
 }
 
-/// Asks each player that has no question open.
+/// Asks each player without an open request.
 void MprisPlayer::ask() {
     for (auto& [name, proxy] : proxies_)
         proxy.ask();
 }
 
-/// The answer of a reading, as soon as enough is known.
+/// The answer of the current reading. Returns nullopt if it must wait.
 std::optional<Player::Answer> MprisPlayer::answer() {
     if (!hasBus())
         return NotRunning();
@@ -120,7 +121,7 @@ std::optional<Player::Answer> MprisPlayer::answer() {
         return std::nullopt;
     std::vector<PlayerCandidate> candidates;
     for (auto& [name, proxy] : proxies_) {
-        if (!proxy.wasAsked()) // it has come since the reading began
+        if (!proxy.wasAsked()) // appeared after the reading began
             proxy.ask();
         candidates.push_back(proxy.candidate());
     }

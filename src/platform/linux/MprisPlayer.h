@@ -17,20 +17,21 @@
 
 namespace brellowind::platform {
 
-/// The player on the session bus. A reading is one `Properties.GetAll` to each of the configured
-/// players that is there, all at once; normally that is one.
+/// The player on the session bus. A reading sends `Properties.GetAll` to all configured players on
+/// the bus at the same time; normally there is one.
 ///
-/// The main loop and the log outlive this and its tasks. A task that outlives this never ends.
+/// The main loop and the log must outlive this object and its tasks. A task that outlives this
+/// object never completes.
 class MprisPlayer final : public Player {
 public:
-    /// `players` are names after "org.mpris.MediaPlayer2.", the preferred one first. A missing bus
-    /// is one line in the log, and no player runs.
+    /// `players` are names without "org.mpris.MediaPlayer2.", in order of preference. Without a bus
+    /// it logs one line and reports that no player is running.
     MprisPlayer(QDBusConnection bus, std::vector<std::string> players, MainLoop& mainLoop,
                 Log& log);
 
     Task<Answer> read() override;
 
-    /// Goes to the player that the last reading showed, else to the first one.
+    /// Sent to the player of the last reading, else to the first one.
     Task<void> playPause() override;
 
 private:
@@ -46,10 +47,10 @@ private:
     MainLoop& mainLoop_;
     Log& log_;
     FailureLog busFailures_;
-    std::shared_ptr<Observers> changes_ = std::make_shared<Observers>(); ///< of all below
-    Proxies proxies_;                       ///< of the players that are there
-    bool isListed_ = false;                 ///< whether all of those are known
-    std::optional<MprisNames::Name> shown_; ///< by the last reading
+    std::shared_ptr<Observers> changes_ = std::make_shared<Observers>(); ///< of the members below
+    Proxies proxies_;                       ///< of the players on the bus
+    bool isListed_ = false;                 ///< whether the initial listing is complete
+    std::optional<MprisNames::Name> shown_; ///< of the last reading
     std::optional<MprisNames> names_;       ///< absent without a bus
 };
 

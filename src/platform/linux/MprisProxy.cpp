@@ -12,8 +12,8 @@ namespace {
 const auto objectPath = QStringLiteral("/org/mpris/MediaPlayer2");
 const auto playerInterface = QStringLiteral("org.mpris.MediaPlayer2.Player");
 
-/// Whether an error says that the player has quit. Without a time-out of the bus library "NoReply"
-/// means that the connection has ended.
+/// Whether an error means that the player has quit. As the calls have no timeout, "NoReply" means
+/// that it has disconnected.
 bool saysThatNobodyIsThere(const QDBusMessage& error) {
     static constexpr const char* names[] = {
         "org.freedesktop.DBus.Error.NameHasNoOwner", "org.freedesktop.DBus.Error.ServiceUnknown",

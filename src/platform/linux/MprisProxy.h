@@ -16,26 +16,26 @@
 
 namespace brellowind::platform {
 
-/// One player on the bus, with its open question or its last answer. It writes to the system log
-/// when the player is late and when it answers with an error or with something of a wrong type.
+/// One player on the bus, with its open request or its last answer. Logs late answers, errors and
+/// answers of a wrong type.
 class MprisProxy {
 public:
-    /// A player that takes longer is late. Its answer counts whenever it comes.
+    /// A slower player is late. Its answer counts nevertheless.
     static constexpr std::chrono::milliseconds patience{2000};
 
-    /// `changed` is called when the player has answered, and when it is late. Not called by `ask`.
+    /// Calls `changed` when the player has answered and when it is late, never from within `ask`.
     MprisProxy(QDBusConnection bus, QString name, MainLoop& mainLoop, Log& log,
                std::function<void()> changed);
 
     bool wasAsked() const { return question_.has_value() || state_ != State::asked; }
     bool isLate() const { return state_ == State::late; }
 
-    /// Asks for a reading, unless that question is open.
+    /// Requests a reading. Does nothing while a request is open.
     void ask();
 
     PlayerCandidate candidate() const { return {state_, playedBefore_}; }
 
-    /// The last reading, with the position of this moment. Only if it plays or is paused.
+    /// The last reading, with the position advanced to now. REQUIRES: it plays or is paused.
     Player::Snapshot snapshot() const;
 
     QDBusMessage playPauseCall() const;

@@ -20,10 +20,10 @@ constexpr auto numberTypes = "ynqiuxtd"_L1;
 constexpr double microsecondsPerMillisecond = 1e3;
 constexpr double microsecondsPerSecond = 1e6;
 
-/// No real track or position comes near it; what lies beyond counts as unreadable.
+/// Larger values are unreadable: they would overflow an integer.
 constexpr double farthestMicroseconds = 9.2e18;
 
-/// One property in each form that is asked for.
+/// A property, in each representation that is used.
 struct Value {
     QString text;
     QString firstText; ///< the text, or the first entry of a list
@@ -38,8 +38,8 @@ Type take(const QDBusArgument& argument) {
     return value;
 }
 
-/// Calls `read` with the signature of what a variant holds, under however many variants. What
-/// `read` does not take is skipped; nothing is unpacked unread, as `QDBusVariant` would do.
+/// Calls `read` with the signature of a variant's content; nested variants are entered. Content
+/// that `read` does not consume is skipped without unpacking it, unlike with `QDBusVariant`.
 template <typename Read>
 void inVariant(const QDBusArgument& argument, Read read) {
     argument.beginStructure();
@@ -51,7 +51,7 @@ void inVariant(const QDBusArgument& argument, Read read) {
     argument.endStructure();
 }
 
-/// Calls `visit` with each key of an `a{sv}`. What it does not read of the value is skipped.
+/// Calls `visit` with each key of an `a{sv}`. Skips values that it does not consume.
 template <typename Visit>
 void eachEntry(const QDBusArgument& argument, Visit visit) {
     argument.beginMap();
@@ -63,7 +63,7 @@ void eachEntry(const QDBusArgument& argument, Visit visit) {
     argument.endMap();
 }
 
-/// Of any integer type, or a double.
+/// A number of any integer type, or a double.
 std::optional<double> number(const QDBusArgument& argument) {
     const double value = argument.asVariant().toDouble();
     return std::abs(value) < farthestMicroseconds ? std::optional(value) : std::nullopt;
@@ -71,7 +71,7 @@ std::optional<double> number(const QDBusArgument& argument) {
 
 Value value(const QDBusArgument& argument);
 
-/// Of a list of texts or variants.
+/// The first entry of a list of texts or variants.
 QString firstEntry(const QDBusArgument& argument, bool ofVariants) {
     QString first;
     argument.beginArray();
@@ -129,15 +129,15 @@ Properties readProperties(const QDBusArgument& argument) {
     return read;
 }
 
-/// The beginning of `text` in UTF-8.
+/// `text` in UTF-8, truncated.
 std::string limited(const QString& text) {
-    // A unit of UTF-16 takes at least one byte, so no more of them are needed.
+    // A UTF-16 code unit takes at least one byte, so no more are needed.
     const auto bytes = QStringView(text).left(longestMprisText + 1).toUtf8();
     return std::string(
         utf8::beginning({bytes.data(), static_cast<std::size_t>(bytes.size())}, longestMprisText));
 }
 
-/// Cover locations of one form answer "not found" where the image host answers with the image.
+/// Rewrites dead cover URLs, which are not found, to those of the image host.
 std::optional<std::string> artworkURL(const QString& location) {
     if (location.isEmpty() || location.size() > static_cast<qsizetype>(longestMprisText))
         return std::nullopt;

@@ -9,11 +9,11 @@
 
 namespace brellowind::platform {
 
-/// What is known of one of several players that have been asked.
+/// The state of one of several players that have been asked.
 struct PlayerCandidate {
     enum class State {
-        asked, ///< has not answered yet
-        late,  ///< has not answered for so long that it is waited for no longer than needed
+        asked, ///< has not answered
+        late,  ///< has not answered for a long time
         unreadable,
         withoutTrack,
         paused,
@@ -27,9 +27,9 @@ struct PlayerCandidate {
 /// The index of the player to show, or why none is shown.
 using PlayerChoice = std::variant<std::size_t, Player::NotRunning, Player::Unreadable>;
 
-/// Chooses among `candidates`, which are in the order of preference: the first that plays, else the
-/// first that has a track. Absent while there is more to wait for: any answer that is not late, and
-/// a late one if nobody else plays and that player did, or if nobody else has answered.
+/// Chooses among `candidates`, in order of preference: the first that plays, else the first with a
+/// track. Returns nullopt if the choice must wait: for every answer that is not late, and for a
+/// late one if no other player plays and that one did, or if no other player has answered.
 std::optional<PlayerChoice> choosePlayer(std::span<const PlayerCandidate> candidates);
 
 } // namespace brellowind::platform

@@ -12,7 +12,7 @@ namespace brellowind::platform {
 namespace {
 
 struct Saver {
-    const char* interface; ///< also its bus name
+    const char* interface; ///< also the bus name
     const char* path;
 };
 
@@ -30,7 +30,7 @@ const auto sessionInterface = QStringLiteral("org.freedesktop.login1.Session");
 const auto propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 const auto lockedHint = QStringLiteral("LockedHint");
 
-/// Calls `answered` with the answer unless it is an error or `owner` is gone by then.
+/// Calls `answered` with the reply, unless it is an error or `owner` is destroyed first.
 template <typename Value>
 void ask(const QDBusConnection& connection, const QDBusMessage& question, QObject* owner,
          std::function<void(const Value&, const QDBusMessage&)> answered) {
@@ -88,7 +88,7 @@ void ScreenLock::setSaverActive(const QString& saver, bool active) {
     announcing([&] { activeSavers_.insert(saver); });
 }
 
-/// It may be gone already by the time that the bus tells of its end.
+/// The screen saver may have exited before the watch begins.
 void ScreenLock::watchSaver(const QString& saver) {
     if (activeSavers_.contains(saver))
         return;
@@ -107,8 +107,8 @@ void ScreenLock::forgetSaver(const QString& saver) {
     announcing([&] { activeSavers_.remove(saver); });
 }
 
-/// The session of this process, or the one that its user sits at; its signals come from its own
-/// path only, and that is known by its name.
+/// Finds the object path of this process's session, or of the user's display. Its signals come from
+/// that path only.
 void ScreenLock::findSession() {
     ask<QDBusVariant>(
         systemBus_,
@@ -125,8 +125,7 @@ void ScreenLock::findSession() {
         });
 }
 
-/// A `Lock` signal is only a request, and where nobody locks nobody unlocks either: what counts is
-/// the hint, which whoever locks the session sets.
+/// Observes `LockedHint`, which is set by the screen locker. A `Lock` signal is only a request.
 void ScreenLock::followSession(const QString& path) {
     systemBus_.connect(loginManager, path, propertiesInterface, QStringLiteral("PropertiesChanged"),
                        this, SLOT(sessionChanged(QString, QVariantMap)));

@@ -11,14 +11,14 @@
 
 namespace brellowind::platform {
 
-/// Whether the session is locked or a screen saver runs, as the desktops' screen savers tell on the
-/// session bus and the login manager on the system bus. Whoever is absent is not heard; a screen
-/// saver that dies does not keep the screen locked.
+/// Whether the session is locked or a screen saver is active. Observes the desktops' screen savers
+/// on the session bus and the login manager on the system bus; all of them are optional. A screen
+/// saver that exits counts as inactive.
 class ScreenLock final : public QObject {
     Q_OBJECT
 
 public:
-    /// Returns at once: what is locked already is learnt a moment later. Either bus may be missing.
+    /// Does not block: the initial state arrives a moment later. Either bus may be missing.
     ScreenLock(QDBusConnection sessionBus, QDBusConnection systemBus);
 
     bool isLocked() const { return !activeSavers_.isEmpty() || sessionLocked_; }

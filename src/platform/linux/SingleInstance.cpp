@@ -42,7 +42,7 @@ bool SingleInstance::claim() {
         QDBusMessage::createMethodCall(name_, objectPath, interfaceName, QStringLiteral("Open"));
     open << qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
     bus_.send(open);
-    bus_.interface()->isServiceRegistered(name_); // by its answer the bus has the message before
+    bus_.interface()->isServiceRegistered(name_); // a round trip: the bus has received the message
     return false;
 }
 

@@ -8,21 +8,22 @@
 
 namespace brellowind::platform {
 
-/// The only process of this program in a session: it owns a name on the session bus.
+/// Ensures a single instance of the program in a session by owning a name on the session bus.
 class SingleInstance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.brellowind.Brellowind")
 
 public:
     /// `session` is the name of the session, in any characters; one bus may serve several sessions.
-    /// `onSecondStart` runs whenever another process found this one there. It gets the token of the
-    /// user's action that started that one; empty: there is none.
+    /// `onSecondStart` runs whenever another instance is started, with its activation token, which
+    /// may be empty.
     SingleInstance(QDBusConnection bus, std::string_view session,
                    std::function<void(const std::string& activationToken)> onSecondStart);
     ~SingleInstance() override;
 
-    /// True when this process is the only one, or no bus is there to tell. Otherwise the other one
-    /// is told, and this one should end. Waits for the bus, but not for the other process.
+    /// Returns true if this process is the only instance, or there is no bus. Otherwise notifies
+    /// the running instance; this process should exit. Blocks for the bus, not for the other
+    /// process.
     bool claim();
 
 public Q_SLOTS:

@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* entryName = "brellowind.desktop";
 
-/// The entry's keys; none when there is no readable file.
+/// The keys of an entry; empty without a readable file.
 std::map<std::string, std::string> readEntry(const fs::path& path) {
     std::error_code error;
     if (!fs::is_regular_file(path, error))
@@ -56,7 +56,7 @@ std::string failure(const char* action, const fs::path& path, const std::string&
     return std::string("cannot ") + action + ' ' + path.native() + ": " + reason;
 }
 
-/// Makes `folder` and what is missing of the path to it, for the user alone.
+/// Creates `folder` and its missing parents, accessible by the user only.
 std::error_code makeFolders(const fs::path& folder) {
     fs::path made;
     for (const auto& part : folder) {
@@ -69,7 +69,7 @@ std::error_code makeFolders(const fs::path& folder) {
     return {};
 }
 
-/// The format holds neither what is no text nor an equal sign in a program's name.
+/// The format does not allow invalid UTF-8, nor an equal sign in a program's name.
 bool isUnwritable(const fs::path& executable) {
     return !executable.is_absolute() || !utf8::isValid(executable.native()) ||
            executable.native().find('=') != std::string::npos;
@@ -107,10 +107,10 @@ std::optional<std::string> XdgLoginItem::registerItem() {
         return failure("write", entry_, error.message());
     std::error_code error;
     if (fs::is_symlink(entry_, error))
-        fs::remove(entry_, error); // the file that it leads to is somebody else's
+        fs::remove(entry_, error); // do not write through a symbolic link
     QSaveFile file(QFile::decodeName(entry_.c_str()));
     const auto text = QByteArray::fromStdString(entryText(executable_));
-    // `commit` does not see that the last bytes could not be written, `flush` does.
+    // Unlike `flush`, `commit` does not report that the last bytes could not be written.
     if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0 || !file.flush() || !file.commit())
         return failure("write", entry_, file.errorString().toStdString());
     return std::nullopt;

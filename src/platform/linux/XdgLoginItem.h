@@ -7,14 +7,13 @@
 
 namespace brellowind::platform {
 
-/// The login item of a freedesktop.org desktop: an entry in the user's autostart folder. It is
-/// enabled exactly when the entry is there, is neither hidden nor switched off, and starts this
-/// program. Entries that do not are the user's own matter: only a registration replaces them.
+/// The login item of a freedesktop.org desktop: an entry in the user's autostart folder. Enabled if
+/// the entry exists, is neither hidden nor disabled, and starts this program. Other entries are
+/// replaced by a registration only.
 class XdgLoginItem final : public LoginItem {
 public:
-    /// `configurationFolder` is the user's, usually ~/.config; `executable` is the absolute path
-    /// of this program; `searchPath` lists the folders, separated by colons, in which the session
-    /// finds programs by their bare names.
+    /// `configurationFolder` is usually ~/.config, `executable` the absolute path of this program,
+    /// `searchPath` the session's PATH.
     XdgLoginItem(std::filesystem::path configurationFolder, std::filesystem::path executable,
                  std::string searchPath);
 
@@ -23,10 +22,10 @@ public:
     std::optional<std::string> unregisterItem() override;
 
 private:
-    /// Whether the session would start this program for `program`, a path or a bare name.
+    /// Whether `program`, a path or a name, resolves to this program.
     bool namesThisProgram(const std::string& program) const;
 
-    /// The executable file that `program` stands for; empty when there is none.
+    /// The executable file of `program`; empty if there is none.
     std::filesystem::path resolve(const std::string& program) const;
 
     std::filesystem::path entry_;

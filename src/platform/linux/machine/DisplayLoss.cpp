@@ -11,27 +11,27 @@
 namespace brellowind::platform {
 namespace {
 
-/// Global since signal and message handlers can reach no object.
+/// Global, since signal and message handlers have no context.
 volatile std::sig_atomic_t displaySocket = -1;
 std::atomic_flag isEnding;
 
-/// Only what is allowed in a signal handler.
+/// Async-signal-safe.
 void endIfDisplayIsGone() {
-    pollfd display{displaySocket, POLLRDHUP, 0}; // nothing happens to a socket of -1
+    pollfd display{displaySocket, POLLRDHUP, 0}; // -1 is ignored
     if (::poll(&display, 1, 0) <= 0)
         return;
     if (isEnding.test_and_set())
-        ::pause(); // another thread of Qt's came here first
+        ::pause(); // another thread is ending the program
     constexpr std::string_view line = "brellowind: the display is gone\n";
     if (::write(STDERR_FILENO, line.data(), line.size()) < 0) {
-        // Nobody listens.
+        // Ignored: there is no reader.
     }
     ::_exit(1);
 }
 
 void handleFault(int signal) {
     endIfDisplayIsGone();
-    std::signal(signal, SIG_DFL); // the instruction is repeated and ends the program
+    std::signal(signal, SIG_DFL); // the faulting instruction is executed again
 }
 
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {

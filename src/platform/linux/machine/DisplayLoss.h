@@ -2,15 +2,15 @@
 
 namespace brellowind::platform {
 
-/// Keeps what Qt says off standard error, unless the variable QT_LOGGING_RULES asks for it.
+/// Discards Qt's messages, unless the variable QT_LOGGING_RULES is set.
 void silenceQt();
 
-/// From now on the program ends with one line on standard error and status 1 when the display
-/// closes `socket`, the connection to it. Qt takes note of that anywhere, by a warning or by
-/// reading an answer that is not there. REQUIRES: `silenceQt` was called.
+/// Ends the program with one line on standard error and status 1 when the display server closes
+/// `socket`, the connection to it. Qt may notice that anywhere, with a warning or a null
+/// dereference. REQUIRES: `silenceQt` was called.
 void endWithDisplay(int socket);
 
-/// To be called before the program closes the connection itself.
+/// Call before the program itself closes the connection.
 void ignoreDisplay();
 
 } // namespace brellowind::platform

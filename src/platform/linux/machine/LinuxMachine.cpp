@@ -34,17 +34,17 @@ XdgLoginItem makeLoginItem() {
             qEnvironmentVariable("PATH").toStdString()};
 }
 
-/// Destroyed from the bottom up.
+/// Members are destroyed in reverse order.
 class LinuxMachine final : public Machine {
 public:
-    /// `environment` is for the programs that this one starts.
+    /// `environment` is that of started programs.
     LinuxMachine(std::unique_ptr<QGuiApplication> guiApplication, const ProductConstants& constants,
                  QProcessEnvironment environment)
         : guiApplication_(std::move(guiApplication)),
           player_(QDBusConnection::sessionBus(), constants.mprisPlayers, mainLoop_, log_),
           links_(std::move(environment)) {
         QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
-        // The desktop finds the icon of the settings window through it.
+        // The desktop uses it to find the settings window's icon.
         QGuiApplication::setDesktopFileName(QStringLiteral("org.brellowind.Brellowind"));
         QGuiApplication::setQuitOnLastWindowClosed(false);
     }
@@ -97,10 +97,10 @@ private:
 
 std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& constants) {
 #ifdef __GLIBC__
-    // What little other threads allocate needs no memory of each thread's own.
+    // Other threads allocate too little to need arenas of their own.
     mallopt(M_ARENA_MAX, 1);
-    // Covers and other large blocks are given back as they are freed, instead of leaving holes
-    // between what stays. Without this the limit would rise to the largest block that was freed.
+    // A fixed threshold returns large blocks, such as covers, to the system when they are freed.
+    // By default it grows to the size of the largest freed block.
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
     auto environment = QtStartEnvironment::choose();

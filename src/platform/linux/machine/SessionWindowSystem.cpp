@@ -19,7 +19,7 @@
 namespace brellowind::platform {
 namespace {
 
-const QLatin1String wayland("wayland"); ///< Qt's name of it
+const QLatin1String wayland("wayland"); ///< Qt's platform name
 
 /// The command line of a Qt application. Qt keeps references into it.
 class Arguments {
@@ -51,7 +51,7 @@ std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv) {
     silenceQt();
     const bool hasWayland =
         offersLayerShell() && QPlatformIntegrationFactory::keys().contains(wayland);
-    // Held until Qt has connected: some servers reset themselves when their only client goes.
+    // Kept until Qt has connected: some servers reset when their last client disconnects.
     const auto display = openX11Display();
     if (!hasWayland && !display) {
         std::fputs("brellowind: there is neither a Wayland compositor with a layer shell nor an X "

@@ -10,14 +10,13 @@ namespace brellowind::platform {
 
 class ScreenLock;
 
-/// Makes the Qt application on a window system that the program can show the pill on. Where the
-/// environment asks Qt for another one, that is not heeded, nor changed. Null, and one line on
-/// standard error, when the session has no such window system. What `argv` points to outlives the
-/// application.
+/// Makes the Qt application on a window system that supports the pill. Ignores QT_QPA_PLATFORM.
+/// Returns null, after one line on standard error, if the session has no such window system.
+/// `argv` must outlive the application.
 std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv);
 
-/// The window system of the application that was made by `makeGuiApplication`, which outlives it
-/// like both arguments.
+/// The window system of the application made by `makeGuiApplication`. The application and both
+/// arguments must outlive it.
 std::unique_ptr<WindowSystem> makeWindowSystem(MainLoop& mainLoop, ScreenLock& screenLock);
 
 } // namespace brellowind::platform

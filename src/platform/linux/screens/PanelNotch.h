@@ -6,10 +6,9 @@
 
 namespace brellowind::platform {
 
-/// How far the notch of a screen reaches down from its top edge, in points; 0 without one. No
-/// interface of the system tells of it. It is known by the panel: an internal one, by `outputName`,
-/// with the mode of a laptop with a notch, which is a picture of 16:10 below the notch. `pixels`
-/// may be off by the rounding to whole points at `scale`.
+/// The height of a screen's notch in points; 0 without one. The system does not report notches.
+/// This recognises an internal panel, by `outputName`, with the resolution of a known laptop with a
+/// notch: 16:10 below the notch. `pixels` may be off by the rounding to whole points at `scale`.
 double notchInset(std::string_view outputName, Size pixels, double scale);
 
 } // namespace brellowind::platform

@@ -10,8 +10,8 @@
 namespace brellowind::platform {
 namespace {
 
-/// What Qt shows when there is no screen. On an X server without any it shows the last screen on,
-/// not to be told from that of a server that knows no monitors.
+/// Qt's placeholder for a missing screen. Without screens on an X server Qt keeps the last one,
+/// which looks like the screen of a server without monitors.
 bool isPlaceholder(const QScreen& screen) {
     return screen.name().isEmpty() || screen.size().isEmpty();
 }
@@ -20,7 +20,7 @@ Rect rect(const QRect& rect) {
     return {double(rect.x()), double(rect.y()), double(rect.width()), double(rect.height())};
 }
 
-/// Qt keeps the exact one to itself.
+/// Approximate: Qt does not expose the exact size.
 Size pixelSize(const QScreen& screen) {
     const double scale = screen.devicePixelRatio();
     return {std::round(screen.size().width() * scale), std::round(screen.size().height() * scale)};

@@ -12,12 +12,12 @@ class QScreen;
 
 namespace brellowind::platform {
 
-/// The connected screens as Qt knows them, and their coordinates; the indices of both agree.
+/// The connected screens of Qt and their coordinates, with the same indices.
 struct ScreenArrangement {
     QList<QScreen*> screens;
     ScreenCoordinates coordinates;
 
-    /// At this moment. Empty while nothing but Qt's placeholder for a missing screen is there.
+    /// Empty if Qt has nothing but its placeholder for a missing screen.
     static ScreenArrangement current();
 };
 
@@ -29,7 +29,7 @@ public:
     std::vector<Screen> screens() override;
     std::optional<Screen> main() override;
 
-    /// Changes that come together are told once, on the next turn of the main loop.
+    /// Notifies on the next turn of the main loop, once for several changes.
     Subscription onChange(Observers::Callback callback) override;
 
 private:

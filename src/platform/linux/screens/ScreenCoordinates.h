@@ -8,10 +8,10 @@
 
 namespace brellowind::platform {
 
-/// Where one screen is, as the window system and as the toolkit see it. In both y grows downward.
+/// The position of one screen in native and logical coordinates; y downward in both.
 struct ScreenPlacement {
     Rect native;  ///< in pixels of the window system
-    double scale; ///< pixels a point
+    double scale; ///< pixels per point
     Rect logical; ///< the same top left corner, but the size in points
 };
 
@@ -21,9 +21,9 @@ struct ScreenPlacement {
 /// where they touch in pixels; within each screen every system agrees with the others.
 class ScreenCoordinates {
 public:
-    /// Where a rectangle of the desktop is for the toolkit.
+    /// A rectangle of the desktop in the toolkit's coordinates.
     struct Place {
-        std::size_t screen; ///< the one that most of it lies on, else the nearest
+        std::size_t screen; ///< with the largest intersection, else the nearest
         Rect logical;
 
         bool operator==(const Place&) const = default;
@@ -32,14 +32,14 @@ public:
     /// `primary` is an index into `screens`, unless these are empty.
     ScreenCoordinates(std::vector<ScreenPlacement> screens, std::size_t primary);
 
-    /// A part of some screen on the desktop.
+    /// Converts a rectangle on one screen to the desktop.
     Rect desktopRect(const Rect& logical) const;
 
-    /// The middle of a pixel on the desktop: the pixels of a rectangle are those whose middle it
-    /// contains. A pixel beside all screens belongs to the nearest. Absent without a screen.
+    /// The center of a pixel on the desktop. A pixel outside all screens belongs to the nearest.
+    /// Returns nullopt without a screen.
     std::optional<Point> desktopPoint(int nativeX, int nativeY) const;
 
-    /// Absent without a screen.
+    /// Returns nullopt without a screen.
     std::optional<Place> place(const Rect& desktop) const;
 
 private:
