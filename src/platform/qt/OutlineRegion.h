@@ -8,10 +8,10 @@
 
 namespace brellowind::platform {
 
-/// The pixels whose middle lies inside `outline`, which is in points; `scale` pixels are one point.
+/// The pixels whose centers lie inside `outline`, which is in points of `scale` pixels.
 QRegion outlineRegion(const Path& outline, double scale);
 
-/// The same for rectangles, all together.
+/// The same for the union of rectangles.
 QRegion reachRegion(const std::vector<Rect>& reach, double scale);
 
 } // namespace brellowind::platform

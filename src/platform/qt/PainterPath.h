@@ -6,7 +6,7 @@
 
 namespace brellowind::platform {
 
-/// `path` for Qt to draw.
+/// Converts `path` for Qt.
 QPainterPath painterPath(const Path& path);
 
 } // namespace brellowind::platform

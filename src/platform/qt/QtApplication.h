@@ -8,7 +8,7 @@ namespace brellowind::platform {
 /// The Qt application object of this process.
 class QtApplication final : public Application {
 public:
-    /// `windowSystem` must outlive it.
+    /// `windowSystem` must outlive this object.
     explicit QtApplication(WindowSystem& windowSystem) : windowSystem_(windowSystem) {}
 
     void activate() override { windowSystem_.activate(); }

@@ -16,19 +16,18 @@
 namespace brellowind::platform {
 namespace {
 
-/// How much of a body Qt buffers ahead of us; the rest waits in the network.
+/// Bytes of a body that Qt may buffer; TCP flow control holds back the rest.
 constexpr qint64 readAhead = 256 << 10;
 
-// The answers that have no body, whatever length they name.
+// Answers without a body, whatever their Content-Length.
 constexpr int noContent = 204;
 constexpr int notModified = 304;
 
-/// Of the ways to say that what was asked for is elsewhere, those that may be followed unasked.
+/// Redirects that may be followed automatically.
 constexpr std::array redirectStatuses{301, 302, 303, 305, 307, 308};
 constexpr int mostRedirects = 20;
 
-/// Whether the server answered, whatever its status: of Qt's errors only those that
-/// name a status of 400 or more do not mean that the transfer itself failed.
+/// Whether the server answered, with any status. Qt reports statuses from 400 on as errors, too.
 bool isAnswer(int status, QNetworkReply::NetworkError error) {
     if (error == QNetworkReply::NoError)
         return status > 0;
@@ -41,12 +40,12 @@ bool isWeb(const QUrl& url) {
     return url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
 }
 
-/// Whether what was asked for under an encrypted address would be sent in the clear.
+/// Whether a redirect leads from https to http.
 bool isLessSafe(const QUrl& to, const QUrl& from) {
     return from.scheme() == QLatin1String("https") && to.scheme() != QLatin1String("https");
 }
 
-/// Whether a body with this Content-Encoding is as its origin wrote it.
+/// Whether a body with this Content-Encoding is uncompressed.
 bool isPlain(const QByteArray& contentEncoding) {
     const QByteArray encoding = contentEncoding.trimmed().toLower();
     return encoding.isEmpty() || encoding == "identity";
@@ -101,8 +100,8 @@ private:
             complete(HttpResponse{status(), std::move(body_)});
     }
 
-    /// Asks where the answer leads, whatever its body says. Every step has a reply of its own: Qt,
-    /// following by itself, sometimes mixes the headers of one answer into those of the next.
+    /// Follows the redirect with a new request. Qt's own redirects sometimes mix the headers of one
+    /// answer into those of the next.
     void follow() {
         const QByteArray location = reply_->rawHeader("Location");
         const QUrl from = reply_->url();
@@ -118,15 +117,15 @@ private:
         listenTo(manager->get(request));
     }
 
-    /// Qt may report a body as whole that was cut off, when the connection closes in the moment in
-    /// which a part of it is taken. Of a chunked body nothing else tells.
+    /// Whether the body is complete. Qt may report a truncated body as complete if the connection
+    /// closes while a part is read. For chunked bodies there is no further check.
     bool isWhole() const {
         const bool hasBody = status() != noContent && status() != notModified;
         const auto length = reply_->header(QNetworkRequest::ContentLengthHeader);
         return !hasBody || !length.isValid() || body_.size() >= length.toULongLong();
     }
 
-    /// Takes what has arrived. Returns an error if the body is of no use.
+    /// Reads what has arrived. Returns an error if the body is unusable.
     std::optional<TransportError> readBody() {
         std::array<char, 16384> piece;
         for (;;) {
@@ -141,7 +140,7 @@ private:
         }
     }
 
-    /// The completion may destroy this transfer.
+    /// `this` may be destroyed by the completion.
     void complete(HttpResult result) {
         timeout_.stop();
         releaseReply();
@@ -158,15 +157,15 @@ private:
         reply->deleteLater();
     }
 
-    QPointer<QNetworkReply> reply_; ///< null once the transfer or the whole client has ended
+    QPointer<QNetworkReply> reply_; ///< null after the end of the transfer or of the client
     QBasicTimer timeout_;
     int redirects_ = 0;
     HttpClient::Completion completion_;
     std::size_t maximumBodyBytes_;
-    std::string body_; ///< what has arrived of the answer that leads no further
+    std::string body_; ///< received part of the final answer
 };
 
-/// An address of another kind becomes one that cannot be fetched: Qt would also read files.
+/// Returns an invalid URL for schemes other than http and https: Qt would also read files.
 QUrl webAddress(const std::string& text) {
     const auto url = QUrl::fromEncoded(QByteArray::fromStdString(text));
     return isWeb(url) ? url : QUrl();
@@ -176,8 +175,7 @@ QNetworkRequest networkRequest(const HttpRequest& request) {
     QNetworkRequest network(webAddress(request.url));
     network.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::ManualRedirectPolicy);
-    // HTTP/2 gains nothing for one small body at a time, and its flow control does not keep a
-    // server from filling the memory: Qt buffers such a body whole.
+    // With HTTP/2 Qt buffers bodies without limit; it gains nothing for one small body at a time.
     network.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
     network.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     network.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
@@ -185,10 +183,10 @@ QNetworkRequest networkRequest(const HttpRequest& request) {
     if (request.cachePolicy == CachePolicy::reload) {
         network.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                              QNetworkRequest::AlwaysNetwork);
-        network.setRawHeader("Cache-Control", "no-cache"); // for the proxies on the way
+        network.setRawHeader("Cache-Control", "no-cache"); // for proxies
     }
-    // By default Qt asks for every compression that it knows, and unpacks some bodies in turns of
-    // the main loop that are too long. With a header of our own it leaves the body as it was sent.
+    // By default Qt requests compressed bodies, and blocks the main loop for too long while it
+    // decompresses some of them. Setting the header also disables its decompression.
     network.setRawHeader("Accept-Encoding", "identity");
     for (const auto& [name, value] : request.headers)
         network.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));

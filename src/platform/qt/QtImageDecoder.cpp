@@ -10,8 +10,8 @@
 namespace brellowind::platform {
 namespace {
 
-/// The format that `bytes` begin as, by Qt's name; empty for all others. Left to find it out, Qt
-/// would load the decoders of every format that it has and ask each.
+/// Qt's name of the format of `bytes`; empty if not supported. Detection by Qt would load the
+/// plugins of all formats.
 QByteArray formatOf(std::string_view bytes) {
     using namespace std::string_view_literals;
     if (bytes.starts_with("\xFF\xD8\xFF"sv))
@@ -23,7 +23,7 @@ QByteArray formatOf(std::string_view bytes) {
     return {};
 }
 
-/// Whether a WebP file says that it moves.
+/// Whether a WebP file is animated.
 bool isAnimation(std::string_view bytes) {
     using namespace std::string_view_literals;
     constexpr std::size_t extension = 12;
@@ -33,8 +33,7 @@ bool isAnimation(std::string_view bytes) {
            bytes.substr(extension, 4) == "VP8X"sv && (bytes[flags] & moves) != 0;
 }
 
-/// The most that the image takes at a time. Frames are put together on a canvas, which is then
-/// copied.
+/// Peak memory of decoding. Animation frames are composed on a canvas, which is then copied.
 qint64 decodedBytes(const QImageReader& reader, bool isAnimation) {
     const QSize size = reader.size();
     int bits = 32;

@@ -17,12 +17,12 @@ public:
 /// Decodes JPEG, PNG and WebP.
 class QtImageDecoder final : public ImageDecoder {
 public:
-    /// An image that would need more memory than this to decode is refused.
+    /// Images that need more memory than this for decoding are rejected.
     static constexpr qint64 maximumDecodedBytes = 64 * 1024 * 1024;
 
     QtImageDecoder();
 
-    /// The sharpest of the screens that are there decides how many pixels a point has.
+    /// Uses the scale of the connected screen with the highest density.
     std::shared_ptr<const Image> decode(std::string_view bytes, int largestPoints) override;
 };
 

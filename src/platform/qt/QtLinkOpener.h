@@ -6,10 +6,10 @@
 
 namespace brellowind::platform {
 
-/// Opens links with `xdg-open`, the freedesktop.org command for it.
+/// Opens links with `xdg-open`.
 class QtLinkOpener final : public LinkOpener {
 public:
-    /// `environment` is what the programs that open links get.
+    /// `environment` is that of the started programs.
     explicit QtLinkOpener(QProcessEnvironment environment);
 
     bool open(std::string_view url) override;

@@ -9,7 +9,7 @@ namespace brellowind::platform {
 std::optional<std::string> QtLocalFiles::read(std::string_view url, std::size_t maximumBytes) {
     const QByteArray encoded(url.data(), static_cast<qsizetype>(url.size()));
     const QString path = QUrl::fromEncoded(encoded).toLocalFile();
-    if (!QFileInfo(path).isFile()) // a pipe or a device might never end
+    if (!QFileInfo(path).isFile()) // reading a pipe or a device might block
         return std::nullopt;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

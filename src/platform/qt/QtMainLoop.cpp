@@ -8,13 +8,12 @@ namespace {
 
 class QtTimer final : public QTimer, public RepeatingTimer {
 public:
-    /// What repeats need not be exact. Coarse timers come to fire together, at full twentieths of a
-    /// second, so that the processor is woken once for all of them.
+    /// Repeating timers are coarse: they fire together, at full 1/20 s, to save wake-ups.
     QtTimer(std::chrono::milliseconds interval, bool repeats, MainLoop::Handler handler) {
         setInterval(interval);
         setSingleShot(!repeats);
         setTimerType(repeats ? Qt::CoarseTimer : Qt::PreciseTimer);
-        callOnTimeout(std::move(handler)); // Qt keeps it while it runs, even if it destroys this
+        callOnTimeout(std::move(handler)); // stays valid if it destroys this
         start();
     }
 
@@ -26,7 +25,7 @@ public:
     }
 };
 
-/// Qt drops queued calls to an object that has been destroyed.
+/// Qt discards queued calls to a destroyed object.
 class QtNextTurn final : public QObject, public NextTurn {
 public:
     explicit QtNextTurn(MainLoop::Handler handler)

@@ -4,7 +4,7 @@
 
 namespace brellowind::platform {
 
-/// The Qt event loop of the thread that calls it. A Qt application object must exist.
+/// The Qt event loop of the calling thread. A Qt application object must exist.
 class QtMainLoop final : public MainLoop {
 public:
     std::unique_ptr<Timer> scheduleOnce(std::chrono::milliseconds delay, Handler handler) override;

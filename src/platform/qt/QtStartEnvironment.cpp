@@ -5,16 +5,15 @@ namespace brellowind::platform::QtStartEnvironment {
 QProcessEnvironment choose() {
     auto before = QProcessEnvironment::systemEnvironment();
     constexpr const char* switches[] = {
-        // Frames are sent to the X server instead of being put into memory that is shared with it.
-        // Of shared memory Qt asks before every frame whether it is free: 55 wake-ups a second
-        // while playing instead of 26.
+        // Send frames over the connection, not in shared memory: for the latter Qt waits for the
+        // server before every frame, with 55 instead of 26 wake-ups per second while playing.
         "QT_XCB_NO_MITSHM",
-        // A window with the hint gets no role on Wayland: the pill and its menu get another one.
-        // Heeded while the program runs.
+        // A window with this hint gets no role from Qt on Wayland; the pill and its menu set roles
+        // of their own. Read at any time, not only at the start.
         "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT",
-        // Windows keep the position that they are told, so that assistive programs find them.
+        // Windows keep their set positions, which assistive programs need.
         "QT_WAYLAND_DISABLE_FIXED_POSITIONS",
-        // The compositor decorates the settings; Qt's own decorations load a graphics driver.
+        // No client-side decorations, which load a graphics driver.
         "QT_WAYLAND_DISABLE_WINDOWDECORATION",
     };
     for (const char* name : switches)

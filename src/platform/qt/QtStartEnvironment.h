@@ -2,11 +2,11 @@
 
 #include <QProcessEnvironment>
 
-/// What Qt can be told only through the environment.
+/// Settings of Qt that are available only as environment variables.
 namespace brellowind::platform::QtStartEnvironment {
 
-/// Chooses what the person has not set. Call before there is an application object, while the
-/// process has one thread. Returns the environment as it was before, for programs that are started.
+/// Sets the variables that the user has not set. Call before the application object is made, while
+/// the process has one thread. Returns the original environment, for started programs.
 QProcessEnvironment choose();
 
 } // namespace brellowind::platform::QtStartEnvironment

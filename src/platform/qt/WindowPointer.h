@@ -9,16 +9,16 @@
 
 namespace brellowind::platform {
 
-/// The pointer where the system tells of it only while it is over a window of this program. The
-/// overlay's window reports it here.
+/// The pointer on systems that report it only over windows of this program. Fed with the events of
+/// the overlay's window.
 class WindowPointer final : public Pointer {
 public:
     std::optional<Point> location() override { return location_; }
     std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) override;
     std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) override;
 
-    /// The pointer is where `event` is in the window that has `frame` on the desktop; at its top
-    /// edge it is within the frame. Nothing comes of a finger.
+    /// The pointer has moved to the position of `event` in a window with `frame` on the desktop.
+    /// The position is kept below the frame's top edge. Ignores touch events.
     void moveWithin(const Rect& frame, const QSinglePointEvent& event);
 
     /// The pointer has left.

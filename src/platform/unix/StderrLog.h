@@ -8,8 +8,8 @@
 
 namespace brellowind::platform {
 
-/// The log of a session's programs: standard error, which the session's journal keeps. A line stays
-/// one line: what servers and players say in it may hold control characters, which become spaces.
+/// Logs to standard error, which the session's journal records. Control characters, as in messages
+/// of servers and players, are replaced by spaces.
 class StderrLog final : public Log {
 public:
     void write(std::string_view line) override {

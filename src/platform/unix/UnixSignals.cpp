@@ -10,15 +10,15 @@
 namespace brellowind::platform {
 namespace {
 
-/// Where the handler writes. It is global since a handler can reach no object.
+/// The pipe's write end. Global, since a signal handler has no context.
 volatile std::sig_atomic_t writeEnd = -1;
 
-/// Only what is allowed in a signal handler.
+/// Async-signal-safe.
 void notify(int /*signal*/) {
     const int error = errno;
     const char byte = 0;
     if (::write(writeEnd, &byte, 1) < 0) {
-        // The pipe is full of earlier signals, which are enough.
+        // The pipe is full: earlier signals are pending.
     }
     errno = error;
 }
@@ -41,7 +41,7 @@ void setHandler(int signal, void (*handler)(int)) {
 UnixSignals::UnixSignals(std::function<void()> onTermination) {
     std::array<int, 2> ends{};
     if (::pipe(ends.data()) != 0)
-        return; // the signals keep their meaning: they end the program at once
+        return; // the signals keep their default action
     for (const int end : ends) {
         ::fcntl(end, F_SETFD, FD_CLOEXEC);
         ::fcntl(end, F_SETFL, O_NONBLOCK);

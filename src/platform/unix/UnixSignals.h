@@ -7,8 +7,8 @@
 
 namespace brellowind::platform {
 
-/// Turns SIGINT, SIGTERM and SIGHUP into calls on the main thread. A signal that is ignored at
-/// construction stays ignored, as `nohup` and shells expect. One instance at a time per process.
+/// Converts SIGINT, SIGTERM and SIGHUP to calls on the main thread. A signal that is ignored at
+/// construction stays ignored, as `nohup` and shells expect. At most one instance per process.
 class UnixSignals {
 public:
     explicit UnixSignals(std::function<void()> onTermination);
