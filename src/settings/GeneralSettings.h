@@ -8,28 +8,28 @@
 
 namespace brellowind {
 
-/// The General tab of the settings window. Made each time the window is, it begins with what the
-/// login item's status is then. Main thread only.
+/// The General tab of the settings window. Created with the window; reads the login item's status
+/// at that time. Main thread only.
 class GeneralSettings {
 public:
     explicit GeneralSettings(const SettingsServices& services);
     GeneralSettings(const GeneralSettings&) = delete;
     GeneralSettings& operator=(const GeneralSettings&) = delete;
 
-    /// The tab is shown: each time, an update check starts.
+    /// Call when the tab is shown. Starts an update check.
     void appear();
 
-    /// The tab is hidden or closed: the check that its appearance started is cancelled.
+    /// Call when the tab is hidden or closed. Cancels the check that `appear` started.
     void disappear();
 
-    /// Turns the switch. A change of its value registers or unregisters the login item. When that
-    /// fails, the switch turns to what the item's status is then; that is a change like any other.
+    /// Sets the switch. A change registers or unregisters the login item. If that fails, the switch
+    /// is set to the item's current status, which is a change like any other.
     void setLaunchAtLogin(bool enabled);
 
-    /// Opens a message to the maker, unless the address makes no valid URL.
+    /// Opens a new mail to the maker. Does nothing if the address gives no valid URL.
     void sendFeedback() const;
 
-    /// Does what the update card's button says at this moment.
+    /// Performs the current action of the update card's button.
     void pressUpdateButton();
 
     void quit();
@@ -40,7 +40,7 @@ private:
     TaskHandle startCheck();
 
     SettingsServices services_;
-    std::optional<TaskHandle> check_; ///< the one that the last appearance started
+    std::optional<TaskHandle> check_; ///< started by the last `appear`
 };
 
 } // namespace brellowind

@@ -4,7 +4,7 @@
 
 namespace brellowind {
 
-/// What can be asked of the settings window from outside the library that it lives in.
+/// The interface of the settings library.
 class SettingsOpener {
 public:
     SettingsOpener() = default;
@@ -12,12 +12,12 @@ public:
     SettingsOpener& operator=(const SettingsOpener&) = delete;
     virtual ~SettingsOpener() = default;
 
-    /// Shows the window on the router's tab and brings it to the front, also when it is open.
+    /// Shows the window with the router's tab, or raises it.
     virtual void open() = 0;
 };
 
-/// The function of the library that makes one, owned by the caller, and its name there. What the
-/// services refer to must outlive it.
+/// The factory function in the library, and its symbol. The caller owns the result. All objects in
+/// `services` must outlive it.
 using MakeSettingsOpener = SettingsOpener*(const SettingsServices& services);
 inline constexpr auto makeSettingsOpenerName = "brellowindMakeSettingsOpener";
 

@@ -4,11 +4,11 @@
 
 namespace brellowind {
 
-/// The tabs of the settings window, in the order in which they stand.
+/// The tabs of the settings window, in order.
 enum class SettingsTab { general, about };
 
-/// Says which tab the settings window shows. Whoever opens the window chooses here, and the window
-/// writes back what the user picks. Main thread only.
+/// The selected tab of the settings window. Set before opening the window, and by the window when
+/// the user selects a tab. Main thread only.
 class SettingsRouter {
 public:
     void setSelectedTab(SettingsTab tab) { selectedTab.set(tab); }

@@ -12,7 +12,7 @@
 
 namespace brellowind {
 
-/// What the settings are shown from and act on. It owns none of it.
+/// References to the services that the settings use.
 struct SettingsServices {
     platform::MainLoop& mainLoop;
     TaskRunner& tasks;

@@ -36,7 +36,7 @@ UpdateCard updateCard(const UpdateChecker::State& state, std::string_view curren
                 .buttonLabel = "Try again",
                 .buttonAction = Action::check,
                 .versionText = std::move(version)};
-    case Case::idle: // as good as up to date until a check says otherwise
+    case Case::idle: // shown as up to date until a check
     case Case::upToDate:
         break;
     }

@@ -7,12 +7,12 @@
 
 namespace brellowind {
 
-/// What the update card of the settings window shows.
+/// The content of the update card in the settings window.
 struct UpdateCard {
     enum class Color { yellow, teal, red, green };
     enum class Action { none, check, openDownload };
 
-    std::string_view icon; ///< a symbol's name; empty: a small progress indicator stands there
+    std::string_view icon; ///< a symbol's name; empty: a small progress indicator
     Color color;           ///< of the icon and, at `tintOpacity`, of the card's background
     double tintOpacity;
     std::string_view title;

@@ -36,7 +36,7 @@ Task<void> UpdateChecker::run(std::shared_ptr<UpdateChecker> self) {
     self->state.set(self->outcome(result));
 }
 
-/// The HTTP status is not looked at: an error page is no feed.
+/// Ignores the HTTP status: an error page is not a valid feed.
 UpdateState UpdateChecker::outcome(const platform::HttpResult& result) const {
     if (const auto* error = std::get_if<platform::TransportError>(&result))
         return failure(error->description);

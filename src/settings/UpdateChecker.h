@@ -15,31 +15,31 @@
 
 namespace brellowind {
 
-/// Tells whether a newer release exists. Held by a std::shared_ptr. Main thread only.
+/// Checks for newer releases. Must be owned by a std::shared_ptr. Main thread only.
 class UpdateChecker : public std::enable_shared_from_this<UpdateChecker> {
 public:
     using Release = brellowind::Release;
     using State = UpdateState;
 
-    /// A longer feed counts as a transport failure.
+    /// A longer feed is a transport failure.
     static constexpr std::size_t maximumBodyBytes = 1024 * 1024;
 
-    /// Idle. The services and the constants must outlive it and its checks.
+    /// All references must outlive this object and its checks.
     UpdateChecker(platform::HttpClient& http, platform::Log& log, platform::LinkOpener& links,
                   const platform::ProductConstants& constants);
 
-    /// The program's own short version; "0" in a build without one.
+    /// The program's short version; "0" if it is empty.
     std::string currentVersion() const;
 
-    /// Whether there is a release feed to ask.
+    /// Whether a release feed is configured.
     bool hasFeed() const;
 
-    /// Does nothing without a release feed. Otherwise one check, from `checking` to its outcome. A
-    /// failed one, cancellation included, writes one line to the log. A check that begins while
-    /// another runs sends its own request, and each sets the state when it ends.
+    /// Performs one check, from `checking` to its outcome. Logs one line on failure, including
+    /// cancellation. Concurrent checks are independent; each sets the state when it completes. Does
+    /// nothing without a release feed.
     Task<void> check();
 
-    /// Opens the download address of an `available` release; does nothing in any other state.
+    /// Opens the download URL of an `available` release. Does nothing in other states.
     void openDownload() const;
 
     Published<State, UpdateChecker> state{State::idle()};

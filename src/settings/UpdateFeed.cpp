@@ -10,13 +10,13 @@
 namespace brellowind::UpdateFeed {
 namespace {
 
-/// The text at `key`, or null when nothing or something else is there.
+/// The text at `key`; null if missing or of another type.
 std::string* textAt(nlohmann::json& object, const char* key) {
     const auto value = object.find(key);
     return value == object.end() ? nullptr : value->get_ptr<std::string*>();
 }
 
-/// Whether a browser can open it: http or https, and a host.
+/// Whether `url` is http or https, with a host.
 bool isWebAddress(std::string_view url) {
     const auto authority = url.find("://");
     if (!isAbsoluteURL(url) || authority == std::string_view::npos)

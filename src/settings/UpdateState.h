@@ -9,18 +9,18 @@ namespace brellowind {
 /// A release of the program, as the release feed describes it.
 struct Release {
     std::string version;
-    std::string url; ///< http or https: where people download it
+    std::string url; ///< download page, http or https
     std::optional<std::string> notes;
 
     bool operator==(const Release&) const = default;
 };
 
-/// What is known of newer releases.
+/// The state of the update check.
 class UpdateState {
 public:
     enum class Case {
         idle,      ///< no check made yet
-        checking,  ///< a check is under way
+        checking,  ///< a check is running
         upToDate,  ///< the feed's release is not newer than the program
         available, ///< the feed's release is newer
         failed,    ///< the feed could not be fetched or read
@@ -36,7 +36,7 @@ public:
 
     Case which() const { return case_; }
 
-    /// The release of an `available` state; absent in every other.
+    /// The release of an `available` state; absent in other states.
     const std::optional<Release>& release() const { return release_; }
 
     bool operator==(const UpdateState&) const = default;

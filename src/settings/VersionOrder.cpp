@@ -14,7 +14,7 @@ bool startsWithDigit(std::string_view text) {
     return !text.empty() && isDigit(text.front());
 }
 
-/// The digits at the beginning of `text`, which loses them, without the zeros that lead them.
+/// Removes the leading digits from `text`. Returns them without leading zeros.
 std::string_view takeNumber(std::string_view& text) {
     const auto end = std::ranges::find_if_not(text, isDigit);
     auto digits = text.substr(0, static_cast<std::size_t>(end - text.begin()));
@@ -23,13 +23,13 @@ std::string_view takeNumber(std::string_view& text) {
     return digits;
 }
 
-/// By value: without leading zeros the longer number is the greater one.
+/// Compares by value: without leading zeros the longer number is greater.
 std::strong_ordering compareNumbers(std::string_view a, std::string_view b) {
     const auto lengths = a.size() <=> b.size();
     return lengths != 0 ? lengths : a <=> b;
 }
 
-/// The bytes of UTF-8 texts order as their code points do; `string_view` compares them unsigned.
+/// UTF-8 bytes, compared unsigned as by `string_view`, order like code points.
 std::strong_ordering compareVersions(std::string_view a, std::string_view b) {
     std::string_view restOfA = a;
     std::string_view restOfB = b;

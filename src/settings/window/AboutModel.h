@@ -9,7 +9,7 @@
 
 namespace brellowind {
 
-/// What QML draws the About tab from. Nothing here ever changes.
+/// The QML model of the About tab. Constant.
 class AboutModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -32,7 +32,7 @@ public:
     const QString description = QString::fromUtf8(AppInfo::description);
     const QString legalNotice;
 
-    // Empty: there is no such page.
+    // Empty if there is no such page.
     const QString websiteURL;
     const QString socialURL;
     const QString privacyPolicyURL;

@@ -13,8 +13,8 @@
 
 namespace brellowind {
 
-/// What QML draws the General tab from, its update card included. It follows the switch and the
-/// update checker a turn of the main loop later, and notifies only when something really differs.
+/// The QML model of the General tab, including its update card. Refreshes on the next turn of the
+/// main loop after a change, and notifies only if values differ.
 class GeneralModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -33,17 +33,17 @@ class GeneralModel : public QObject {
 public:
     explicit GeneralModel(const SettingsServices& services);
 
-    // Whether the program has an address for it.
+    // Whether a feedback address is configured.
     const bool takesFeedback;
     const bool checksForUpdates;
 
-    /// The tab is shown: each time, an update check starts.
+    /// Call when the tab is shown. Starts an update check.
     void appear() { settings_.appear(); }
 
-    /// The tab is hidden or closed: the check of its appearance is cancelled.
+    /// Call when the tab is hidden or closed. Cancels the check that `appear` started.
     void disappear() { settings_.disappear(); }
 
-    /// Shows what is published now, without waiting for the next turn.
+    /// Updates from the published properties at once.
     void refresh();
 
     bool launchAtLogin() const { return launchAtLogin_; }

@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// What `MakeSettingsOpener` is in the library that holds the settings window.
+/// Implements `MakeSettingsOpener`.
 extern "C" Q_DECL_EXPORT brellowind::SettingsOpener*
 brellowindMakeSettingsOpener(const brellowind::SettingsServices& services) {
     return new brellowind::SettingsWindow(services);

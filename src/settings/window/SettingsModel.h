@@ -12,8 +12,8 @@
 
 namespace brellowind {
 
-/// What QML draws the settings window from. It shows the router's tab and writes back what the
-/// user picks, and tells the General tab when it appears and disappears.
+/// The QML model of the settings window. Synchronises the selected tab with the router, and
+/// notifies the General tab when it appears and disappears.
 class SettingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -29,10 +29,10 @@ public:
     explicit SettingsModel(const SettingsServices& services);
     ~SettingsModel() override;
 
-    /// Whether the window can be seen, and with it the tab that is selected.
+    /// Whether the window, and so its selected tab, is visible.
     void setShown(bool shown);
 
-    /// Shows what is published now, without waiting for the next turn.
+    /// Updates from the published properties at once.
     void refresh();
 
     Tab tab() const { return tab_; }

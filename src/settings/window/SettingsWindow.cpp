@@ -17,17 +17,17 @@ void qml_register_types_Brellowind_Settings();
 namespace brellowind {
 namespace {
 
-/// Once, since Qt keeps every registration for good, also one that repeats another.
+/// Call once: Qt never frees a registration, also a repeated one.
 void prepareQtQuick() {
     static bool prepared = false;
     if (std::exchange(prepared, true))
         return;
-    // A small window of text needs no graphics card, and takes a third of the memory without one.
+    // Software rendering is enough for a small window and takes a third of the memory.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     qml_register_types_Brellowind_Settings();
 }
 
-/// The window is as large as what it shows, and nobody can pull it larger or smaller.
+/// Gives the window the fixed size of its content.
 void fitToContent(QQuickView& view) {
     const auto* root = view.rootObject();
     const QSize size(static_cast<int>(std::ceil(root->width())),
@@ -38,7 +38,7 @@ void fitToContent(QQuickView& view) {
     view.resize(size);
 }
 
-/// Says when it went from the screen.
+/// A view that reports when it was hidden.
 class View final : public QQuickView {
 public:
     explicit View(std::function<void()> hidden) : hidden_(std::move(hidden)) {}
@@ -53,7 +53,7 @@ private:
     std::function<void()> hidden_;
 };
 
-/// For desktops that find no icon by the name of the program's desktop file.
+/// For desktops that do not find the icon by the name of the desktop file.
 QIcon icon() {
     QIcon icon;
     for (const auto* size : {"32x32", "64x64"})
@@ -63,7 +63,7 @@ QIcon icon() {
 
 } // namespace
 
-/// Destroyed from the bottom up: what draws goes before what it draws from.
+/// Members are destroyed in reverse order: the view before its models.
 struct SettingsWindow::Content {
     Content(const SettingsServices& services, std::function<void()> hidden)
         : model(services), view(std::move(hidden)) {}
@@ -114,7 +114,7 @@ void SettingsWindow::build() {
 
 void SettingsWindow::closed() {
     content_->model.setShown(false);
-    // The window is still busy with going; it is given back on the next turn.
+    // The window is still handling the event; free it on the next turn.
     release_ = services_.mainLoop.scheduleOnce(std::chrono::milliseconds(0), [this] {
         content_.reset();
         release_.reset();

@@ -9,9 +9,9 @@ class QQuickWindow;
 
 namespace brellowind {
 
-/// The program's only ordinary window. It is built when it is opened and given back, with all its
-/// memory, when it closes. A `QGuiApplication` and what the services refer to must outlive it;
-/// closing it ends the program unless `QGuiApplication::quitOnLastWindowClosed` is off.
+/// The settings window. Created when it is opened; freed, with all its memory, when it is closed. A
+/// `QGuiApplication` and all objects in `services` must outlive it. Closing it ends the program
+/// unless `QGuiApplication::quitOnLastWindowClosed` is off.
 class SettingsWindow : public SettingsOpener {
 public:
     explicit SettingsWindow(const SettingsServices& services);
@@ -19,7 +19,7 @@ public:
 
     void open() override;
 
-    /// The window while there is one: null before it is first opened and after it closed.
+    /// Null while the window is not open.
     QQuickWindow* window() const;
 
 private:
@@ -30,7 +30,7 @@ private:
 
     SettingsServices services_;
     std::unique_ptr<Content> content_;
-    std::unique_ptr<platform::Timer> release_; ///< there between closing and giving back
+    std::unique_ptr<platform::Timer> release_; ///< pending after closing
 };
 
 } // namespace brellowind

@@ -6,7 +6,7 @@
 
 namespace brellowind {
 
-/// Eight spokes of a wheel, each fainter than the next; `step` says which is the brightest.
+/// A spinner of eight spokes of decreasing opacity; `step` selects the brightest.
 class Spokes : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -23,7 +23,7 @@ Q_SIGNALS:
 
 private:
     QColor color_;
-    int step_ = 0; ///< from 0, at the top, clockwise, any number of times around
+    int step_ = 0; ///< clockwise from 0 at the top, not limited to one turn
 };
 
 } // namespace brellowind

@@ -10,14 +10,14 @@ namespace {
 
 constexpr QPointF center(symbolBox / 2, symbolBox / 2);
 constexpr double glyphWidth = 1.8;   // of a stroke cut out of a filled circle
-constexpr double outlineWidth = 1.5; // of a stroke that stands for itself
+constexpr double outlineWidth = 1.5; // of other strokes
 
 QPainterPath stroke(const QPainterPath& line, double width) {
     QPainterPathStroker stroker;
     stroker.setWidth(width);
     stroker.setCapStyle(Qt::RoundCap);
     stroker.setJoinStyle(Qt::RoundJoin);
-    stroker.setCurveThreshold(0.01); // smooth also on screens of twice the density
+    stroker.setCurveThreshold(0.01); // smooth at a scale of 2
     return stroker.createStroke(line).simplified();
 }
 
@@ -33,7 +33,7 @@ QPainterPath disc(QPointF middle, double radius) {
     return path;
 }
 
-/// A full circle with `glyph` cut out of it.
+/// A filled circle with `glyph` cut out.
 QPainterPath badge(const QPainterPath& glyph) {
     return disc(center, 9).subtracted(glyph);
 }

@@ -8,13 +8,13 @@
 
 namespace brellowind {
 
-/// The side of the square that the symbols are designed in, in points.
+/// The side of the symbols' design square, in points.
 inline constexpr double symbolBox = 20;
 
-/// The area that the symbol of this name fills inside the box; empty for another name.
+/// The shape of a symbol inside the box; empty for an unknown name.
 QPainterPath symbolPath(QStringView name);
 
-/// One of the program's own symbols, drawn as large as the item, sharp on every screen.
+/// Draws one of the program's symbols, scaled to the item's size.
 class Symbol : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
