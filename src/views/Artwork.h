@@ -14,22 +14,22 @@
 
 namespace brellowind {
 
-/// The cover of the current track. Held by a std::shared_ptr. Main thread only.
+/// The cover of the current track. Must be owned by a std::shared_ptr. Main thread only.
 class Artwork : public std::enable_shared_from_this<Artwork> {
 public:
-    /// A longer file is left alone like one that is no image.
+    /// Longer files are ignored, like files that are not images.
     static constexpr std::size_t maximumBytes = 16 * 1024 * 1024;
 
-    /// The side of the largest square that it is drawn in.
+    /// The side of the largest square in which the cover is drawn.
     static constexpr int largestPoints = 320;
 
-    /// The services must outlive it and the tasks that it starts.
+    /// All references must outlive this object and the tasks that it starts.
     Artwork(TaskRunner& tasks, platform::HttpClient& http, platform::LocalFiles& files,
             platform::ImageDecoder& images);
 
-    /// Fetches the image at `location`, over HTTP or from a file, and shows it once it is there;
-    /// until then, and for good when it cannot be had, the present one stays. Without a valid
-    /// location there is no image at once. Of overlapping loads the one that ends last counts.
+    /// Fetches the image at `location`, an HTTP or file URL, and sets it when loaded; on failure
+    /// the current image stays. Without a valid URL the image is cleared at once. Of concurrent
+    /// loads the last to complete counts.
     void load(const std::optional<std::string>& location);
 
     Published<std::shared_ptr<const platform::Image>, Artwork> image{nullptr}; ///< null: none

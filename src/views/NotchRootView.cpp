@@ -128,7 +128,7 @@ void NotchRootView::isPlayingChanged() {
     if (seenPlaying_)
         form_.isMinimized = false;
     else if (!seenInside_)
-        form_.isMinimized = true; // a pill that is being looked at does not shrink
+        form_.isMinimized = true; // never while hovered
     form_.playPulse = true;
     environment_.tasks.start(endPulse(environment_.mainLoop, weak_from_this()));
 }

@@ -22,15 +22,15 @@
 
 namespace brellowind {
 
-/// What the pill shows and does. It owns the long-lived state of the notch and wires playback to
-/// lyrics: every change of track starts a lyrics load and an artwork load. Held by a
-/// std::shared_ptr. Main thread only.
+/// The presenter of the pill. Owns the state of the notch and connects playback to lyrics: every
+/// change of track starts loading lyrics and artwork. Must be owned by a std::shared_ptr. Main
+/// thread only.
 class NotchRootView : public std::enable_shared_from_this<NotchRootView> {
 public:
-    /// How the pill looks, beside its texts and its cover.
+    /// The visual state of the pill, without its texts and its cover.
     struct Form {
         bool isMinimized = false;     ///< only the notch band, without the lyric line
-        bool isArtExpanded = false;   ///< the artwork panel, whatever `isMinimized` says
+        bool isArtExpanded = false;   ///< the artwork panel, regardless of `isMinimized`
         bool playPulse = false;       ///< for a moment after play or pause
         bool hovered = false;         ///< the pointer is over the pill
         bool coverHovered = false;    ///< the pointer is over the cover thumbnail
@@ -40,8 +40,8 @@ public:
         bool operator==(const Form&) const = default;
     };
 
-    /// What the view shows and what it acts on. The references must outlive it and the tasks that
-    /// it starts; the state of the notch is its own.
+    /// The services and state that the view uses. The references must outlive the view and the
+    /// tasks that it starts.
     struct Environment {
         platform::MainLoop& mainLoop;
         TaskRunner& tasks;
@@ -52,7 +52,7 @@ public:
         std::shared_ptr<LyricsStore> lyrics;
         std::shared_ptr<HoverMonitor> hover;
         std::shared_ptr<Artwork> artwork;
-        WindowInteractivity::WindowFinder window; ///< finds the window that the pill is shown in
+        WindowInteractivity::WindowFinder window; ///< finds the pill's window
         std::function<void()> openSettings;       ///< opens the settings window, or raises it
     };
 
@@ -61,14 +61,14 @@ public:
     NotchRootView(const NotchRootView&) = delete;
     NotchRootView& operator=(const NotchRootView&) = delete;
 
-    /// Starts the monitors. Called once, when the view is first shown.
+    /// Starts the monitors. Call once, when the view is first shown.
     void appear();
 
-    /// The text of the pill, UTF-8, valid until the next turn of the main loop. Allocates nothing.
+    /// The text of the pill, UTF-8, valid until the next turn of the main loop. Does not allocate.
     std::string_view currentLineText() const;
 
-    /// In how many seconds of playback the next line of the lyrics begins; none after the last one,
-    /// and without lyrics.
+    /// Seconds of playback until the next line. Returns nullopt after the last line and without
+    /// lyrics.
     std::optional<double> timeUntilNextLine() const;
 
     const Form& form() const { return form_; }
@@ -76,10 +76,10 @@ public:
     const LyricsStore& lyrics() const { return *environment_.lyrics; }
     const Artwork& artwork() const { return *environment_.artwork; }
 
-    /// Calls `redraw` on each turn of the main loop in which what is shown may have changed.
+    /// Calls `redraw` on each turn of the main loop in which the content may have changed.
     Subscription onRedraw(Observers::Callback redraw);
 
-    /// The size of the pill as it is laid out, whenever that changes.
+    /// Call when the laid-out size of the pill has changed.
     void sizeChanged(Size size) { environment_.hover->currentSize = size; }
 
     void hoverCover(bool inside) { change(form_.coverHovered, inside); }
@@ -103,9 +103,9 @@ public:
 
     bool checksForUpdates() const { return environment_.updater.hasFeed(); }
 
-    // The entries of the context menu. The settings show their General tab.
+    // The entries of the context menu. The first two show the General tab of the settings.
     void openSettings();
-    void checkForUpdates(); ///< shows the check in the settings window
+    void checkForUpdates(); ///< also shows the settings window
     void quit() { environment_.application.terminate(); }
 
 private:

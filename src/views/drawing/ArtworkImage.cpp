@@ -6,7 +6,7 @@
 namespace brellowind {
 namespace {
 
-/// The square in which an image fills `size` with its middle.
+/// The square for a square image that covers `size`, centred.
 QRectF fillingSquare(QSizeF size) {
     const double side = std::max(size.width(), size.height());
     return {(size.width() - side) / 2, (size.height() - side) / 2, side, side};

@@ -5,7 +5,7 @@
 
 namespace brellowind {
 
-/// The cover, filling its rectangle with round corners; a dark grey while there is none.
+/// The cover, filling a rectangle with round corners; dark grey if there is none.
 class ArtworkImage : public PainterItem {
     Q_OBJECT
 

@@ -10,12 +10,12 @@
 namespace brellowind {
 namespace {
 
-constexpr double strongestSigma = 120; ///< the sums of its filters just fit into 32 bits
+constexpr double strongestSigma = 120; ///< beyond it the sums of the filters overflow 32 bits
 
-/// The widths of three box filters that one after the other come close to a Gaussian. They are odd.
+/// The widths of three successive box filters that approximate a Gaussian. Odd numbers.
 using Widths = std::array<std::size_t, 3>;
 
-/// So many boxes have the lower width that all variances add up to that of the Gaussian.
+/// Chooses among two widths so that the variances add up to that of the Gaussian.
 Widths boxWidths(double unlimitedSigma) {
     const double sigma = std::min(unlimitedSigma, strongestSigma);
     const double variance = 12 * sigma * sigma;
@@ -46,7 +46,7 @@ class LineBlur {
 public:
     LineBlur(const Widths& widths, std::size_t length)
         : widths_(widths), length_(length), room_(*std::ranges::max_element(widths)),
-          // Each filter moves what it adds up by half of its width.
+          // Each filter shifts the samples by half of its width.
           from_(room_ + length + radius(widths)), to_(from_.size()) {}
 
     void operator()(const Line& line) {
@@ -67,7 +67,7 @@ public:
     }
 
 private:
-    /// Makes each sum that of the sample and the `width` - 1 before it.
+    /// Replaces each sample by the sum of itself and the `width` - 1 before it.
     void addUp(std::size_t width) {
         std::uint32_t sum = 0;
         for (std::size_t i = room_; i < from_.size(); ++i)
@@ -76,7 +76,7 @@ private:
 
     Widths widths_;
     std::size_t length_;
-    std::size_t room_; ///< of clear samples before the first
+    std::size_t room_; ///< transparent samples before the first
     std::vector<std::uint32_t> from_;
     std::vector<std::uint32_t> to_;
 };

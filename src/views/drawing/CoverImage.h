@@ -7,11 +7,11 @@
 
 namespace brellowind {
 
-/// What is seen where a cover is missing.
+/// The colour in place of a missing cover.
 inline const QColor coverPlaceholder = QColor::fromRgbF(0.11F, 0.11F, 0.11F);
 
-/// A square image that is drawn at many sizes: from copies of itself, each half as large as the one
-/// before, so that a thumbnail is as smooth as the whole. It keeps the copy that was wanted last.
+/// A square image with mipmaps, for smooth drawing at all sizes. Keeps the level that was used
+/// last.
 class CoverImage {
 public:
     CoverImage() = default;
@@ -21,10 +21,10 @@ public:
 
     const QImage& image() const { return image_; }
 
-    /// The smallest copy that is at least `pixels` wide.
+    /// The smallest level that is at least `pixels` wide.
     const QImage& atLeast(double pixels);
 
-    /// A brush that fills `square` with the image; `pixels` is how wide that is on the screen.
+    /// A brush that fills `square`, which is `pixels` wide on the screen, with the image.
     QBrush brush(const QRectF& square, double pixels);
 
 private:
@@ -32,7 +32,7 @@ private:
     QImage copy_;
 };
 
-/// A brush that fills `square` with the whole of `image`.
+/// A brush that fills `square` with `image`.
 QBrush imageBrush(const QImage& image, const QRectF& square);
 
 } // namespace brellowind

@@ -14,7 +14,7 @@ bool isIdeographic(char32_t character) {
     case QChar::Script_Hangul:
     case QChar::Script_Bopomofo:
         return true;
-    default: // their punctuation, and letters as wide as they are
+    default: // CJK punctuation and full-width letters
         return (character >= 0x3000 && character <= 0x303F) ||
                (character >= 0xFF00 && character <= 0xFFEF);
     }

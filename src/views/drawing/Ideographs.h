@@ -6,9 +6,9 @@
 
 namespace brellowind {
 
-/// Formats that show Chinese, Japanese and Korean in the regular face beside text of medium weight.
-/// Their fonts often have a regular and a bold face only, of which Qt takes the bold one for
-/// medium.
+/// Formats for drawing Chinese, Japanese and Korean characters of a text of medium weight with the
+/// regular face. Many of their fonts have a regular and a bold face only, and Qt substitutes bold
+/// for medium.
 QList<QTextLayout::FormatRange> regularIdeographs(const QString& text);
 
 } // namespace brellowind

@@ -12,11 +12,11 @@
 namespace brellowind {
 namespace {
 
-/// Over how many points a text fades where it is cut.
+/// The width of the fade at a clipped end, in points.
 constexpr double softness = 24;
 
-/// A glide counts as a motion by so many points per second, for which it gets 30 frames a second:
-/// at the pace of reading these are steps of two whole points.
+/// The nominal speed of a glide, in points per second. It gives 30 frames per second, which are
+/// steps of two whole points at reading pace.
 constexpr double glideSpeed = 15;
 
 } // namespace
@@ -33,7 +33,7 @@ LyricText::~LyricText() {
     frames_.forget(*this);
 }
 
-/// A line that is still on its way out turns back when its text comes again.
+/// If the new text is still fading out, its fade is reversed.
 void LyricText::setText(const QString& text) {
     if (text == text_)
         return;
@@ -102,7 +102,7 @@ bool LyricText::mayGlide() const {
     return isCut(layers_.back()) && present_ && !held_ && isVisible();
 }
 
-/// From the beginning of the text, with the next frame.
+/// Starts at the beginning of the text, with the next frame.
 void LyricText::beginGlide() {
     glide_.reset();
     layers_.back().setOffset(0);
@@ -131,7 +131,7 @@ std::optional<double> LyricText::advance(double now) {
     bool changed = false;
     for (auto& layer : layers_) {
         changed |= !layer.isResting();
-        fastest = std::max(fastest, layer.advance(now)); // no value is less than any speed
+        fastest = std::max(fastest, layer.advance(now)); // nullopt is less than any speed
     }
     while (layers_.size() > 1 && layers_.front().isGone())
         layers_.pop_front();
@@ -167,7 +167,7 @@ void LyricText::paint(QPainter& painter) {
             layer.paint(painter, look_.color, width() / 2, 0, left, right);
 }
 
-/// An end of the text that lies in the room is beside the fade, not in it.
+/// Fades only the ends that are clipped.
 void LyricText::paintCut(TextLayer& layer, QPainter& painter) const {
     const double hidden = layer.width() - look_.room;
     const double hiddenLeft = layer.isRightToLeft() ? hidden - layer.offset() : layer.offset();

@@ -16,11 +16,10 @@
 
 namespace brellowind {
 
-/// One line of text in any script, at its natural size. When its text changes, the old line blurs,
-/// shrinks a little and fades away while the new one sharpens, grows into place and fades in, both
-/// about the same middle. A text that is wider than its room glides through it, from its beginning
-/// to its end, once each time that it comes to be seen. Where it is cut its ends are soft and reach
-/// beyond the room by `softReach`.
+/// One line of text in any script, at its natural size. A change of the text is a cross-fade: the
+/// old line blurs, shrinks a little and fades out while the new one sharpens, grows and fades in,
+/// around the same centre. A text that is wider than its room scrolls once from beginning to end
+/// each time it appears. Clipped ends are faded and extend beyond the room by `softReach`.
 class LyricText : public PainterItem, public Accessible, private Animated {
     Q_OBJECT
 
@@ -28,32 +27,32 @@ public:
     struct Look {
         QFont font;
         QColor color;
-        double room = std::numeric_limits<double>::infinity(); ///< a wider text glides
+        double room = std::numeric_limits<double>::infinity(); ///< a wider text scrolls
     };
 
-    /// How many seconds from now on the present text is shown; none: nobody knows.
+    /// Seconds for which the current text will be shown; nullopt if unknown.
     using TimeLeft = std::function<std::optional<double>()>;
 
     static constexpr double softReach = 7;
 
-    /// Shows `text` at once, unless it is not present. `frames` must outlive it.
+    /// Shows `text` at once if it is present. `frames` must outlive this object.
     LyricText(Look look, const QString& text, bool present, FrameDriver& frames, Item* parent);
     ~LyricText() override;
 
     void setText(const QString& text);
 
-    /// A line that is not present is on its way out in the same manner, or gone.
+    /// Fades the line in or out, as with a change of the text.
     void setPresent(bool present);
 
     void setRoom(double width);
 
-    /// A glide asks `timeLeft` when it begins.
+    /// `timeLeft` is called when a glide begins.
     void glideWithin(TimeLeft timeLeft) { timeLeft_ = std::move(timeLeft); }
 
-    /// A text that is held does not glide, and goes on where it stood.
+    /// Pauses or resumes the glide.
     void setHeld(bool held);
 
-    /// The width of the whole present text; a line that goes does not count.
+    /// The width of the whole current text, without lines that are fading out.
     double naturalWidth() const { return layers_.back().width(); }
 
     bool isRightToLeft() const { return layers_.back().isRightToLeft(); }
@@ -81,12 +80,12 @@ private:
     Look look_;
     QString text_;
     bool present_;
-    std::list<TextLayer> layers_; ///< the last one is the present text, the others go
+    std::list<TextLayer> layers_; ///< the last one is the current text, the others are fading out
     TimeLeft timeLeft_ = [] { return std::nullopt; };
     bool held_ = false;
-    std::optional<Glide> glide_; ///< of the present text; none: not begun
-    double glided_ = 0;          ///< seconds since it began, without those in which it was held
-    double lastGlide_ = 0;       ///< the moment until which they are counted
+    std::optional<Glide> glide_; ///< of the current text; absent before it begins
+    double glided_ = 0;          ///< seconds of the glide, without pauses
+    double lastGlide_ = 0;       ///< the time at which `glided_` was updated
 };
 
 } // namespace brellowind

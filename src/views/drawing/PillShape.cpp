@@ -19,11 +19,11 @@ constexpr double topRadius = 8;
 constexpr double bottomRadius = 12;
 
 constexpr double shadowOpacity = 0.5;
-constexpr double shadowSigma = 20; ///< its radius
+constexpr double shadowSigma = 20;
 constexpr double shadowDrop = 10;
-constexpr double shadowFade = 24; ///< points in which it fades out where its window ends
+constexpr double shadowFade = 24; ///< points over which it fades out at the end of the window
 
-/// How far beyond the pill a shadow at that lift goes.
+/// The extent of the shadow beyond the pill.
 double reach(double lift) {
     return std::ceil(blurReach(shadowSigma * lift));
 }
@@ -38,7 +38,7 @@ Path notchPath(QSizeF size) {
     return shape.path({0, 0, size.width(), size.height()});
 }
 
-/// Lets the rows of `alpha` fade from `top` on, to nothing `height` below it.
+/// Fades out the rows of `alpha` between `top` and `top + height`.
 void fadeOut(QImage& alpha, double top, double height) {
     for (int y = std::max(0, static_cast<int>(top)); y < alpha.height(); ++y) {
         const double share = std::clamp((top + height - (y + 1)) / height, 0.0, 1.0);
@@ -48,9 +48,9 @@ void fadeOut(QImage& alpha, double top, double height) {
     }
 }
 
-/// The blurred alpha of a pill as high as `size` and just so wide that its middle column knows
-/// nothing of either end, if `size` is not narrower itself. It has faded out `room` points below
-/// the pill, where its window ends.
+/// The shadow of a pill of the height of `size`, and of the smallest width at which the middle
+/// column is not affected by the ends, or the width of `size` if that is smaller. Faded out `room`
+/// points below the pill.
 QImage narrowShadow(QSizeF size, double lift, double room, double ratio) {
     const double reach = brellowind::reach(lift);
     const double narrowest = 2 * (reach + topRadius + bottomRadius) + 1;
@@ -75,14 +75,14 @@ QImage narrowShadow(QSizeF size, double lift, double room, double ratio) {
     return alpha;
 }
 
-/// A shadow so wide that nobody sees its ends: a line without end casts none without end.
+/// Limits the shadow to the visible width, since the pill's text may be arbitrarily long.
 double widestShadow(const QPainter& painter, double lift) {
     const auto* device = painter.device();
     const double seen = device->width() / device->devicePixelRatioF();
     return 2 * std::ceil(seen / 2 + reach(lift) + topRadius + bottomRadius);
 }
 
-/// Black with `alpha`, whose middle column is drawn out until it is `width` pixels wide.
+/// Black with `alpha`, with the middle column repeated up to `width` pixels.
 QImage widened(const QImage& alpha, int width) {
     const QImage narrow = alpha.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const int added = width - narrow.width();
@@ -128,7 +128,7 @@ QRectF PillShape::paintedRect() const {
 }
 
 void PillShape::paint(QPainter& painter) {
-    // Where only what is inside is drawn anew there is neither outline nor shadow.
+    // Inside the outline a rectangle is enough: neither edge nor shadow is visible.
     if (painter.hasClipping() &&
         shape.contains(rectOf(boundingRect()), rectOf(painter.clipBoundingRect()))) {
         painter.fillRect(boundingRect(), Qt::black);
@@ -141,7 +141,7 @@ void PillShape::paint(QPainter& painter) {
     painter.drawPath(painterPath(outline()));
 }
 
-/// The shadow is blurred anew when anything of it changes, which is in every frame of a motion.
+/// Blurs again when a parameter has changed, as in every frame of a motion.
 void PillShape::paintShadow(QPainter& painter) {
     const double ratio = pixelRatio();
     const double reach = brellowind::reach(lift_);
@@ -161,7 +161,7 @@ void PillShape::paintShadow(QPainter& painter) {
     painter.restore();
 }
 
-/// Points between its lower edge and the end of its window.
+/// Points from the pill's lower edge to that of the window.
 double PillShape::roomBelow() const {
     if (!window())
         return std::numeric_limits<double>::infinity();

@@ -7,18 +7,18 @@
 
 namespace brellowind {
 
-/// The black outline of the pill, and the shadow that it casts when it is lifted.
+/// The black shape of the pill, and its shadow while it is lifted.
 class PillShape : public PainterItem {
     Q_OBJECT
 
 public:
     explicit PillShape(Item* parent = nullptr);
 
-    /// How far the top corners flare beyond the sides.
+    /// The width by which each top corner extends beyond the side.
     double flare() const;
 
-    /// 0: no shadow. 1: the whole shadow. In between strength, softness and reach grow. It fades
-    /// out where the window ends.
+    /// From 0, no shadow, to 1, the full shadow. Scales its opacity, blur and extent. The shadow
+    /// fades out towards the end of the window.
     void setLift(double lift);
 
     /// The outline, in the item's coordinates.
@@ -28,9 +28,9 @@ public:
     QRectF paintedRect() const override;
 
 private:
-    /// What a shadow looks like, but for the pixels.
+    /// The parameters of a shadow's image.
     struct Cast {
-        QSizeF pill; ///< that casts it; no wider than anybody sees
+        QSizeF pill; ///< limited to the visible width
         double lift = 0;
         double room = 0; ///< points below the pill
 

@@ -7,7 +7,7 @@
 namespace brellowind {
 namespace {
 
-/// Fades what lies between the clear edge at `outer` and `inner`.
+/// Applies a gradient from transparent at `outer` to opaque at `inner`.
 void fadeEnd(QPainter& painter, const QRectF& rect, double outer, double inner) {
     QLinearGradient fade(outer, 0, inner, 0);
     fade.setColorAt(0, Qt::transparent);
@@ -23,7 +23,7 @@ void paintWithSoftEnds(QPainter& painter, const SoftEnds& ends,
     const double ratio = painter.device()->devicePixelRatioF();
     const QTransform transform = painter.transform();
     const QRectF place = transform.mapRect(ends.rect);
-    // The image lies on whole pixels, so that its text is as sharp as if it were drawn directly.
+    // The image is aligned to pixels, so that its text is as sharp as when drawn directly.
     const QRect pixels = QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect();
     const QPointF corner = QPointF(pixels.topLeft()) / ratio;
 

@@ -14,27 +14,27 @@
 namespace brellowind {
 namespace {
 
-constexpr double strongestSigma = 5; ///< points, of a line that is away
+constexpr double strongestSigma = 5; ///< points, of an absent line
 const double strongestReach = std::ceil(blurReach(strongestSigma));
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
-constexpr double smallestScale = 0.92; ///< of a line that is away
+constexpr double smallestScale = 0.92; ///< of an absent line
 
-/// A line that overshoots its target by at most this comes back by less than 1/255: each swing of
-/// its spring has a 26th of the amplitude of the one before.
+/// After an overshoot of at most this much the next swing is less than 1/255 and invisible: each
+/// swing of the spring has 1/26 of the previous amplitude.
 constexpr double unseenSwing = 0.1;
 
-/// In characters: drawing what is not seen of such a text takes no time worth saving.
+/// In characters. Shorter texts are drawn as a whole.
 constexpr qsizetype shortText = 256;
 constexpr qsizetype glyphsInPiece = 32;
 
-/// By how many points glyphs may extend beyond the line's rectangle.
+/// Points by which glyphs may extend beyond the line's rectangle.
 constexpr double inkOverhang = 6;
 
-/// To come or go counts as a motion by so many points.
+/// The nominal distance of a fade in points, which determines its frame rate.
 constexpr double presenceReach = 20;
 
-/// `text` with a space for every line break and other control character.
+/// `text` with line breaks and other control characters replaced by spaces.
 QString singleLine(QString text) {
     for (QChar& character : text) {
         const auto category = character.category();
@@ -45,7 +45,7 @@ QString singleLine(QString text) {
     return text;
 }
 
-/// The pixel of `painter` that is nearest to `point`, in the painter's coordinates.
+/// `point` rounded to the pixels of `painter`, in the painter's coordinates.
 QPointF onPixel(const QPainter& painter, QPointF point) {
     const QTransform& transform = painter.transform();
     if (!transform.isAffine() || transform.isRotating())
@@ -73,10 +73,10 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double presence)
     QTextLine only = layout_.createLine();
     if (only.isValid()) {
         only.setLineWidth(1e6);
-        // A fallback font may be higher. The baseline is that of `font`.
+        // A fallback font may be taller; use the baseline of `font`.
         only.setPosition({0, QFontMetricsF(font).ascent() - only.ascent()});
         width_ = only.naturalTextWidth();
-        // Otherwise text from right to left would stand at the right end of a very wide line.
+        // Otherwise right-to-left text would be aligned to the right end of a very wide line.
         only.setLineWidth(width_);
     }
     layout_.endLayout();
@@ -93,7 +93,7 @@ void TextLayer::takeApart() {
             piece.setRawFont(run.rawFont());
             piece.setGlyphIndexes(glyphs.mid(first, glyphsInPiece));
             piece.setPositions(positions.mid(first, glyphsInPiece));
-            piece.setBoundingRect(piece.boundingRect()); // computed once
+            piece.setBoundingRect(piece.boundingRect()); // cached by the glyph run
         }
     }
 }
@@ -124,7 +124,7 @@ void TextLayer::paint(QPainter& painter, QColor color, double centre, double top
         return;
     painter.save();
     painter.setOpacity(painter.opacity() * opacity);
-    // Rounding the left end, not the middle, keeps a line of any width on whole pixels.
+    // Rounds the left end, not the centre, to align lines of any width to pixels.
     const QPointF origin = onPixel(painter, QPointF(centre - width_ / 2, top));
     if (resting_)
         paintSharp(painter, color, origin, left, right);
@@ -133,7 +133,7 @@ void TextLayer::paint(QPainter& painter, QColor color, double centre, double top
     painter.restore();
 }
 
-/// A line that overshoots its target looks as it does at the target.
+/// Overshooting has no visible effect.
 bool TextLayer::isAtRest(double now) const {
     const double value = presence_.value(now);
     const bool isBeyond = presence_.target() > 0 ? value >= 1 : value <= 0;
@@ -141,7 +141,7 @@ bool TextLayer::isAtRest(double now) const {
 }
 
 double TextLayer::overhang() const {
-    constexpr double rounding = 1; // the line begins at a whole pixel
+    constexpr double rounding = 1; // of the line's origin to pixels
     return std::ceil(std::max(inkOverhang, blurReach(sigma()))) + rounding;
 }
 
@@ -151,7 +151,7 @@ double TextLayer::sigma() const {
 }
 
 double TextLayer::scale() const {
-    constexpr double sharp = 1 - faintestSigma / strongestSigma; // then it has its size as well
+    constexpr double sharp = 1 - faintestSigma / strongestSigma; // and at full size
     return smallestScale + (1 - smallestScale) * std::clamp(shown_ / sharp, 0.0, 1.0);
 }
 
@@ -169,10 +169,10 @@ void TextLayer::paintSharp(QPainter& painter, QColor color, QPointF origin, doub
 
 void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen) {
     const double ratio = painter.device()->devicePixelRatioF();
-    // Nothing further outside the visible part can be blurred into it.
+    // Text further outside is not blurred into the visible part.
     const QRectF line =
         layout_.boundingRect().adjusted(-inkOverhang, -inkOverhang, inkOverhang, inkOverhang);
-    // At every scale, so that one picture serves for the whole motion.
+    // For every scale, since the picture is used for the whole motion.
     const double middleX = layout_.boundingRect().center().x();
     const auto unscaled = [&](double x) {
         return middleX + (x - origin.x() - middleX) / smallestScale;
@@ -181,8 +181,7 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     const double right = std::min(line.right(), std::ceil(unscaled(seen.right()) + strongestReach));
     if (right <= left)
         return;
-    // Aligned to pixels, like the line's origin: otherwise it would look softer than the line at
-    // rest.
+    // Aligned to pixels, like the line at rest; otherwise it would look softer.
     const QPointF corner(std::floor(left * ratio) / ratio, std::floor(line.top() * ratio) / ratio);
     const QRectF part(corner, QPointF(right, line.bottom()));
     takePicture(part, color, ratio);
@@ -193,8 +192,8 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     paintShrunk(painter, place, origin + layout_.boundingRect().center());
 }
 
-/// Draws `blurred_` in `place` shrunk about `middle`. The picture is scaled to whole pixels first:
-/// a painter that scales while it draws wakes threads for it.
+/// Draws `blurred_` in `place`, scaled down about `middle`. Scales the image first: scaling by the
+/// painter uses threads.
 void TextLayer::paintShrunk(QPainter& painter, const QRectF& place, QPointF middle) const {
     const auto shrunk = [&](QPointF corner) {
         return onPixel(painter, middle + (corner - middle) * scale());
@@ -220,8 +219,7 @@ void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
         paintSharp(painter, in, -part.topLeft(), 0, part.width());
         return image;
     };
-    // Nearly all text has one colour; emoji have their own. To blur one channel instead of four
-    // keeps the processor's share while playing below its limit of 0.5 % above an empty window.
+    // Most text has one colour, unlike emoji: blurring one channel instead of four saves CPU time.
     const QImage white = painted(Qt::white);
     picture_ = white.convertToFormat(QImage::Format_Alpha8);
     if (tinted(picture_, Qt::white, picture_.size()) != white)
@@ -231,7 +229,7 @@ void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
     blurred_ = QImage();
 }
 
-/// In most frames of a motion the radius is that of the frame before, and nothing is blurred.
+/// Does nothing if the radius is that of the last frame, as in most frames of a motion.
 void TextLayer::blurPicture(int radius) {
     if (!blurred_.isNull() && radius == blurredRadius_)
         return;

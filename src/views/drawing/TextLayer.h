@@ -15,39 +15,39 @@ class QPainter;
 
 namespace brellowind {
 
-/// One line of text on its way in or out: laid out once, blurred, a little smaller and clear when
-/// it is away, sharp and opaque when it is there.
+/// One line of text that fades in or out. Laid out once; absent it is blurred, a little smaller and
+/// transparent, present it is sharp and opaque.
 class TextLayer {
 public:
-    /// `presence` is its initial state: 0 away, 1 there.
+    /// `presence` is the initial state: 0 absent, 1 present.
     TextLayer(const QString& text, const QFont& font, double presence);
 
     const QString& text() const { return text_; }
     double width() const { return width_; }
     bool isRightToLeft() const;
 
-    /// How far it has glided from its beginning, in points.
+    /// The scroll position, in points from the beginning of the text.
     double offset() const { return offset_; }
     void setOffset(double offset) { offset_ = offset; }
 
     void comeIn(double now) { moveTo(1, now); }
     void goAway(double now) { moveTo(0, now); }
 
-    /// Shows the moment `now` and tells how fast it changes, as what is `Animated` does.
+    /// As `Animated::advance`.
     std::optional<double> advance(double now);
 
-    /// Neither coming nor going.
+    /// Whether no fade is running.
     bool isResting() const { return resting_; }
 
-    /// At rest and away.
+    /// Whether it has faded out.
     bool isGone() const { return shown_ <= 0 && resting_; }
 
-    /// Draws the line with its middle at `centre` and its top at `top`. The painter's device shows
-    /// what lies between `left` and `right`; the rest may be left out.
+    /// Draws the line with its centre at `centre` and its top at `top`. Only the part between
+    /// `left` and `right` is visible; the rest may be skipped.
     void paint(QPainter& painter, QColor color, double centre, double top, double left,
                double right);
 
-    /// How far beyond the line's rectangle it draws now, in points.
+    /// The extent of the drawing beyond the line's rectangle, in points.
     double overhang() const;
 
 private:
@@ -65,17 +65,17 @@ private:
 
     QString text_;
     QTextLayout layout_;
-    std::vector<QGlyphRun> pieces_; ///< of a text so long that drawing all of it takes its time
+    std::vector<QGlyphRun> pieces_; ///< of a long text, to draw the visible ones only
     double width_ = 0;
     double offset_ = 0;
     Spring presence_;
     double shown_;
-    bool resting_ = true; ///< it shows no further change
-    QImage picture_;      ///< the part `pictured_` of the line, sharp; null while it rests
+    bool resting_ = true; ///< the fade has ended
+    QImage picture_;      ///< the part `pictured_` of the line, sharp; null at rest
     QRectF pictured_;     ///< relative to the line's origin
     QColor picturedColor_;
-    QImage blurred_;        ///< `picture_` with room around it; null until it is drawn
-    int blurredRadius_ = 0; ///< of its blur, in pixels
+    QImage blurred_;        ///< `picture_` with a margin, blurred; null until it is drawn
+    int blurredRadius_ = 0; ///< in pixels
 };
 
 } // namespace brellowind

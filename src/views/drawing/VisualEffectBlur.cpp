@@ -13,8 +13,7 @@ namespace {
 constexpr int blurredSide = 80;
 constexpr double sigma = 0.05 * blurredSide;
 
-/// The dark, slightly see-through material of overlays: dark enough for white text at three
-/// quarters of its strength on a white cover.
+/// A dark, translucent tint. On a white cover it is dark enough for white text at 75 % opacity.
 const QColor material(28, 28, 30, 165);
 const QColor dimming(0, 0, 0, 51); ///< black at 0.2
 
@@ -25,7 +24,7 @@ QImage blurredCover(const QImage& image) {
                        .scaled(blurredSide, blurredSide, Qt::KeepAspectRatioByExpanding,
                                Qt::SmoothTransformation)
                        .copy(0, 0, blurredSide, blurredSide);
-    // Framed by its own edge, so that the edge does not fade.
+    // With a border that extends the cover, so that the edges do not fade.
     constexpr int frame = blurredSide / 4;
     QImage framed(blurredSide + 2 * frame, blurredSide + 2 * frame,
                   QImage::Format_ARGB32_Premultiplied);

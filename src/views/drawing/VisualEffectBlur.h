@@ -6,9 +6,8 @@
 
 namespace brellowind {
 
-/// What lies behind it, blurred and dimmed: here always a cover that fills the square of side
-/// `coverSide`, at whose bottom edge this lies. Its bottom corners are round by `radius`, its top
-/// corners not.
+/// Blurs and dims the cover behind it, which fills the square of side `coverSide` above this item's
+/// bottom edge. Only the bottom corners are rounded, by `radius`.
 class VisualEffectBlur : public PainterItem {
     Q_OBJECT
 
@@ -21,7 +20,7 @@ public:
 
 private:
     QImage image_;
-    QImage blurred_; ///< made when it is first seen; small: it has no detail to lose
+    QImage blurred_; ///< made on demand, at low resolution
     double coverSide_;
     double radius_;
 };

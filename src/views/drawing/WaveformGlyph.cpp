@@ -13,13 +13,13 @@ constexpr int stepMs = 100;
 constexpr int stepsInARound = 15;
 
 constexpr int barCount = 5;
-constexpr std::array<double, barCount> heights{0.36, 0.74, 1, 0.56, 0.28}; ///< of the symbol's
+constexpr std::array<double, barCount> heights{0.36, 0.74, 1, 0.56, 0.28}; ///< relative
 constexpr double barWidth = 2;                                             ///< of 16
-constexpr double gapWidth = 1;    ///< with bars on whole points, which keeps them sharp
-constexpr double faintest = 0.45; ///< so that playing it is not fainter than paused
+constexpr double gapWidth = 1;    ///< whole points, for sharp bars
+constexpr double faintest = 0.45; ///< opacity; not fainter than while paused
 
-/// The opacity, of 255, of the bar `index` in a step of the wave, which reaches one bar to each
-/// side and has left the symbol for a while in every round.
+/// The opacity, out of 255, of the bar `index` in a step of the loop. The highlight extends one bar
+/// to each side and is outside the symbol for a part of the loop.
 int strength(int index, int step) {
     const double crest = step * (barCount + 3.0) / stepsInARound - 1.5;
     const double distance = std::abs(crest - index);
@@ -29,8 +29,8 @@ int strength(int index, int step) {
     return qRound(255 * (faintest + (1 - faintest) * share));
 }
 
-/// A bar in a symbol that fills `symbol`, in pixels. Bars, and the gaps between them, are whole
-/// pixels wide wherever the symbol stands and however it is scaled.
+/// A bar in a symbol that fills `symbol`, in pixels. Bars and gaps are whole pixels wide at every
+/// position and scale.
 QRect barRect(int index, const QRectF& symbol) {
     const double unit = symbol.width() / 16;
     const double width = std::max(1.0, std::round(barWidth * unit));

@@ -8,8 +8,7 @@
 
 namespace brellowind {
 
-/// The waveform symbol. While `active` a wave of full strength runs through its bars, one after the
-/// other, again and again; otherwise it stands still.
+/// The waveform symbol. While `active`, a highlight runs through its bars in a loop.
 class WaveformGlyph : public PainterItem {
     Q_OBJECT
 
@@ -18,7 +17,7 @@ public:
 
     void setActive(bool active);
 
-    /// Where in its round the wave stands, in steps of a tenth of a second; it goes on from there.
+    /// The position in the loop, in steps of 0.1 s. The animation continues from there.
     void setStep(int step);
 
     void paint(QPainter& painter) override;

@@ -7,21 +7,21 @@
 namespace brellowind {
 namespace {
 
-constexpr double longestStep = 0.5; ///< points, where the frames are not at their densest
+constexpr double longestStep = 0.5; ///< points per frame, unless at the highest frame rate
 constexpr double densest = 0.016;   ///< seconds from frame to frame
 constexpr double sparsest = 0.05;
 
-/// Seconds until the first frame of a motion. Motions that begin together share it.
+/// Seconds until the first frame of a motion, which coalesces motions that begin together.
 constexpr double firstFrame = 0.006;
 
-/// Seconds from one frame to the next while the fastest moves by `speed` points a second.
+/// Seconds between frames for a maximum speed of `speed` points per second.
 double interval(double speed) {
     return speed > 0 ? std::clamp(longestStep / speed, densest, sparsest) : sparsest;
 }
 
 } // namespace
 
-/// A motion that begins during a slow one does not wait for the slow one's next frame.
+/// A new motion does not wait for the next frame of a slow one.
 void FrameDriver::drive(Animated& animated) {
     if (std::ranges::find(moving_, &animated) == moving_.end())
         moving_.push_back(&animated);
@@ -40,7 +40,7 @@ void FrameDriver::makeFrame() {
     last_ = clock();
     frame_ = last_;
     double fastest = 0;
-    for (std::size_t i = 0; i < moving_.size(); ++i) { // it may grow meanwhile
+    for (std::size_t i = 0; i < moving_.size(); ++i) { // `advance` may append
         auto* animated = moving_[i];
         if (!animated)
             continue;
@@ -73,7 +73,7 @@ void FrameDriver::schedule(double moment) {
     startTimer(moment);
 }
 
-/// Stops the timer when nothing is left that moves.
+/// Also stops the timer if nothing moves.
 void FrameDriver::dropForgotten() {
     std::erase(moving_, nullptr);
     if (!moving_.empty())

@@ -7,9 +7,9 @@ namespace {
 
 constexpr double pace = 60;          ///< points per second, of reading
 constexpr double longestStand = 1.2; ///< seconds at the beginning
-constexpr double longestRest = 0.8;  ///< seconds at the end, before the text goes
-constexpr double shortest = 1;       ///< seconds, of a motion that is faster than reading
-constexpr double easing = 0.4;       ///< seconds in which it gathers speed, and in which it slows
+constexpr double longestRest = 0.8;  ///< seconds at the end
+constexpr double shortest = 1;       ///< seconds, of a motion faster than reading pace
+constexpr double easing = 0.4;       ///< seconds of acceleration, and of deceleration
 
 } // namespace
 

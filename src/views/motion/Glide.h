@@ -4,16 +4,16 @@
 
 namespace brellowind {
 
-/// How a text that is wider than its room moves through it: it stands at its beginning, moves to
-/// its end and rests there. All of it takes place while the text is shown, and where there is too
-/// little time for the pace of reading it moves faster.
+/// The scrolling of a text that is wider than its room: a pause at the beginning, a motion to the
+/// end, a pause there. It is completed while the text is shown, faster than reading pace if
+/// necessary.
 class Glide {
 public:
-    /// The text is `distance` points wider than its room, and is shown for `life` seconds; none:
-    /// nobody knows how long.
+    /// The text is `distance` points wider than its room and is shown for `life` seconds; nullopt
+    /// if unknown.
     Glide(double distance, std::optional<double> life);
 
-    /// How far the text has moved, in points, `elapsed` seconds after it was shown.
+    /// The scroll position in points, `elapsed` seconds after the text was shown.
     double offset(double elapsed) const;
 
     bool hasBegun(double elapsed) const { return elapsed > stand_; }
@@ -21,7 +21,7 @@ public:
 
 private:
     double distance_;
-    double stand_; ///< seconds until it moves
+    double stand_; ///< seconds of the first pause
     double duration_;
 };
 

@@ -5,7 +5,7 @@
 namespace brellowind {
 namespace {
 
-constexpr double tolerance = 0.05; ///< points, too little to be seen
+constexpr double tolerance = 0.05; ///< points; invisible
 
 } // namespace
 

@@ -6,11 +6,10 @@
 
 namespace brellowind {
 
-/// A number that follows its target on a spring, frame by frame. A new target or spring keeps the
-/// present value and velocity.
+/// A spring-animated number. A new target or spring keeps the current value and velocity.
 class SpringValue {
 public:
-    /// At rest at `value`. What it moves on the screen moves by `reach` points for a change of 1.
+    /// At rest at `value`. A change of 1 moves things on the screen by `reach` points.
     explicit SpringValue(const SpringParameters& parameters, double value = 0, double reach = 500);
 
     double value() const { return value_; }
@@ -19,13 +18,12 @@ public:
     void setTarget(double target) { setTarget(target, parameters_); }
     void setTarget(double target, const SpringParameters& parameters);
 
-    /// Jumps to its target.
+    /// Jumps to the target.
     void settle();
 
-    /// Whether it has not reached its target yet.
     bool isMoving() const { return moving_; }
 
-    /// Moves to the moment `now`. Returns its speed in points per second, or none once it rests.
+    /// Updates to the time `now`. Returns the speed in points per second, or nullopt at rest.
     std::optional<double> advance(double now);
 
 private:
@@ -35,7 +33,7 @@ private:
     double value_;
     double reach_;
     bool moving_ = false;
-    bool changed_ = false; ///< the next `advance` gives `motion_` the new target and parameters
+    bool changed_ = false; ///< the next `advance` applies the new target and parameters
 };
 
 } // namespace brellowind

@@ -2,7 +2,7 @@
 
 #include "foundation/Spring.h"
 
-/// The named springs of the notch interface.
+/// The springs of the notch interface.
 namespace brellowind::springs {
 
 inline constexpr SpringParameters hoverSpring{.response = 0.34, .dampingFraction = 0.82};

@@ -72,7 +72,7 @@ public:
     int childCount() const override { return static_cast<int>(children().size()); }
     int indexOfChild(const QAccessibleInterface* child) const override {
         return static_cast<int>(
-            children().indexOf(const_cast<QAccessibleInterface*>(child))); // not changed by it
+            children().indexOf(const_cast<QAccessibleInterface*>(child))); // not modified
     }
     QWindow* window() const override { return &scene(); }
     QRect rect() const override { return scene().geometry(); }
@@ -80,7 +80,7 @@ public:
 
     QAccessibleInterface* childAt(int x, int y) const override {
         const auto found = children();
-        for (auto child = found.rbegin(); child != found.rend(); ++child) // the topmost first
+        for (auto child = found.rbegin(); child != found.rend(); ++child) // topmost first
             if ((*child)->rect().contains(x, y))
                 return *child;
         return nullptr;
@@ -105,7 +105,7 @@ private:
         return found;
     }
 
-    /// All items that can be found now, in stacking order.
+    /// All available items, in stacking order.
     static void collect(const Item& from, QList<QAccessibleInterface*>& found) {
         for (auto* item : from.childItems()) {
             if (!item->isVisible())

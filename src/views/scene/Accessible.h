@@ -8,7 +8,7 @@ namespace brellowind {
 class Item;
 class SceneWindow;
 
-/// What assistive programs can read and do. An item that they shall find derives from it as well.
+/// The accessible interface of an item. Items that assistive programs can find derive from it.
 class Accessible {
 public:
     virtual ~Accessible() = default;
@@ -16,7 +16,7 @@ public:
     virtual QAccessible::Role accessibleRole() const = 0;
     virtual QString accessibleName() const = 0;
 
-    /// Whether assistive programs find it while it is visible.
+    /// Whether it is exposed to assistive programs while visible.
     virtual bool isAvailable() const { return true; }
 
     virtual bool isPressable() const { return false; }
@@ -26,19 +26,21 @@ public:
     virtual bool isFocused() const { return false; }
 };
 
-/// Lets assistive programs find the accessible items of every `SceneWindow`. Idempotent.
+/// Exposes the accessible items of every `SceneWindow`. Idempotent.
 void installAccessibility();
 
-/// Notifies assistive programs that the name of `item`, which is `Accessible`, has changed.
+// The functions below notify assistive programs. `item` must be `Accessible`.
+
+/// The name of `item` has changed.
 void announceName(Item& item);
 
-/// Notifies them that `item` can be found from now on, or no longer.
+/// `item` has become available or unavailable.
 void announceVisibility(Item& item, bool visible);
 
-/// Notifies them that `item` has the focus now.
+/// `item` has received the focus.
 void announceFocus(Item& item);
 
-/// Notifies them that `menu` opens or has closed.
+/// `menu` opens or has closed.
 void announceMenu(SceneWindow& menu, bool open);
 
 } // namespace brellowind

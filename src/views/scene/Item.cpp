@@ -23,7 +23,7 @@ Item::Item(Item* parent) : parent_(parent) {
     requestFrame();
 }
 
-/// Deletes its children first: each of them leaves `children_`.
+/// Deletes the children first: each removes itself from `children_`.
 Item::~Item() {
     while (!children_.empty())
         delete children_.back();

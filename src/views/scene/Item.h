@@ -13,9 +13,9 @@ namespace brellowind {
 
 class SceneWindow;
 
-/// A rectangle of a `SceneWindow`, in points. It draws itself with the window's own painter, sharp
-/// at every scale, and places, fades, scales, turns and clips its children, which it owns. Later
-/// children lie over earlier ones. Whatever changes is drawn in the window's next frame.
+/// A node of the scene graph of a `SceneWindow`: a rectangle in points. Draws itself with the
+/// window's painter; positions, fades, scales, rotates and clips its children, which it owns. Later
+/// children are above earlier ones. Changes are drawn in the window's next frame.
 class Item : public QObject {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
     /// The point about which the item is scaled and rotated.
     enum TransformOrigin { Centre, Top, BottomLeft };
 
-    /// The parent owns it. An item without a parent is not shown.
+    /// The parent takes ownership. An item without a parent is not shown.
     explicit Item(Item* parent = nullptr);
     ~Item() override;
 
@@ -69,10 +69,10 @@ public:
     QPointF mapFromScene(QPointF point) const { return transform().inverted().map(point); }
     QRectF mapRectToScene(const QRectF& rect) const { return transform().mapRect(rect); }
 
-    /// Draws the item in its own coordinates. The painter antialiases.
+    /// Draws the item in its own coordinates. Antialiasing is enabled.
     virtual void paint(QPainter& /*painter*/) {}
 
-    /// Bounds what `paint` draws, in the item's coordinates. Empty if it draws nothing.
+    /// The bounds of the drawing, in the item's coordinates. Empty if `paint` draws nothing.
     virtual QRectF paintedRect() const { return {}; }
 
     /// Schedules a frame in which the item is repainted.
@@ -88,12 +88,12 @@ protected:
 private:
     friend class SceneWindow;
 
-    /// How a frame shows the item.
+    /// The rendered state of the item in a frame.
     struct Look {
         QTransform transform; ///< to the window
         double opacity = 1;
         QRectF clip; ///< in the window; null: not clipped
-        QRectF rect; ///< in the window, bounds what is drawn; empty: not visible
+        QRectF rect; ///< in the window, bounds of the drawing; empty: not visible
 
         bool operator==(const Look&) const = default;
     };
@@ -127,7 +127,7 @@ private:
     bool stale_ = true;   ///< must be repainted even if its look is that of the last frame
     bool changed_ = true; ///< the item or a descendant has changed since the last frame
     Look look_;           ///< in the last frame
-    Look inside_;         ///< what its children inherited in the last frame
+    Look inside_;         ///< inherited by the children in the last frame
 };
 
 /// An item that draws within its rectangle.

@@ -8,7 +8,8 @@
 namespace brellowind {
 namespace {
 
-/// The topmost area at `position` that `wants` it, in and below `item`.
+/// Hit test: the topmost area at `position` among `item` and its descendants that satisfies
+/// `wants`.
 template <typename Wants>
 TapArea* topmost(const Item& item, QPointF position, const Wants& wants) {
     for (auto* child : item.childItems() | std::views::reverse) {
@@ -29,7 +30,7 @@ TapArea* topmost(const Item& item, QPointF position, const Wants& wants) {
 void PointerFocus::press(QPointF position, Qt::MouseButton button) {
     move(position);
     if (pressed_)
-        return; // it already is, by another button
+        return; // pressed by another button already
     auto* area = topmost(root_, position, [button](auto& found) { return found.takes(button); });
     if (area && button == Qt::RightButton) {
         area->requestMenu(position);
@@ -42,7 +43,7 @@ void PointerFocus::press(QPointF position, Qt::MouseButton button) {
 void PointerFocus::release(QPointF position, Qt::MouseButton button) {
     if (pressed_ && button == button_) {
         TapArea& area = *std::exchange(pressed_, nullptr);
-        if (area.contains(area.mapFromScene(position))) // otherwise the tap was cancelled
+        if (area.contains(area.mapFromScene(position))) // else the tap is cancelled
             Q_EMIT area.tapped();
     }
     move(position);

@@ -10,13 +10,13 @@ namespace brellowind {
 class Item;
 class TapArea;
 
-/// Dispatches the pointer's events to a window's tap areas. A press goes to the topmost area under
-/// it that takes that button, and so does the release, wherever it happens; a press of the right
-/// button counts by itself. While no button is down the topmost area under the pointer that minds
-/// hovering is hovered.
+/// Dispatches pointer events to the tap areas of a window. A press goes to the topmost area under
+/// the pointer that accepts the button; that area also receives the release. The right button acts
+/// on press. While no button is pressed, the topmost area under the pointer that accepts hovering
+/// is hovered.
 class PointerFocus {
 public:
-    /// `root` is an ancestor of all areas and must outlive this.
+    /// `root` is an ancestor of all areas and must outlive this object.
     explicit PointerFocus(const Item& root) : root_(root) {}
 
     // Positions are in points, relative to the window.
@@ -27,10 +27,10 @@ public:
     /// The pointer has left the window.
     void leave();
 
-    /// The window was hidden: forgets the pointer and any press.
+    /// The window was hidden. Resets the pointer and any press.
     void cancel();
 
-    /// Updates what is hovered after areas may have moved under a resting pointer.
+    /// Updates the hovered area. Call after areas may have moved.
     void follow();
 
 private:
@@ -39,8 +39,8 @@ private:
     const Item& root_;
     QPointer<TapArea> pressed_;
     QPointer<TapArea> hovered_;
-    Qt::MouseButton button_ = Qt::NoButton; ///< with which `pressed_` was pressed
-    std::optional<QPointF> position_;       ///< while it is over the window
+    Qt::MouseButton button_ = Qt::NoButton; ///< of the press on `pressed_`
+    std::optional<QPointF> position_;       ///< while the pointer is over the window
 };
 
 } // namespace brellowind

@@ -11,7 +11,7 @@
 namespace brellowind {
 namespace {
 
-/// The smallest number of points that is a whole number of pixels; 0 if none up to 20 is.
+/// The smallest number of points, up to 20, that is a whole number of pixels; 0 if none.
 int pointsToWholePixels(double ratio) {
     constexpr int most = 20;
     for (int points = 1; points <= most; ++points)
@@ -20,8 +20,7 @@ int pointsToWholePixels(double ratio) {
     return 0;
 }
 
-/// `region`, in points, grown until its edges lie between pixels: clearing and clipping work on
-/// whole pixels.
+/// Expands `region`, in points, to pixel boundaries, as needed for clearing and clipping.
 QRegion wholePixels(const QRegion& region, double ratio, const QRect& window) {
     const int step = pointsToWholePixels(ratio);
     if (step == 1)
@@ -90,7 +89,7 @@ bool SceneWindow::event(QEvent* event) {
 }
 
 QAccessibleInterface* SceneWindow::accessibleRoot() const {
-    return QAccessible::queryAccessibleInterface(const_cast<SceneWindow*>(this)); // not changed
+    return QAccessible::queryAccessibleInterface(const_cast<SceneWindow*>(this)); // not modified
 }
 
 void SceneWindow::paintEvent(QPaintEvent* event) {
@@ -121,7 +120,7 @@ void SceneWindow::mousePressEvent(QMouseEvent* event) {
 void SceneWindow::mouseReleaseEvent(QMouseEvent* event) {
     pointer_.release(event->position(), event->button());
     if (event->source() == Qt::MouseEventSynthesizedByQt)
-        pointer_.leave(); // a lifted finger hovers over nothing
+        pointer_.leave(); // touch does not hover
 }
 
 void SceneWindow::makeFrame() {
@@ -135,7 +134,7 @@ void SceneWindow::makeFrame() {
         store_.resize(size());
         damage_ = whole;
     }
-    // Cut to the window first: `wholePixels` rounds towards 0, so no rectangle may begin below it.
+    // Clip first: `wholePixels` rounds towards 0, so coordinates must not be negative.
     const QRegion region = wholePixels(std::exchange(damage_, {}) & whole, ratio, whole);
     if (region.isEmpty())
         return;

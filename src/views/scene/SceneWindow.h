@@ -14,8 +14,8 @@
 
 namespace brellowind {
 
-/// A transparent window that shows items. It draws in memory, and in each frame only what differs
-/// from the last one. While nothing changes it makes no frames.
+/// A transparent window that shows a scene of items with software rendering. Each frame repaints
+/// only the damaged region; without damage there are no frames.
 class SceneWindow : public QWindow {
     Q_OBJECT
 
@@ -23,11 +23,11 @@ public:
     explicit SceneWindow(QWindow* parent = nullptr);
     ~SceneWindow() override;
 
-    /// The root of all items. It has the size of the window.
+    /// The root of all items, of the size of the window.
     Item& root() { return root_; }
     const Item& root() const { return root_; }
 
-    /// An image of the whole window as the next frame would show it.
+    /// Renders the whole window to an image.
     QImage grab();
 
     /// The role of the window for assistive programs.
@@ -35,14 +35,14 @@ public:
     QAccessibleInterface* accessibleRoot() const override;
 
 Q_SIGNALS:
-    /// Emitted after a frame was drawn and handed to the window system.
+    /// Emitted after a frame was submitted to the window system.
     void frameShown();
 
 protected:
     /// Called before every frame is drawn.
     virtual void aboutToShow() {}
 
-    /// Shows a frame that is drawn: calls `flush`, which hands it to the window system.
+    /// Presents a frame. `flush` submits it to the window system.
     virtual void present(const std::function<void()>& flush) { flush(); }
 
     bool event(QEvent* event) override;
@@ -60,7 +60,7 @@ private:
     static QRegion covering(const QRectF& rect);
 
     void requestFrame();
-    void damage(const QRectF& rect); ///< schedules its repainting
+    void damage(const QRectF& rect); ///< schedules a repaint
     void makeFrame();
     void paintStore(const QRegion& region);
     void takeLooks();

@@ -5,8 +5,8 @@
 
 namespace brellowind {
 
-/// An invisible rectangle that takes taps and hovering. Assistive programs find it by its name and
-/// can press it.
+/// An invisible rectangle that receives taps and hovering. Assistive programs find it by its name
+/// and can press it.
 class TapArea : public Item, public Accessible {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     bool isEnabled() const { return enabled_; }
     void setEnabled(bool enabled);
 
-    /// The left button is always taken.
+    /// Accepts the right button, too. The left button is always accepted.
     void takeRightButton() { takesRightButton_ = true; }
     bool takes(Qt::MouseButton button) const;
 
@@ -26,10 +26,10 @@ public:
     void mindHovering() { mindsHovering_ = true; }
     void setHovered(bool hovered);
 
-    /// For assistive programs: the keyboard can be on it, and is or is not.
+    /// Makes it focusable for assistive programs, and reports whether it has the focus.
     void setFocused(bool focused);
 
-    /// The right button was pressed here; `position` is in points of the window.
+    /// Handles a press of the right button; `position` is in points of the window.
     void requestMenu(QPointF position) { Q_EMIT menuRequested(position); }
 
     QAccessible::Role accessibleRole() const override { return role_; }
@@ -43,10 +43,10 @@ public:
 Q_SIGNALS:
     void tapped();
 
-    /// The pointer has entered or left. Only from areas that mind hovering.
+    /// The pointer has entered or left. Emitted only by areas that accept hovering.
     void hoveredChanged(bool hovered);
 
-    /// A press of the right button, if the area takes it; `position` is in points of the window.
+    /// A press of the right button, if accepted; `position` is in points of the window.
     void menuRequested(QPointF position);
 
 protected:

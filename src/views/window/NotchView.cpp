@@ -26,7 +26,7 @@ void NotchView::aboutToShow() {
     const PillShape& shape = pill_->shape();
     const QRectF rect = shape.mapRectToScene(shape.boundingRect());
     if (rect == pillRect_)
-        return; // so is the outline, and what the pill reaches
+        return; // outline and reach are unchanged, too
     pillRect_ = rect;
     const auto toWindow = [transform = shape.transform()](Point point) {
         const QPointF mapped = transform.map(QPointF(point.x, point.y));

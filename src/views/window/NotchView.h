@@ -11,12 +11,12 @@ class FrameDriver;
 class NotchRootView;
 class Pill;
 
-/// The contents of the notch window: it draws the pill at its top, the rest is clear.
+/// The notch window: shows the pill at its top, the rest is transparent.
 class NotchView : public SceneWindow {
     Q_OBJECT
 
 public:
-    /// All must outlive it; the window becomes an overlay of `windowSystem`.
+    /// All references must outlive this object. Makes the window an overlay of `windowSystem`.
     NotchView(NotchRootView& rootView, FrameDriver& frames, platform::WindowSystem& windowSystem);
 
     platform::Overlay& overlay() { return *overlay_; }
