@@ -16,7 +16,7 @@ class ImageDecoder {
 public:
     virtual ~ImageDecoder() = default;
 
-    /// The center square of the image that `bytes` encode, scaled down to the resolution needed for
+    /// The centre square of the image that `bytes` encode, scaled down to the resolution needed for
     /// drawing it with sides of at most `largestPoints`. Null if `bytes` are no image, or decoding
     /// it would take too much memory.
     virtual std::shared_ptr<const Image> decode(std::string_view bytes, int largestPoints) = 0;

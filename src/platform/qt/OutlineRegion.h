@@ -8,7 +8,7 @@
 
 namespace brellowind::platform {
 
-/// The pixels whose centers lie inside `outline`, which is in points of `scale` pixels.
+/// The pixels whose centres lie inside `outline`, which is in points of `scale` pixels.
 QRegion outlineRegion(const Path& outline, double scale);
 
 /// The same for the union of rectangles.

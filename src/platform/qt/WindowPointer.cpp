@@ -17,7 +17,7 @@ private:
     Subscription subscription_;
 };
 
-/// Whether a mouse event is synthesized from touch. Qt on Wayland does not tell by the device.
+/// Whether a mouse event is synthesised from touch. Qt on Wayland does not tell by the device.
 bool isFromFinger(const QEvent& event) {
     return event.type() == QEvent::MouseMove &&
            static_cast<const QMouseEvent&>(event).source() == Qt::MouseEventSynthesizedByQt;

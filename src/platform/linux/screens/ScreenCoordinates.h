@@ -35,7 +35,7 @@ public:
     /// Converts a rectangle on one screen to the desktop.
     Rect desktopRect(const Rect& logical) const;
 
-    /// The center of a pixel on the desktop. A pixel outside all screens belongs to the nearest.
+    /// The centre of a pixel on the desktop. A pixel outside all screens belongs to the nearest.
     /// Returns nullopt without a screen.
     std::optional<Point> desktopPoint(int nativeX, int nativeY) const;
 
