@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Writes what happens to it to the log.
+/// Logs all calls.
 class FakeSettings : public brellowind::SettingsOpener {
 public:
     explicit FakeSettings(brellowind::platform::Log& log) : log_(log) { log_.write("made"); }

@@ -26,13 +26,13 @@ protected:
 
     std::string file(const char* name) const { return folder_ / name; }
 
-    /// A copy of the fake, since one that is loaded stays loaded.
+    /// A copy of the fake, since a library is never unloaded.
     std::string copy(const char* name) const {
         fs::copy_file(BRELLOWIND_FAKE_SETTINGS, file(name));
         return file(name);
     }
 
-    /// What the library and the window in it have written to the log.
+    /// The log of the library and its window.
     std::vector<std::string>& log() { return machine_.log.lines; }
 
     SettingsServices services() { return parts_.services(); }

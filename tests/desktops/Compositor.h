@@ -13,7 +13,7 @@
 
 namespace brellowind::test {
 
-/// What a test wants of the compositor that it starts.
+/// The configuration of a test's compositor.
 struct CompositorOptions {
     QSize size{1280, 720}; ///< of the only screen, in points
     double scale = 1;      ///< pixels to a point
@@ -29,10 +29,10 @@ struct CompositorScreen {
 /// Buttons and keys have the numbers of linux/input-event-codes.h.
 enum class Stroke { down, up };
 
-/// A headless Wayland compositor in a session of its own, with a person at its pointer and
-/// keyboard. Everything it has started ends with it. Places are in points of the desktop. What a
-/// person does has reached the compositor when the function returns, and the clients soon after.
-/// Functions throw a DesktopFailure when the compositor does not do what they say.
+/// A headless Wayland compositor in a private session, with simulated pointer and keyboard. Ends
+/// all processes that it has started. Positions are in points of the desktop. Functions return when
+/// the compositor has received the input; clients receive it soon after. On failure they throw a
+/// DesktopFailure.
 class Compositor {
 public:
     /// "sway", "kwin" or "mutter", ready for clients.
@@ -42,7 +42,7 @@ public:
     Compositor& operator=(const Compositor&) = delete;
     virtual ~Compositor();
 
-    /// Starts a program as the compositor's user, who is the only one that XWayland admits.
+    /// Starts a program as the compositor's user, the only one that XWayland accepts.
     std::unique_ptr<demo::Companion> start(const QString& program,
                                            const QStringList& arguments = {}) const {
         return session_.start(program, arguments);
@@ -56,13 +56,13 @@ public:
 
     bool isRunning() const { return process_ && process_->isRunning(); }
 
-    /// Ends the compositor without a word to its clients.
+    /// Kills the compositor.
     void kill();
 
-    /// What a screen shows, in its pixels and without the pointer; the first screen without a name.
+    /// A screenshot of a screen in pixels, without the pointer; by default of the first screen.
     virtual QImage screenshot(const QString& screen = {}) const = 0;
 
-    /// Whether windows are smaller at first than they and their clients say.
+    /// Whether windows are initially smaller than requested.
     virtual bool letsWindowsGrow() const { return false; }
 
     virtual void movePointerTo(QPointF place) = 0;
@@ -70,28 +70,27 @@ public:
     virtual void button(int code, Stroke stroke) = 0;
     virtual void key(int code, Stroke stroke) = 0;
 
-    /// Moves there, presses and releases a button; the primary one without a code.
+    /// Moves the pointer and clicks a button, by default the primary one.
     void click(QPointF place, int code = primaryButton);
 
     /// Presses and releases a key.
     void type(int code);
 
-    /// A finger that taps; false where the compositor lets nobody act for one.
+    /// Taps the touch screen; false if the compositor has no simulated touch screen.
     virtual bool tap(QPointF place);
 
     virtual QList<CompositorScreen> screens() const = 0;
 
-    /// Changes the scale of the first screen, which keeps its pixels.
+    /// Changes the scale of the first screen, not its resolution.
     virtual void setScale(double scale) = 0;
 
-    /// Switches all screens off, or on again, as an idle desktop does; false where the compositor
-    /// cannot.
+    /// Switches all screens off or on, as an idle desktop does; false if not supported.
     virtual bool setScreensOn(bool on);
 
-    /// Adds a screen at the right and returns its name; empty where the compositor cannot.
+    /// Adds a screen at the right and returns its name; empty if not supported.
     virtual QString addScreen();
 
-    /// Takes a screen away as if it were unplugged; false where the compositor cannot.
+    /// Disconnects a screen; false if not supported.
     virtual bool removeScreen(const QString& name);
 
     static constexpr int primaryButton = 0x110;
@@ -102,7 +101,7 @@ protected:
 
     UserSession& mutableSession() { return session_; }
 
-    /// Starts the compositor; what it says goes to a file that failures quote.
+    /// Starts the compositor. Its output goes to a file, which failures quote.
     void launch(const QString& program, const QStringList& arguments);
 
     /// The program and its argument that a compositor has to start among its clients for
@@ -113,15 +112,14 @@ protected:
     /// Waits until the compositor has started that, and sets the variables of its displays.
     void awaitDisplays();
 
-    /// Waits until clients can have a pointer and a keyboard: what a person does before they have
-    /// taken them is lost.
+    /// Waits until clients have bound pointer and keyboard: earlier input is lost.
     void awaitDevices() const;
 
-    /// Waits until `condition` holds. Throws a DesktopFailure that tells what was waited for, and
-    /// what the compositor said, when it ends or takes too long.
+    /// Waits until `condition` holds. If the compositor exits, or after a timeout, throws a
+    /// DesktopFailure with the awaited condition and the compositor's output.
     void await(const char* what, const std::function<bool()>& condition) const;
 
-    /// Ends the compositor. Each kind calls it in its destructor, while it can still be asked.
+    /// Ends the compositor. Called by the destructors of the subclasses.
     void end();
 
 private:

@@ -15,7 +15,7 @@ std::unique_ptr<Compositor> compositor(const CompositorOptions& options = {}) {
     return Compositor::make(QStringLiteral(BRELLOWIND_COMPOSITOR), options);
 }
 
-/// Whether a place of the desktop comes to have a colour.
+/// Waits until a point of the desktop has a colour.
 bool becomes(Compositor& compositor, QPoint pixel, QColor wanted) {
     return waitUntil([&] { return compositor.screenshot().pixelColor(pixel) == wanted; });
 }

@@ -8,8 +8,8 @@ namespace brellowind::test {
 
 class KdeInput;
 
-/// KWin without the rest of Plasma, window decorations and animations. It has one screen to add.
-/// Its pointer stands on whole points, and its last screen can neither be switched off nor go.
+/// KWin without the rest of Plasma, decorations and animations. One screen can be added. The
+/// pointer is at whole points; the last screen can be neither switched off nor removed.
 class KWin : public Compositor {
 public:
     explicit KWin(const CompositorOptions& options);

@@ -4,7 +4,7 @@
 
 namespace brellowind::test {
 
-/// A pointer, a keyboard and a touch screen that KWin takes for real.
+/// Simulated pointer, keyboard and touch screen for KWin.
 class KdeInput {
 public:
     explicit KdeInput(const Compositor& kwin);

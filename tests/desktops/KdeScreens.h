@@ -11,7 +11,7 @@ struct kde_output_device_v2;
 
 namespace brellowind::test {
 
-/// A screen that KWin has, whether it is in use or not.
+/// A screen of KWin, enabled or not.
 struct KdeScreen {
     kde_output_device_v2* device;
     QString name;
@@ -21,8 +21,8 @@ struct KdeScreen {
     bool isEnabled;
 };
 
-/// The screens of KWin as they are when this is made, and changes of them, which are done when a
-/// function returns. Throws std::runtime_error when KWin refuses one.
+/// The screens of KWin at construction, and synchronous changes of them. Throws std::runtime_error
+/// if KWin refuses a change.
 class KdeScreens {
 public:
     explicit KdeScreens(const QString& socket);

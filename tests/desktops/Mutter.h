@@ -9,9 +9,9 @@ namespace brellowind::test {
 class MutterRemote;
 struct MutterScreen;
 
-/// mutter, GNOME's compositor, without the shell and animations. It has one screen to add, and no
-/// layer shell. At whole scales it lays its screens out in pixels, as GNOME does, and at others in
-/// points, which has to be known when it starts.
+/// mutter, GNOME's compositor, without the shell and animations. One screen can be added; there is
+/// no layer shell. The layout is in pixels at integer scales, as with GNOME, else in points, which
+/// is decided at the start.
 class Mutter : public Compositor {
 public:
     explicit Mutter(const CompositorOptions& options);
@@ -36,11 +36,10 @@ private:
         QPointF place;
     };
 
-    /// Uses each device once: mutter has none that was never used.
+    /// Uses each device once: mutter creates devices on first use.
     void wakeDevices();
 
-    /// As GNOME's settings daemon does, since X clients are not scaled where screens are laid out
-    /// in pixels.
+    /// As GNOME's settings daemon does, since X clients are not scaled with a layout in pixels.
     void tellXClients(double scale);
 
     Pixel pixelAt(QPointF place) const;

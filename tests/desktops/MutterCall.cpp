@@ -7,7 +7,7 @@
 namespace brellowind::test {
 namespace {
 
-/// The name of a service is the first word of those of its interfaces.
+/// A service has the name of the first component of its interfaces.
 QString serviceOf(const QString& interface) {
     return QStringLiteral("org.gnome.Mutter.") + interface.section(QLatin1Char('.'), 0, 0);
 }

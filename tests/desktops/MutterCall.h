@@ -6,12 +6,12 @@
 
 namespace brellowind::test {
 
-/// Calls a method of an object of mutter's and returns what it answers first. Throws a
-/// DesktopFailure when the call fails. `interface` is the part after "org.gnome.Mutter.".
+/// Calls a method of an object of mutter's and returns its first result. Throws a DesktopFailure if
+/// the call fails. `interface` is the part after "org.gnome.Mutter.".
 QVariant callMutter(const UserSession& session, const QString& object, const QString& interface,
                     const char* method, const QVariantList& arguments = {});
 
-/// The object of an interface from which all others of it come.
+/// The root object of an interface.
 QString mutterObject(const QString& interface);
 
 /// A property of an object of mutter's.

@@ -7,7 +7,7 @@
 
 namespace brellowind::test {
 
-/// What a screen of mutter shows, by a recording of one frame.
+/// A screenshot of a screen of mutter, from a screencast of one frame.
 class MutterPicture : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ private Q_SLOTS:
 private:
     MutterPicture() = default;
 
-    uint node_ = 0; ///< of the stream in pipewire, which numbers them from one
+    uint node_ = 0; ///< of the PipeWire stream
 };
 
 } // namespace brellowind::test

@@ -26,7 +26,7 @@ MutterRemote::MutterRemote(const UserSession& session)
 MutterRemote::~MutterRemote() {
     try {
         callMutter(session_, remote_, remoteSession, "Stop");
-    } catch (const DesktopFailure&) { // mutter has gone, or has ended the session itself
+    } catch (const DesktopFailure&) { // mutter has exited or ended the session
     }
 }
 

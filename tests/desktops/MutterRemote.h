@@ -6,7 +6,7 @@
 
 namespace brellowind::test {
 
-/// The devices of a person who sits at another computer; they are there while this exists.
+/// Remote desktop input devices, during this object's lifetime.
 class MutterRemote {
 public:
     /// The session must outlive this.
@@ -15,7 +15,7 @@ public:
     MutterRemote& operator=(const MutterRemote&) = delete;
     ~MutterRemote();
 
-    /// To a pixel of a screen.
+    /// Moves to a pixel of a screen.
     void movePointerTo(const QString& screen, QPointF pixel);
 
     /// In the units of the layout.

@@ -10,7 +10,7 @@ namespace {
 const auto service = QStringLiteral("org.gnome.Mutter.DisplayConfig");
 const auto path = QStringLiteral("/org/gnome/Mutter/DisplayConfig");
 
-/// The names of a monitor, of which the first tells it from others.
+/// The names of a monitor; the first is the connector.
 QString readConnector(const QDBusArgument& from) {
     QString connector, vendor, product, serial;
     from.beginStructure();
@@ -41,7 +41,7 @@ MutterScreen readMonitor(const QDBusArgument& from) {
     return screen;
 }
 
-/// The place, scale and names of monitors that show the same.
+/// A logical monitor: position, scale and monitors.
 void readLogicalMonitor(const QDBusArgument& from, QList<MutterScreen>& screens) {
     QPoint position;
     double scale = 1;

@@ -8,7 +8,7 @@
 
 namespace brellowind::test {
 
-/// A screen that mutter has, whether it is in use or not.
+/// A screen of mutter, enabled or not.
 struct MutterScreen {
     QString name;
     QString mode;
@@ -26,7 +26,7 @@ public:
 
     QList<MutterScreen> all();
 
-    /// Uses the enabled ones of `screens` as they are there, and no others.
+    /// Applies the configuration `screens`.
     void apply(const QList<MutterScreen>& screens);
 
     void setPower(bool on);

@@ -9,7 +9,7 @@
 
 namespace brellowind::test {
 
-/// Another program on a compositor, of one colour, and what was done to it.
+/// A client of one colour in a separate process, and a log of its input events.
 class PressLog {
 public:
     struct Press {
@@ -17,7 +17,7 @@ public:
         int button;    ///< as in linux/input-event-codes.h
     };
 
-    /// A window that covers the screen, or all of it that panels leave. Shown once this returns.
+    /// A full-screen or maximized window. Shown when this returns.
     static PressLog fullScreen(const Compositor& compositor, QColor colour);
     static PressLog maximized(const Compositor& compositor, QColor colour);
 
@@ -35,17 +35,17 @@ public:
     /// The presses of the pointer since the last call.
     QList<Press> takePresses();
 
-    /// The next press, which is waited for. Fails the running test when none comes.
+    /// Waits for the next press. Fails the test after a timeout.
     Press awaitPress();
 
-    /// Waits for a line, as in clients/InputLog.h, that has come since the last of these calls and
-    /// drops what came before it. False when it does not come.
+    /// Waits for a line of clients/InputLog.h since the last call and skips the lines before it.
+    /// Returns false after a timeout.
     bool awaitLine(const QString& line);
 
-    /// Whether keys come to it.
+    /// Whether it receives keys.
     bool hasKeyboard();
 
-    /// All lines of clients/InputLog.h and clients/PlainSurface.h that have come so far.
+    /// All lines of clients/InputLog.h and clients/PlainSurface.h so far.
     const QStringList& lines();
 
 private:

@@ -8,8 +8,8 @@ namespace brellowind::test {
 
 class WlrInput;
 
-/// sway without a configuration of its user, bar, borders or key bindings. Nobody can touch its
-/// screens, and the ones that are added stay.
+/// sway without user configuration, bar, borders and key bindings. No touch input; added screens
+/// cannot be removed.
 class Sway : public Compositor {
 public:
     explicit Sway(const CompositorOptions& options);

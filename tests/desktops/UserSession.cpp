@@ -24,7 +24,7 @@ void giveToUser(const QString& path) {
         throw DesktopFailure(QStringLiteral("cannot give %1 to an ordinary user").arg(path));
 }
 
-/// Where X servers put their sockets; an ordinary user could not make it as it has to be.
+/// The folder of X sockets, which needs permissions that an ordinary user cannot set.
 void provideXSocketFolder() {
     constexpr auto folder = "/tmp/.X11-unix";
     if (isRoot() && ::mkdir(folder, 0777) == 0)
@@ -47,7 +47,7 @@ struct Command {
     QStringList arguments;
 };
 
-/// Whether the build is in a folder that not every user may enter.
+/// Whether the build folder is inaccessible to other users.
 bool isBuildPrivate() {
     const QFileInfo test(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")));
     for (QDir folder = test.dir(); !folder.isRoot(); folder.cdUp())
@@ -143,7 +143,7 @@ QByteArray UserSession::run(const QString& program, const QStringList& arguments
 
 void UserSession::startBus() {
     requireProgram(QStringLiteral("dbus-daemon"), QStringLiteral("dbus-daemon"));
-    // As for any session, and root may connect to an ordinary user's. The folder keeps others out.
+    // Also allows root. Other users are excluded by the folder's permissions.
     writeFile(QStringLiteral("bus.conf"), QStringLiteral(R"(
 <!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">

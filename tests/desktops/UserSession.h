@@ -12,18 +12,17 @@
 
 namespace brellowind::test {
 
-/// A desktop that a test needs did not start. It fails the test that does not catch it.
+/// The desktop of a test failed. Fails the test if not caught.
 class DesktopFailure : public std::runtime_error {
 public:
     explicit DesktopFailure(const QString& message) : std::runtime_error(message.toStdString()) {}
 };
 
-/// Throws a DesktopFailure that names the Debian package when a program is not installed.
+/// Throws a DesktopFailure with the Debian package's name if a program is not installed.
 void requireProgram(const QString& program, const QString& package);
 
-/// The session of an ordinary user: a private folder for everything that is written, and a session
-/// bus. The user is the one who runs the tests, or the unprivileged "nobody" when that is root, who
-/// may connect to everything in the session all the same.
+/// The session of an ordinary user: a private folder for all files, and a session bus. The user is
+/// the current one, or "nobody" if that is root; root may connect to the session.
 class UserSession {
 public:
     UserSession();
@@ -31,19 +30,19 @@ public:
     UserSession& operator=(const UserSession&) = delete;
     ~UserSession();
 
-    /// The home and XDG_RUNTIME_DIR; goes with this object.
+    /// HOME and XDG_RUNTIME_DIR; removed by the destructor.
     QString folder() const { return folder_.path(); }
 
     QString file(const QString& name) const { return folder_.filePath(name); }
 
-    /// Writes a file that the user can read; folders in its name are made.
+    /// Writes a file that the user can read. Creates its folders.
     void writeFile(const QString& name, const QByteArray& content) const;
 
-    /// Leads programs into the session. No display is in it before somebody sets one.
+    /// The environment of programs in the session. Initially without a display.
     const QProcessEnvironment& environment() const { return environment_; }
     void setVariable(const QString& name, const QString& value);
 
-    /// This process's own connection to the session bus.
+    /// This process's connection to the session bus.
     QDBusConnection bus() const { return QDBusConnection(folder()); }
 
     /// Starts a program as the user. Its standard error goes to `errorFile` in the folder, or
@@ -56,8 +55,8 @@ public:
                                            const QProcessEnvironment& environment,
                                            const QString& errorFile) const;
 
-    /// Runs a program as the user to its end and returns its standard output. Throws a
-    /// DesktopFailure with its standard error when it fails.
+    /// Runs a program as the user and returns its standard output. Throws a DesktopFailure with its
+    /// standard error if it fails.
     QByteArray run(const QString& program, const QStringList& arguments) const;
 
 private:

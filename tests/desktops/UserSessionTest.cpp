@@ -9,7 +9,7 @@
 namespace brellowind::test {
 namespace {
 
-/// The command lines of the processes whose environment names a folder.
+/// The command lines of processes with a folder in their environment.
 QStringList processesIn(const QString& folder) {
     QStringList found;
     for (const QString& process : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {

@@ -8,11 +8,10 @@
 
 namespace brellowind::test {
 
-/// A connection to a compositor and the globals that it offers. Throws std::runtime_error when it
-/// cannot connect or breaks.
+/// A connection to a compositor and its globals. Throws std::runtime_error on connection errors.
 class WaylandConnection {
 public:
-    /// `socket` with its folder, or null for the one that the environment names.
+    /// `socket` is a path, or null for that of the environment.
     explicit WaylandConnection(const char* socket);
     WaylandConnection(const WaylandConnection&) = delete;
     WaylandConnection& operator=(const WaylandConnection&) = delete;
@@ -20,7 +19,7 @@ public:
 
     wl_display* display() const { return display_; }
 
-    /// The first global of an interface. Throws when the compositor has none of this version.
+    /// The first global of an interface. Throws if there is none of this version.
     template <class T>
     T* bind(const wl_interface& interface, std::uint32_t version) const {
         auto* global = bindAt(interface, version, 0);
@@ -38,7 +37,7 @@ public:
         return all;
     }
 
-    /// Returns when the compositor has done all that was asked of it.
+    /// Round trip: waits until the compositor has processed all requests.
     void finish() const;
 
     /// Handles events until the connection breaks.
@@ -51,7 +50,7 @@ private:
         std::uint32_t version;
     };
 
-    /// Null when there are not so many.
+    /// Null if there are fewer.
     void* bindAt(const wl_interface& interface, std::uint32_t version, std::size_t index) const;
 
     wl_display* display_;

@@ -8,12 +8,12 @@ struct zwp_virtual_keyboard_v1;
 
 namespace brellowind::test {
 
-/// A pointer and a keyboard of a wlroots compositor's, as if they were plugged in while it exists.
+/// A virtual pointer and keyboard of a wlroots compositor, during this object's lifetime.
 class WlrInput {
 public:
     explicit WlrInput(const QString& socket);
 
-    /// To a place on the desktop, which covers `bounds`.
+    /// Moves to a position on the desktop, which has the extent `bounds`.
     void movePointerTo(QPointF place, QRect bounds);
     void movePointerBy(QPointF distance);
     void button(int code, Stroke stroke);
@@ -26,7 +26,7 @@ private:
     WaylandConnection connection_;
     zwlr_virtual_pointer_v1* pointer_;
     zwp_virtual_keyboard_v1* keyboard_;
-    std::uint32_t time_ = 0; ///< milliseconds that only order the events
+    std::uint32_t time_ = 0; ///< milliseconds; arbitrary but increasing
 };
 
 } // namespace brellowind::test

@@ -7,15 +7,15 @@
 
 namespace brellowind::test {
 
-/// Hears on the bus of assistive programs that things have another name now.
+/// Listens for name changes of accessible objects on the accessibility bus.
 class AccessibilityEvents : public QObject {
     Q_OBJECT
 
 public:
-    /// Fails the running test when nobody takes note of the listener.
+    /// Fails the test if the listener cannot be registered.
     explicit AccessibilityEvents(QDBusConnection bus);
 
-    /// The paths of those things, in order.
+    /// The object paths, in order.
     const QStringList& renamed() const { return renamed_; }
 
 private Q_SLOTS:

@@ -81,7 +81,7 @@ bool AccessibilityReader::press(const Accessible& accessible) {
     return done.isValid() && done.value();
 }
 
-/// Services that the bus starts shall live in the session.
+/// Sets the environment of services that the bus starts.
 void AccessibilityReader::tellActivatedServices(const QProcessEnvironment& environment) {
     QMap<QString, QString> whole;
     for (const QString& key : environment.keys())

@@ -12,7 +12,7 @@
 
 namespace brellowind::test {
 
-/// A thing that assistive technology can see: who has it, and where.
+/// An accessible object: its application and path.
 struct Accessible {
     QString service;
     QDBusObjectPath path;
@@ -20,23 +20,23 @@ struct Accessible {
     friend const QDBusArgument& operator>>(const QDBusArgument& argument, Accessible& accessible);
 };
 
-/// The bus of assistive technology of a session, and a reader of the screen on it.
+/// A screen reader on the accessibility bus of a session.
 class AccessibilityReader {
 public:
-    /// `environment` leads into the session of `bus`.
+    /// `environment` is that of the session of `bus`.
     AccessibilityReader(QDBusConnection session, const QProcessEnvironment& environment);
     AccessibilityReader(const AccessibilityReader&) = delete;
     AccessibilityReader& operator=(const AccessibilityReader&) = delete;
     ~AccessibilityReader();
 
-    /// Waits for the first thing of a name and a role, whichever program has it. Fails the running
-    /// test when it does not come.
+    /// Waits for the first object with a name and a role, of any program. Fails the test after a
+    /// timeout.
     std::optional<Accessible> waitFor(const char* name, const char* role);
 
-    /// Where it is on the desktop, in points.
+    /// The extents on the desktop, in points.
     QRect extents(const Accessible& accessible);
 
-    /// Does what the first action of a thing does.
+    /// Performs the first action of an object.
     bool press(const Accessible& accessible);
 
     QDBusConnection bus() const { return QDBusConnection(name_); }

@@ -11,12 +11,12 @@ constexpr qsizetype longestBody = 1 << 20; ///< bytes
 
 struct Line {
     const char* name;
-    QString unit; ///< that the line repeats until the answer is as long as it may be
+    QString unit; ///< repeated up to the maximum size of an answer
 
     friend void PrintTo(const Line& line, std::ostream* out) { *out << line.name; }
 };
 
-/// A service whose lyrics are one line, as long as an answer may be.
+/// A service whose lyrics are one line of the maximum size.
 class HostileLine : public PillOnDesktop, public testing::WithParamInterface<Line> {
 protected:
     void play(const QString& title) {

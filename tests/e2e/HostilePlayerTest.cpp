@@ -45,7 +45,7 @@ protected:
         EXPECT_EQ(program->pillSize(), before);
     }
 
-    /// What the program takes of the machine.
+    /// The resource usage of the program.
     ProcessUse use() { return ProcessUse(program->process().processId()); }
 };
 
@@ -127,7 +127,7 @@ TEST_F(HostilePlayer, ThatFloodsTheBusCostsTheProgramNothing) {
 struct Absurdity {
     const char* name;
     QVariantMap properties;
-    QString text; ///< that the pill shows
+    QString text; ///< of the pill
 
     friend void PrintTo(const Absurdity& absurdity, std::ostream* out) { *out << absurdity.name; }
 };

@@ -16,7 +16,8 @@ const auto programFile = QStringLiteral(BRELLOWIND_OBSERVED_PROGRAM);
 const auto pillPath = QStringLiteral("/pill");
 const auto pillInterface = QStringLiteral("org.brellowind.Pill");
 
-constexpr std::chrono::milliseconds stillness{250}; ///< longer than any spring stands at its turn
+constexpr std::chrono::milliseconds stillness{
+    250}; ///< longer than any spring pauses at a turning point
 
 } // namespace
 

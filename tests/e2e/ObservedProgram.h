@@ -13,31 +13,31 @@
 
 namespace brellowind::test {
 
-/// The program, running, and what its pill shows.
+/// A running program and the content of its pill.
 class ObservedProgram : public QObject {
     Q_OBJECT
 
 public:
-    /// Runs it in `session`. The service at `origin` has the lyrics for it, and as "/latest.json"
-    /// the release feed. Fails the running test when no pill appears.
+    /// Runs it in `session`. `origin` has the lyrics service and, at "/latest.json", the release
+    /// feed. Fails the test if no pill appears.
     ObservedProgram(ProgramSession session, const QString& origin);
 
-    /// What it wrote to its standard error goes to that of the test.
+    /// Prints its standard error to that of the test.
     ~ObservedProgram() override;
 
-    /// The text that the pill's line shows at this moment.
+    /// The current text of the pill's line.
     QString text() const { return texts_.isEmpty() ? QString() : texts_.constLast(); }
 
-    /// Every text that it has shown, in order.
+    /// All texts so far, in order.
     QStringList texts() const { return texts_; }
 
-    /// Forgets the texts before the one that it shows.
+    /// Forgets the texts before the current one.
     void forgetEarlierTexts() { texts_ = {text()}; }
 
     /// Waits until the pill shows `text`.
     bool shows(const QString& text);
 
-    /// What the pill shows beside texts, such as "isMinimized".
+    /// A flag of the pill's form, such as "isMinimized".
     bool is(const char* form) { return pill_.ask("Form", {latin1(form)}).toBool(); }
 
     /// Waits until that is `value`.
@@ -46,29 +46,29 @@ public:
     /// The text of the line in the artwork panel.
     QString panelText() { return pill_.ask("Text", {QStringLiteral("panelLine")}).toString(); }
 
-    /// Where an item is drawn in the window, in points.
+    /// The drawn rectangle of an item in the window, in points.
     QRectF rectangle(const char* item) { return rect("Rectangle", {latin1(item)}); }
 
-    /// The size of an item as it is laid out, without what scales it.
+    /// The laid-out size of an item, without scaling.
     QSizeF size(const char* item);
     QSizeF pillSize() { return size("pill"); }
 
-    /// Waits until the pill's size has not changed for a while. False when it never rests.
+    /// Waits until the pill's size has not changed for a while. Returns false after a timeout.
     bool comesToRest();
 
-    /// The native window, and that of the context menu, which is 0 while it is closed.
+    /// The native windows of the pill and of the context menu; 0 while it is closed.
     quint32 window() { return pill_.ask("Window").toUInt(); }
     quint32 menu() { return pill_.ask("Menu").toUInt(); }
 
     bool hasMenu() { return menu() != 0; }
 
-    /// Where the window of the open context menu is on the desktop, in points.
+    /// The geometry of the open context menu on the desktop, in points.
     QRectF menuPlace() { return rect("MenuPlace"); }
 
-    /// Where an entry of the context menu is in the menu's window, in points.
+    /// The rectangle of an entry in the context menu's window, in points.
     QRectF menuEntry(const char* text) { return rect("MenuEntry", {QString::fromUtf8(text)}); }
 
-    /// The longest turn of its main loop since this was last asked, in processor time.
+    /// The longest turn of its main loop since the last call, in CPU time.
     std::chrono::microseconds longestTurn() const {
         return std::chrono::microseconds(loop_.ask("LongestTurn").toLongLong());
     }
@@ -77,11 +77,11 @@ public:
 
     demo::Companion& process() { return *process_; }
 
-    /// Starts it a second time, in the same way, and waits until that start has ended. Its exit
-    /// status, or -1 when it does not end.
+    /// Starts a second instance and waits for its end. Returns its exit status, or -1 after a
+    /// timeout.
     int startAgain();
 
-    /// The lines that it and its second starts have written to their standard error.
+    /// The lines of standard error of all instances.
     QStringList errors() const;
 
 private:
@@ -89,7 +89,7 @@ private:
 
     Q_SLOT void textChanged(const QString& text);
 
-    /// Fails the running test when there is no such thing.
+    /// Fails the test if it does not exist.
     QRectF rect(const char* method, const QVariantList& arguments = {});
 
     ProgramSession session_;

@@ -6,8 +6,8 @@
 
 namespace brellowind::test {
 
-/// The settings window of the running program. Its elements go by their accessible names or by
-/// their texts; only what can be seen is there.
+/// The settings window of the running program. Elements are identified by accessible name or text;
+/// invisible ones are not found.
 class ObservedSettings {
 public:
     explicit ObservedSettings(QDBusConnection bus);
@@ -15,23 +15,23 @@ public:
     /// The native window; 0 while it is closed.
     quint32 window() const { return observer_.ask("Window").toUInt(); }
 
-    /// Whether it has the keyboard.
+    /// Whether it has the keyboard focus.
     bool isActive() const { return observer_.ask("IsActive").toBool(); }
 
-    /// Whether the program holds the window, be it open or not.
+    /// Whether the window exists, open or not.
     bool exists() const { return observer_.ask("Exists").toBool(); }
 
-    /// Every text that it shows.
+    /// All visible texts.
     QStringList texts() const { return observer_.ask("Texts").toStringList(); }
 
-    /// Waits until it shows a text.
+    /// Waits until a text is visible.
     bool shows(const QString& text) const;
 
     /// A property of an element.
     QVariant property(const char* element, const char* name) const;
 
-    /// Waits until an element rests somewhere in the window, and gives the middle of that place in
-    /// points. Fails the running test when it does not.
+    /// Waits until an element's position is stable. Returns its centre in the window, in points.
+    /// Fails the test after a timeout.
     QPointF middleOf(const char* element) const;
 
 private:

@@ -7,15 +7,15 @@
 
 namespace brellowind::test {
 
-/// What watches one part of the program from within, as the test reaches it over the bus.
+/// A D-Bus proxy for an observer inside the program.
 class Observer {
 public:
     Observer(QDBusConnection bus, QString path, QString interface);
 
-    /// Its answer to a question. Fails the running test when there is none.
+    /// Calls a method and returns the result. Fails the test without an answer.
     QVariant ask(const char* method, const QVariantList& arguments = {}) const;
 
-    /// Where something is; nothing when it is not there.
+    /// The rectangle of something; nullopt if it does not exist.
     std::optional<QRectF> rectangle(const char* method, const QVariantList& arguments) const;
 
 private:

@@ -16,16 +16,16 @@
 
 namespace brellowind::test {
 
-/// The pill on a desktop with a window manager, and a person with a pointer.
+/// The pill on a desktop with a window manager and a simulated pointer.
 class PillOnDesktop : public testing::Test {
 protected:
     /// `screen` such as "1440x900x24"; `scale` pixels are one point.
     explicit PillOnDesktop(const QString& screen = QStringLiteral("1440x900x24"), int scale = 1);
 
-    /// The program is started by the test, once the desktop is as the test wants it.
+    /// The test starts the program when it has set up the desktop.
     ObservedProgram& start();
 
-    /// Starts the program with a player that sings "line", and waits until the pill rests.
+    /// Starts the program with a player and the lyrics "line", and waits until the pill is at rest.
     ObservedProgram& startSinging();
 
     /// The middle of one of the pill's items on the screen, in pixels.
@@ -34,11 +34,10 @@ protected:
     /// Moves the pointer into the pill and waits until the pill is lifted.
     void enterPill();
 
-    /// Moves the pointer far away and waits until the pill is back.
+    /// Moves the pointer away and waits until the pill is lowered.
     void leavePill();
 
-    /// Presses the secondary button in the middle of the pill, and gives that place once the
-    /// context menu is open.
+    /// Opens the context menu in the middle of the pill and returns that position.
     QPoint openMenu();
 
     /// The middle of an entry of the open context menu on the screen, in pixels.
@@ -47,7 +46,7 @@ protected:
     /// Opens the context menu and presses an entry of it.
     void choose(const char* entry);
 
-    /// The window beneath the pill, which covers the whole screen.
+    /// The full-screen window below the pill.
     PlainWindow& below();
 
     int scale;
@@ -57,7 +56,7 @@ protected:
     Person person{x};
     std::optional<WindowManager> windowManager{std::in_place, x};
     demo::LoopbackServer service;
-    QProcessEnvironment environment; ///< what the program gets beside the desktop's
+    QProcessEnvironment environment; ///< additional variables for the program
     std::optional<PlayerProcess> player;
     std::optional<PlainWindow> below_;
     std::optional<ObservedProgram> program;

@@ -7,12 +7,12 @@ namespace {
 
 constexpr std::chrono::milliseconds aWhile{300};
 
-/// How far beside and below the pill the pointer still counts as over it.
+/// The margin of the hover area beside and below the pill.
 constexpr int margin = 8;
 
 class PillPointer : public PillOnDesktop {
 protected:
-    /// The pill as it is laid out, without what scales it, on the screen.
+    /// The laid-out rectangle of the pill on the screen, without scaling.
     QRect pill() {
         const QSize size = program->pillSize().toSize();
         return {(screenSize.width() - size.width()) / 2, 0, size.width(), size.height()};
@@ -23,7 +23,7 @@ protected:
         return !program->is("hovered");
     }
 
-    /// Steps over an edge and back: `inside` and `outside` are neighbours.
+    /// Moves over an edge and back: `inside` and `outside` are adjacent pixels.
     void expectEdge(QPoint inside, QPoint outside) {
         person.pointAt(outside);
         EXPECT_TRUE(staysOutside()) << outside.x() << ", " << outside.y();
@@ -84,7 +84,7 @@ TEST_F(PillPointer, PressesFallThroughEverywhereButOnThePill) {
     startSinging();
     EXPECT_EQ(window.presses(), 0);
     const QRect at = pill();
-    // One by one: a window manager looks at a press first, and lets it through later.
+    // One by one: a window manager intercepts a press and replays it later.
     for (const QPoint beside : {QPoint(at.left() - 30, 20), QPoint(720, 200)}) {
         person.pressAt(beside);
         EXPECT_TRUE(waitUntil([&] { return window.presses() == 1; }));

@@ -31,7 +31,7 @@ QVariantMap song(const char* title) {
                                    QStringLiteral("Album"), 60000);
 }
 
-/// The program beside a lyrics service whose answers the test chooses.
+/// The program with a lyrics service whose answers the test sets.
 class PillText : public testing::Test {
 protected:
     PillText() : program(ProgramSession::on(desktop), service.origin()) {}

@@ -7,11 +7,10 @@
 
 namespace brellowind::test {
 
-/// A player, a service that would like to know more than it is told, and a person who does
-/// everything once.
+/// A player, a service that sets cookies, and a simulated user who uses every feature once.
 class Privacy : public ShellOnDesktop {
 protected:
-    /// In every text of what is played, and in nothing else.
+    /// A marker in all texts of the tracks, and nowhere else.
     static const QString secret;
 
     Privacy();
@@ -27,7 +26,7 @@ protected:
 private:
     void play(int number);
 
-    /// With a cookie for whoever takes one.
+    /// An answer with a cookie.
     void answer(const demo::Exchange& exchange) const;
 
     bool isAsked(const char* path) const;

@@ -3,7 +3,7 @@
 #include <QSet>
 #include <QUrlQuery>
 
-// What the program asks for and says in the course of a whole day of a person who listens.
+// The requests and the output of the program during a simulated day.
 namespace brellowind::test {
 namespace {
 

@@ -5,12 +5,11 @@
 #include <QSet>
 #include <QTemporaryDir>
 
-// What the program touches in the course of a whole day of a person who listens: every connection
-// and every change of a file, as the system's own tracer sees it.
+// The connections and file changes of the program during a simulated day, traced by strace.
 namespace brellowind::test {
 namespace {
 
-/// The calls of the system that matter here, of all threads of whatever is started by it.
+/// The strace command for the relevant system calls, of all threads and child processes.
 QStringList tracer(const QString& traceFile) {
     return {QStringLiteral("strace"), QStringLiteral("-D"),
             QStringLiteral("-f"),     QStringLiteral("-y"),
@@ -50,13 +49,14 @@ TEST_F(Privacy, TouchesNothingButThePlayerTheServiceTheDisplayAndItsLoginEntry) 
     const auto variables = desktop.environment();
     const QString configuration = variables.value(QStringLiteral("XDG_CONFIG_HOME"));
     const QSet<QString> files{
-        variables.value(QStringLiteral("XDG_RUNTIME_DIR")), // the toolkit sees that it is there
+        variables.value(QStringLiteral("XDG_RUNTIME_DIR")), // checked by Qt
         configuration,
         configuration + QStringLiteral("/autostart"),
         loginEntry(),
     };
-    // The entry has no name, and then another one, until it is whole.
-    const QString unfinishedEntry = configuration + QStringLiteral("/autostart/brellowind.desktop.");
+    // The entry is written to a temporary file.
+    const QString unfinishedEntry =
+        configuration + QStringLiteral("/autostart/brellowind.desktop.");
     const auto namelessFile = QStringLiteral("/proc/self/fd/");
     for (const QString& path : changedPaths(calls))
         EXPECT_TRUE(files.contains(path) || path.startsWith(unfinishedEntry) ||

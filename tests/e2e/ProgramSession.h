@@ -11,10 +11,10 @@
 
 namespace brellowind::test {
 
-/// A session that programs are started in.
+/// A session for starting programs.
 struct ProgramSession {
-    /// On `desktop` with `more` in the environment. `launcher` is the beginning of a command that
-    /// runs the command that follows it.
+    /// On `desktop`, with `more` added to the environment. `launcher` is a command prefix, such as
+    /// a tracer.
     static ProgramSession on(const Desktop& desktop, const QProcessEnvironment& more = {},
                              const QStringList& launcher = {});
 

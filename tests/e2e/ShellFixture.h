@@ -6,24 +6,24 @@
 
 namespace brellowind::test {
 
-/// The release feed: what it answers, and how often it was asked.
+/// The release feed: its answers, and the number of requests.
 class Feed {
 public:
     /// The version of the program that is tested.
     static QString ownVersion();
 
-    /// A feed that names a release.
+    /// A feed with a release.
     static QByteArray release(const QString& version, const QString& url);
 
     void answer(const demo::Exchange& exchange);
 
-    /// Answers nothing from now on, until it is released.
+    /// Holds all requests until they are released.
     void hold() { held_ = true; }
     void release();
 
     int requests() const { return requests_; }
 
-    /// What it answers with; at first, that this version is the newest.
+    /// The answer; initially this version is the newest.
     QByteArray body = release(ownVersion(), QStringLiteral("https://downloads.invalid/"));
     int status = 200;
 
@@ -33,8 +33,7 @@ private:
     QList<demo::Exchange> waiting_;
 };
 
-/// The program on a desktop with a window manager, with a feed of the test's own, and a person who
-/// uses its settings window.
+/// The program on a desktop with a window manager and a feed, and a simulated user of its settings.
 class ShellOnDesktop : public PillOnDesktop {
 protected:
     ShellOnDesktop();
@@ -44,16 +43,16 @@ protected:
     /// Starts the program and opens its settings from the pill's menu.
     void startWithSettings();
 
-    /// Waits until the settings window is on the screen and has the keyboard.
+    /// Waits until the settings window is visible and focused.
     bool settingsAreInFront();
 
-    /// Waits until the program holds no settings window any more.
+    /// Waits until the settings window is destroyed.
     bool settingsAreGone();
 
-    /// Presses an element of the settings window.
+    /// Clicks an element of the settings window.
     void press(const char* element);
 
-    /// Waits until the feed has been asked so often.
+    /// Waits until the feed has received this many requests.
     bool checksBecome(int count);
 
     Feed feed;

@@ -9,7 +9,7 @@
 namespace brellowind::test {
 namespace {
 
-/// Sees every pill that comes onto a screen, however shortly.
+/// Detects every pill that is mapped, however briefly.
 class PillWatch {
 public:
     explicit PillWatch(const QString& display) : client_(display) {
@@ -18,7 +18,7 @@ public:
         client_.finish();
     }
 
-    /// The windows as large as a pill's that no window manager knows of.
+    /// The override-redirect windows of a pill's size.
     QSet<xcb_window_t> seen() {
         client_.finish();
         while (auto* event = xcb_poll_for_event(client_.get())) {
@@ -44,7 +44,7 @@ private:
 
 class Shell : public ShellOnDesktop {
 protected:
-    /// A window of another program, once it has the keyboard.
+    /// A window of another program, focused.
     std::unique_ptr<PlainWindow> workInAnotherWindow() {
         auto other = std::make_unique<PlainWindow>(
             desktop.xServer.display(), QRect(0, 500, 1440, 400), PlainWindow::Kind::managed);
@@ -52,7 +52,7 @@ protected:
             if (x.focus() == other->id())
                 return true;
             person.pressAt(x.geometry(other->id()).bottomRight() - QPoint(4, 4));
-            return false; // the window manager may still be about to place it
+            return false; // the window manager may not have placed it yet
         }));
         return other;
     }

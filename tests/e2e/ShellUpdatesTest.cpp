@@ -7,7 +7,7 @@
 namespace brellowind::test {
 namespace {
 
-/// The program that opens links, in its place on the search path: it writes down what it is given.
+/// A fake xdg-open on PATH that records its arguments.
 class StandInOpener {
 public:
     explicit StandInOpener(QProcessEnvironment& environment) {
@@ -19,7 +19,7 @@ public:
                            folder_.path() + u':' + qEnvironmentVariable("PATH"));
     }
 
-    /// Every argument so far, each between angle brackets.
+    /// All arguments so far, each in angle brackets.
     QString opened() const {
         QFile file(opened_);
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
@@ -35,7 +35,7 @@ const auto address = QStringLiteral("https://downloads.invalid/99.0/a%20b.deb?fr
 
 class ShellUpdates : public ShellOnDesktop {
 protected:
-    /// The lines that tell of a check that failed.
+    /// The log lines of failed checks.
     QStringList failures() {
         return program->errors().filter(
             QRegularExpression(QStringLiteral("^Update check failed: .")));

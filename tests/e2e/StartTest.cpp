@@ -12,7 +12,7 @@
 namespace brellowind::test {
 namespace {
 
-/// The program itself, as people start it.
+/// The program, started as by a user.
 class Start : public testing::Test {
 protected:
     Start() { EXPECT_TRUE(errorFile_.open()); }
@@ -26,7 +26,7 @@ protected:
                                                  environment, errorFile_.fileName());
     }
 
-    /// The windows on the screen that are as large as the pill's and that no window manager has.
+    /// The override-redirect windows of the pill's size.
     static qsizetype pills(const XClient& screen) {
         return std::ranges::count_if(screen.stack(), [&](xcb_window_t window) {
             return screen.overridesRedirect(window) &&
@@ -34,7 +34,7 @@ protected:
         });
     }
 
-    /// What was written to standard error.
+    /// The content of standard error.
     QByteArray errors() {
         QFile file(errorFile_.fileName());
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));

@@ -17,7 +17,7 @@ const QList<QByteArray> changingCalls{
 
 const QList<QByteArray> openingCalls{"open", "openat", "openat2"};
 
-/// What the arguments say between quotes.
+/// The quoted strings in the arguments.
 QStringList quoted(const QByteArray& arguments) {
     static const QRegularExpression text(QStringLiteral(R"rx("((?:[^"\\]|\\.)*)")rx"));
     QStringList found;
@@ -57,7 +57,7 @@ QStringList destinations(const QList<SystemCall>& calls) {
         const QString arguments = QString::fromUtf8(call.arguments);
         const bool hasAddress = call.arguments.contains("sa_family=");
         if (!connectingCalls.contains(call.name) || (!hasAddress && call.name != "listen"))
-            continue; // on a socket that is connected already
+            continue; // on a connected socket
         if (const auto unix = local.match(arguments); unix.hasMatch())
             found.append(QStringLiteral("unix:") + unix.captured(1) + unix.captured(2));
         else if (const auto inet = internet.match(arguments); inet.hasMatch())

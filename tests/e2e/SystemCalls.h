@@ -6,7 +6,7 @@
 
 namespace brellowind::test {
 
-/// One call of the system as the tracer writes it down.
+/// A system call in a trace.
 struct SystemCall {
     QByteArray name;
     QByteArray arguments; ///< and the result, where the line has it
@@ -14,21 +14,20 @@ struct SystemCall {
     bool operator==(const SystemCall&) const = default;
 };
 
-/// The calls in a trace of all threads, in order. Ends of calls that were interrupted are left out.
+/// The calls in a trace of all threads, in order, without the ends of interrupted calls.
 QList<SystemCall> systemCalls(const QByteArray& trace);
 
-/// Whether the trace tells of a process that ended by itself with this status.
+/// Whether the trace has a process that exited with this status.
 bool tellsOfExit(const QByteArray& trace, int status);
 
-/// Every place that the calls have connected or sent to, or listened at: "unix:" and a path, which
-/// begins with an at sign when it is abstract; "inet:" and an address with a port; or the whole
-/// call where it is none of these.
+/// The addresses that the calls have connected or sent to, or listened at: "unix:" and a path, with
+/// an at sign if abstract; "inet:" and an address with a port; the whole call for other families.
 QStringList destinations(const QList<SystemCall>& calls);
 
-/// Every path that the calls were to make, write, move, remove or change the attributes of.
+/// All paths that the calls create, write, move, remove or change attributes of.
 QStringList changedPaths(const QList<SystemCall>& calls);
 
-/// Every program that the calls were to run.
+/// All programs that the calls execute.
 QStringList programs(const QList<SystemCall>& calls);
 
 } // namespace brellowind::test

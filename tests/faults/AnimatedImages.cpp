@@ -5,7 +5,7 @@
 namespace brellowind::test::hostile {
 namespace {
 
-/// The lowest `bytes` bytes, the lowest first.
+/// The lowest `bytes` bytes, little-endian.
 QByteArray little(int value, qsizetype bytes) {
     const auto ordered = qToLittleEndian(static_cast<quint32>(value));
     return {reinterpret_cast<const char*>(&ordered), bytes};
@@ -21,7 +21,7 @@ QByteArray riffChunk(const char* name, const QByteArray& data) {
     return name + little(static_cast<int>(data.size()), 4) + data + padding;
 }
 
-/// The checksum of PNG's chunks.
+/// The CRC of PNG chunks.
 quint32 crc32(const QByteArray& bytes) {
     constexpr quint32 polynomial = 0xEDB88320;
     quint32 sum = ~0U;
@@ -61,7 +61,7 @@ QByteArray animatedPng(const QByteArray& still, QSize size, int frames) {
         return pngChunk("fcTL", big(sequence++) + extent + big(0) + big(0) +
                                     QByteArray("\0\1\0\12\0\0", 6));
     };
-    const qsizetype image = still.indexOf("IDAT") - 4; // its length stands before its name
+    const qsizetype image = still.indexOf("IDAT") - 4; // the length precedes the name
     const qsizetype end = still.lastIndexOf("IEND") - 4;
     const auto length = qFromBigEndian<quint32>(still.constData() + image);
     const QByteArray data = still.mid(image + 8, length);

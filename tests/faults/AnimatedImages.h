@@ -3,14 +3,14 @@
 #include <QByteArray>
 #include <QSize>
 
-/// Images that move, made of one that does not.
+/// Animated images, made of a still image.
 namespace brellowind::test::hostile {
 
-/// A WebP file of `frames` frames, each of which shows `still`, a WebP file of `size`, at the top
-/// left of a canvas.
+/// An animated WebP file of `frames` frames, each with `still`, a WebP file of `size`, at the top
+/// left of the canvas.
 QByteArray animatedWebp(const QByteArray& still, QSize size, int frames, QSize canvas);
 
-/// A PNG file that is `still` to whoever knows no animations, and `frames` more frames of the same.
+/// An animated PNG file with `still` as its default image and `frames` copies of it as frames.
 QByteArray animatedPng(const QByteArray& still, QSize size, int frames);
 
 } // namespace brellowind::test::hostile

@@ -58,7 +58,7 @@ void redirect(const Exchange& exchange, const QByteArray& location) {
 }
 
 QByteArray brotliBomb() {
-    // `brotli` made it of a hundred million spaces.
+    // 100 million spaces, compressed by `brotli`.
     return QByteArray::fromBase64(
         "z///fwAkQOKxQHLv//n//w+ABEAcFoDu/T////8BkACIwwLQvf/n//8/ABIAcVgAuvf//P//B0ACIA4LQPf+P//B"
         "6wFIAMRhAehi1wM=");

@@ -4,10 +4,10 @@
 
 #include <QByteArray>
 
-/// What a server may answer a request with, and should not.
+/// Malformed and malicious answers of a server.
 namespace brellowind::test::hostile {
 
-/// Of what arrives much too large.
+/// The size of oversized answers.
 inline constexpr qsizetype hundredMegabytes = 100'000'000;
 
 /// A whole answer: status 200, `headers`, each ended by CR LF, and `body`; then the connection
@@ -17,19 +17,19 @@ void answer(const demo::Exchange& exchange, const QByteArray& headers, const QBy
 /// The same without ending the connection.
 void begin(const demo::Exchange& exchange, const QByteArray& headers, const QByteArray& body = {});
 
-/// Sends one byte after another, with a moment in between.
+/// Sends the bytes one by one, with delays.
 void drip(const demo::Exchange& exchange, char byte);
 
-/// Sends `piece` again and again, as fast as it is taken, until that was a hundred megabytes.
+/// Sends `piece` repeatedly, as fast as it is read, up to 100 MB.
 void pour(const demo::Exchange& exchange, const QByteArray& piece);
 
-/// Ends the connection so that what was sent may be lost on the way.
+/// Resets the connection, which may discard sent data.
 void reset(const demo::Exchange& exchange);
 
-/// Leads elsewhere.
+/// A redirect.
 void redirect(const demo::Exchange& exchange, const QByteArray& location);
 
-/// A hundred megabytes of spaces in the Brotli format, in 77 bytes.
+/// 100 MB of spaces, compressed with Brotli to 77 bytes.
 QByteArray brotliBomb();
 
 } // namespace brellowind::test::hostile

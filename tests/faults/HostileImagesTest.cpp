@@ -22,7 +22,7 @@ using test::HostileServer;
 using test::ProcessUse;
 namespace hostile = test::hostile;
 
-/// What an image may take while it is decoded: its file and its pixels, each at its limit.
+/// The maximum memory for decoding: the limits of the file and of the pixels.
 constexpr qint64 memoryLimitKiB = (test::isInstrumented ? 512 : 96) * 1024;
 
 QByteArray encoded(const QImage& image, const char* format) {
@@ -40,7 +40,7 @@ QByteArray picture(const char* format, int side = 100,
     return encoded(image, format);
 }
 
-/// A JPEG of 16 by 16 red pixels in the colours of a printer.
+/// A CMYK JPEG of 16 × 16 red pixels.
 QByteArray printedPicture() {
     return QByteArray::fromBase64(
         "/9j/7gAOQWRvYmUAZAAAAAAC/9sAQwAQCwwODAoQDg0OEhEQExgoGhgWFhgxIyUdKDozPTw5Mzg3QEhcTkBEV0U3"
@@ -78,7 +78,7 @@ protected:
     std::shared_ptr<Artwork> artwork =
         std::make_shared<Artwork>(machine.tasks, machine.http, machine.standIns.files, decoder);
 
-    /// Loads what is at `path`, until that has ended. Whether there is an image then.
+    /// Loads the image at `path` and waits for the end. Returns whether there is an image.
     bool shows(const char* path) {
         artwork->load(std::nullopt);
         artwork->load((server.origin() + QLatin1String(path)).toStdString());

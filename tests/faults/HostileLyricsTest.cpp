@@ -25,7 +25,7 @@ using test::LoopWatch;
 using test::ProcessUse;
 namespace hostile = test::hostile;
 
-/// How much more memory an answer may take, be it as bad as it may.
+/// The maximum growth of memory for any answer.
 constexpr qint64 memoryLimitKiB = (test::isInstrumented ? 512 : 48) * 1024;
 
 const QByteArray goodBody = R"({"syncedLyrics":"[00:01.00]line"})";
@@ -34,12 +34,12 @@ Track song(const char* title) {
     return {title, "Artist", "Album", 215000, std::nullopt};
 }
 
-/// A store that asks a server.
+/// A store with a real server.
 class Listener {
 public:
     explicit Listener(const QString& origin) : machine(origin) {}
 
-    /// Loads the lyrics of a song that no one has asked for yet, and waits for the end of that.
+    /// Loads the lyrics of a new song and waits for the end.
     Case load() {
         lyrics->load(song(std::to_string(++songs_).c_str()));
         EXPECT_TRUE(test::waitUntil([this] { return lyrics->state->which() != Case::loading; }));
@@ -54,8 +54,7 @@ private:
     int songs_ = 0;
 };
 
-/// Waits for the end of the next load, and holds the main loop and the memory to their limits
-/// meanwhile.
+/// Waits for the end of the next load; checks the limits of the main loop's turns and of memory.
 void expectEnd(Listener& listener, Case expected) {
     const ProcessUse use;
     LoopWatch loop;
@@ -78,7 +77,7 @@ std::string rowName(const testing::TestParamInfo<Row>& parameter) {
     return parameter.param.name;
 }
 
-/// Answers the first request as a row says, and every later one well.
+/// Answers the first request with a faulty answer and later ones correctly.
 HostileServer::Handler onceHostile(HostileServer::Handler handler) {
     return [handler = std::move(handler)](const Exchange& exchange) {
         const bool isFirst = exchange.field(QStringLiteral("track_name")) == QStringLiteral("1") ||
@@ -201,7 +200,7 @@ QByteArray nested(const QByteArray& open, const QByteArray& close) {
     return open.repeated(depth) + close.repeated(depth);
 }
 
-/// `piece` as often as the largest answer that is read at all has room for it.
+/// `piece` repeated up to the maximum size of an answer.
 QByteArray filled(const QByteArray& piece) {
     constexpr qsizetype room = LrclibAPI::maximumBodyBytes - 1000;
     return R"({"syncedLyrics":")" + piece.repeated(room / piece.size()) + R"("})";
@@ -295,7 +294,7 @@ const std::vector<Row> stalls{
 
 INSTANTIATE_TEST_SUITE_P(Phase, StallingLyrics, testing::ValuesIn(stalls), rowName);
 
-/// Nothing but the time limits these: they keep the network's thread busy, but not the main loop.
+/// Limited only by the timeout: these keep the network thread busy, not the main loop.
 class SlowlyPouringLyrics : public HostileLyrics {};
 
 TEST_P(SlowlyPouringLyrics, AreFailedWhenTheTimeIsUp) {
@@ -324,7 +323,7 @@ INSTANTIATE_TEST_SUITE_P(Endless, SlowlyPouringLyrics, testing::ValuesIn(slowlyP
 
 class UnreachableLyrics : public testing::Test {
 protected:
-    /// The server of the next song's lyrics is well.
+    /// The next answer is correct.
     static void expectFailed(const QString& origin) {
         Listener listener(origin);
         expectEnd(listener, Case::failed);
@@ -352,7 +351,7 @@ TEST_F(UnreachableLyrics, AreFailedWhenTheConnectionIsRefused) {
 }
 
 TEST_F(UnreachableLyrics, AreFailedWhenTheNameCannotBeResolved) {
-    // A name that no resolver may even ask for.
+    // A name that resolvers must not look up.
     expectFailed(QStringLiteral("http://%1.example").arg(QString(64, u'a')));
 }
 
@@ -372,7 +371,7 @@ TEST_F(UnreachableLyrics, AreFailedWhenTheCertificateIsForAnotherName) {
 TEST_F(UnreachableLyrics, AreFailedWhenTheServerSpeaksNoTls) {
     const HostileServer server([](const Exchange& e) { e.respond(200, goodBody); });
     Listener listener(server.origin().replace(QStringLiteral("http:"), QStringLiteral("https:")));
-    listener.machine.http.patience = 2s; // it waits for the end of a request that never comes
+    listener.machine.http.patience = 2s; // until the end of a request that never ends
     expectEnd(listener, Case::failed);
 }
 
@@ -392,9 +391,9 @@ TEST_F(UnreachableLyrics, AreFailedWhenARedirectLeadsFromHttpsToHttp) {
     EXPECT_EQ(plain.requests(), 0);
 }
 
-/// What each status means when the same good lyrics come with it.
+/// The result for each status with the same valid lyrics.
 Case meaning(int status) {
-    constexpr std::array lead{301, 302, 303, 305, 307, 308}; // and nowhere
+    constexpr std::array lead{301, 302, 303, 305, 307, 308}; // without a Location
     if (status == 404)
         return Case::notFound;
     const bool isInterim = status < 200;

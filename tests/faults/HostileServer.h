@@ -9,13 +9,12 @@
 
 namespace brellowind::test {
 
-/// A server in a thread of its own: what it does costs the thread of the test no time.
+/// A server in a separate thread, which is not counted in the test thread's CPU time.
 class HostileServer {
 public:
     using Handler = demo::LoopbackServer::Handler;
 
-    /// Runs `handler` in its own thread for every request. Fails the running test when it cannot
-    /// listen.
+    /// Runs `handler` in the server's thread for every request. Fails the test if it cannot listen.
     explicit HostileServer(Handler handler);
 
     /// Serves over TLS, with the certificate and key in `tls`.
@@ -27,7 +26,7 @@ public:
 
     QString origin() const { return origin_; }
 
-    /// How many requests it has read.
+    /// The number of received requests.
     int requests() const { return requests_; }
 
 private:

@@ -10,7 +10,7 @@
 
 namespace brellowind::test {
 
-/// The real HTTP client, which waits for an answer no longer than a test has time for.
+/// The real HTTP client with a short timeout.
 class ImpatientHttpClient final : public platform::HttpClient {
 public:
     explicit ImpatientHttpClient(platform::MainLoop& mainLoop)
@@ -31,8 +31,7 @@ private:
     platform::QtHttpClient client_;
 };
 
-/// What a test needs of a machine whose main loop, network and log are real. Lyrics and feed are
-/// looked for at `origin`.
+/// A machine with real main loop, network and log. Lyrics and feed are at `origin`.
 struct NetworkMachine {
     explicit NetworkMachine(const QString& origin) {
         constants.lyricsOrigin = origin.toStdString();

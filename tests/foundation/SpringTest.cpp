@@ -10,10 +10,10 @@ namespace {
 
 constexpr double pi = std::numbers::pi;
 
-/// With this response the undamped spring turns by one radian per second.
+/// With this response the undamped angular frequency is 1 rad/s.
 constexpr double unitResponse = 2 * pi;
 
-/// At rest at 0, pulled to 1 from time 0 on.
+/// At rest at 0, target 1 from time 0 on.
 Spring released(SpringParameters parameters) {
     Spring spring(parameters, 0);
     spring.retarget(1, 0);
@@ -21,8 +21,8 @@ Spring released(SpringParameters parameters) {
 }
 
 const std::vector<SpringParameters> everyKind{
-    {0.34, 0.82}, {0.42, 0.72}, {0.1, 0.5}, {0.24, 0.7}, // those that overshoot
-    {1, 0},       {0.5, 1},     {0.5, 1.5}, {0.5, 20},   // undamped, critical, creeping
+    {0.34, 0.82}, {0.42, 0.72}, {0.1, 0.5}, {0.24, 0.7}, // underdamped
+    {1, 0},       {0.5, 1},     {0.5, 1.5}, {0.5, 20},   // undamped, critically damped, overdamped
 };
 
 TEST(Spring, RestsAtItsFirstValue) {
@@ -41,7 +41,7 @@ TEST(Spring, CriticallyDampedFollowsItsFormula) {
 }
 
 TEST(Spring, UnderdampedOvershootsByItsFormula) {
-    const auto spring = released({unitResponse, 0.6}); // swings by 0.8 radians per second
+    const auto spring = released({unitResponse, 0.6}); // oscillates at 0.8 rad/s
     const double peak = pi / 0.8;
     EXPECT_NEAR(spring.value(peak), 1 + 0.094780224842155, 1e-12); // e^(-0.75 pi)
     EXPECT_NEAR(spring.velocity(peak), 0, 1e-12);
@@ -164,7 +164,7 @@ TEST(Spring, MayContinueAsAnotherSpring) {
     spring.retarget(1, 0.04, {unitResponse, 1});
     EXPECT_NEAR(spring.value(0.04), value, 1e-12);
     EXPECT_NEAR(spring.velocity(0.04), velocity, 1e-12);
-    // Critically damped at one radian per second, one second later.
+    // Critically damped at 1 rad/s, after 1 s.
     const double displacement = (value - 1 + velocity + (value - 1)) / std::numbers::e;
     EXPECT_NEAR(spring.value(1.04), 1 + displacement, 1e-12);
 }

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-// Texts that a parser with a quadratic step would not finish, nor one that copies a text per tag.
+// Texts on which a parser of quadratic time, or one that copies a text per tag, would not finish.
 
 namespace brellowind {
 namespace {
@@ -21,7 +21,7 @@ std::string repeated(std::string_view unit, std::size_t times) {
     return text;
 }
 
-/// How many bytes lie between the first and the last byte that the texts of `lines` refer to.
+/// The size of the memory range that the texts of `lines` refer to.
 std::size_t bytesSpanned(const std::vector<LyricLine>& lines) {
     const auto* first = lines.at(0).text.view().data();
     const auto* last = first;

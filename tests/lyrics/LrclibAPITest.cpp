@@ -30,7 +30,7 @@ Track titled(std::string title) {
     return {std::move(title), "Artist", "Album", 215000, std::nullopt};
 }
 
-/// Reads a value back as services read forms: a plus sign is a space.
+/// Decodes a form value: a plus sign is a space.
 std::string decoded(std::string_view value) {
     std::string bytes;
     for (std::size_t i = 0; i < value.size(); ++i) {
@@ -56,7 +56,7 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
     return parts;
 }
 
-/// The query of `url` as a service reads it. Its address must be the one of lyrics at `origin`.
+/// The decoded query of `url`, which must be the lyrics URL at `origin`.
 Items queryOf(std::string_view url) {
     const auto parts = split(url, '?');
     EXPECT_EQ(parts.size(), 2U) << url;
@@ -176,7 +176,7 @@ TEST(LrclibRequestURL, IsAbsentForATextThatIsNotUtf8) {
     }
 }
 
-/// A fetch on a machine of its own.
+/// A fetch on a fake machine.
 struct Fetch {
     explicit Fetch(const Track& track) : handle(machine.tasks.start(run(track))) {}
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-// The store held against a model of it, whatever is loaded, cleared and answered in whatever order.
+// Compares the store with a model, on random sequences of loads, clears and answers.
 namespace brellowind {
 namespace {
 
@@ -17,8 +17,8 @@ using Case = LyricsState::Case;
 
 struct Step {
     enum Kind { load, clear, turn, answer } kind;
-    int which = 0;  ///< the track, or the request, counted back from the last one
-    int manner = 0; ///< of a track's other fields, or of an answer
+    int which = 0;  ///< the track, or the request, counted from the last one
+    int manner = 0; ///< the track's other fields, or the kind of answer
 };
 
 std::ostream& operator<<(std::ostream& out, const Step& step) {
@@ -32,13 +32,13 @@ Step anyStep(test::Chance& chance) {
     return {kind, chance.below(3), chance.below(6)};
 }
 
-/// Two manners of one track have the same id.
+/// All manners of a track have the same id.
 Track track(const Step& step) {
     return {std::string(1, static_cast<char>('A' + step.which)), "Artist", "Album",
             1000.0 * step.manner, std::nullopt};
 }
 
-/// What the store shows: a case, and words that tell whose answer it is.
+/// The state of the store: a case, and the text that identifies the answer.
 struct Shown {
     Case which = Case::idle;
     std::string words;
@@ -46,7 +46,7 @@ struct Shown {
     bool operator==(const Shown&) const = default;
 };
 
-/// The answer to the `request`-th request, and what it means.
+/// The answer to the `request`-th request, and the expected state.
 std::pair<platform::HttpResult, Shown> answer(const Step& step, std::size_t request) {
     using platform::HttpResponse;
     const std::string words = "words " + std::to_string(request);
@@ -67,14 +67,14 @@ std::pair<platform::HttpResult, Shown> answer(const Step& step, std::size_t requ
     }
 }
 
-/// What a store has to do, in terms of loads, which are numbered.
+/// The model, in terms of numbered loads.
 struct Model {
     Shown shown;
     int assignments = 0;
     std::optional<int> trackHeld;
     int lastLoad = 0;
-    std::optional<int> current;     ///< the load that may still be answered
-    bool asked = true;              ///< whether the service has been asked for that load
+    std::optional<int> current;     ///< the load that may be answered
+    bool asked = true;              ///< whether that load has sent its request
     std::vector<int> loadOf;        ///< for each request
     std::vector<bool> isAnswered{}; ///< for each request
 
@@ -119,7 +119,7 @@ struct Model {
     }
 };
 
-/// The store on its machine, and the model beside it.
+/// The store on a fake machine, and the model.
 class Comparison {
 public:
     test::Disagreement take(const Step& step) {
@@ -143,7 +143,7 @@ public:
         return difference();
     }
 
-    /// The store goes while it may be loading: what is under way ends, and nothing stays.
+    /// Destroys the store, also while loading: pending work ends and nothing leaks.
     test::Disagreement release() {
         store_.reset();
         machine_.mainLoop.runTurns();

@@ -51,7 +51,7 @@ struct Store {
     }
 };
 
-/// Writes down the state that each assignment is about to replace.
+/// Records the state before each assignment.
 class Journal {
 public:
     explicit Journal(const LyricsStore& lyrics)

@@ -10,7 +10,7 @@
 
 namespace brellowind::test {
 
-/// Reads LRC text slowly, with the pattern of a time tag on a regular-expression engine.
+/// Reference parser of LRC text, with a regular expression for time tags.
 class PatternParser {
 public:
     struct Line {

@@ -39,7 +39,7 @@ class HoverMonitorTest : public testing::Test {
 protected:
     HoverMonitorTest() { connect({.frame = laptopFrame, .topSafeAreaInset = 32}); }
 
-    /// Makes `screen` the only one.
+    /// Makes `screen` the only screen.
     void connect(const platform::Screen& screen) {
         machine.screens.connected = {screen};
         machine.screens.mainScreen = screen;
@@ -50,7 +50,7 @@ protected:
         machine.screens.mainScreen.reset();
     }
 
-    /// What the monitor says once the pointer has moved to `point`.
+    /// `isInside` after the pointer has moved to `point`.
     bool insideAt(Point point) {
         machine.pointer.moveOutsideWindows(point);
         return hover->isInside.get();

@@ -42,7 +42,7 @@ TEST(NotchWindowFrame, HasNoWidthOnAScreenWithoutAnArea) {
 
 class NotchWindowTest : public testing::Test {
 protected:
-    /// Connects `screens`; the first one is the main one.
+    /// Connects `screens`; the first one is the main screen.
     void connect(std::vector<platform::Screen> screens) {
         machine.screens.connected = std::move(screens);
         machine.screens.mainScreen = machine.screens.connected.front();

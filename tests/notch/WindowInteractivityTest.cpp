@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 class WindowInteractivityTest : public testing::Test {
 protected:
-    /// The last thing that the window was told.
+    /// The last call of the window.
     bool ignoresMouseEvents() const {
         return std::get<FakeOverlay::SetIgnoresMouseEvents>(window.calls.back()).ignores;
     }

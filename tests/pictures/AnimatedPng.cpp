@@ -52,7 +52,7 @@ QByteArray png(const QImage& image) {
     return bytes;
 }
 
-/// The smallest part outside which both are the same.
+/// The bounding rectangle of the differences.
 QRect changedPart(const QImage& before, const QImage& now) {
     QRect part;
     for (int y = 0; y < now.height(); ++y) {
@@ -82,7 +82,7 @@ QByteArray AnimatedPng::controlChunk(const Frame& frame, quint32 number) const {
         control += bigEndian(static_cast<quint32>(value));
     control += bigEndian(static_cast<quint16>(duration));
     control += bigEndian(static_cast<quint16>(framesPerSecond_));
-    control += QByteArray(2, '\0'); // stays, and takes the place of what was there
+    control += QByteArray(2, '\0'); // dispose: none, blend: source
     return chunk("fcTL", control);
 }
 

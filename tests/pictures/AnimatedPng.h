@@ -8,7 +8,7 @@
 
 namespace brellowind::test {
 
-/// An animation in the PNG format, whose frames keep only what differs from the frame before.
+/// Writes animated PNG files. Each frame stores only the difference from the previous one.
 class AnimatedPng {
 public:
     explicit AnimatedPng(int framesPerSecond) : framesPerSecond_(framesPerSecond) {}

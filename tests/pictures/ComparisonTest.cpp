@@ -6,7 +6,7 @@
 namespace brellowind::test {
 namespace {
 
-/// Strokes as thick and as many as those of a line of text.
+/// Strokes that resemble a line of text.
 QImage strokes(int shift, QColor colour = Qt::white) {
     QImage image(320, 80, QImage::Format_RGB32);
     image.fill(Qt::black);

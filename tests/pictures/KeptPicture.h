@@ -5,9 +5,9 @@
 
 namespace brellowind::test {
 
-/// Compares `actual` with the picture that is kept under `name` for the present scale, and fails
-/// the running test when they differ; both then lie in the build folder with what differs. While
-/// pictures are renewed it is kept instead.
+/// Compares `actual` with the reference picture `name` for the current scale. Fails the test if
+/// they differ, and saves both and the difference in the build folder. While pictures are being
+/// renewed, saves `actual` as the reference.
 void expectKept(QImage actual, const QString& name);
 
 } // namespace brellowind::test

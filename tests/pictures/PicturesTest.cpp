@@ -10,7 +10,7 @@
 namespace brellowind::test {
 namespace {
 
-/// One look of the pill, how it comes about and what is seen of it.
+/// A picture test: how to set up the pill, and the part of it that is compared.
 struct Look {
     const char* name;
     std::function<QImage(PillStage&)> picture;
@@ -102,7 +102,7 @@ const auto endlessArabic = QString::fromUtf8(
     "ارفع الضوء عاليا في آخر الطريق وقل للقمر أن ينزل إلى النافذة ليشرب من الصحن الصغير، والقطة "
     "تنظر إليه ولا يقول أحد في الشارع كله كلمة");
 
-/// How the pill, or its panel, looks so many seconds after a song with a long line began.
+/// The pill, or its panel, some seconds after the start of a song with a long line.
 std::function<QImage(PillStage&)> glide(const QString& line, double seconds, bool inPanel = false) {
     return [line, seconds, inPanel](PillStage& stage) {
         if (inPanel)
@@ -170,13 +170,13 @@ struct Motion {
 
 class Motions : public testing::TestWithParam<Motion> {};
 
-/// Of 255: the renderer rounds the last hair of an edge into the next pixel.
+/// Of 255, for rounding of antialiased edges by the renderer.
 constexpr int invisible = 2;
 
-/// How wide the pill's top corners flare, beside which its sides stand.
+/// The width of the flares at the pill's top corners.
 constexpr double flare = 8;
 
-/// How far from the desktop without a pill any pixel is that does not belong to the pill.
+/// The largest difference from the empty desktop of any pixel outside the pill.
 int strongestStepAround(const QImage& window, const QImage& desktop, const QRectF& pill) {
     const double scale = desktop.devicePixelRatio();
     const auto pixels = [scale](const QRectF& rect) {

@@ -46,7 +46,7 @@ private:
     QTcpServer server_;
 };
 
-/// What the client sends for a request with `policy`, in lower case.
+/// The client's request with `policy`, in lower case.
 std::string sentWith(CachePolicy policy) {
     int argc = 0;
     const QCoreApplication application(argc, nullptr);

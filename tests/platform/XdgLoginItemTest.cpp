@@ -46,7 +46,7 @@ std::vector<std::string> namesIn(const fs::path& folder) {
     return names;
 }
 
-/// Until its end no file grows, as on a full disk.
+/// Simulates a full disk with a file size limit.
 class FullDisk {
 public:
     FullDisk() : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -67,8 +67,7 @@ private:
     rlimit oldLimit_{};
 };
 
-/// Until its end nothing in the folder can be added or removed. The superuser, whom no permission
-/// stops, is somebody else meanwhile.
+/// Makes a folder read-only. Drops the superuser's privileges meanwhile.
 class ReadOnlyFolder {
 public:
     explicit ReadOnlyFolder(const fs::path& folder) : folder_(folder), user_(::geteuid()) {
@@ -115,7 +114,7 @@ protected:
 
 TEST_F(XdgLoginItemTest, IsNotRegisteredWithoutAnEntry) {
     EXPECT_EQ(item().status(), Status::notRegistered);
-    EXPECT_FALSE(fs::exists(config)); // looking makes nothing
+    EXPECT_FALSE(fs::exists(config)); // reading creates nothing
 }
 
 TEST_F(XdgLoginItemTest, RegistrationEnablesIt) {

@@ -13,14 +13,14 @@ namespace brellowind::test {
 
 inline constexpr double tolerance = 1e-9; ///< seconds
 
-/// A monitor and the player it watches.
+/// A monitor and its player.
 struct Monitor {
     TestMachine machine;
     FakePlayer& spotify = machine.player;
     std::shared_ptr<NowPlaying> nowPlaying = std::make_shared<NowPlaying>(
         machine.mainLoop, machine.tasks, machine.clock, machine.player);
 
-    /// Starts the monitor, and lets the player answer where it does so at once.
+    /// Starts the monitor and processes an immediate answer of the player.
     void start() {
         nowPlaying->start();
         machine.mainLoop.runTurns();
@@ -38,7 +38,7 @@ struct Monitor {
     }
 };
 
-/// Writes down each assignment with the values that stand just before it.
+/// Records each assignment with the values before it.
 class Journal {
 public:
     explicit Journal(const NowPlaying& nowPlaying) {

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <ostream>
 
-// The monitor held against a model of it, whatever the player answers and whenever it is toggled.
+// Compares the monitor with a model, on random answers and toggles.
 namespace brellowind {
 namespace {
 
@@ -67,21 +67,21 @@ Step anyStep(test::Chance& chance) {
     }
 }
 
-/// The player as it is, for the program and for the model.
+/// The state of the player.
 struct Player {
     bool runs = true;
     bool readable = true;
     bool obeys = true;
     bool plays = false;
-    int song = 0; ///< 2 and 3 are one song with two lengths
+    int song = 0; ///< 2 and 3 are one song with different durations
     int position = 0;
     int answerMs = 0;
 
     std::string title() const { return "Song " + std::to_string(std::min(song, 2)); }
 };
 
-/// What the monitor has to do, millisecond by millisecond. Assignments are written down as the
-/// letters t, p and s: track, playing flag, position in seconds.
+/// The model, in steps of a millisecond. Records assignments as letters: t for the track, p for the
+/// playing flag, s for the position in seconds.
 class Model {
 public:
     Player player;
@@ -129,7 +129,7 @@ public:
     std::size_t alarms() const { return alarms_.size(); }
 
 private:
-    /// What becomes due meanwhile at the same moment runs last.
+    /// Alarms that are set meanwhile for the same time run last.
     void runDue() {
         for (std::size_t i = 0; i < alarms_.size(); ++i)
             if (alarms_[i].due == now_) {
@@ -199,10 +199,10 @@ private:
     bool toggledSinceQuestion_ = false;
     int now_ = 0;
     int syncedMs_ = 0;
-    std::vector<Alarm> alarms_; ///< in the order in which they were set
+    std::vector<Alarm> alarms_; ///< in the order of setting
 };
 
-/// The monitor and its player, and the model beside it.
+/// The monitor, its player and the model.
 class Comparison {
 public:
     Comparison() {
@@ -248,7 +248,7 @@ private:
         }
     }
 
-    /// False when the step does not concern the player.
+    /// Returns false if the step does not concern the player.
     bool changePlayer(const Step& step) {
         auto& player = model_.player;
         switch (step.kind) {

@@ -209,7 +209,7 @@ TEST(NowPlayingTick, WakesTheProgramOnlyWhilePlaying) {
     EXPECT_EQ(wakeUpsInTenSeconds(), 10U); // the readings
     monitor.spotify.plays = true;
     monitor.advance(1s);
-    EXPECT_EQ(wakeUpsInTenSeconds(), 200U); // a reading and every twentieth tick come together
+    EXPECT_EQ(wakeUpsInTenSeconds(), 200U); // each reading coincides with a tick
     monitor.spotify.quit();
     monitor.advance(1s);
     EXPECT_EQ(wakeUpsInTenSeconds(), 10U);

@@ -39,7 +39,7 @@ TEST(NowPlayingToggle, IsNotUndoneByAnAnswerThatWasAskedForBeforeIt) {
     Monitor monitor;
     monitor.start();
     monitor.spotify.answerTime = 600ms;
-    monitor.spotify.obeysToggles = false; // the answers tell of a player that is still paused
+    monitor.spotify.obeysToggles = false; // the player stays paused
     monitor.advance(1s);
     monitor.spotify.position = 5;
     monitor.toggle();
@@ -125,7 +125,7 @@ TEST(NowPlayingToggle, WithThePlayerGoneClearsNothingMoreThanAReadingDoes) {
     monitor.toggle();
     monitor.advance(150ms);
     EXPECT_EQ(monitor.spotify.toggles(), 1U);
-    EXPECT_TRUE(monitor.nowPlaying->isPlaying.get()); // without a track there is nothing to take
+    EXPECT_TRUE(monitor.nowPlaying->isPlaying.get()); // without a track the answer has no effect
 }
 
 TEST(NowPlayingToggle, ConfirmsAlsoWhenStopped) {

@@ -9,7 +9,7 @@
 
 namespace brellowind::test {
 
-/// A session bus of its own. Fails the running test when it does not start.
+/// A private session bus. Fails the test if it does not start.
 class SessionBus {
 public:
     SessionBus();
@@ -19,10 +19,10 @@ public:
 
     QString address() const { return address_; }
 
-    /// This process's own connection to it.
+    /// This process's connection to it.
     QDBusConnection connection() const { return QDBusConnection(connectionName_); }
 
-    /// Ends the bus under everybody who is connected to it.
+    /// Kills the bus, disconnecting all its clients.
     void end();
 
 private:
@@ -31,7 +31,7 @@ private:
     QString connectionName_;
 };
 
-/// A virtual X server. Fails the running test when it does not start.
+/// A virtual X server. Fails the test if it does not start.
 class XServer {
 public:
     /// `screen` such as "1440x900x24".
@@ -46,7 +46,7 @@ private:
     QString display_;
 };
 
-/// A session bus, an X server and a home of their own, and the environment that leads to them.
+/// A private session bus, X server and home folder, and the environment for using them.
 class Desktop {
 public:
     explicit Desktop(const QString& screen = QStringLiteral("1440x900x24"));

@@ -8,7 +8,7 @@
 namespace brellowind::test {
 
 bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds patience) {
-    QTimer wake; // so that a condition that changes without an event is seen as well
+    QTimer wake; // for conditions that change without an event
     wake.start(std::chrono::milliseconds(5));
     const QDeadlineTimer deadline(patience);
     while (!condition()) {

@@ -5,12 +5,11 @@
 
 namespace brellowind::test {
 
-/// Runs the Qt event loop until `condition` holds. False when that takes longer than any machine
-/// should need.
+/// Runs the Qt event loop until `condition` holds. Returns false after a generous timeout.
 bool waitUntil(const std::function<bool()>& condition,
                std::chrono::milliseconds patience = std::chrono::seconds(20));
 
-/// Runs the Qt event loop for `duration`: for what must not happen in the meantime.
+/// Runs the Qt event loop for `duration`, to check that something does not happen.
 void runFor(std::chrono::milliseconds duration);
 
 } // namespace brellowind::test

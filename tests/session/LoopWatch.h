@@ -5,17 +5,16 @@
 
 namespace brellowind::test {
 
-/// Watches the event loop of the thread that it is made on: how long one turn keeps that thread
-/// from the next. Processor time of the thread counts, not the clock, so that a busy machine makes
-/// no turn longer.
+/// Measures the longest turn of the current thread's event loop, in CPU time of the thread, which
+/// does not depend on other load.
 class LoopWatch : public QObject {
 public:
-    /// What a person would begin to notice as a stutter, here or on an instrumented build.
+    /// A noticeable stutter; longer in instrumented builds.
     static const std::chrono::milliseconds bearable;
 
     LoopWatch();
 
-    /// The longest turn since the watch began, or was last told to forget.
+    /// The longest turn since construction or the last reset.
     std::chrono::microseconds longestTurn() const { return longest_; }
 
     void forget();

@@ -12,14 +12,14 @@
 
 namespace brellowind::test {
 
-/// A player in a process of its own that plays what the test says.
+/// A player in a separate process, controlled by the test.
 class PlayerProcess {
 public:
-    /// Owns the bus name once this returns; fails the running test when it does not come.
-    /// `bus` has its address as its name.
+    /// Waits until it owns the bus name; fails the test otherwise. The connection name of `bus` is
+    /// its address.
     explicit PlayerProcess(QDBusConnection bus, const QString& name = QStringLiteral("spotify"));
 
-    /// `environment` leads to `bus`.
+    /// `environment` is that for using `bus`.
     PlayerProcess(QDBusConnection bus, const QProcessEnvironment& environment,
                   const QString& name = QStringLiteral("spotify"));
 
@@ -40,18 +40,17 @@ public:
     void flood(uint signalsPerSecond) { call("Flood", {signalsPerSecond}); }
     unsigned requests() { return call("Requests", {}).arguments().value(0).toUInt(); }
 
-    /// What the player is told to be, or has been made to be: "Playing" or "Paused".
+    /// The playback status, "Playing" or "Paused", set here or by commands.
     QString status();
 
-    /// Ends the player as its user would.
+    /// Quits the player.
     void quit();
 
-    /// Stops the process so that it answers nothing, and lets it go on.
+    /// Suspends the process (SIGSTOP), and resumes it.
     void hang();
     void recover();
 
-    /// Ends the process without a word, even a stopped one. The bus gives its name on to whoever
-    /// waits for it.
+    /// Kills the process, also a suspended one. The bus passes its name to the next in the queue.
     void kill();
 
 private:

@@ -21,7 +21,7 @@ void ProcessUse::forgetPeakMemory() const {
 
 std::chrono::milliseconds ProcessUse::processorTime() const {
     const QByteArray stat = contents("stat");
-    const auto fields = stat.mid(stat.lastIndexOf(')') + 2).split(' '); // a name may hold spaces
+    const auto fields = stat.mid(stat.lastIndexOf(')') + 2).split(' '); // the name may have spaces
     const qint64 ticks = fields.value(11).toLongLong() + fields.value(12).toLongLong();
     return std::chrono::milliseconds(ticks * 1000 / sysconf(_SC_CLK_TCK));
 }

@@ -5,19 +5,18 @@
 
 namespace brellowind::test {
 
-/// Whether this build's own checks take time and memory of their own.
+/// Whether this is a sanitizer build.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 inline constexpr bool isInstrumented = true;
 #else
 inline constexpr bool isInstrumented = false;
 #endif
 
-/// By so much memory may grow without a leak. A sanitizer holds back the last quarter of a gigabyte
-/// that was freed; it looks for leaks itself.
+/// The allowed growth of memory. Sanitizers quarantine up to 256 MB of freed memory; they detect
+/// leaks themselves.
 inline constexpr qint64 growthWithoutLeakKiB = isInstrumented ? 512 * 1024 : 4096;
 
-/// What a process takes of the machine, as the kernel counts it. Fails the running test when there
-/// is no such process.
+/// The resource usage of a process, from the kernel. Fails the test if there is no such process.
 class ProcessUse {
 public:
     /// This process.
@@ -27,12 +26,12 @@ public:
     /// Open files and sockets.
     qint64 descriptors() const;
 
-    /// In use now, and the most that has been in use since it was last forgotten.
+    /// Current memory, and its peak since the last reset.
     qint64 memoryKiB() const { return status("VmRSS:"); }
     qint64 peakMemoryKiB() const { return status("VmHWM:"); }
     void forgetPeakMemory() const;
 
-    /// Of all its threads, in the program and in the kernel.
+    /// CPU time of all its threads, user and system.
     std::chrono::milliseconds processorTime() const;
 
 private:

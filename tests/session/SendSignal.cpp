@@ -7,7 +7,7 @@
 namespace brellowind::test {
 namespace {
 
-/// Also of one that has died in this moment and was not waited for yet.
+/// Also if it is a zombie.
 bool hasEnded(pid_t child) {
     siginfo_t end{};
     return child <= 0 ||

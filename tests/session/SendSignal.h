@@ -4,9 +4,8 @@
 
 namespace brellowind::test {
 
-/// Sends `signal` to a process that a test has started. Fails the running test, and sends nothing,
-/// when that process has ended: its number is nobody's any more, or zero, which stands for the test
-/// and all its companions.
+/// Sends `signal` to a child process of the test. If that process has ended, fails the test and
+/// sends nothing: its id may be reused, or 0, which is the whole process group.
 void sendSignal(int signal, const demo::Companion& process);
 
 } // namespace brellowind::test

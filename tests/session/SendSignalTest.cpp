@@ -8,7 +8,7 @@
 namespace brellowind::test {
 namespace {
 
-/// Runs until it is ended.
+/// Runs until it is terminated.
 struct Sleeper : demo::Companion {
     Sleeper() : Companion(QStringLiteral("sleep"), {QStringLiteral("infinity")}) {}
 };
@@ -20,7 +20,7 @@ TEST(SendSignal, ReachesAProcessThatRuns) {
     EXPECT_FALSE(sleeper.isRunning());
 }
 
-/// A signal to the number of such a process, which is zero, would end this test.
+/// The id of such a process is 0; a signal to it would end this test.
 TEST(SendSignal, FailsForAProcessThatHasEnded) {
     Sleeper sleeper;
     sleeper.end();

@@ -100,7 +100,7 @@ TEST_F(GeneralSettingsTest, AFailedUnregistrationTurnsTheSwitchBackOn) {
 
 TEST_F(GeneralSettingsTest, ARegistrationThatFailsOnAnEnabledItemLeavesTheSwitchOn) {
     GeneralSettings settings(parts.services());
-    machine.loginItem.current = LoginItem::Status::enabled; // by somebody else, meanwhile
+    machine.loginItem.current = LoginItem::Status::enabled; // changed by another program
     machine.loginItem.registrationError = "already there";
     settings.setLaunchAtLogin(true);
     EXPECT_TRUE(settings.launchAtLogin.get());
@@ -154,7 +154,7 @@ TEST_F(GeneralSettingsTest, TheButtonStartsACheckThatOutlivesTheTab) {
     {
         GeneralSettings settings(parts.services());
         settings.pressUpdateButton();
-        EXPECT_EQ(checkState(), State::idle()); // the press itself returns at once
+        EXPECT_EQ(checkState(), State::idle()); // does not block
         machine.mainLoop.runTurns();
         settings.disappear();
     }

@@ -66,7 +66,7 @@ TEST(VersionOrder, AnythingButNothingAndZerosIsNewerThanTheVersionOfABuildWithou
     EXPECT_FALSE(isNewer("", "0"));
 }
 
-/// Short texts over few pieces, so that equal beginnings and respelled numbers are frequent.
+/// Short texts of few pieces, for frequent common prefixes and leading zeros.
 std::string generatedVersion(std::mt19937& generator) {
     static constexpr std::array<const char*, 14> pieces{
         "0", "1", "2", "9", "00", "02", "10", ".", ".", "-", "a", "v", "é", "18446744073709551616"};

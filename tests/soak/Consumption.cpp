@@ -24,7 +24,7 @@ double entries(const fs::path& folder) {
     return count;
 }
 
-/// The number in the line of this name of a summary of a process's memory, which is in kilobytes.
+/// The value in kilobytes of the line `name` in smaps_rollup.
 double megabytes(const std::string& summary, const std::string& wanted) {
     std::istringstream words(summary);
     for (std::string word; words >> word;)

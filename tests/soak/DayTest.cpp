@@ -11,13 +11,13 @@
 #include <utility>
 #include <vector>
 
-// The logic in the course of a whole day, on a clock that only the test moves.
+// The logic during a whole day of simulated time.
 namespace brellowind::test {
 namespace {
 
 using namespace std::chrono_literals;
 
-/// What is held while nothing is under way.
+/// The resources in use while idle.
 struct Held {
     std::size_t timers;
     std::size_t nextTurns;
@@ -53,7 +53,7 @@ public:
         }
     }
 
-    /// Brings everything to the same end each time, and forgets what only the test has kept.
+    /// Brings everything to the same final state, and frees the test's own records.
     Held rest() {
         settings_.reset();
         checks_.cancel();
@@ -136,7 +136,7 @@ private:
 
     void failOrSucceed() { view_.spotify.readable = !chance_.onceIn(3); }
 
-    /// Lyrics, covers and feeds, good ones and bad ones; at the end of an hour none.
+    /// Answers requests, correctly or not, so that none is open at the end of an hour.
     void answerAll() {
         const bool isTheEnd = view_.spotify.title == "At the end";
         auto& http = view_.machine.http;
@@ -201,7 +201,7 @@ private:
     Chance chance_{1};
     std::optional<GeneralSettings> settings_;
     Subscription checks_;
-    Subscription glance_; ///< leaves in the notification that it has come for
+    Subscription glance_; ///< unregisters during its notification
     Subscription drawing_ = view_.view.onRedraw([this] { ++redraws; });
 };
 
@@ -209,7 +209,7 @@ TEST(Day, LeavesNothingBehindThatItsFirstHourHasNot) {
     constexpr int hours = 24;
     Day day;
     std::vector<Held> held;
-    held.reserve(hours); // so that the looking costs nothing
+    held.reserve(hours); // so that measuring does not allocate
     day.passAnHour();
     held.push_back(day.rest());
     const std::size_t bytes = heap().bytes;

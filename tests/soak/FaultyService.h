@@ -10,8 +10,8 @@
 
 namespace brellowind::test {
 
-/// Lyrics, covers and the release feed from a service that fails in every way a service can, now
-/// and then. The lyrics of a track have a line for each quarter of a second of its first minute.
+/// A service for lyrics, covers and the release feed that fails at random in various ways. The
+/// lyrics of a track have a line for each quarter of a second of its first minute.
 class FaultyService : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
 
     void answer(const demo::Exchange& exchange);
 
-    /// What a track's line at a position says.
+    /// The text of a track's line at a position.
     static QString line(const QString& title, double seconds);
 
     bool failsNow = true; ///< whether it may fail

@@ -4,8 +4,8 @@
 
 namespace brellowind::test {
 
-/// What became of a quantity in the course of a long run: its medians over the second and over the
-/// last fifth of the run. The first fifth is for getting warm; a median ignores single peaks.
+/// The growth of a quantity during a long run: its medians over the second and over the last fifth.
+/// The first fifth is for warming up; medians ignore single peaks.
 struct Growth {
     double early = 0;
     double late = 0;
@@ -13,7 +13,7 @@ struct Growth {
     double amount() const { return late - early; }
 };
 
-/// At least five samples, in the order in which they were taken.
+/// At least five samples, in order of time.
 Growth growth(std::span<const double> samples);
 
 } // namespace brellowind::test

@@ -30,7 +30,7 @@ brellowind::test::Heap brellowind::test::heap() {
     return held;
 }
 
-// The forms for arrays and those without a size end in these.
+// All other forms call these.
 
 void* operator new(std::size_t size) {
     return take(std::malloc(size > 0 ? size : 1));

@@ -7,7 +7,7 @@
 namespace brellowind::test {
 namespace {
 
-constexpr int margin = 30; ///< around the pill, which may be about to grow
+constexpr int margin = 30; ///< around the pill, which may be growing
 
 // What the tabs of the settings show.
 const auto launchAtLogin = QStringLiteral("Launch at Login");
@@ -58,7 +58,7 @@ void RestlessPerson::useMenu() {
         person_.pointAt(top() + QPoint(chance_.below(9), 15));
         return program_.is("hovered");
     }));
-    runFor(std::chrono::milliseconds(50)); // until it takes clicks, too
+    runFor(std::chrono::milliseconds(50)); // until it receives clicks
     person_.press(Person::secondary);
     EXPECT_TRUE(waitUntil([this] { return program_.menu() != 0; })) << "no menu";
     ++menus;

@@ -7,15 +7,15 @@
 
 namespace brellowind::test {
 
-/// A person who cannot leave the pill alone: points, clicks, opens the menu and the settings.
+/// A simulated user who points, clicks, and opens the menu and the settings at random.
 class RestlessPerson {
 public:
     RestlessPerson(const XClient& x, ObservedProgram& program, Chance& chance);
 
-    /// One thing of whatever they may do. The menu and the settings are closed afterwards.
+    /// Performs a random action. Closes the menu and the settings afterwards.
     void act();
 
-    /// Points far away from the pill.
+    /// Moves the pointer away from the pill.
     void leave();
 
     int movements = 0;
@@ -29,7 +29,7 @@ private:
     void useMenu();
     void useSettings();
 
-    /// Presses an element of the settings. False when the pill, which is above them, is in the way.
+    /// Clicks an element of the settings. Returns false if the pill covers it.
     bool press(const char* element);
 
     /// The middle of the upper edge of the notch window, in pixels.

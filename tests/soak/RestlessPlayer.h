@@ -8,16 +8,16 @@
 
 namespace brellowind::test {
 
-/// A player that never stands still: other tracks, seeks, pauses, hangs, crashes and comes back.
+/// A player that changes tracks, seeks, pauses, hangs, crashes and restarts at random.
 class RestlessPlayer {
 public:
     /// Its covers come from the service at `origin`.
     RestlessPlayer(QDBusConnection bus, QString origin, Chance& chance);
 
-    /// One thing of whatever it may do.
+    /// Performs a random action.
     void act();
 
-    /// Runs and answers again, whatever has become of it, and plays or pauses a track.
+    /// Restores a running, responding player with a playing or paused track.
     void settle(const QString& title, const char* status, double seconds);
 
     int tracks = 0;

@@ -6,8 +6,7 @@
 
 namespace brellowind::test {
 
-/// What decides about everything that a test leaves open. The same seed decides the same on every
-/// machine.
+/// A pseudo-random generator for tests. A seed gives the same sequence on every machine.
 class Chance {
 public:
     explicit Chance(std::uint64_t seed) : engine_(seed) {}
@@ -15,7 +14,7 @@ public:
     /// A number from 0 to `count` - 1.
     int below(int count) { return static_cast<int>(engine_() % static_cast<unsigned>(count)); }
 
-    /// True once in `count` times.
+    /// True with probability 1/`count`.
     bool onceIn(int count) { return below(count) == 0; }
 
     template <typename Value>

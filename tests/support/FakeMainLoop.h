@@ -6,7 +6,7 @@
 
 namespace brellowind::test {
 
-/// A main loop that runs only when a test says so, on a time that only the test moves.
+/// A main loop that is run by the test, with simulated time.
 class FakeMainLoop final : public platform::MainLoop {
 public:
     std::unique_ptr<platform::Timer> scheduleOnce(std::chrono::milliseconds delay,
@@ -15,18 +15,18 @@ public:
                                                                 Handler handler) override;
     std::unique_ptr<platform::NextTurn> onNextTurn(Handler handler) override;
 
-    /// Runs what is due until nothing is, without moving time.
+    /// Runs all due handlers without advancing time.
     void runTurns() { advance(std::chrono::milliseconds(0)); }
 
-    /// Moves time forward by `duration`, running each timer at its own moment.
+    /// Advances time by `duration` and runs each timer when it is due.
     void advance(std::chrono::milliseconds duration);
 
     std::chrono::milliseconds elapsed() const { return now_; }
-    std::size_t wakeUps() const { return wakeUps_; } ///< at how many moments timers have fired
+    std::size_t wakeUps() const { return wakeUps_; } ///< number of times at which timers fired
     std::size_t timerCount() const { return timers_.size(); }
     std::size_t nextTurnCount() const { return nextTurns_.size(); }
 
-    /// How many repeating timers of `interval` are scheduled.
+    /// Number of running repeating timers of `interval`.
     std::size_t repeatingTimerCount(std::chrono::milliseconds interval) const;
 
 private:

@@ -9,8 +9,8 @@
 
 namespace brellowind::test {
 
-/// A player that runs from the start, paused at 0 in a song, and answers with its fields as they
-/// stand at the moment of the answer.
+/// A running player, initially paused at 0. Its answers have the values of its fields at the time
+/// of the answer.
 class FakePlayer final : public platform::Player {
 public:
     explicit FakePlayer(FakeMainLoop& mainLoop) : mainLoop_(mainLoop) {}
@@ -21,10 +21,10 @@ public:
     void launch() { runs_ = true; }
     void quit() { runs_ = false; }
 
-    /// Another song begins at its start; artwork and state stay as they are.
+    /// Starts another song; artwork and state are unchanged.
     void playSong(std::string nextTitle);
 
-    /// How often the player was asked what it plays, and told to play or pause.
+    /// Number of readings, and of play/pause commands.
     std::size_t readings() const { return readings_; }
     std::size_t toggles() const { return toggles_; }
 
@@ -36,9 +36,9 @@ public:
     double position = 0;
     bool plays = false;
 
-    bool readable = true; ///< false: no answer can be used, and no command is obeyed
+    bool readable = true; ///< false: answers are unusable and commands fail
     bool obeysToggles = true;
-    std::chrono::milliseconds answerTime{0}; ///< between a question and its answer
+    std::chrono::milliseconds answerTime{0}; ///< delay of the answers
 
 private:
     Answer answer() const;

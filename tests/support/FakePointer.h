@@ -7,7 +7,7 @@
 
 namespace brellowind::test {
 
-/// A pointer that only the test moves.
+/// A pointer that is moved by the test.
 class FakePointer final : public platform::Pointer {
 public:
     std::optional<Point> location() override {
@@ -20,10 +20,10 @@ public:
     std::unique_ptr<platform::PointerMonitor> addGlobalMonitor(Handler handler) override;
     std::unique_ptr<platform::PointerMonitor> addLocalMonitor(Handler handler) override;
 
-    /// Moves the pointer over the desktop or another program: the global monitors hear it.
+    /// Moves the pointer over the desktop or another program: notifies the global monitors.
     void moveOutsideWindows(std::optional<Point> to);
 
-    /// Moves the pointer over a window of this program: the local monitors hear it.
+    /// Moves the pointer over a window of this program: notifies the local monitors.
     void moveOverWindow(std::optional<Point> to);
 
     std::size_t globalMonitorCount() const { return global_.size(); }
@@ -36,7 +36,7 @@ public:
     int locationReadings = 0;
     std::size_t mostMonitorsAtOnce = 0; ///< global and local ones together
 
-    /// Every handler that was ever handed over, also those of monitors that are gone.
+    /// All handlers ever installed, also those of destroyed monitors.
     std::vector<Handler> handlers;
 
 private:

@@ -7,7 +7,7 @@
 
 namespace brellowind::test {
 
-/// The screens that the test says are connected.
+/// Screens that are connected by the test.
 class FakeScreens final : public platform::Screens {
 public:
     std::vector<platform::Screen> screens() override { return connected; }
@@ -17,7 +17,7 @@ public:
         return observers_->add(std::move(callback));
     }
 
-    /// Tells those who asked that the arrangement has changed.
+    /// Notifies the observers of a change of the arrangement.
     void announceChange() { observers_->notify(); }
 
     std::vector<platform::Screen> connected;

@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-// How failed expectations show geometry.
+// Printing of geometry by failed expectations.
 namespace brellowind {
 
 inline void PrintTo(Point point, std::ostream* out) {

@@ -9,7 +9,7 @@
 
 namespace brellowind::test {
 
-/// What a root view is made of, on a machine of the test's own.
+/// The parts of a root view, on a fake machine.
 struct RootViewParts : SettingsParts {
     using SettingsParts::SettingsParts;
 
@@ -32,7 +32,7 @@ struct RootViewParts : SettingsParts {
             .openSettings = std::move(openSettings)});
     }
 
-    platform::ImageDecoder* decoder = nullptr; ///< in place of the machine's
+    platform::ImageDecoder* decoder = nullptr; ///< instead of the machine's
 };
 
 } // namespace brellowind::test

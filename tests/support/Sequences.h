@@ -15,10 +15,10 @@
 #include <utility>
 #include <vector>
 
-// A program held against a small model of it, on sequences of steps that a seed decides.
+// Model-based testing: compares the program with a model on pseudo-random sequences of steps.
 namespace brellowind::test {
 
-/// Where program and model part; absent while they agree.
+/// A difference between program and model; nullopt if they agree.
 using Disagreement = std::optional<std::string>;
 
 template <typename Step>
@@ -27,18 +27,18 @@ using Steps = std::vector<Step>;
 template <typename Step>
 struct Experiment {
     std::function<Step(Chance&)> step;
-    std::function<Disagreement(const Steps<Step>&)> run; ///< anew from the beginning each time
+    std::function<Disagreement(const Steps<Step>&)> run; ///< runs from the beginning each time
     int mostSteps = 48;
 };
 
 template <typename Step>
 struct Finding {
     std::uint64_t seed;
-    Steps<Step> steps; ///< none of them can be left out
+    Steps<Step> steps; ///< minimal: none of them can be removed
     std::string disagreement;
 };
 
-/// Has a new `Comparison` take the steps one after the other, up to the first disagreement.
+/// Runs the steps on a new `Comparison` up to the first disagreement.
 template <typename Comparison, typename Step>
 Disagreement compared(const Steps<Step>& steps) {
     Comparison comparison;
@@ -48,7 +48,7 @@ Disagreement compared(const Steps<Step>& steps) {
     return std::nullopt;
 }
 
-/// Leaves out steps for as long as there is a disagreement without them.
+/// Shrinks the steps while there is a disagreement.
 template <typename Step>
 Steps<Step> shortened(const Experiment<Step>& experiment, Steps<Step> steps) {
     for (bool shorter = true; shorter;) {
@@ -82,7 +82,7 @@ std::optional<Finding<Step>> findDisagreement(const Experiment<Step>& experiment
     return std::nullopt;
 }
 
-/// The number in an environment variable, or `otherwise`.
+/// The number in an environment variable, by default `otherwise`.
 inline std::uint64_t numberFromEnvironment(const char* name, std::uint64_t otherwise) {
     const char* set = std::getenv(name);
     if (!set)
@@ -95,8 +95,8 @@ inline std::uint64_t numberFromEnvironment(const char* name, std::uint64_t other
     return number;
 }
 
-/// Fails the running test with the shortest sequence on which program and model part. It runs the
-/// seeds 1 to 100,000; BRELLOWIND_SEED and BRELLOWIND_SEQUENCES in the environment choose others.
+/// Fails the test with the shortest sequence on which program and model disagree. Runs the seeds 1
+/// to 100,000; the variables BRELLOWIND_SEED and BRELLOWIND_SEQUENCES choose others.
 template <typename Step>
 void expectAgreement(const Experiment<Step>& experiment) {
     const auto firstSeed = numberFromEnvironment("BRELLOWIND_SEED", 1);

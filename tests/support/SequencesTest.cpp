@@ -5,7 +5,7 @@
 namespace brellowind::test {
 namespace {
 
-/// Numbers, which disagree as soon as a 7 follows a 3.
+/// Numbers, with a disagreement when a 7 follows a 3.
 Experiment<int> sevenAfterThree() {
     return {
         .step = [](Chance& chance) { return chance.below(10); },

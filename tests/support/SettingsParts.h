@@ -7,7 +7,7 @@
 
 namespace brellowind::test {
 
-/// What the settings are shown from, on a machine of the test's own.
+/// The parts of the settings, on a fake machine.
 struct SettingsParts {
     explicit SettingsParts(TestMachine& machine_) : machine(machine_) {}
 

@@ -7,7 +7,7 @@
 
 namespace brellowind::test {
 
-/// An empty folder that is there for as long as this object lives.
+/// An empty folder, removed by the destructor.
 class TemporaryFolder {
 public:
     TemporaryFolder() {

@@ -23,7 +23,7 @@
 
 namespace brellowind::test {
 
-/// A wall clock that runs with the fake main loop and can be put forward or back.
+/// A wall clock that runs with the fake main loop and can be changed.
 class FakeClock final : public platform::Clock {
 public:
     explicit FakeClock(const FakeMainLoop& loop) : loop_(loop) {}
@@ -61,10 +61,10 @@ public:
     std::unique_ptr<platform::Transfer> send(const platform::HttpRequest& request,
                                              Completion completion) override;
 
-    /// Ends the transfer of the `index`-th request ever sent.
+    /// Completes the transfer of the `index`-th request.
     void answer(std::size_t index, platform::HttpResult result);
 
-    /// How many requests are neither answered nor aborted.
+    /// The number of open requests.
     std::size_t pending() const;
 
     std::vector<std::shared_ptr<Pending>> requests;
@@ -79,7 +79,7 @@ public:
     int terminations = 0;
 };
 
-/// Remembers the links that were to be opened.
+/// Records the opened links.
 class FakeLinkOpener final : public platform::LinkOpener {
 public:
     bool open(std::string_view url) override {
@@ -91,7 +91,7 @@ public:
     std::vector<std::string> opened;
 };
 
-/// A login item whose registrations and unregistrations succeed unless the test says what fails.
+/// A login item whose operations succeed unless the test sets a failure.
 class FakeLoginItem final : public platform::LoginItem {
 public:
     Status status() override { return current; }
@@ -112,7 +112,7 @@ private:
                                        const std::optional<std::string>& error, Status outcome);
 };
 
-/// An image that remembers the bytes it came from.
+/// An image that stores its encoded bytes.
 class FakeImage final : public platform::Image {
 public:
     explicit FakeImage(std::string_view bytes_) : bytes(bytes_) {}
@@ -120,7 +120,7 @@ public:
     const std::string bytes;
 };
 
-/// Decodes whatever begins with "image".
+/// Decodes all data that begins with "image".
 class FakeImageDecoder final : public platform::ImageDecoder {
 public:
     std::shared_ptr<const platform::Image> decode(std::string_view bytes,
@@ -129,7 +129,7 @@ public:
     }
 };
 
-/// Holds the files that a test puts there, by their locations.
+/// Files in memory, by their URLs.
 class FakeLocalFiles final : public platform::LocalFiles {
 public:
     std::optional<std::string> read(std::string_view url, std::size_t maximumBytes) override {
@@ -142,14 +142,14 @@ public:
     std::map<std::string, std::string> contents;
 };
 
-/// Of a build whose owner supplied no address.
+/// The constants of a build without addresses.
 inline platform::ProductConstants constantsWithoutAddresses() {
     platform::ProductConstants constants;
     constants.version = "1.0";
     return constants;
 }
 
-/// The whole machine of one test.
+/// A fake machine.
 struct TestMachine {
     FakeMainLoop mainLoop;
     TaskRunner tasks{mainLoop};

@@ -8,8 +8,8 @@
 #include <new>
 #include <string>
 
-// The pill is redrawn twenty times a second for as long as music plays. What the logic does then
-// must not touch the heap, so this program counts every call of the global operator new.
+// While music plays, the pill is redrawn 20 times a second, and the logic must not allocate. This
+// program counts all calls of the global operator new.
 
 namespace {
 
@@ -78,7 +78,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// How many allocations `work` makes.
+/// The number of allocations by `work`.
 template <typename Work>
 std::size_t allocationsDuring(Work work) {
     const std::size_t before = allocations;
@@ -86,7 +86,7 @@ std::size_t allocationsDuring(Work work) {
     return allocations - before;
 }
 
-/// A view whose song plays, with a line every ten seconds, each too long for a small string.
+/// A playing song with a line every ten seconds, each too long for the small-string optimisation.
 struct PlayingView {
     PlayingView() {
         spotify.title = "A title that is too long for the small buffer of a string";

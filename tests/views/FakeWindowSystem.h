@@ -35,7 +35,7 @@ public:
     std::string sessionName() const override { return "offscreen"; }
 
     FakeOverlay* overlay = nullptr; ///< the last one; the window owns it
-    Point poppedUpAt;               ///< where the last popup was to be
+    Point poppedUpAt;               ///< position of the last popup
 
 private:
     FakeScreens& screens_;

@@ -10,7 +10,7 @@ using platform::HttpResponse;
 using platform::TransportError;
 using test::View;
 
-/// A view whose songs have covers at "https://covers.example/" and the title.
+/// A view whose songs have covers at "https://covers.example/", followed by the title.
 class NotchRootViewArtwork : public testing::Test {
 protected:
     NotchRootViewArtwork() {
@@ -20,7 +20,7 @@ protected:
 
     static std::string cover(const std::string& title) { return "https://covers.example/" + title; }
 
-    /// The next song begins, with a cover at `artwork`.
+    /// Starts the next song, with a cover at `artwork`.
     void play(const std::string& title, const std::string& artwork) {
         view.spotify.playSong(title);
         view.spotify.artwork = artwork;
@@ -42,13 +42,13 @@ protected:
         return view.machine.http.requests.at(fetches().at(index))->request;
     }
 
-    /// Ends the `index`-th fetch of a cover.
+    /// Completes the `index`-th fetch of a cover.
     void answer(std::size_t index, platform::HttpResult result) {
         view.machine.http.answer(fetches().at(index), std::move(result));
         view.runTurns();
     }
 
-    /// The bytes of the cover that is shown; empty when there is none.
+    /// The bytes of the shown cover; empty if there is none.
     std::string shown() const {
         const auto& image = view.view.artwork().image.get();
         return image ? dynamic_cast<const test::FakeImage&>(*image).bytes : std::string();

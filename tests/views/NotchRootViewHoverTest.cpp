@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 using test::FakeOverlay;
 using test::View;
 
-/// Whether the window ignored mouse events after its last call; nothing before the first one.
+/// The last value of the window's setIgnoresMouseEvents; nullopt before the first call.
 std::optional<bool> ignoresMouse(const View& view) {
     std::optional<bool> ignores;
     for (const auto& call : view.window.calls)

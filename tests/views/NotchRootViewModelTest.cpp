@@ -6,7 +6,7 @@
 #include <ostream>
 #include <set>
 
-// The pill held against a model of its forms, whoever points, taps, plays, pauses or sings.
+// Compares the pill's form with a model, on random pointer movements, taps, playback and lyrics.
 namespace brellowind {
 namespace {
 
@@ -32,7 +32,7 @@ struct Step {
         answer,
     } kind;
     int number = 0;
-    bool endsTurn = true; ///< whether the main loop gets to run after it
+    bool endsTurn = true; ///< whether the main loop runs after it
 };
 
 std::ostream& operator<<(std::ostream& out, const Step& step) {
@@ -57,10 +57,10 @@ Step anyStep(test::Chance& chance) {
     return {kind, chance.below(6), endsTurn};
 }
 
-/// The three looks of the pill, and what lies under the artwork panel.
+/// The three forms of the pill, and the one below the artwork panel.
 enum class Look { line, band, panel, panelOverBand };
 
-/// What taps, playing and pointing make of the pill.
+/// The model of the pill.
 class Model {
 public:
     Look look = Look::line;
@@ -76,7 +76,7 @@ public:
 
     std::set<int> hoveredItems; ///< cover, grabber, waveform
 
-    /// What the tap area of the whole form does: the pill's background, or the panel.
+    /// A tap on the background of the pill, or on the panel.
     void tapPanel() {
         switch (look) {
         case Look::line:
@@ -95,7 +95,7 @@ public:
     void tapCover() { look = Look::panel; }
     bool showsPanel() const { return look == Look::panel || look == Look::panelOverBand; }
 
-    /// A turn of the main loop in which the pill sees how things are.
+    /// A turn of the main loop, in which the pill is updated.
     void turn(bool plays, bool inside) {
         hovered_ = inside;
         if (plays == plays_)
@@ -124,7 +124,7 @@ private:
     std::vector<int> pulseEnds_;
 };
 
-/// The text, told the slow and simple way.
+/// The pill's text, computed by a simple linear search.
 std::string expectedText(const NowPlaying& nowPlaying, const LyricsState& lyrics) {
     if (!nowPlaying.track.get())
         return "No music playing";
@@ -139,7 +139,7 @@ std::string expectedText(const NowPlaying& nowPlaying, const LyricsState& lyrics
     return text.empty() ? "♪" : text;
 }
 
-/// The view and those around it, and the model beside it.
+/// The view, its fake machine and the model.
 class Comparison {
 public:
     Comparison() {
@@ -164,12 +164,12 @@ private:
     bool plays() const { return view_.view.nowPlaying().isPlaying.get(); }
 
     test::Disagreement advance(int milliseconds) {
-        view_.runTurns(); // what the steps before have left for their turn
+        view_.runTurns(); // pending work of previous steps
         model_.turn(plays(), inside_);
         for (int passed = 0; passed < milliseconds; passed += sliceMs) {
             view_.advance(std::chrono::milliseconds(sliceMs));
             model_.pass(sliceMs);
-            model_.endPulses(); // a reading of the same moment comes a turn later
+            model_.endPulses(); // a reading at the same time is a turn later
             model_.turn(plays(), inside_);
             if (auto disagreement = difference())
                 return disagreement;
@@ -204,7 +204,7 @@ private:
         }
     }
 
-    /// In the middle of the pill, on its margin, or farther and farther away.
+    /// In the middle of the pill, on its margin, or farther away.
     void point(int place) {
         const double aside = size_.width / 2;
         const double offsets[] = {0, aside - 1, aside + 7, aside + 9, aside + 200, 700};
@@ -323,7 +323,7 @@ private:
 
     bool ignoresMouse() const {
         if (view_.window.calls.empty())
-            return true; // as its owner made it
+            return true; // the initial value
         return std::get<test::FakeOverlay::SetIgnoresMouseEvents>(view_.window.calls.back())
             .ignores;
     }

@@ -17,16 +17,16 @@ QImage painted(QSize size, const std::function<void(QPainter&)>& paint, double r
 /// What `item` draws with its origin at `origin` of a clear image.
 QImage painted(Item& item, QSize size, QPointF origin = {}, double ratio = 1);
 
-/// The smallest rectangle, in pixels, that holds all that is not clear.
+/// The bounding rectangle of pixels that are not transparent.
 QRect inkRect(const QImage& image);
 
-/// The sum of all opacities, 0 to 1 each.
+/// The sum of the opacities, each from 0 to 1.
 double ink(const QImage& image);
 
-/// The largest difference of two channels at the same place. The images are of one size.
+/// The largest difference in any channel of any pixel. The images must have the same size.
 int largestDifference(const QImage& a, const QImage& b);
 
-/// Draws nothing, but remembers how large the images are that it is given.
+/// A paint device that draws nothing and records the sizes of the images.
 class ImageRecorder final : public QPaintDevice {
 public:
     explicit ImageRecorder(QSize size);
@@ -34,7 +34,7 @@ public:
 
     QPaintEngine* paintEngine() const override;
 
-    /// The most pixels that one image had.
+    /// The number of pixels of the largest image.
     qint64 largestImage() const;
 
 protected:

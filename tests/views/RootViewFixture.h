@@ -11,12 +11,12 @@
 
 namespace brellowind::test {
 
-/// The answer of the lyrics service that carries `lrc`, which is written as in a JSON text.
+/// The lyrics service's answer with `lrc`, which is JSON-escaped.
 inline platform::HttpResponse synced(const std::string& lrc) {
     return {200, R"({"syncedLyrics":")" + lrc + R"("})"};
 }
 
-/// A view on a laptop with a notch, with a player that is paused in a song. The pointer is nowhere.
+/// A view on a laptop with a notch, with a paused player. The pointer is unknown.
 struct View {
     static constexpr Rect screenFrame{0, 0, 1512, 982};
     static constexpr Point overThePill{756, 970};
@@ -59,20 +59,20 @@ struct View {
         runTurns();
     }
 
-    /// Shows the view while Spotify plays, and lets the service answer.
+    /// Shows the view while Spotify plays, and answers the lyrics request.
     void appearAnswered(platform::HttpResult answer) {
         appear();
         machine.http.answer(0, std::move(answer));
         runTurns();
     }
 
-    /// The player begins, or goes on, to play; the next reading finds out.
+    /// Starts or resumes playback, which the next reading detects.
     void resume() {
         spotify.plays = true;
         advance(std::chrono::seconds(1));
     }
 
-    /// The player pauses; the next reading finds out.
+    /// Pauses playback, which the next reading detects.
     void pause() {
         spotify.plays = false;
         advance(std::chrono::seconds(1));

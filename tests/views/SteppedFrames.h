@@ -4,10 +4,10 @@
 
 namespace brellowind::test {
 
-/// Makes frames when it is told to. Its clock stands still in between.
+/// A frame driver with simulated time.
 class SteppedFrames final : public FrameDriver {
 public:
-    /// Lets `seconds` pass and makes a frame.
+    /// Advances the clock by `seconds` and makes a frame.
     void step(double seconds) {
         now_ += seconds;
         makeFrame();

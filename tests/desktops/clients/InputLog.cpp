@@ -50,7 +50,7 @@ InputLog::InputLog(const WaylandConnection& connection)
         },
         [](void*, wl_seat*, const char*) {}};
     wl_seat_add_listener(seat_, &listener, this);
-    connection.finish(); // so that it has the devices before a surface can get anything from them
+    connection.finish(); // binds the devices before a surface can receive input
 }
 
 wl_pointer_listener InputLog::pointerListener() {

@@ -4,7 +4,7 @@
 
 namespace brellowind::test {
 
-/// A surface of one opaque colour. Each time that it is seen in a new size it writes the line
+/// A surface of one opaque colour. Each time it is presented in a new size it prints the line
 /// "shown WIDTH HEIGHT", in points.
 class PlainSurface {
 public:
@@ -18,8 +18,7 @@ public:
     /// Fills and commits it in this size, once its role is configured.
     void show(int width, int height);
 
-    /// The same without a word about it, for a compositor that tells no size before it has seen
-    /// one.
+    /// The same without output, for compositors that configure a size only after the first commit.
     void showProvisionally() { fill(1, 1); }
 
 private:

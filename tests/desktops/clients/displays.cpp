@@ -1,6 +1,6 @@
-// Writes what leads to the displays of the session in which a compositor has started it, one
-// variable a line, to the file that its argument names. Stays until the compositor goes, for a
-// compositor that goes when the program does that it has started.
+// Started by a compositor: writes the environment variables of its displays, one per line, to the
+// file in its argument. Runs until the compositor exits, since some compositors exit with their
+// child.
 #include "desktops/WaylandConnection.h"
 
 #include <cstdio>

@@ -1,6 +1,5 @@
-// A person's pointer, keyboard and finger for KWin, which lets only programs of its own user have
-// them. Takes lines from standard input, and writes the line "done" when KWin has taken one, and
-// when it is ready for the first:
+// Simulated input for KWin, which accepts it from programs of its own user only. Executes commands
+// from standard input, one per line, and prints the line "done" after each, and when it is ready:
 //     move X Y | move-by X Y | button CODE 0|1 | key CODE 0|1 | tap X Y
 #include "desktops/WaylandConnection.h"
 

@@ -1,4 +1,4 @@
-// A panel of one colour, 32 points high, at the top edge, that logs what a person does to it.
+// A panel of one colour, 32 points high, at the top edge, that logs its input.
 //     desktop-panel RRGGBB
 #include "desktops/clients/InputLog.h"
 #include "desktops/clients/PlainSurface.h"

@@ -1,5 +1,4 @@
-// A window of one colour that logs what a person does to it, until the compositor or the person
-// closes it.
+// A window of one colour that logs its input until it is closed.
 //     desktop-window full-screen|maximized RRGGBB
 #include "desktops/clients/InputLog.h"
 #include "desktops/clients/PlainSurface.h"

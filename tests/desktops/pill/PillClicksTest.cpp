@@ -5,7 +5,7 @@
 namespace brellowind::test {
 namespace {
 
-/// Presses of it do nothing to the pill.
+/// A button that the pill ignores.
 constexpr int middleButton = 0x112;
 
 /// The pill's corners are round.
@@ -36,8 +36,8 @@ protected:
 
     void click(QPointF place) { compositor->click(place, middleButton); }
 
-    /// Where the window below was pressed since it was last asked, in order: all presses up to one
-    /// far from the pill.
+    /// The positions of presses on the window below since the last call, up to one far from the
+    /// pill.
     QList<QPointF> reached() {
         const QPointF last = screen().bottomRight() - QPoint(5, 5);
         click(last);

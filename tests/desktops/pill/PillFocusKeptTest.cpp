@@ -3,7 +3,7 @@
 namespace brellowind::test {
 namespace {
 
-/// On a compositor that gives the keyboard to nobody who does not ask for it.
+/// On a compositor that gives the focus on request only.
 class PillFocusKept : public PillOnCompositor {
 protected:
     PillFocusKept() { EXPECT_TRUE(below().awaitLine(QStringLiteral("keyboard enter"))); }

@@ -5,7 +5,7 @@ namespace {
 
 constexpr int letterA = 30;
 
-/// The keyboard, which is the window's.
+/// The keyboard focus stays with the window.
 class PillFocus : public PillOnCompositor {
 protected:
     PillFocus() { EXPECT_TRUE(below().awaitLine(QStringLiteral("keyboard enter"))); }
@@ -34,7 +34,7 @@ TEST_F(PillFocus, StaysWithTheWindowWhileThePillIsHoveredAndTapped) {
     EXPECT_TRUE(keysReachTheWindow());
     compositor->click(background());
     EXPECT_TRUE(program->becomes("isMinimized"));
-    EXPECT_TRUE(program->comesToRest()); // some compositors lend it the keyboard for a moment
+    EXPECT_TRUE(program->comesToRest()); // some compositors give it the focus briefly
     EXPECT_TRUE(keysReachTheWindow());
     compositor->click(background());
     EXPECT_TRUE(program->becomes("isMinimized", false));

@@ -8,7 +8,7 @@ constexpr int escape = 1;
 constexpr int upArrow = 103;
 constexpr int downArrow = 108;
 
-/// The menu's background is nearly black; an entry that is pointed at is lighter.
+/// The menu's background is nearly black; a highlighted entry is lighter.
 bool isBackground(const QColor& colour) {
     return colour.value() > 20 && colour.value() < 40;
 }
@@ -21,7 +21,7 @@ class PillMenu : public PillOnCompositor {
 protected:
     using PillOnCompositor::PillOnCompositor;
 
-    /// A place of an entry beside its text.
+    /// A point of an entry beside its text.
     QPointF besideTextOf(const char* entry) {
         const QRectF rectangle = program->menuEntry(entry);
         return program->menuPlace().topLeft() + rectangle.center() +

@@ -16,41 +16,41 @@
 
 namespace brellowind::test {
 
-/// The pill on a compositor without panels, and a person with a pointer and a keyboard. Places are
-/// in points of the desktop.
+/// The pill on a compositor without panels, with simulated input. Positions are in points of the
+/// desktop.
 class PillOnCompositor : public testing::Test {
 protected:
     explicit PillOnCompositor(const CompositorOptions& options = {});
 
-    /// The program is started by the test, once the desktop is as the test wants it.
+    /// The test starts the program when it has set up the desktop.
     ObservedProgram& start();
 
-    /// Starts the program with a player that sings "line", and waits until the pill rests.
+    /// Starts the program with a player and the lyrics "line", and waits until the pill is at rest.
     ObservedProgram& startSinging();
 
     /// The first screen.
     QRect screen() const { return compositor->screens().value(0).geometry; }
 
-    /// The window of the pill, as high as it ever is.
+    /// The window of the pill at its maximum height.
     QRectF area() const;
 
-    /// Where one of the pill's items is.
+    /// The rectangle of one of the pill's items.
     QRectF place(const char* item);
     QPointF middleOf(const char* item) { return place(item).center(); }
 
-    /// A place of the pill that shows nothing.
+    /// An empty point of the pill.
     QPointF background() const { return {area().center().x(), area().top() + 12}; }
 
-    /// Moves the pointer into the pill and on within it, as a mouse does, until the pill knows.
+    /// Moves the pointer into the pill and within it until the pill has detected it.
     bool hoverPill();
 
     /// Moves the pointer into the pill and waits until the pill is lifted.
     void enterPill();
 
-    /// Moves the pointer out of the pill as a mouse does and waits until the pill is back.
+    /// Moves the pointer out of the pill and waits until the pill is lowered.
     void leavePill();
 
-    /// Presses the secondary button on the pill and waits for the context menu.
+    /// Opens the context menu with the secondary button and waits for it.
     void openMenuAt(QPointF place);
     void openMenu() { openMenuAt(middleOf("lyricLine")); }
 
@@ -62,19 +62,19 @@ protected:
     /// Opens the context menu and presses an entry of it.
     void choose(const char* entry);
 
-    /// The window beneath the pill, which covers the whole screen.
+    /// The full-screen window below the pill.
     PressLog& below();
     static QColor colourBelow() { return {0x33, 0x66, 0xcc}; }
 
-    /// What the first screen shows.
+    /// A screenshot of the first screen.
     Picture picture() const;
 
-    /// In a picture of the first screen, in pixels: what lies in the pill's window and is not of
-    /// the window below.
+    /// In a screenshot of the first screen, in pixels: the part of the pill's window that differs
+    /// from the window below.
     QRect silhouette(const Picture& picture) const;
 
-    /// Waits until the first screen shows what `holds`, and keeps the picture under `name` for
-    /// people to look at, either way.
+    /// Waits until `holds` is true for a screenshot of the first screen, and saves the last one
+    /// under `name` for review.
     testing::AssertionResult shows(const char* name,
                                    const std::function<bool(const Picture&)>& holds) const;
 

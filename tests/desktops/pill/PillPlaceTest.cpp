@@ -7,7 +7,7 @@ namespace {
 
 class PillPlace : public PillOnCompositor {
 protected:
-    /// The pill's silhouette is where it says to be, to a pixel.
+    /// Checks that the pill's silhouette is at the reported position, to a pixel.
     bool isInPlace(const Picture& picture) {
         const QRect seen = silhouette(picture);
         const QRectF told = place("pill");

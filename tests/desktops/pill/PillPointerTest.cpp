@@ -41,7 +41,7 @@ TEST_F(PillPointer, OverThePillLiftsItWithAWholeShadow) {
     const QRect atRest = silhouette(picture());
     enterPill();
     const QRectF pill = place("pill");
-    // Nearly black at the pill, and it fades out before the surface ends.
+    // Nearly black at the pill, faded out at the end of the surface.
     EXPECT_TRUE(shows("hovered", [&](const Picture& picture) {
         const QRect seen = silhouette(picture);
         const QColor shadow = picture.at({pill.center().x(), pill.bottom() + 5});

@@ -27,8 +27,7 @@ protected:
                std::abs(seen.left() + seen.right() + 1 - picture.image().width()) <= 1;
     }
 
-    /// Text was not drawn at another size and stretched: that leaves no sharp edge, or each edge
-    /// twice.
+    /// Whether text was drawn at the native resolution: scaling leaves blurred or doubled edges.
     bool isSharp(const Picture& picture, QRectF place) const {
         const QRect text = inPixels(place, GetParam());
         return picture.sharpestStep(text) > 180 && picture.repeatedColumns(text) < 0.2;
@@ -36,7 +35,7 @@ protected:
 
     bool isSharp(const Picture& picture) { return isSharp(picture, place("lyricLine")); }
 
-    /// The beginnings of the menu's entries.
+    /// The left parts of the menu's entries.
     QRectF textsOfMenu() {
         const QRectF menu = program->menuPlace();
         return menu.adjusted(15, 10, -menu.width() / 2, -10);

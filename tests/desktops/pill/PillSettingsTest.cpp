@@ -9,7 +9,7 @@ class PillSettings : public PillOnCompositor {
 protected:
     const ObservedSettings& settings() { return program->settings(); }
 
-    /// Beneath the settings.
+    /// The window below the settings.
     PressLog window = PressLog::maximized(*compositor, colourBelow());
 
     /// Whether something as large as they are lies before the window.

@@ -35,7 +35,7 @@ TEST_F(PillOnXWayland, IsHoveredAgainByTheNextMotionAfterTyping) {
     EXPECT_TRUE(program->becomes("hovered"));
 }
 
-/// XWayland knows the pointer where it was last over an X window, and tells each new window so.
+/// XWayland knows only the pointer's last position over an X window and reports it to new windows.
 TEST_F(PillOnXWayland, IsNotHoveredWhereThePointerOnceWas) {
     startSinging();
     enterPill();

@@ -6,17 +6,17 @@
 
 namespace brellowind::test {
 
-/// Tells on the session bus how long the program's main loop has been kept busy.
+/// A D-Bus object that reports the longest turns of the program's main loop.
 class LoopObserver : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.brellowind.Loop")
 
 public:
-    /// False when there is no bus.
+    /// Returns false if there is no bus.
     bool listen();
 
 public Q_SLOTS:
-    /// The longest turn in microseconds of processor time since this was last asked.
+    /// The longest turn since the last call, in microseconds of CPU time.
     Q_SCRIPTABLE qlonglong LongestTurn();
 
 private:

@@ -23,7 +23,7 @@ QList<double> rectangle(const Item* item) {
     return item ? numbers(item->mapRectToScene(item->boundingRect())) : QList<double>();
 }
 
-/// Once it is exposed it holds pointer and keyboard as well.
+/// Exposed only after it has grabbed pointer and keyboard.
 const SceneWindow* openMenu() {
     for (const auto* window : QGuiApplication::allWindows())
         if (window->objectName() == QStringLiteral("menu") && window->isExposed())
@@ -37,7 +37,7 @@ PillObserver::PillObserver(const SceneWindow& window, NotchRootView& view)
     : window_(window), view_(view), text_(Text(lyricLine)),
       redraws_(view.onRedraw([this] { redraw(); })) {}
 
-/// The pill heard of it first.
+/// Registered after the pill's own observer.
 void PillObserver::redraw() {
     const QString text = Text(lyricLine);
     if (text == std::exchange(text_, text))

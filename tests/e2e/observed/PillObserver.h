@@ -14,31 +14,30 @@ class SceneWindow;
 
 namespace test {
 
-/// Tells on the session bus what the pill's items draw, and where: it reads the very objects that
-/// draw. Rectangles are x, y, width and height in points; an empty list stands for what is not
-/// there.
+/// A D-Bus object that reports the content and the geometry of the pill's items, read from the
+/// items. Rectangles are x, y, width and height in points; empty for missing items.
 class PillObserver : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.brellowind.Pill")
 
 public:
-    /// Both must outlive the observer, and `window` show the pill's items already.
+    /// Both must outlive this object. `window` must have the pill's items.
     PillObserver(const SceneWindow& window, NotchRootView& view);
 
-    /// False when there is no bus or the pill has no line.
+    /// Returns false if there is no bus or the pill has no line.
     bool listen();
 
 public Q_SLOTS:
-    /// What one of the pill's lines shows: "lyricLine" or "panelLine".
+    /// The text of one of the pill's lines: "lyricLine" or "panelLine".
     Q_SCRIPTABLE QString Text(const QString& line) const;
 
-    /// What the pill shows beside texts, such as "isMinimized".
+    /// A flag of the pill's form, such as "isMinimized".
     Q_SCRIPTABLE bool Form(const QString& name) const;
 
-    /// Width and height of one of the pill's items as it is laid out, without what scales it.
+    /// The laid-out size of one of the pill's items, without scaling.
     Q_SCRIPTABLE QList<double> Size(const QString& item) const;
 
-    /// Where one of the pill's items is drawn in the window, with all that scales it.
+    /// The drawn rectangle of one of the pill's items in the window, with scaling.
     Q_SCRIPTABLE QList<double> Rectangle(const QString& item) const;
 
     /// The native window.
@@ -47,10 +46,10 @@ public Q_SLOTS:
     /// The native window of the context menu; 0 while it is closed.
     Q_SCRIPTABLE uint Menu() const;
 
-    /// Where the window of the context menu is on the desktop.
+    /// The geometry of the context menu on the desktop.
     Q_SCRIPTABLE QList<double> MenuPlace() const;
 
-    /// Where an entry of the context menu is in the menu's window.
+    /// The rectangle of an entry in the context menu's window.
     Q_SCRIPTABLE QList<double> MenuEntry(const QString& text) const;
 
 Q_SIGNALS:

@@ -19,8 +19,7 @@ const QQuickView* settingsWindow() {
     return nullptr;
 }
 
-/// Shows every item that can be seen to `visit`, what lies around before what lies inside, until
-/// that returns true.
+/// Calls `visit` for all visible items, parents first, until it returns true.
 bool visitVisible(QQuickItem* item, const std::function<bool(QQuickItem*)>& visit) {
     if (!item->isVisible())
         return false;

@@ -7,7 +7,7 @@
 
 namespace brellowind::test {
 
-/// The one session of a login manager, as it looks on the bus.
+/// The D-Bus object of the login manager's session.
 class FakeSession : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.login1.Session")
@@ -30,14 +30,14 @@ class FakeLoginManager : public QObject {
 public:
     inline static const QString sessionPath = QStringLiteral("/org/freedesktop/login1/session/_37");
 
-    /// Fails the running test when it cannot take its place on `bus`.
+    /// Fails the test if it cannot register on `bus`.
     explicit FakeLoginManager(QDBusConnection bus);
 
     void setLockedHint(bool locked);
     void unlock();
     void announceChange(const QString& path, const QString& property, bool value);
 
-    /// How often somebody has asked for the hint.
+    /// Number of reads of the hint.
     int hintReadings() const { return session_.readings; }
 
     Q_SCRIPTABLE Q_INVOKABLE QDBusObjectPath GetSession(const QString& id) const;

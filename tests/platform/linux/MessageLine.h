@@ -8,14 +8,13 @@
 
 namespace brellowind::test {
 
-/// Sends messages to itself over a connection of its own, without a bus: what arrives is as a
-/// program receives it. Needs a QCoreApplication.
+/// A loopback D-Bus connection without a bus, which marshals messages. Needs a QCoreApplication.
 class MessageLine : QDBusVirtualObject {
 public:
     MessageLine();
     ~MessageLine() override;
 
-    /// The message with `arguments` as it arrives.
+    /// The received message with `arguments`.
     QDBusMessage deliver(const QVariantList& arguments);
 
 private:

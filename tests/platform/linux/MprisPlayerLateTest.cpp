@@ -32,7 +32,7 @@ protected:
         player->setTrack(song(title));
     }
 
-    /// A reading that the player does not answer.
+    /// Starts a reading that the player does not answer.
     void beginWhileItHangs(Answer& answer) {
         player->hang();
         begin(mpris, answer);
@@ -97,7 +97,7 @@ TEST_F(MprisPlayerLate, IsReplacedByItsSuccessor) {
     Answer answer;
     begin(mpris, answer);
     player->kill();
-    startPlayer("Again"); // the adapter learns of both at once
+    startPlayer("Again"); // both changes are processed at once
     EXPECT_TRUE(ends(answer));
     EXPECT_TRUE(readsSoon(mpris, hasTitle("Again")));
     EXPECT_THAT(log, IsEmpty());
@@ -149,7 +149,7 @@ INSTANTIATE_TEST_SUITE_P(
                              {"Spotify AppleScript error: the player does not answer"}}),
     [](const auto& parameter) { return std::to_string(parameter.param.delay.count()); });
 
-/// A bus that knows how to start the player, which leaves a mark.
+/// A bus with an activatable player that leaves a mark.
 class StartablePlayer {
 protected:
     StartablePlayer() {
@@ -197,7 +197,7 @@ TEST_F(MprisPlayerThatCanBeStarted, IsStartedByOtherPeoplesCalls) {
     bus.connection().call(
         QDBusMessage::createMethodCall(QStringLiteral("org.mpris.MediaPlayer2.spotify"),
                                        QStringLiteral("/"), QString(), QStringLiteral("Ping")));
-    EXPECT_TRUE(waitUntil([&] { return wasStarted(); })); // or else the test above could not fail
+    EXPECT_TRUE(waitUntil([&] { return wasStarted(); })); // else the test above could not fail
 }
 
 } // namespace

@@ -144,7 +144,7 @@ TEST_F(MprisPlayerSeveral, OneThatStartsWhileAnotherHangsIsRead) {
     again.setTrack(song("Again"));
     again.setStatus("Playing");
     EXPECT_TRUE(test::waitUntil([&] {
-        passPatience(); // it may have been asked before it played
+        passPatience(); // in case it was asked before it played
         return answer.has_value();
     }));
     EXPECT_THAT(answer, hasTitle("Again"));

@@ -42,12 +42,12 @@ QVariant texts(const std::vector<std::string>& contents) {
     return list;
 }
 
-/// A variant inside the variant that every property is.
+/// A variant within the property's variant.
 QVariant wrapped(const QVariant& value) {
     return QVariant::fromValue(QDBusVariant(value));
 }
 
-/// An `a{sv}` with its entries in this order, the same key twice if need be.
+/// An `a{sv}` with entries in this order; keys may be repeated.
 QVariant mapOf(const Entries& entries) {
     QDBusArgument map;
     map.beginMap(QMetaType::fromType<QString>(), QMetaType::fromType<QDBusVariant>());
@@ -84,7 +84,7 @@ protected:
         return readMpris(line.deliver(arguments));
     }
 
-    /// The reading of a player whose title is "Song" unless the entries have another.
+    /// The reading of the entries, with the default title "Song".
     Player::Snapshot snapshot(const Entries& metadata, const Entries& others = {}) {
         Entries song{{"xesam:title", text("Song")}};
         song.insert(song.end(), metadata.begin(), metadata.end());

@@ -14,38 +14,37 @@
 
 namespace brellowind::platform {
 
-/// A session bus, and the adapter that a test reads players with. How long the adapter waits until
-/// a player is late is up to the test, which moves the time of `mainLoop`.
+/// A session bus and the tested adapter. `mainLoop` has simulated time, which decides when a player
+/// is late.
 class MprisSession : public testing::Test, protected Log {
 protected:
     using Answer = std::optional<Player::Answer>; ///< absent until the reading has ended
 
-    /// The adapter for `players`, names after "org.mpris.MediaPlayer2.".
+    /// The adapter for `players`, names without "org.mpris.MediaPlayer2.".
     MprisPlayer adapter(std::vector<std::string> players = {"spotify"});
 
-    /// Begins a reading, which ends in `answer`.
+    /// Starts a reading, whose result is stored in `answer`.
     void begin(Player& player, Answer& answer);
 
-    /// The answer of a whole reading; absent when it does not end.
+    /// Performs a reading. Returns nullopt if it does not end.
     Answer read(Player& player);
 
-    /// Whether a reading that has begun ends.
+    /// Waits for the end of a started reading; false after a timeout.
     static bool ends(const Answer& answer);
 
-    /// Reads until a reading matches: the bus may tell the test of a change before it tells the
-    /// adapter.
+    /// Reads until a reading matches: the test may be notified of a change before the adapter.
     template <typename Matcher>
     bool readsSoon(Player& player, Matcher matcher);
 
-    /// Runs a play/pause command to its end.
+    /// Performs a play/pause command.
     void playPause(Player& player);
 
-    /// Moves time until players that have not answered are late.
+    /// Advances time until players that have not answered are late.
     void passPatience() { mainLoop.advance(MprisProxy::patience); }
 
     static QVariantMap song(const char* title);
 
-    /// The reading of `song` in a player that stands at its beginning and has never played.
+    /// The reading of `song` in a player at its beginning that has never played.
     static Player::Snapshot snapshotOf(const std::string& title);
 
     /// A line of the log.
@@ -76,7 +75,7 @@ inline auto isSnapshot(const Player::Snapshot& snapshot) {
     return testing::Optional(testing::VariantWith<Player::Snapshot>(snapshot));
 }
 
-/// Whatever the rest of the reading.
+/// Ignores the other fields of the reading.
 inline auto hasTitle(const std::string& title) {
     return testing::Optional(testing::VariantWith<Player::Snapshot>(
         testing::Field(&Player::Snapshot::track, testing::Field(&Track::title, title))));

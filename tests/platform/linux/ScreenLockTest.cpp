@@ -14,7 +14,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// A screen saver's own connection to the bus.
+/// A screen saver with its own bus connection.
 class SaverProcess {
 public:
     explicit SaverProcess(const SessionBus& bus)
@@ -47,13 +47,13 @@ public Q_SLOTS:
 
 const auto gnome = QStringLiteral("org.gnome.ScreenSaver");
 
-/// One bus stands for the session's and the system's.
+/// Uses one bus as session bus and as system bus.
 class ScreenLock : public testing::Test {
 protected:
     void watch() {
         lock.emplace(bus.connection(), bus.connection());
         subscription = lock->onChange([this] { ++changes; });
-        // Once the bus has answered this, it knows whom to tell of what.
+        // A round trip, after which the signal matches are installed.
         bus.connection().interface()->isServiceRegistered(QStringLiteral("any.name"));
     }
 

@@ -4,12 +4,11 @@
 
 namespace brellowind::test {
 
-/// A certificate of its own for 127.0.0.1, made now, with its key: what a server with it needs.
-/// Nobody trusts it. Fails the running test when it cannot be made.
+/// The TLS configuration of a server with a new self-signed certificate for 127.0.0.1. Fails the
+/// test if it cannot be made.
 QSslConfiguration selfSignedServer();
 
-/// Lets every connection of this process that begins in its scope trust the certificate in
-/// `server`.
+/// During its lifetime, new connections of this process trust the certificate in `server`.
 class TrustedCertificate {
 public:
     explicit TrustedCertificate(const QSslConfiguration& server);

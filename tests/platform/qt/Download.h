@@ -12,7 +12,7 @@
 
 namespace brellowind::test {
 
-/// One transfer and what became of it.
+/// A transfer and its result.
 class Download {
 public:
     static constexpr std::size_t limit = 4U << 20U;
@@ -30,14 +30,14 @@ public:
     Download(const Download&) = delete;
     Download& operator=(const Download&) = delete;
 
-    /// Waits for the end. The response, unless there is none.
+    /// Waits for the end. Returns the response, if any.
     std::optional<platform::HttpResponse> response() {
         if (!ends() || !std::holds_alternative<platform::HttpResponse>(*result_))
             return std::nullopt;
         return std::get<platform::HttpResponse>(*result_);
     }
 
-    /// Waits for the end. Whether it is a transport error that says why.
+    /// Waits for the end. Returns whether it is a transport error with a description.
     bool fails() {
         return ends() && std::holds_alternative<platform::TransportError>(*result_) &&
                !std::get<platform::TransportError>(*result_).description.empty();
@@ -58,7 +58,7 @@ private:
     std::unique_ptr<platform::Transfer> transfer_;
 };
 
-/// A whole response with `headers`, each ended by CR LF.
+/// A complete response with `headers`, each ended by CR LF.
 inline QByteArray httpResponse(const QByteArray& headers, const QByteArray& body = {}) {
     return "HTTP/1.1 200 OK\r\n" + headers + "\r\n" + body;
 }

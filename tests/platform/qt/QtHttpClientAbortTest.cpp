@@ -27,7 +27,7 @@ std::string behaviourName(const testing::TestParamInfo<Behaviour>& parameter) {
     return parameter.param.name;
 }
 
-/// The client and a server that remembers the connection of the last request.
+/// The client and a server that stores the connection of the last request.
 class QtHttpClientAbort : public testing::Test {
 protected:
     HttpRequest request(std::chrono::milliseconds timeout = 60s) const {
@@ -53,7 +53,7 @@ protected:
     QtHttpClient client{mainLoop};
 };
 
-/// Sends `byte` again and again, each a moment after the one before.
+/// Sends `byte` repeatedly, with delays.
 void drip(const Exchange& exchange, const QByteArray& byte) {
     auto* timer = new QTimer(exchange.connection);
     QObject::connect(timer, &QTimer::timeout, timer, [exchange, byte] { exchange.send(byte); });

@@ -12,10 +12,10 @@ using demo::Exchange;
 using demo::LoopbackServer;
 using test::Download;
 
-/// The client, and a server that says how its body is encoded.
+/// The client, and a server with a Content-Encoding.
 class QtHttpClientEncoding : public testing::Test {
 protected:
-    /// What the client makes of `sent` with the header; nothing when the transfer fails.
+    /// The body that the client receives for `sent` with the header; nullopt on failure.
     std::optional<std::string> body(const QByteArray& encoding, const QByteArray& sent) {
         handler = [=](const Exchange& exchange) {
             exchange.send(test::httpResponse(

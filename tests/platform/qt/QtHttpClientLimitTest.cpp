@@ -25,7 +25,7 @@ QByteArray contentLength(qsizetype size) {
     return "Content-Length: " + QByteArray::number(size) + "\r\n";
 }
 
-/// The client, and a server that answers every request with `bytes` and closes only if told so.
+/// The client, and a server that answers every request with `bytes` and optionally closes.
 class QtHttpClientLimit : public testing::Test {
 protected:
     static constexpr qsizetype limit = static_cast<qsizetype>(Download::limit);
@@ -47,7 +47,7 @@ protected:
         EXPECT_EQ(download.completions(), 1);
     }
 
-    /// For a body that is still on its way when it becomes too long.
+    /// For a body that exceeds the limit before its end.
     void expectFailsAndCloses() {
         expectFails();
         EXPECT_TRUE(connectionClosed());
@@ -97,7 +97,7 @@ TEST_F(QtHttpClientLimit, ABodyOfExactlyTheLimitThatEndsWithTheConnectionPasses)
 }
 
 TEST_F(QtHttpClientLimit, OneByteMoreFailsWithoutWaitingForTheEnd) {
-    bytes = httpResponse({}, QByteArray(limit + 1, 'x')); // and never an end
+    bytes = httpResponse({}, QByteArray(limit + 1, 'x')); // without an end
     expectFailsAndCloses();
 }
 
@@ -150,8 +150,7 @@ TEST_F(QtHttpClientLimit, ABodyWithoutEndFailsWithoutReadingAhead) {
     EXPECT_LT(sent, 10 * limit);
 }
 
-/// Answers one request with far more than anybody wants, as fast as it is taken, until nothing has
-/// been taken for a while.
+/// Answers one request with a huge body, as fast as it is read, until nothing is read for a while.
 class Flood {
 public:
     static constexpr qint64 size = 256 << 20;
@@ -172,7 +171,7 @@ public:
     QString url() const { return QStringLiteral("http://127.0.0.1:%1/").arg(port_); }
     bool hasBegun() const { return begun_; }
 
-    /// Blocks. How much of it was taken.
+    /// Blocks. Returns the number of bytes that were read.
     qint64 taken() {
         thread_.join();
         return taken_;
@@ -207,7 +206,7 @@ TEST_F(QtHttpClientLimit, ABodyThatComesWhileTheProgramIsBusyWaitsOnTheNetwork) 
     Flood flood;
     Download download(client, flood.url());
     ASSERT_TRUE(waitUntil([&] { return flood.hasBegun(); }));
-    EXPECT_LT(flood.taken(), Flood::size / 4); // the program's loop stands still meanwhile
+    EXPECT_LT(flood.taken(), Flood::size / 4); // while the program's main loop is blocked
     EXPECT_TRUE(download.fails());
 }
 

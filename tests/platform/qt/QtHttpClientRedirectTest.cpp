@@ -15,7 +15,7 @@ using demo::LoopbackServer;
 using test::Download;
 using test::TrustedCertificate;
 
-/// A server that answers "/goal" and sends everybody else to `location`.
+/// A server that answers "/goal" and redirects other requests to `location`.
 class Signpost {
 public:
     Signpost() : server([this](const Exchange& exchange) { answer(exchange); }) {}
@@ -157,7 +157,7 @@ TEST_F(QtHttpClientRedirect, AServerThatOffersHttp2IsAskedInHttp1) {
     const TrustedCertificate trust(tls());
     auto offer = tls();
     offer.setAllowedNextProtocols({"h2", "http/1.1"});
-    Signpost secure(offer); // which would not understand HTTP/2
+    Signpost secure(offer); // does not support HTTP/2
     secure.location = "/goal";
     EXPECT_TRUE(arrives(secure.url("/start")));
 }

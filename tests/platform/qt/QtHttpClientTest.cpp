@@ -17,7 +17,7 @@ using demo::LoopbackServer;
 using test::Download;
 using test::waitUntil;
 
-/// The client and a server that keeps each request it read.
+/// The client and a server that stores the requests.
 class QtHttpClientTest : public testing::Test {
 protected:
     QString url(const char* target) const { return server.origin() + QLatin1String(target); }

@@ -37,7 +37,7 @@ std::string encoded(const QImage& image, const char* format) {
     return bytes.toStdString();
 }
 
-/// What the program would show of `bytes`; null when that is nothing.
+/// The decoded image of `bytes`; null if rejected.
 QImage decoded(std::string_view bytes) {
     QtImageDecoder decoder;
     const auto image = decoder.decode(bytes, largestPoints);
@@ -67,7 +67,7 @@ void appendChunk(std::string& to, const std::string& type, const std::string& da
     appendNumber(to, ~remainder);
 }
 
-/// A PNG that says how large it is, and then hardly has a pixel.
+/// A PNG with a header for this size and almost no data.
 std::string pngThatClaims(std::uint32_t width, std::uint32_t height) {
     std::string header;
     appendNumber(header, width);
@@ -80,7 +80,7 @@ std::string pngThatClaims(std::uint32_t width, std::uint32_t height) {
     return png;
 }
 
-/// A JPEG with the EXIF mark of a camera that was held upright by its left side.
+/// A JPEG with the EXIF orientation of a camera in portrait position.
 std::string turned(std::string jpeg) {
     const std::string mark("\xFF\xE1\x00\x22"
                            "Exif\0\0"
@@ -187,7 +187,7 @@ TEST(QtImageDecoder, RefusesAnImageThatClaimsToBeTooLarge) {
 }
 
 TEST(QtImageDecoder, DrawsTheLineAtSixtyFourMebibytesDecoded) {
-    QImage atLimit(4096, 4096, QImage::Format_Mono); // small to make, and counted as 32 bits
+    QImage atLimit(4096, 4096, QImage::Format_Mono); // small to make, counted as 32 bits
     atLimit.fill(1);
     EXPECT_EQ(decoded(encoded(atLimit, "png")).width(), largestSide());
     QImage beyond(4097, 4096, QImage::Format_Mono);

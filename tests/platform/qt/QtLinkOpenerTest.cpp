@@ -10,13 +10,13 @@
 namespace brellowind::platform {
 namespace {
 
-/// While it lives, programs are searched for in a folder of the test's own.
+/// During its lifetime, PATH is a folder of the test.
 class QtLinkOpenerTest : public testing::Test {
 protected:
     QtLinkOpenerTest() { qputenv("PATH", folder.path().toUtf8()); }
     ~QtLinkOpenerTest() override { qputenv("PATH", searchPath); }
 
-    /// Installs a program that writes down its arguments and one variable of its environment.
+    /// Installs a program that records its arguments and one environment variable.
     void install() const {
         QFile script(folder.filePath(QStringLiteral("xdg-open")));
         ASSERT_TRUE(script.open(QIODevice::WriteOnly));
@@ -25,7 +25,7 @@ protected:
         script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
-    /// Waits for the program. What it wrote.
+    /// Waits for the program. Returns its record.
     QString written() const {
         EXPECT_TRUE(test::waitUntil([this] { return QFile::exists(opened); }));
         QFile file(opened);

@@ -18,7 +18,7 @@ using test::waitUntil;
 
 class QtMainLoopTest : public testing::Test {
 protected:
-    /// Waits without waking the loop by anything of the test's own, but for a far deadline.
+    /// Waits without waking the loop, except for a distant deadline.
     static bool restUntil(const std::function<bool()>& condition) {
         bool expired = false;
         QTimer deadline;
@@ -102,7 +102,7 @@ TEST_F(QtMainLoopTest, ATimerMayBeDestroyedByItsOwnHandler) {
     std::unique_ptr<Timer> once;
     once = loop.scheduleOnce(0ms, [&once, &events = events, held] {
         once.reset();
-        events.push_back(*held); // what the handler holds is still there
+        events.push_back(*held); // the handler's captures still exist
     });
     ASSERT_TRUE(waitUntil([&] { return !events.empty(); }));
     std::unique_ptr<Timer> repeating;
@@ -212,7 +212,7 @@ TEST_F(QtMainLoopTest, NextTurnAskedForByAnothersHandlerRunsBeforeTheLoopRests) 
     std::unique_ptr<NextTurn> early = loop.onNextTurn([&] { events.push_back(2); });
     const auto late = loop.onNextTurn([&] {
         events.push_back(1);
-        early->request(); // whose turn has just gone by
+        early->request(); // its turn has just passed
     });
     const auto muchLater = loop.scheduleOnce(5s, [&] { events.push_back(3); });
     late->request();

@@ -14,7 +14,7 @@ constexpr auto managerCheck = "_NET_SUPPORTING_WM_CHECK";
 constexpr auto oldMark = "_BRELLOWIND_TEST_OLD";
 constexpr auto compositingSelection = "_NET_WM_CM_S0";
 
-/// Without the settings and files of whoever runs the test.
+/// Without the user's settings and files.
 QProcessEnvironment environment(const XClient& x, const QTemporaryDir& home) {
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DISPLAY"), x.display());
@@ -30,15 +30,15 @@ WindowManager::WindowManager(const XClient& x)
                       {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),
                        QStringLiteral("echo ready")},
                       environment(x, home_)) {
-    QString line; // it may say other things before
+    QString line; // other lines may come first
     do
         line = process_.readLine();
     while (!line.isEmpty() && line != QStringLiteral("ready"));
     EXPECT_FALSE(line.isEmpty()) << "the window manager did not start";
 }
 
-/// A signal that it does not listen for yet would end it: it does once its window is there. The
-/// next window may have the same number, but not what was written on this one.
+/// Waits for the manager's window, since a signal before its handler is installed would kill it.
+/// The next window may have the same id, but not this property.
 void WindowManager::restart() {
     ASSERT_TRUE(waitUntil([this] { return checkWindow() != XCB_WINDOW_NONE; }));
     const auto write = [this](xcb_window_t window) {
@@ -50,14 +50,14 @@ void WindowManager::restart() {
     write(checkWindow());
     sendSignal(SIGUSR1, process_);
     EXPECT_TRUE(waitUntil([&] {
-        write(x_.root()); // a manager that fell asleep as the signal came looks when it is woken
+        write(x_.root()); // wakes a manager that checks the signal only between events
         const auto window = checkWindow();
         const bool isMarked = !x_.property(window, oldMark).isEmpty();
         return window != XCB_WINDOW_NONE && !isMarked && checkWindow() == window;
     })) << "the window manager did not begin again";
 }
 
-/// The window that says that a manager is there, which names itself.
+/// The window that announces a window manager (_NET_SUPPORTING_WM_CHECK).
 xcb_window_t WindowManager::checkWindow() const {
     const auto window = x_.property(x_.root(), managerCheck).value(0);
     const bool isThere = x_.property(window, managerCheck).value(0) == window;

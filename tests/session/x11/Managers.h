@@ -7,13 +7,13 @@
 
 namespace brellowind::test {
 
-/// A real window manager on the X server that `x` is a client of. It manages once this is made;
-/// fails the running test otherwise.
+/// A real window manager on the X server of `x`. Ready after construction; fails the test
+/// otherwise.
 class WindowManager {
 public:
     explicit WindowManager(const XClient& x);
 
-    /// Has it begin again in the same process, and waits until it manages again.
+    /// Restarts it in the same process and waits until it is ready.
     void restart();
 
 private:
@@ -24,8 +24,8 @@ private:
     demo::Companion process_;
 };
 
-/// A real compositing manager on the X server that `x` is a client of, at work once this is made
-/// and gone once this is; fails the running test otherwise.
+/// A real compositing manager on the X server of `x`. Ready after construction, stopped after
+/// destruction; fails the test otherwise.
 class CompositingManager {
 public:
     explicit CompositingManager(const XClient& x);

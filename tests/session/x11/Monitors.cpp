@@ -8,7 +8,7 @@ namespace {
 
 const auto ownOutput = QStringLiteral("screen");
 
-/// As the command reads it: with the size in millimetres, at about 96 pixels an inch.
+/// The geometry argument of xrandr, with the size in millimetres at about 96 dpi.
 QString geometry(const QRect& pixels) {
     return QStringLiteral("%1/%2x%3/%4+%5+%6")
         .arg(pixels.width())
@@ -56,7 +56,7 @@ void Monitors::resize(QSize pixels) {
 }
 
 void Monitors::switchOff() {
-    // The X screen itself cannot be without a size.
+    // The X screen cannot be empty.
     configure({QStringLiteral("--fb"), QStringLiteral("640x480"), QStringLiteral("--output"),
                ownOutput, QStringLiteral("--off")});
     reconfigured_ = true;

@@ -6,10 +6,10 @@
 
 namespace brellowind::test {
 
-/// The monitors of an X server, as a user arranges them. When this goes, they are as they were.
+/// Arranges the monitors of an X server. The destructor restores them.
 class Monitors {
 public:
-    /// Of the server's own monitor, where a test changes that.
+    /// The name of the server's own monitor.
     static constexpr QSize initialSize{1280, 800};
 
     explicit Monitors(QString display) : display_(std::move(display)) {}
@@ -17,13 +17,13 @@ public:
     Monitors& operator=(const Monitors&) = delete;
     ~Monitors();
 
-    /// Makes a part of the X screen a monitor, the first one in place of the server's own.
+    /// Makes a part of the X screen a monitor. The first one replaces the server's own.
     void add(const QString& name, const QRect& pixels, bool primary);
     void remove(const QString& name);
 
     bool has(const QString& name) const { return added_.contains(name); }
 
-    /// Gives the server's own monitor another size, not larger than the initial one.
+    /// Resizes the server's own monitor, up to its initial size.
     void resize(QSize pixels);
 
     void switchOff();

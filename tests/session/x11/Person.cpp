@@ -27,7 +27,7 @@ void Person::pressAt(QPoint pixel, int button) {
 }
 
 void Person::pressEscape() {
-    constexpr int escape = 9; // on every keyboard that an X server of our day has
+    constexpr int escape = 9; // keycode with evdev
     fake(XCB_KEY_PRESS, escape, {});
     fake(XCB_KEY_RELEASE, escape, {});
 }

@@ -4,7 +4,7 @@
 
 namespace brellowind::test {
 
-/// A person with a pointer. What it does reaches every program as if a real device did it.
+/// Simulates a user's pointer with XTEST.
 class Person {
 public:
     static constexpr int primary = 1;
@@ -15,14 +15,14 @@ public:
     /// Moves the pointer to a pixel.
     void pointAt(QPoint pixel);
 
-    /// Presses a button where the pointer is and keeps it down, until it is released.
+    /// Presses a button without releasing it.
     void hold(int button = primary);
     void release(int button = primary);
 
-    /// Presses and releases a button where the pointer is.
+    /// Clicks at the pointer's position.
     void press(int button = primary);
 
-    /// Moves there and presses.
+    /// Moves the pointer and clicks.
     void pressAt(QPoint pixel, int button = primary);
 
     void pressEscape();

@@ -23,7 +23,7 @@ PlainWindow::PlainWindow(const QString& display, QRect geometry, Kind kind)
     }
     EXPECT_TRUE(waitUntil([this] {
         xcb_map_window(client_.get(),
-                       id_); // a window manager that has just come may miss the first
+                       id_); // a window manager that has just started may miss the first request
         return client_.isViewable(id_);
     }));
 }

@@ -4,19 +4,19 @@
 
 namespace brellowind::test {
 
-/// A window of another program, of one colour, that counts what is done to it.
+/// A window of another client, of one colour, that counts clicks.
 class PlainWindow {
 public:
     enum class Kind {
-        managed,    ///< the window manager frames it
-        fullScreen, ///< the window manager makes it cover the screen
-        unmanaged,  ///< no window manager knows of it
+        managed,    ///< framed by the window manager
+        fullScreen, ///< made full-screen by the window manager
+        unmanaged,  ///< override-redirect
     };
 
-    /// Shown once this returns; fails the running test otherwise.
+    /// Shown after construction; fails the test otherwise.
     PlainWindow(const QString& display, QRect geometry, Kind kind);
 
-    /// What it is filled with.
+    /// The colour of the window.
     static QColor colour() { return QColor::fromRgb(0x3366cc); }
 
     xcb_window_t id() const { return id_; }
@@ -24,13 +24,13 @@ public:
     void raise();
     void moveTo(QPoint place);
 
-    /// From now on it alone gets what the pointer does.
+    /// Grabs the pointer.
     void grabPointer();
 
-    /// From now on it alone gets what is typed.
+    /// Grabs the keyboard.
     void grabKeyboard();
 
-    /// How often a button of the pointer was pressed on it since this was last asked.
+    /// The number of button presses on it since the last call.
     int presses();
 
 private:

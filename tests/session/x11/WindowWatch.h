@@ -4,22 +4,22 @@
 
 namespace brellowind::test {
 
-/// Counts what happens to a window of another program from now on.
+/// Counts events of a window of another client.
 class WindowWatch {
 public:
     WindowWatch(const QString& display, xcb_window_t window);
 
-    /// How often it has been mapped, unmapped, moved, resized or restacked.
+    /// Number of maps, unmaps, moves, resizes and restackings.
     int structureEvents();
 
-    /// How often its shape has been set.
+    /// Number of changes of its shape.
     int shapeEvents();
 
 private:
     void count();
 
     XClient client_;
-    int shapeNotify_; ///< the event's number on this server
+    int shapeNotify_; ///< the event type on this server
     int structureEvents_ = 0;
     int shapeEvents_ = 0;
 };

@@ -5,10 +5,10 @@
 #include <gtest/gtest.h>
 
 #ifndef BRELLOWIND_TEST_SCALES
-#define BRELLOWIND_TEST_SCALES "" // each monitor's, as in "LEFT=1,RIGHT=2"
+#define BRELLOWIND_TEST_SCALES "" // per monitor, as in "LEFT=1,RIGHT=2"
 #endif
 
-/// A test program that is a client of an X server of its own.
+/// The main function of tests with a private X server.
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     if (testing::GTEST_FLAG(list_tests))
@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
                                                .arg(Monitors::initialSize.height()));
     qputenv("DISPLAY", server.display().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "xcb");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // or Qt would start one for itself
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // else Qt would start a bus
     qunsetenv("QT_SCALE_FACTOR");
     qputenv("QT_SCREEN_SCALE_FACTORS", QByteArray(BRELLOWIND_TEST_SCALES).replace(',', ';'));
     const QGuiApplication application(argc, argv);

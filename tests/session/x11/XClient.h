@@ -14,8 +14,8 @@
 
 namespace brellowind::test {
 
-/// A connection to an X server of a test's own, and what it tells of any window. Everything is in
-/// pixels. Fails the running test when it cannot connect.
+/// A connection to the test's X server, and queries about any window. All lengths are in pixels.
+/// Fails the test if it cannot connect.
 class XClient {
 public:
     explicit XClient(QString display);
@@ -28,7 +28,7 @@ public:
     xcb_window_t root() const { return screen_->root; }
     const xcb_screen_t& screen() const { return *screen_; }
 
-    /// Sends a request and waits for its answer; null when it failed.
+    /// Sends a request and waits for its reply; null on failure.
     template <auto Request, auto Reply, typename... Arguments>
     auto ask(Arguments... arguments) const {
         auto* answer = Reply(connection_, Request(connection_, arguments...), nullptr);
@@ -36,27 +36,27 @@ public:
         return std::unique_ptr<Answer, decltype(&std::free)>(answer, &std::free);
     }
 
-    /// Returns when the server has done all that was asked of it.
+    /// Round trip: waits until the server has processed all requests.
     void finish() const;
 
     xcb_atom_t atom(const char* name) const;
 
-    /// The numbers of a property of a window; empty when it has none.
+    /// The 32-bit values of a window's property; empty if it is not set.
     QList<quint32> property(xcb_window_t window, const char* name) const;
 
-    /// Whether somebody owns a selection.
+    /// Whether a selection has an owner.
     bool isOwned(const char* selection) const;
 
-    /// The children of the root window that are shown, from bottom to top.
+    /// The mapped children of the root window, from bottom to top.
     QList<xcb_window_t> stack() const;
 
-    /// Whether both windows are shown, `upper` above `lower`.
+    /// Whether both windows are mapped, `upper` above `lower`.
     bool isAbove(xcb_window_t upper, xcb_window_t lower) const;
 
-    /// The child of the root window that `window` is or stands in.
+    /// The top-level ancestor of `window`, or itself.
     xcb_window_t frameOf(xcb_window_t window) const;
 
-    /// Where a window is on the root window; a null rectangle when there is no such window.
+    /// The geometry relative to the root window; null if there is no such window.
     QRect geometry(xcb_window_t window) const;
 
     bool isViewable(xcb_window_t window) const;
@@ -65,10 +65,10 @@ public:
     /// The bounding or the input shape of a window.
     QRegion shape(xcb_window_t window, xcb_shape_kind_t kind) const;
 
-    /// The window that has the keyboard.
+    /// The window with the keyboard focus.
     xcb_window_t focus() const;
 
-    /// What is seen at a place.
+    /// The colour of a pixel of the screen.
     QColor pixel(QPoint place) const;
 
     void setScreenSaverActive(bool active) const;

@@ -14,9 +14,9 @@ QByteArray number(quint32 value) {
     return {reinterpret_cast<const char*>(&value), sizeof value};
 }
 
-/// All settings, of which there is one, as programs expect them: in 1,024ths of a dot.
+/// The serialised settings: the density only, in 1/1024 dpi.
 QByteArray settings(quint32 serial, int dotsPerInch) {
-    const QByteArray name = "Xft/DPI"; // and a byte that makes it a multiple of four
+    const QByteArray name = "Xft/DPI"; // padded with a byte to a multiple of four
     const QByteArray littleEndian(4, '\0');
     const QByteArray integer(2, '\0');
     return littleEndian + number(serial) + number(1) + integer + char(name.size()) + '\0' + name +

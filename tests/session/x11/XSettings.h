@@ -4,13 +4,13 @@
 
 namespace brellowind::test {
 
-/// The settings manager of a desktop, as far as it tells programs how dense the screen is. It is
-/// there as long as this lives; fails the running test when it cannot be.
+/// An XSETTINGS manager that provides the screen's density, until it is destroyed. Fails the test
+/// if it cannot own the selection.
 class XSettings {
 public:
     XSettings(const QString& display, int dotsPerInch);
 
-    /// Changes the density for all programs that listen.
+    /// Changes the density.
     void setDotsPerInch(int dotsPerInch);
 
 private:

@@ -17,7 +17,7 @@ protected:
 
     static QQuickItem* part(const QQuickItem* button, const char* type) {
         for (auto* child : button->childItems()) {
-            if (child->inherits(type) && child->isVisible()) // the focus ring is not
+            if (child->inherits(type) && child->isVisible()) // not the focus ring
                 return child;
         }
         throw std::runtime_error(std::string("a button without ") + type);

@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    QAccessible::setActive(true); // as when a screen reader runs
+    QAccessible::setActive(true); // as with a screen reader
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -15,38 +15,38 @@
 
 namespace brellowind {
 
-/// A settings window on a machine of the test's own, used as people use it.
+/// A settings window on a fake machine, operated by input events.
 class SettingsFixture : public testing::Test {
 protected:
-    /// Opens the window and waits until it is the active one.
+    /// Opens the window and waits until it is active.
     void open();
 
-    /// Lets the machine, and then the window, do what is due.
+    /// Processes pending work of the machine and of the window.
     void turn();
 
-    /// Ends the transfer that began last.
+    /// Completes the last transfer.
     void answer(platform::HttpResult result);
     void answerVersion(const std::string& version);
 
     QQuickWindow& window() { return *settings.window(); }
 
-    /// The item of this object name; fails the test when there is none.
+    /// The item with this object name; fails the test if there is none.
     QQuickItem* item(const char* name);
 
-    /// The button, link, switch or tab that can be seen with this text.
+    /// The visible button, link, switch or tab with this text.
     QQuickItem* pressable(const QString& text);
 
-    /// All texts that can be seen, from the top down, from the left to the right.
+    /// All visible texts, from top to bottom and left to right.
     std::vector<std::string> visibleTexts();
 
     void click(QQuickItem* item);
     void moveTo(QQuickItem* item);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    /// The name of what the keyboard is on, as a screen reader says it; empty when on nothing.
+    /// The accessible name of the focused item; empty without focus.
     std::string focused();
 
-    /// Whether a focus ring can be seen on `item`.
+    /// Whether a focus ring is visible on `item`.
     static bool hasFocusRing(const QQuickItem* item);
 
     static QAccessibleInterface* accessible(QQuickItem* item);

@@ -9,13 +9,13 @@
 #include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // gcc 12 has no header for it
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // no header in gcc 12
 #endif
 
 namespace brellowind {
 namespace {
 
-/// The machine of a test, but with Qt's own main loop.
+/// A fake machine with Qt's main loop.
 class SettingsWindowOnQtsLoop : public testing::Test {
 protected:
     void openAndClose() {
@@ -65,14 +65,14 @@ TEST_F(SettingsWindowOnQtsLoop, OpensAndClosesAgainAndAgain) {
 /// Bytes on the heap.
 std::size_t heap() {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    return __sanitizer_get_current_allocated_bytes(); // the heap is the sanitizer's
+    return __sanitizer_get_current_allocated_bytes(); // the sanitizer replaces the heap
 #else
     return mallinfo2().uordblks + mallinfo2().hblkhd;
 #endif
 }
 
 TEST_F(SettingsWindowOnQtsLoop, ClosingGivesTheMemoryBack) {
-    openAndClose(); // what Qt keeps for good, such as fonts and compiled types
+    openAndClose(); // first-time allocations of Qt, such as fonts and types
     openAndClose();
     const std::size_t closed = heap();
     open();
@@ -87,7 +87,7 @@ TEST_F(SettingsWindowOnQtsLoop, ClosingGivesTheMemoryBack) {
 
 TEST_F(SettingsWindowOnQtsLoop, ManyOpeningsLeaveNextToNothingBehind) {
     constexpr int openings = 60;
-    constexpr std::size_t little = 5000; // bytes of Qt's own for each
+    constexpr std::size_t little = 5000; // bytes that Qt leaks per window
     if (heap() == 0)
         GTEST_SKIP() << "nobody counts the heap here";
     for (int time = 0; time < 10; ++time)

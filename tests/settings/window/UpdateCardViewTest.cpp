@@ -9,14 +9,14 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// What the card must show in one state.
+/// The expected content of the card in one state.
 struct Look {
     const char* icon; ///< empty: the progress indicator
     const char* title;
     const char* version;
     const char* button;
     bool enabled;
-    int firstHue, lastHue; ///< degrees that bear the name of the state's colour
+    int firstHue, lastHue; ///< degrees, range of the state's colour
     double tintOpacity;
 };
 
@@ -71,7 +71,7 @@ const Look available{"arrow.down.circle.fill",
                      0.1};
 
 TEST_F(UpdateCardViewTest, LooksUpToDateBeforeAnyCheckHasBegun) {
-    settings.open(); // and the machine has not had its turn
+    settings.open(); // before the check runs
     expectLook(upToDate);
 }
 

@@ -24,7 +24,7 @@ struct Room {
     SceneWindow around;
 };
 
-/// A line about the middle of a window.
+/// A line in the middle of a window.
 class Line : private Room, public LyricText {
 public:
     Line(FrameDriver& frames, const QString& text, bool present = true)

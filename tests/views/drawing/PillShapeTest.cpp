@@ -11,7 +11,7 @@
 namespace brellowind {
 namespace {
 
-/// Where the pill stands in the pictures, with room for its shadow.
+/// The pill's rectangle in the pictures, with a margin for the shadow.
 constexpr QPointF origin(60, 0);
 constexpr QSize room(400, 140);
 
@@ -85,7 +85,7 @@ TEST(PillShape, PaintsBeyondItsRectangleOnlyWhileItIsLifted) {
         EXPECT_TRUE(pill.paintedRect()
                         .translated(160, 0)
                         .toAlignedRect()
-                        .adjusted(0, 0, 0, 1) // an overshoot lowers the faint end a little more
+                        .adjusted(0, 0, 0, 1) // an overshoot extends the shadow a little
                         .contains(drawn))
             << lift;
     }
@@ -112,7 +112,7 @@ TEST(PillShape, CastsAShadowBelowItWhileItIsLifted) {
 TEST(PillShape, CastsAShadowWhoseDropSoftnessAndStrengthGrowWithTheLift) {
     for (const double lift : {0.5, 1.0}) {
         PillShape pill;
-        pill.setSize({400, 200}); // so large that its other edges do not count
+        pill.setSize({400, 200}); // so large that the other edges have no influence
         pill.setLift(lift);
         const QImage image = test::painted(pill, {400, 300});
         const int edge = static_cast<int>(200 + 10 * lift);

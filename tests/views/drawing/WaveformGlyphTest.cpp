@@ -34,7 +34,7 @@ std::vector<int> opacities(const QImage& image) {
     return result;
 }
 
-/// The opacities of the bars in every step of a round.
+/// The opacities of the bars in every step of the loop.
 std::vector<std::vector<int>> round() {
     WaveformGlyph glyph;
     glyph.setActive(true);
@@ -60,7 +60,7 @@ TEST(WaveformGlyph, IsSharpWhereverItStandsAndHoweverItIsScaled) {
                         glyph.paint(painter);
                     },
                     ratio);
-                // Widths of bars and gaps by turns, across the middle of all bars.
+                // The widths of bars and gaps, alternating, across the middle.
                 std::vector<int> widths;
                 const int y = static_cast<int>((10 + shift + 8 * scale) * ratio);
                 bool inBar = false;

@@ -11,7 +11,7 @@
 namespace brellowind {
 namespace {
 
-/// Remembers the moments that it was shown, moves at `speed`, and rests after `frames` of them.
+/// Records the times of its frames, moves at `speed`, and is at rest after `frames` frames.
 class Recorder final : public Animated {
 public:
     Recorder(FrameDriver& driver_, int frames_) : driver(driver_), frames(frames_) {}
@@ -127,7 +127,7 @@ TEST_F(SteppedFrameDriver, ForgetsWhatGoesWithinAFrame) {
 
 class RunningFrameDriver : public testing::Test {
 protected:
-    /// Whether it will wake the program.
+    /// Whether the timer is running.
     bool isRunning() {
         return !QAbstractEventDispatcher::instance()->registeredTimers(&driver).isEmpty();
     }
@@ -160,7 +160,7 @@ TEST_F(RunningFrameDriver, MakesFewerFramesOfWhatMovesSlowly) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !isRunning(); }));
         return recorder.moments.back() - recorder.moments.front();
     };
-    // Frames may be late on a busy machine, but never early.
+    // Frames may be late on a busy machine, never early.
     EXPECT_GE(seconds(1000), 8 * 0.015);
     EXPECT_GE(seconds(0.5 / 0.03), 8 * 0.029); // by half a point in 30 ms
     EXPECT_GE(seconds(0.1), 8 * 0.049);

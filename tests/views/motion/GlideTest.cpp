@@ -9,7 +9,7 @@ namespace {
 
 constexpr double frame = 1.0 / 240;
 
-/// What a person sees of a glide.
+/// Measurements of a glide.
 struct Seen {
     double start;         ///< seconds until it moves
     double end;           ///< seconds until it rests at its end

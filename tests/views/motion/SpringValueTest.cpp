@@ -10,7 +10,7 @@ constexpr double start = 100;
 
 class SpringValueTest : public testing::Test {
 protected:
-    /// Lets time pass and shows the moment.
+    /// Advances time and the value.
     std::optional<double> step(double seconds) { return value.advance(now += seconds); }
 
     SpringValue value{springs::hoverSpring};

@@ -24,7 +24,7 @@ double contrast(double light, double dark) {
     return (light + 0.05) / (dark + 0.05);
 }
 
-/// The luminance of the brightest point within `rect`, in points.
+/// The luminance of the brightest pixel within `rect`, in points.
 double brightest(const QImage& image, QRectF rect) {
     const double ratio = image.devicePixelRatio();
     const QRect pixels = QRectF(rect.topLeft() * ratio, rect.size() * ratio).toRect();

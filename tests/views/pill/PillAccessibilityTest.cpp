@@ -10,7 +10,7 @@ class PillAccessibility : public test::Stage {
 protected:
     PillAccessibility() { QAccessible::setActive(true); }
 
-    /// The first piece that `matches`, as assistive programs find it from the window on.
+    /// The first accessible object that `matches`, searched from the window.
     static QAccessibleInterface* find(QAccessibleInterface* from,
                                       const std::function<bool(QAccessibleInterface*)>& matches) {
         if (!from || from->state().invisible)

@@ -12,15 +12,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Nothing of such a line is seen while it stands but its first letter, and nothing but its last
-/// one when it has reached its end.
+/// A line of which only the first letter is visible at the beginning, and only the last one at the
+/// end.
 std::string wideLine() {
     return 'H' + std::string(400, ' ') + 'H';
 }
 
 class PillGlide : public test::Stage {
 protected:
-    /// The song plays, and its first line is followed by another after `life` seconds.
+    /// Plays a song whose second line is `life` seconds after the first.
     void sing(const std::string& line, int life) {
         machine.spotify.plays = true;
         machine.spotify.position = 10;
@@ -33,7 +33,7 @@ protected:
             step(1.0 / 30);
     }
 
-    /// How much is drawn of `text` within its room.
+    /// The amount of ink of `text` within its room.
     double inkAtEnd(const char* text) {
         auto* line = dynamic_cast<LyricText*>(item(text));
         const QSize size = line->size().toSize();

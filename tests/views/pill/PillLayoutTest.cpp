@@ -36,7 +36,7 @@ protected:
 
     Size pillSize() const { return {pill()->width(), pill()->height()}; }
 
-    /// Nothing plays, so that the line is short.
+    /// Stops playback, so that the line is short.
     void appearIdle() {
         machine.spotify.quit();
         machine.appear();
@@ -50,7 +50,7 @@ protected:
         settle();
     }
 
-    /// How an item of the artwork lies in it, in degrees clockwise.
+    /// The rotation of an item within the artwork, in degrees clockwise.
     std::pair<double, double> scaleAndRotation(const Item& item) const {
         const QTransform transform = item.transform(artwork());
         return {std::hypot(transform.m11(), transform.m12()),

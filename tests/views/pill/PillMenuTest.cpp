@@ -193,7 +193,7 @@ TEST_F(PillMenuTest, ALetterGoesToTheNextEntryThatBeginsWithIt) {
     QTest::keyClick(menu(), Qt::Key_Q);
     QTest::keyClick(menu(), Qt::Key_O);
     QTest::keyClick(menu(), Qt::Key_O);
-    QTest::keyClick(menu(), Qt::Key_X); // which none begins with
+    QTest::keyClick(menu(), Qt::Key_X); // no entry begins with it
     QTest::keyClick(menu(), Qt::Key_Return);
     EXPECT_EQ(machine.settingsOpenings, 1);
     open();

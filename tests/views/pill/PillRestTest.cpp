@@ -76,7 +76,7 @@ TEST_F(PillRest, IsDisturbedByALineThatGlidesThirtyTimesASecond) {
     machine.appearAnswered(platform::HttpResponse{404, ""});
     EXPECT_TRUE(QTest::qWaitFor([this] { return isMoving(); }));
     QSignalSpy shown(&window, &SceneWindow::frameShown);
-    QTest::qWait(1000); // it has come in, and stands
+    QTest::qWait(1000); // after the fade, before the glide
     shown.clear();
     const auto timer = std::chrono::steady_clock::now();
     QTest::qWait(1500);

@@ -7,7 +7,7 @@ class PillTap : public test::Stage {
 protected:
     std::size_t toggles() const { return machine.spotify.toggles(); }
 
-    /// The pointer is over the pill, which has come to rest so.
+    /// The pointer is over the pill, which is at rest.
     void lift() {
         machine.movePointer(test::View::overThePill);
         settle();

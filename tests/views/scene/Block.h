@@ -7,7 +7,7 @@
 
 namespace brellowind::test {
 
-/// A rectangle of one colour, which counts how often it is drawn.
+/// A rectangle of one colour that counts its repaints.
 class Block : public PainterItem {
 public:
     Block(Item* parent, const QRectF& rect, const QColor& color) : PainterItem(parent) {

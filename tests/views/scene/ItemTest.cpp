@@ -104,7 +104,7 @@ TEST_P(ItemTransform, LeavesItsOriginWhereItIs) {
     item.setRotation(90);
     const QPointF stays = GetParam().stays;
     EXPECT_EQ(item.transform().map(stays), stays + item.position());
-    // Turned clockwise, what is to the right of it lies below it.
+    // A clockwise rotation moves its right side to the bottom.
     EXPECT_EQ(item.transform().map(stays + QPointF(1, 0)), stays + item.position() + QPointF(0, 2));
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 using test::Block;
 
-/// A window on an X server, and what its frames leave there.
+/// A window on an X server, and its content on the screen.
 class SceneFrames : public testing::Test {
 protected:
     SceneFrames() {
@@ -30,7 +30,7 @@ protected:
         settle();
     }
 
-    /// Returns when every frame that was asked for is made.
+    /// Waits until all requested frames are made.
     static void settle() { test::runFor(std::chrono::milliseconds(10)); }
 
     QImage shown() {
@@ -87,7 +87,7 @@ TEST_F(SceneFrames, DrawsOnlyWhatLiesWhereSomethingChanged) {
     settle();
     EXPECT_EQ(changed.drawn, 1);
     EXPECT_EQ(touched.drawn, 1);
-    const bool partly = window.devicePixelRatio() != 1.37; // there every frame is a whole one
+    const bool partly = window.devicePixelRatio() != 1.37; // there every frame is complete
     EXPECT_EQ(apart.drawn, partly ? 0 : 1);
 }
 
@@ -126,7 +126,7 @@ TEST_F(SceneFrames, ShowsAllInAnotherSize) {
     EXPECT_EQ(shown(), window.grab());
 }
 
-/// Changes anything about anything, or has things come and go.
+/// Changes random properties of random items, or adds and removes items.
 class Restless {
 public:
     explicit Restless(Item& root) : root_(root) {}
@@ -175,7 +175,7 @@ public:
 private:
     int pick(int count) { return std::uniform_int_distribution<>(0, count - 1)(random_); }
 
-    /// Some begin beyond the window's edges, and between two points.
+    /// Also beyond the window's edges and at fractional positions.
     double at(int room) { return pick(4 * room) / 2.0 - room / 2.0; }
 
     QColor color() { return {pick(256), pick(256), pick(256), 60 + pick(196)}; }
@@ -194,7 +194,7 @@ private:
             block.stackBefore(*siblings.front());
     }
 
-    /// Its children go with it.
+    /// Removes an item and its children.
     void remove(std::size_t index) {
         const Block* gone = blocks_[index];
         std::erase_if(blocks_, [gone](const Block* block) {
@@ -219,7 +219,7 @@ TEST_F(SceneFrames, ShowsAfterEveryFrameWhatAWholeDrawingShows) {
         const QImage image = shown();
         const QImage whole = window.grab();
         ASSERT_EQ(image.size(), whole.size());
-        // An edge between two pixels has a slightly other shade where only part of it is drawn.
+        // An antialiased edge may differ slightly where only a part of it is repainted.
         ASSERT_LE(test::largestDifference(image, whole), 16) << "after " << i << " frames";
     }
 }

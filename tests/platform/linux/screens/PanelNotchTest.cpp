@@ -37,7 +37,7 @@ TEST(PanelNotch, IsAbsentInAnyOtherMode) {
     EXPECT_EQ(notchInset("eDP-1", {3024, 1890}, 1), 0); // the notch hidden
     EXPECT_EQ(notchInset("eDP-1", {1920, 1200}, 1), 0);
     EXPECT_EQ(notchInset("eDP-1", {2256, 1504}, 1), 0); // 3:2
-    EXPECT_EQ(notchInset("eDP-1", {1964, 3024}, 1), 0); // turned
+    EXPECT_EQ(notchInset("eDP-1", {1964, 3024}, 1), 0); // rotated
     EXPECT_EQ(notchInset("eDP-1", {0, 0}, 1), 0);
 }
 

@@ -8,7 +8,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-/// A fight that begins at an arbitrary time.
+/// A conflict of two windows that starts at an arbitrary time.
 class RaiseBudgetTest : public testing::Test {
 protected:
     bool spendAt(milliseconds time) { return budget.spend(start + time); }

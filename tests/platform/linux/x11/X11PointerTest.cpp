@@ -9,7 +9,7 @@ namespace {
 class X11Pointer : public PillOnX11 {
 protected:
     void SetUp() override {
-        pointer.location(); // an answer of the server: by now it knows who wants to hear
+        pointer.location(); // a round trip, after which the events are selected
         person.pointAt({1000, 700});
         ASSERT_TRUE(waitUntil([this] { return global + local > 0; }));
         global = local = 0;

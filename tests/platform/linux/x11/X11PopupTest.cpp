@@ -9,7 +9,7 @@
 namespace brellowind::test {
 namespace {
 
-/// A window that counts what is done to it.
+/// A window that counts its input events.
 class CountingWindow : public QRasterWindow {
 public:
     int presses = 0;
@@ -38,7 +38,7 @@ protected:
         ASSERT_TRUE(waitUntil([this] { return holdsPointer(); }));
     }
 
-    /// Whether pointer and keyboard are the menu's.
+    /// Whether the menu has grabbed pointer and keyboard.
     bool holdsPointer() {
         return menu.isExposed() && x.isViewable(static_cast<xcb_window_t>(menu.winId()));
     }
