@@ -6,12 +6,12 @@
 #include <cstdlib>
 #include <string_view>
 
-/// What the fuzzer calls with every input it makes up.
+/// Called by the fuzzer with every input.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace brellowind::fuzz {
 
-/// Ends the run, which keeps the input as a finding, unless `holds`.
+/// Aborts unless `holds`; the fuzzer saves the input as a finding.
 inline void require(bool holds, const char* property) {
     if (holds)
         return;

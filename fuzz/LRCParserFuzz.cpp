@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <string>
 
-// Any bytes as LRC text. What is valid UTF-8 is read by the pattern itself, too, on a
-// regular-expression engine, and both must find the same lines.
+// Arbitrary bytes as LRC text. Valid UTF-8 is also parsed with a regular expression, which must
+// give the same lines.
 
 namespace brellowind::fuzz {
 namespace {

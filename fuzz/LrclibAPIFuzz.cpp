@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-// Any bytes as the body of the lyrics service's answer.
+// Arbitrary bytes as the body of an answer of the lyrics service.
 
 namespace brellowind::fuzz {
 namespace {
@@ -26,7 +26,7 @@ void requireFilled(const LyricsState& state) {
     require(utf8::isValid(state.text()), "words without times are UTF-8");
 }
 
-/// A reading of the whole body finds the same texts. It cannot read numbers that no double holds.
+/// A parser of the whole document gives the same texts, unless a number overflows a double.
 void requireWhatTheWholeBodySays(std::string_view body) try {
     require(LrclibResponse::decode(body) == test::decodeWhole(body),
             "the texts are those of the whole body");

@@ -9,7 +9,7 @@
 #include <cmath>
 #include <fuzzer/FuzzedDataProvider.h>
 
-// Any track as the address that asks for its lyrics, and any text as an address.
+// Arbitrary tracks in lyrics URLs, and arbitrary texts as URLs.
 
 namespace brellowind::fuzz {
 namespace {
@@ -35,7 +35,7 @@ std::string decoded(std::string_view escaped) {
     return bytes;
 }
 
-/// The value of the first item of `query`, which loses the item and must name it `name`.
+/// Removes the first item of `query`, which must be named `name`. Returns its value.
 std::string takeItem(std::string_view& query, std::string_view name) {
     const auto item = query.substr(0, query.find('&'));
     query.remove_prefix(std::min(item.size() + 1, query.size()));
@@ -62,7 +62,7 @@ void requireAddressOf(std::string_view url, const Track& track) {
     require(url.empty(), "nothing else is asked");
 }
 
-/// In milliseconds, of those whose seconds fit 64 bits.
+/// A duration in milliseconds whose seconds fit 64 bits.
 double anyDuration(FuzzedDataProvider& input) {
     constexpr double longest = 9.2e21;
     return input.ConsumeFloatingPointInRange(-longest, longest);

@@ -14,24 +14,24 @@
 #include <fuzzer/FuzzedDataProvider.h>
 #include <optional>
 
-// A player's properties of any types and values, sent as a bus message, and the way on from there:
-// the reading, the lyrics asked for.
+// Player properties of arbitrary types and values in a D-Bus message: the reading, and the request
+// for its lyrics.
 
 namespace brellowind::fuzz {
 namespace {
 
 constexpr int deepest = 8;
 constexpr std::size_t longest = 64;
-constexpr int repetitions = 200; ///< of a text that begins with the sign for it
+constexpr int repetitions = 200; ///< of a text that begins with the repetition sign
 constexpr QChar repeatSign = u'*';
 
-/// A value, and the text that it is under however many variants; empty for all others.
+/// A value, and its text, also within nested variants; empty if it is not a text.
 struct Value {
     QVariant value;
     QString text;
 };
 
-/// The properties that `input` says, and the title that is in them.
+/// The properties encoded in `input`, and the title among them.
 class Player {
 public:
     explicit Player(FuzzedDataProvider& input) : input_(input) {}
@@ -47,7 +47,7 @@ public:
         return QVariant::fromValue(argument);
     }
 
-    /// Empty when there is none that is a text.
+    /// Empty if there is no text.
     std::string title() const { return title_.toStdString(); }
 
     bool hasTrackId() const { return hasTrackId_; }
@@ -81,7 +81,7 @@ private:
         return QVariant::fromValue(input_.ConsumeIntegral<Number>());
     }
 
-    /// A map of metadata, or something else in its place.
+    /// A map of metadata, or another value instead.
     QVariant metadata(int depth) {
         if (depth < deepest && input_.ConsumeBool())
             return wrapped(metadata(depth + 1));
@@ -165,7 +165,7 @@ private:
             return number<qlonglong>();
         case 't':
             return number<qulonglong>();
-        case 'd': // infinite and what is no number among them
+        case 'd': // including infinity and NaN
             return std::bit_cast<double>(input_.ConsumeIntegral<std::uint64_t>());
         default:
             return QVariant::fromValue(QDBusObjectPath(QStringLiteral("/org/mpris/track")));
@@ -186,7 +186,7 @@ platform::Player::Answer answerTo(const QVariant& properties) {
     return platform::readMpris(line.deliver({properties}));
 }
 
-/// Whether a reading may say `said` where a player says `text`.
+/// Whether `said` is a valid reading of a player's `text`.
 bool isBeginning(const std::string& said, const std::string& text) {
     constexpr std::size_t longestCharacter = 4;
     if (text.size() <= platform::longestMprisText)

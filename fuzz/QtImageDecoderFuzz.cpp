@@ -3,7 +3,7 @@
 
 #include <QGuiApplication>
 
-// Any bytes as a cover.
+// Arbitrary bytes as a cover.
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 
@@ -25,7 +25,7 @@ void requireCover(const QImage& image) {
 } // namespace brellowind::fuzz
 
 int LLVMFuzzerInitialize(int* argc, char*** argv) {
-    // Decoders complain about every byte.
+    // The decoders would flood the log.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     qputenv("QT_QPA_PLATFORM", "minimal");
     static QGuiApplication application(*argc, *argv);

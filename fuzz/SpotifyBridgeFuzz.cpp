@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-// Any bytes as the player's answer to the read-out script.
+// Arbitrary bytes as the result of the read-out script.
 
 namespace brellowind::fuzz {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-// Any bytes as the document of the release feed.
+// Arbitrary bytes as the release feed.
 
 namespace brellowind::fuzz {
 namespace {

@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-// Three versions, one a line, which must be in a strict total order.
+// Three versions, one per line. Tests the properties of a strict total order.
 
 namespace brellowind::fuzz {
 namespace {
@@ -22,8 +22,8 @@ Versions versionsIn(std::string_view text) {
     return versions;
 }
 
-/// `version` with every digit run filled up with leading zeros to `width`: texts of one such width
-/// are in the order of their bytes.
+/// `version` with all digit runs padded with zeros to `width`, which makes versions comparable by
+/// bytes.
 std::string filled(std::string_view version, std::size_t width) {
     std::string text;
     std::string digits;

@@ -63,7 +63,7 @@ int save(xcb_connection_t* x11, const xcb_screen_t& screen, const char* path) {
     return std::fclose(file);
 }
 
-/// Prints the moment of every change of what `area` shows, in nanoseconds of the monotonic clock.
+/// Prints the time of every change within `area`, in nanoseconds of the monotonic clock.
 int watch(xcb_connection_t* x11, const xcb_screen_t& screen, const Area& area) {
     const auto* extension = xcb_get_extension_data(x11, &xcb_damage_id);
     if (!extension || !extension->present)

@@ -16,7 +16,7 @@ using namespace brellowind;
 
 namespace {
 
-/// Says when it has drawn its first frame, which is clear.
+/// Reports when it has drawn its first frame, which is transparent.
 class Window final : public QRasterWindow {
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {

@@ -11,8 +11,8 @@ struct IcuLine {
     std::string text;
 };
 
-/// The same lines as `LRCParser::parse` finds, found as one would write it first: the pattern of a
-/// time tag, compiled by the regular-expression engine of ICU on every call.
+/// Reference implementation of `LRCParser::parse` with a regular expression for time tags, compiled
+/// by ICU on every call.
 std::vector<IcuLine> parseWithIcu(std::string_view text);
 
 } // namespace brellowind::benchmarks

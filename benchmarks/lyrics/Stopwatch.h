@@ -7,23 +7,23 @@
 
 namespace brellowind::benchmarks {
 
-/// Makes the compiler believe that `value` is looked at.
+/// Prevents the compiler from optimising `value` away.
 template <typename Value>
 void keep(const Value& value) {
     asm volatile("" : : "r,m"(&value) : "memory");
 }
 
-/// Seconds of processor time that this thread has taken.
+/// CPU time of this thread in seconds.
 inline double processorTime() {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// Seconds of processor time that one call of each of `works` takes at best. They take turns, so
-/// that what else the machine does meets all of them alike; each gets `seconds` in all.
+/// The minimum CPU time of one call of each of `works`, in seconds. Measured alternately, so that
+/// other load affects all of them alike; each runs for `seconds` in total.
 inline std::vector<double> race(const std::vector<std::function<void()>>& works, double seconds) {
-    constexpr double sample = 0.002; ///< long enough for the clock
+    constexpr double sample = 0.002; ///< limited by the clock's resolution
     const auto timed = [](const std::function<void()>& work, int calls) {
         const double start = processorTime();
         for (int i = 0; i < calls; ++i)

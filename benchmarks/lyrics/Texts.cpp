@@ -20,7 +20,7 @@ std::string song(int lines, double start, double gap) {
         std::snprintf(tag.data(), tag.size(), "[%02d:%02d.%02d] ", hundredths / 6000 % 100,
                       hundredths / 100 % 60, hundredths % 100);
         text += tag.data();
-        if (i % 11 != 10) // now and then nobody sings
+        if (i % 11 != 10) // an occasional empty line
             text += words[static_cast<std::size_t>(i) % words.size()];
         text += '\n';
         time += gap;

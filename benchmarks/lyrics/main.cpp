@@ -15,11 +15,11 @@ using nlohmann::json;
 
 namespace {
 
-/// Seconds for `text`, beside ICU.
+/// Prints the seconds for `text`, compared with ICU.
 json parsing(const std::string& text) {
     const auto lines = LRCParser::parse(text).size();
     if (parseWithIcu(text).size() != lines)
-        std::abort(); // they must do the same work
+        std::abort(); // the results must be equal
     const auto times =
         race({[&] { keep(LRCParser::parse(text)); }, [&] { keep(parseWithIcu(text)); }}, 1.5);
     return {{"bytes", text.size()}, {"lines", lines}, {"parse", times[0]}, {"icu", times[1]}};
@@ -39,9 +39,8 @@ json growth(const texts::Family& family) {
 } // namespace
 
 int main() {
-    std::thread([] {}).join(); // a program with threads counts the owners of a text atomically, as
-                               // the real one does
-    // Large blocks are reused like small ones, so no time for fresh pages of the system is in it.
+    std::thread([] {}).join(); // makes reference counts atomic, as in the real program
+    // Reuse large blocks, so that page faults are not measured.
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, 256 << 20);
     json families = json::array();

@@ -12,9 +12,9 @@ class BrellowindApp;
 
 namespace brellowind::benchmarks {
 
-/// Does what the lines of the standard input say, and answers each with a line. A thread waits for
-/// them, so that the main loop watches no more than it does in the program itself. The end of the
-/// input ends the program.
+/// Executes commands from the standard input, one per line, and answers each with a line. Reads in
+/// a thread, so that the main loop has no additional event source. The end of the input ends the
+/// program.
 class Commands : public QObject {
     Q_OBJECT
 

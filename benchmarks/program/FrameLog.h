@@ -6,17 +6,17 @@
 
 namespace brellowind::benchmarks {
 
-/// What each frame of a window takes of the processor, in all threads of the program.
+/// Measures the CPU time of each frame of a window, in all threads of the program.
 class FrameLog : public QObject {
     Q_OBJECT
 
 public:
-    /// Prints the moment of the first frame, in nanoseconds of the monotonic clock.
+    /// Prints the time of the first frame, in nanoseconds of the monotonic clock.
     explicit FrameLog(SceneWindow& window);
 
     void start();
 
-    /// Seconds of processor time from each frame since `start` to the one after it.
+    /// CPU seconds between successive frames since `start`.
     const std::vector<double>& durations() const { return durations_; }
 
     int frames() const { return frames_; }

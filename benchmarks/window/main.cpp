@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     view.setContent(QUrl(), &component, component.create());
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
-    view.setGeometry(400, 0, 640, 540); // as large as the pill's window
+    view.setGeometry(400, 0, 640, 540); // the size of the pill's window
     bool drawn = false;
     QObject::connect(&view, &QQuickWindow::frameSwapped, &view, [&drawn] {
         if (drawn)

@@ -7,10 +7,10 @@
 
 namespace brellowind::demo {
 
-/// A process that lives no longer than this one, whatever ends it.
+/// A child process that ends with this process, also if that crashes.
 class Companion {
 public:
-    /// Its standard error goes to the file at `errorFile`; without one, where this process's goes.
+    /// Redirects its standard error to `errorFile`, if given.
     Companion(const QString& program, const QStringList& arguments,
               const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment(),
               const QString& errorFile = {});
@@ -18,22 +18,22 @@ public:
     Companion& operator=(const Companion&) = delete;
     ~Companion();
 
-    /// The next line of its standard output; empty when it ends without one or takes too long.
+    /// The next line of its standard output; empty if it ends first or takes too long.
     QString readLine();
 
     /// Writes a line to its standard input.
     void writeLine(const QString& line) { process_.write(line.toUtf8() + '\n'); }
 
-    /// What it has written to its standard output beside the lines that were read.
+    /// The unread rest of its standard output so far.
     QByteArray remainingOutput() { return process_.readAllStandardOutput(); }
 
     bool isRunning() const { return process_.state() != QProcess::NotRunning; }
     qint64 processId() const { return process_.processId(); }
 
-    /// Waits until it ends by itself. The exit status, or -1 when it crashed or takes too long.
+    /// Waits until it exits. Returns the exit status, or -1 if it crashed or takes too long.
     int finish();
 
-    /// Asks it to end and waits for that. The exit status, or -1 when it had to be killed.
+    /// Terminates it and waits. Returns the exit status, or -1 if it had to be killed.
     int end();
 
 private:

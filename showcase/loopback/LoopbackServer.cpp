@@ -41,7 +41,7 @@ QByteArray Exchange::header(const QByteArray& name) const {
 
 QString Exchange::field(const QString& name) const {
     for (QByteArray item : query.split('&')) {
-        item.replace('+', ' '); // as forms are decoded
+        item.replace('+', ' '); // form encoding
         const qsizetype equals = item.indexOf('=');
         if (QUrl::fromPercentEncoding(item.left(equals)) == name)
             return QUrl::fromPercentEncoding(item.mid(equals + 1));

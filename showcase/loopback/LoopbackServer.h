@@ -13,30 +13,30 @@ class QSslConfiguration;
 
 namespace brellowind::demo {
 
-/// One request that the server has read, and the connection to answer it on.
+/// A request and its connection.
 struct Exchange {
     QByteArray path; ///< still percent-encoded, without the query
     QByteArray query;
     QList<std::pair<QByteArray, QByteArray>> headers; ///< names in lower case
-    QPointer<QTcpSocket> connection;                  ///< null once the client has gone
+    QPointer<QTcpSocket> connection;                  ///< null after the client has disconnected
 
     QByteArray header(const QByteArray& name) const;
 
-    /// The value of a form field of the query, decoded; null when there is none.
+    /// The decoded value of a field of the query; null if missing.
     QString field(const QString& name) const;
 
-    /// Answers with a whole response and closes the connection.
+    /// Sends a complete response and closes the connection.
     void respond(int status, const QByteArray& body,
                  const QByteArray& contentType = "application/json") const;
 
-    /// Sends bytes as they are; the caller closes the connection.
+    /// Sends raw bytes. The caller closes the connection.
     void send(const QByteArray& bytes) const;
 
-    /// Drops the connection without an answer.
+    /// Closes the connection without an answer.
     void drop() const;
 };
 
-/// Serves GET requests on a port of loopback that the system picks.
+/// Serves GET requests on an ephemeral port of the loopback interface.
 class LoopbackServer : public QObject {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ public:
     /// Serves over TLS, with the certificate and key in `tls`.
     LoopbackServer(Handler handler, const QSslConfiguration& tls);
 
-    /// Such as "http://127.0.0.1:4711"; empty when no port could be had.
+    /// Such as "http://127.0.0.1:4711"; empty if it could not listen.
     QString origin() const;
 
     Handler handler;

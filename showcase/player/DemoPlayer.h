@@ -8,17 +8,16 @@
 
 /// The player's object on the bus, "/org/mpris/MediaPlayer2".
 ///
-/// Beside the two MPRIS interfaces it has one of its own, "org.brellowind.DemoPlayer", through
-/// which the demo and the tests say what it plays:
-/// - `SetTrack(a{sv} metadata)`: another track, from its beginning
+/// Besides the two MPRIS interfaces it has the interface "org.brellowind.DemoPlayer", by which the
+/// demo and the tests control it:
+/// - `SetTrack(a{sv} metadata)`: plays a track from its beginning
 /// - `SetPosition(x microseconds)`, `SetStatus(s status)`: "Playing", "Paused" or "Stopped"
-/// - `SetProperties(a{sv} properties)`: answers `GetAll` with exactly these from now on; with none,
-///   tells the truth again
-/// - `SetAnswer(s manner)`: answers `GetAll` with an "error", which commands get as well, a "text",
-///   "nothing", the end of the process, "death", or else truly
-/// - `SetDelay(i milliseconds)`: takes so long to answer for its properties
-/// - `Flood(u signalsPerSecond)`: announces changes of its properties so often; 0 ends that
-/// - `Requests() -> u`: how many calls of the MPRIS interfaces and `GetAll` it has answered
+/// - `SetProperties(a{sv} properties)`: overrides the answer to `GetAll`; an empty map ends that
+/// - `SetAnswer(s manner)`: answers `GetAll`, and for "error" also commands, with an "error", a
+///   "text" or "nothing", or exits ("death"); any other manner is a normal answer
+/// - `SetDelay(i milliseconds)`: delays the answers to `GetAll`
+/// - `Flood(u signalsPerSecond)`: emits PropertiesChanged at this rate; 0 stops it
+/// - `Requests() -> u`: the number of answered calls of the MPRIS interfaces and `GetAll`
 /// - `Leave()`: ends the process
 class DemoPlayer : public QDBusVirtualObject {
     Q_OBJECT
@@ -30,7 +29,7 @@ public:
     void setTrack(const QVariantMap& metadata);
     void setPlaying(bool playing);
 
-    /// Begins again whenever the track has ended.
+    /// Restarts the track when it has ended.
     bool loops = false;
 
 private:
@@ -53,7 +52,7 @@ private:
     QString manner_; ///< of answering `GetAll`
     int delayMs_ = 0;
     QString status_ = QStringLiteral("Stopped");
-    qint64 startUs_ = 0; ///< the position when `sinceStart_` began
+    qint64 startUs_ = 0; ///< the position at the start of `sinceStart_`
     QElapsedTimer sinceStart_;
     QBasicTimer flood_;
     uint signalsPerTimer_ = 0;

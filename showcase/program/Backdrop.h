@@ -4,7 +4,7 @@
 
 namespace brellowind::demo {
 
-/// A quiet desktop for the pictures: it fills the screen beneath the pill.
+/// A full-screen backdrop for the pictures.
 class Backdrop : public QRasterWindow {
 public:
     Backdrop();

@@ -23,10 +23,10 @@ namespace {
 const auto secondsOption = QStringLiteral("seconds");
 const auto picturesOption = QStringLiteral("pictures");
 
-/// Long enough for the pill without music to be seen.
+/// Time to see the pill without music.
 constexpr std::chrono::milliseconds silence{1500};
 
-/// When, in the song, the artwork panel is seen.
+/// When the artwork panel is open, in the song's time.
 constexpr std::chrono::milliseconds artworkOpens{16000};
 constexpr std::chrono::milliseconds artworkCloses{22500};
 
@@ -101,7 +101,7 @@ int main(int argc, char** argv) {
     });
     if (seconds > 0)
         QTimer::singleShot(std::chrono::seconds(seconds), qApp, &QGuiApplication::quit);
-    if (backdrop) { // nobody is there to press anything
+    if (backdrop) { // headless
         const auto press = [&](std::chrono::milliseconds songTime, auto what) {
             QTimer::singleShot(silence + songTime, qApp,
                                [&app, what] { (app.rootView().*what)(); });

@@ -6,7 +6,7 @@
 
 namespace brellowind::demo {
 
-/// A song in a folder: song.json names its texts, its lyrics file and its cover.
+/// A song in a folder: song.json has its texts and the names of its lyrics file and its cover.
 struct DemoSong {
     QString title;
     QString artist;
@@ -15,7 +15,7 @@ struct DemoSong {
     QByteArray lyrics; ///< LRC
     QByteArray cover;  ///< PNG
 
-    /// Absent when the folder holds no whole song.
+    /// Returns nullopt if the folder has no complete song.
     static std::optional<DemoSong> load(const QString& folder);
 };
 
