@@ -28,7 +28,7 @@ double lineHeight(const QFont& font) {
     return std::ceil(QFontMetricsF(font).height());
 }
 
-/// A text that assistive programs do not find.
+/// A text that is hidden from assistive programs.
 class CaptionText final : public LyricText {
 public:
     using LyricText::LyricText;
@@ -49,7 +49,7 @@ void ArtworkCaption::setTexts(const QString& artist, const QString& title) {
     show(title_, title, titleFont(), titleColor, padding + lineHeight(artistFont()) + gap);
 }
 
-/// A text takes the place of another at once, at the side where its script begins.
+/// Replaces the text without animation, aligned to the start of its writing direction.
 void ArtworkCaption::show(LyricText*& line, const QString& text, const QFont& font,
                           const QColor& color, double top) {
     if (line && line->accessibleName() == text)

@@ -16,7 +16,7 @@ class ArtworkCaption : public VisualEffectBlur {
     Q_OBJECT
 
 public:
-    /// `frames` must outlive it.
+    /// `frames` must outlive this object.
     ArtworkCaption(FrameDriver& frames, Item* parent);
 
     void setTexts(const QString& artist, const QString& title);

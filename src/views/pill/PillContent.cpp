@@ -6,7 +6,7 @@
 namespace brellowind {
 namespace {
 
-/// In bytes, far more than any screen holds. A line of a mebibyte takes seconds to lay out.
+/// In bytes, more than fits any screen. Layout of 1 MiB takes seconds.
 constexpr std::size_t longestText = 4096;
 
 template <typename Value>

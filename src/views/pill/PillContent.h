@@ -8,18 +8,18 @@
 
 namespace brellowind {
 
-/// What the pill draws: a copy of what its view has published. A very long text is cut.
+/// A snapshot of the presenter's state for drawing. Very long texts are truncated.
 struct PillContent {
     explicit PillContent(const NotchRootView& view) { update(view); }
 
-    /// Returns whether anything was different before.
+    /// Returns whether anything has changed.
     bool update(const NotchRootView& view);
 
     QString line;
     QString title;
     QString artist;
     std::shared_ptr<const platform::Image> artwork;
-    QImage cover; ///< of `artwork`; null: none
+    QImage cover; ///< of `artwork`; null if none
     bool isPlaying = false;
     NotchRootView::Form form;
 };

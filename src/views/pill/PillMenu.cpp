@@ -19,13 +19,13 @@ namespace {
 
 constexpr int padding = 5;
 
-/// The edge of the menu and what is behind its entries.
+/// The background and the border of the menu.
 class MenuBackground final : public PainterItem {
 public:
     using PainterItem::PainterItem;
 
     void paint(QPainter& painter) override {
-        // The fill goes on below the line at its edge, through which the desktop would shine.
+        // The fill extends below the translucent border.
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor::fromRgbF(0.11F, 0.11F, 0.12F));
         painter.drawRoundedRect(boundingRect(), PillMenu::radius, PillMenu::radius);
@@ -55,7 +55,8 @@ PillMenu::PillMenu(NotchRootView& view) {
         connect(entry, &PillMenuEntry::hoveredChanged, this,
                 [this, entry](bool hovered) { highlight(hovered ? entry : nullptr); });
         connect(entry, &PillMenuEntry::triggered, this, [this, &view, action = action] {
-            (view.*action)(); // while it is open: then it is a user's action to the window system
+            (view.*
+             action)(); // before closing, so that it counts as a user action for the window system
             close();
         });
     }
@@ -104,8 +105,8 @@ void PillMenu::mouseMoveEvent(QMouseEvent* event) {
     SceneWindow::mouseMoveEvent(event);
 }
 
-/// The button that opened the menu may be released over an entry. A hand that is not quite still
-/// chooses nothing.
+/// Releasing the button that opened the menu triggers the entry below, after a minimum drag
+/// distance.
 void PillMenu::mouseReleaseEvent(QMouseEvent* event) {
     const auto began = std::exchange(dragBegan_, std::nullopt);
     isPressed_ = false;
@@ -136,8 +137,7 @@ void PillMenu::highlight(PillMenuEntry* entry) {
         highlighted_->setHighlighted(true);
 }
 
-/// From the last entry to the first and back. Without a highlighted one it begins at the end that
-/// the step comes from.
+/// Wraps around. Without a highlighted entry it starts at the first or last one.
 void PillMenu::highlightBeside(int step) {
     const auto count = std::ssize(entries_);
     const auto at = std::ranges::find(entries_, highlighted_) - entries_.begin();
@@ -145,7 +145,7 @@ void PillMenu::highlightBeside(int step) {
     highlight(entries_[static_cast<std::size_t>(next)]);
 }
 
-/// The next entry that begins with `letter`, from the highlighted one on and around.
+/// Highlights the next entry that begins with `letter`. Wraps around.
 void PillMenu::highlightNext(const QString& letter) {
     const auto matches = [&](const PillMenuEntry* entry) {
         return !letter.isEmpty() && entry->text().startsWith(letter, Qt::CaseInsensitive);

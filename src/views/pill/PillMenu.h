@@ -11,14 +11,14 @@ namespace brellowind {
 class NotchRootView;
 class PillMenuEntry;
 
-/// The context menu of the pill, a small window of its own. The entry under the pointer is
-/// highlighted; arrow keys, Home, End and first letters highlight another one, and Enter or the
-/// space bar chooses it, as does releasing the button that opened the menu. Escape closes it.
+/// The context menu of the pill, a separate window. Pointer, arrow keys, Home, End and first
+/// letters highlight an entry; Enter, space, a click, or releasing the button that opened the menu
+/// triggers it. Escape closes the menu.
 class PillMenu : public SceneWindow {
     Q_OBJECT
 
 public:
-    /// `view`, which is told what is chosen, must outlive it.
+    /// `view` executes the entries and must outlive this object.
     explicit PillMenu(NotchRootView& view);
 
     static constexpr double radius = 10; ///< of its corners
@@ -41,7 +41,7 @@ private:
     std::vector<PillMenuEntry*> entries_;
     PillMenuEntry* highlighted_ = nullptr;
     bool isPressed_ = false;
-    std::optional<QPointF> dragBegan_; ///< with a button that was pressed elsewhere
+    std::optional<QPointF> dragBegan_; ///< with a button that was pressed outside
 };
 
 } // namespace brellowind

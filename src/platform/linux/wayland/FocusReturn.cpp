@@ -6,9 +6,9 @@
 namespace brellowind::platform {
 namespace {
 
-/// One clear pixel. Null if there is no memory for it.
+/// One transparent pixel. Null if out of memory.
 WaylandObject<wl_buffer> clearPixel(wl_shm* memory) {
-    constexpr int bytes = 4; // a new file is all zeros
+    constexpr int bytes = 4; // new files are zeroed
     const int file = memfd_create("brellowind", MFD_CLOEXEC);
     if (file < 0)
         return nullptr;

@@ -6,14 +6,14 @@
 
 namespace brellowind::platform {
 
-/// Gives the keyboard back to the window that had it before a compositor gave it to a layer surface
-/// that wants none, as some do when the surface is clicked. An invisible layer surface of one point
-/// takes the keyboard and goes: then the window that was active before is activated.
+/// Returns the keyboard focus to the previously active window, on compositors that give it to a
+/// clicked layer surface that does not request it. Maps an invisible layer surface of one point
+/// with the keyboard and destroys it: the compositor then activates the previous window.
 class FocusReturn {
 public:
     explicit FocusReturn(const WaylandCompositor& compositor) : compositor_(compositor) {}
 
-    /// `output` shows the surface that has the keyboard.
+    /// `output` is that of the surface with the keyboard.
     void start(wl_output* output);
 
 private:

@@ -5,8 +5,8 @@
 namespace brellowind::platform {
 namespace {
 
-/// Some compositors derive the stacking from it: of "dock", "notification" and the like they make
-/// surfaces below full-screen windows.
+/// The namespace. Some compositors stack surfaces with names such as "dock" or "notification" below
+/// full-screen windows.
 constexpr const char* purpose = "brellowind";
 
 } // namespace

@@ -7,18 +7,18 @@
 
 namespace brellowind::platform {
 
-/// Makes a surface without a role a layer surface: above panels and full-screen windows, at the
-/// middle of an output's top edge, moved by no panel and without the keyboard. Its state is applied
-/// by the surface's next commit. Must be destroyed before the surface.
+/// Gives a surface without a role the role of a layer surface in the overlay layer, at the middle
+/// of an output's top edge, ignoring exclusive zones and without keyboard interactivity. State
+/// changes take effect with the surface's next commit. Must be destroyed before the surface.
 class LayerSurface {
 public:
-    /// They may destroy this.
+    /// Handlers may destroy this object.
     struct Handlers {
-        std::function<void()> configured; ///< from the first time on the surface may have content
-        std::function<void()> closed;     ///< it is not shown any more
+        std::function<void()> configured; ///< after the first call the surface may have content
+        std::function<void()> closed;     ///< closed by the compositor
     };
 
-    /// `size` is in points. Commits the surface, which has no buffer yet.
+    /// `size` is in points. Commits the surface, which must not have a buffer.
     LayerSurface(const WaylandCompositor& compositor, wl_surface* surface, wl_output* output,
                  QSize size, Handlers handlers);
     LayerSurface(const LayerSurface&) = delete;
@@ -26,10 +26,10 @@ public:
 
     void setSize(QSize size);
 
-    /// Whether it has the keyboard to itself. Commits the surface.
+    /// Requests exclusive keyboard focus, or none. Commits the surface.
     void setKeyboardExclusive(bool exclusive);
 
-    /// Makes `popup` a child of it.
+    /// Makes this surface the parent of `popup`.
     void adoptPopup(xdg_popup* popup);
 
 private:

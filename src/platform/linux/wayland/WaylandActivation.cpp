@@ -13,7 +13,7 @@ void WaylandActivation::activate(wl_surface* surface) {
     if (!compositor_.activation())
         return;
     if (!token_.empty()) {
-        activation_->request(); // the window may only be about to be shown
+        activation_->request(); // the window may be shown later in this turn
         return;
     }
     if (!surface)

@@ -8,20 +8,18 @@
 
 namespace brellowind::platform {
 
-/// Brings the program's windows to the front, for which a compositor wants a token that stands for
-/// an action of the user.
+/// Raises the program's windows with xdg-activation tokens, which stand for user actions.
 class WaylandActivation {
 public:
     WaylandActivation(const WaylandCompositor& compositor, MainLoop& mainLoop);
     WaylandActivation(const WaylandActivation&) = delete;
     WaylandActivation& operator=(const WaylandActivation&) = delete;
 
-    /// Activates the windows in the name of the last input, which came to `surface` or a popup of
-    /// it, or of the token that was adopted. Compositors refuse a token if neither has the keyboard
-    /// any more.
+    /// Activates the windows with the adopted token, or with a new one for the last input to
+    /// `surface` or its popup. Compositors refuse a new token if neither has the keyboard focus.
     void activate(wl_surface* surface);
 
-    /// The next `activate` uses `token`, unless it is empty.
+    /// The next `activate` uses `token` if it is not empty.
     void adopt(const std::string& token) { token_ = token; }
 
 private:
@@ -30,7 +28,7 @@ private:
 
     const WaylandCompositor& compositor_;
     std::string token_;
-    WaylandObject<xdg_activation_token_v1> request_; ///< while it is not answered
+    WaylandObject<xdg_activation_token_v1> request_; ///< while pending
     std::unique_ptr<NextTurn> activation_;
 };
 

@@ -24,8 +24,8 @@ constexpr xdg_wm_base_listener shellListener{answerPing};
 
 void ignoreRemoval(void* /*self*/, wl_registry* /*registry*/, std::uint32_t /*name*/) {}
 
-/// Binds `global` if `interface` is its own, in `version` but none above `known`. Its events come
-/// with those of Qt.
+/// Binds `global` if it has the type `interface`, in `version`, limited to `known`. Its events are
+/// dispatched with those of Qt.
 template <typename Object>
 void take(WaylandObject<Object>& global, const wl_interface& wanted, std::uint32_t known,
           wl_registry* registry, std::uint32_t name, const char* interface, std::uint32_t version) {
@@ -41,7 +41,7 @@ void take(WaylandObject<Object>& global, const wl_interface& wanted, std::uint32
 WaylandCompositor::WaylandCompositor()
     : display_(integrationResource<wl_display>("wl_display")),
       surfaces_(integrationResource<wl_compositor>("compositor")) {
-    // On a queue of its own: waiting on the default one would run handlers of Qt's.
+    // On a separate queue: waiting on the default one would run Qt's handlers.
     const WaylandObject<wl_event_queue> queue(wl_display_create_queue(display_));
     const std::unique_ptr<void, decltype(&wl_proxy_wrapper_destroy)> wrapper(
         wl_proxy_create_wrapper(display_), wl_proxy_wrapper_destroy);

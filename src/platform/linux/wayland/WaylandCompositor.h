@@ -9,25 +9,24 @@ class QWindow;
 
 namespace brellowind::platform {
 
-/// The global objects of the compositor that the Qt application is connected to, as far as Qt does
-/// not use them in the program's stead. Main thread only.
+/// The globals of the Qt application's compositor that Qt does not use itself. Main thread only.
 class WaylandCompositor {
 public:
-    /// REQUIRES: a `QGuiApplication` on the platform "wayland", which outlives this.
+    /// REQUIRES: a `QGuiApplication` on the platform "wayland", which outlives this object.
     WaylandCompositor();
 
     wl_display* display() const { return display_; }
     wl_compositor* surfaces() const { return surfaces_; }
     wl_shm* sharedMemory() const { return sharedMemory_.get(); }
-    zwlr_layer_shell_v1* layerShell() const { return layerShell_.get(); } ///< null: it has none
+    zwlr_layer_shell_v1* layerShell() const { return layerShell_.get(); } ///< null if not supported
     std::uint32_t layerShellVersion() const;
     xdg_wm_base* shell() const { return shell_.get(); }
-    xdg_activation_v1* activation() const { return activation_.get(); } ///< null: it has none
+    xdg_activation_v1* activation() const { return activation_.get(); } ///< null if not supported
 
-    wl_seat* seat() const;        ///< that was used last
+    wl_seat* seat() const;        ///< the last used one
     std::uint32_t serial() const; ///< of the last input event
 
-    /// Null while `window` has none.
+    /// Null if `window` has none.
     static wl_surface* surface(QWindow& window);
     static wl_output* output(QScreen& screen);
 

@@ -24,10 +24,10 @@ constexpr wl_registry_listener registryListener{noteGlobal, ignoreRemoval};
 } // namespace
 
 bool offersLayerShell() {
-    // A connection that was handed over by number can be taken once only: that is for Qt.
+    // An inherited connection can be used only once, by Qt.
     if (std::getenv("WAYLAND_SOCKET"))
         return true;
-    // Without a name the library tries a usual one, which may belong to another session.
+    // Without a name libwayland tries a default one, which may belong to another session.
     if (!std::getenv("WAYLAND_DISPLAY"))
         return false;
     const std::unique_ptr<wl_display, decltype(&wl_display_disconnect)> display(

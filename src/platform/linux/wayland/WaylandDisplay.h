@@ -4,11 +4,11 @@
 
 namespace brellowind::platform {
 
-/// Whether the compositor that the environment names offers a layer shell. Asks it over a
-/// connection of its own and waits for the answer. False when there is no compositor.
+/// Whether the compositor of the environment supports a layer shell. Blocks: queries it over a
+/// separate connection. False if there is no compositor.
 bool offersLayerShell();
 
-/// The path of the socket that the environment names, links resolved. Empty without one.
+/// The path of the environment's socket, with symbolic links resolved. Empty if there is none.
 std::string waylandSocketPath();
 
 } // namespace brellowind::platform

@@ -30,7 +30,7 @@ struct WaylandDestroy {
     }
 };
 
-/// Owns an object of a protocol, or an event queue.
+/// Owns a protocol object or an event queue.
 template <typename Object>
 using WaylandObject = std::unique_ptr<Object, WaylandDestroy>;
 

@@ -9,7 +9,7 @@ namespace {
 
 using Positioner = WaylandObject<xdg_positioner>;
 
-/// With the top left corner at a point of the parent, moved as far as the screen's edges make it.
+/// Puts the top left corner at a point of the parent; the compositor may slide it onto the screen.
 Positioner positioner(xdg_wm_base* shell, Point at, QSize size) {
     Positioner positioner(xdg_wm_base_create_positioner(shell));
     xdg_positioner_set_size(positioner.get(), size.width(), size.height());
@@ -35,7 +35,7 @@ void WaylandPopup::show(const Popup& popup, WaylandOverlay& overlay) {
         window_->close();
     window_ = &popup.window;
     overlay_ = &overlay;
-    // With the hint Qt gives the surface no role.
+    // With this hint Qt does not assign a role to the surface.
     window_->setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
                       Qt::BypassWindowManagerHint);
     window_->setScreen(popup.overlay.screen());
@@ -93,7 +93,7 @@ bool WaylandPopup::handleKey(QEvent* event) {
     return true;
 }
 
-/// The roles go before the surface.
+/// Destroys the role objects before the surface.
 void WaylandPopup::release() {
     QCoreApplication::instance()->removeEventFilter(this);
     window_ = nullptr;

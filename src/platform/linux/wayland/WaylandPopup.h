@@ -8,15 +8,15 @@
 
 namespace brellowind::platform {
 
-/// Shows a window as a popup of an overlay. The compositor keeps it on the screen, gives it
-/// the pointer, and closes it on a press anywhere else.
+/// Shows a window as an xdg_popup of an overlay, with a grab. The compositor keeps it on the screen
+/// and closes it on a press outside it.
 class WaylandPopup final : public QObject {
 public:
     explicit WaylandPopup(const WaylandCompositor& compositor) : compositor_(compositor) {}
     ~WaylandPopup() override;
 
-    /// Closes the one that is shown. `overlay` is that of the popup's overlay window, is shown, and
-    /// outlives the popup's being shown.
+    /// Closes a popup that is shown. `overlay`, that of the popup's overlay window, must be shown
+    /// and exist while the popup is shown.
     void show(const Popup& popup, WaylandOverlay& overlay);
 
 protected:
@@ -32,7 +32,7 @@ private:
     void release();
 
     const WaylandCompositor& compositor_;
-    QWindow* window_ = nullptr; ///< while it is shown
+    QWindow* window_ = nullptr; ///< while shown
     WaylandOverlay* overlay_ = nullptr;
     WaylandObject<xdg_surface> surface_;
     WaylandObject<xdg_popup> popup_;

@@ -12,11 +12,11 @@ namespace brellowind::platform {
 
 class WaylandOverlay;
 
-/// The Wayland compositor that the Qt application shows its windows on.
+/// The Wayland compositor of the Qt application.
 class WaylandWindowSystem final : public WindowSystem {
 public:
-    /// REQUIRES: a `QGuiApplication` on the platform "wayland", and a layer shell. `mainLoop`
-    /// outlives this.
+    /// REQUIRES: a `QGuiApplication` on the platform "wayland", and a layer shell. `mainLoop` must
+    /// outlive this object.
     explicit WaylandWindowSystem(MainLoop& mainLoop);
 
     std::unique_ptr<Overlay> makeOverlay(QWindow& window) override;
@@ -27,7 +27,7 @@ public:
     void adoptActivation(const std::string& token) override { activation_.adopt(token); }
     std::string sessionName() const override;
 
-    /// The connection to the compositor, which this keeps.
+    /// The connection's socket. Not owned by the caller.
     int socket() const { return wl_display_get_fd(compositor_.display()); }
 
 private:
@@ -37,7 +37,7 @@ private:
     WindowPointer pointer_;
     WaylandPopup popup_{compositor_};
     WaylandActivation activation_;
-    WaylandOverlay* overlay_ = nullptr; ///< the one that was made last
+    WaylandOverlay* overlay_ = nullptr; ///< the last one that was made
 };
 
 } // namespace brellowind::platform

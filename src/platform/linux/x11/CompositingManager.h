@@ -6,10 +6,10 @@
 
 namespace brellowind::platform {
 
-/// Whether a compositing manager shows the windows, without which none of them is transparent.
+/// Whether a compositing manager is running, which transparent windows need.
 class CompositingManager {
 public:
-    /// Calls `onChange` after each change of `isRunning`, as soon as the server tells.
+    /// Calls `onChange` after each change of `isRunning`.
     CompositingManager(const X11Connection& x11, std::function<void()> onChange);
 
     bool isRunning() const { return running_; }

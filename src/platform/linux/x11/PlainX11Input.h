@@ -8,7 +8,7 @@
 
 namespace brellowind::platform {
 
-/// An X server of its own, which knows the pointer everywhere.
+/// A real X server, which reports the pointer everywhere.
 class PlainX11Input final : public X11Input {
 public:
     explicit PlainX11Input(MainLoop& mainLoop) : pointer_(mainLoop) {}
@@ -19,7 +19,7 @@ public:
         return std::make_unique<PlainX11Shape>(window, std::move(changed));
     }
 
-    void giveKeyboard(QWindow& /*menu*/) override {} // it can take it
+    void giveKeyboard(QWindow& /*menu*/) override {} // it can grab it
 
 private:
     X11Pointer pointer_;

@@ -6,9 +6,8 @@
 
 namespace brellowind::platform {
 
-/// How often a window may bring itself back to the top, so that two that both want to be there do
-/// not fight for ever: five times within any second, then not at all during a pause, which is twice
-/// as long after each round of the same fight.
+/// Rate limit for raising a window, so that two windows that both raise themselves do not loop:
+/// five raises within a second, then a pause, with exponential backoff.
 class RaiseBudget {
 public:
     using TimePoint = std::chrono::steady_clock::time_point;
@@ -18,14 +17,14 @@ public:
     static constexpr std::chrono::milliseconds firstPause{2000};
     static constexpr std::chrono::milliseconds longestPause{60000};
 
-    /// Whether the window may raise itself at `now`; if so, that counts as a raise.
+    /// Returns whether the window may raise itself at `now`, and counts the raise.
     bool spend(TimePoint now);
 
-    /// When it may again, after a refusal.
+    /// The end of the pause, after a refusal.
     TimePoint pauseEnd() const { return pauseEnd_; }
 
 private:
-    std::deque<TimePoint> raises_; ///< those of the last second
+    std::deque<TimePoint> raises_; ///< within the last second
     std::chrono::milliseconds pause_{0};
     TimePoint pauseEnd_{};
 };

@@ -11,16 +11,15 @@
 
 namespace brellowind::platform {
 
-/// Brings a window that bypasses the window manager back to the top when a window of another
-/// program covers a part of it. It does not fight for ever (`RaiseBudget`), and never with a
-/// shield: a window that covers the whole screen and bypasses the window manager as well, which is
-/// how screen lockers keep everything else from sight.
+/// Raises an override-redirect window when a window of another program covers a part of it, limited
+/// by `RaiseBudget`. Never raises it above a shield: an override-redirect window that covers the
+/// whole screen, as screen lockers use.
 class StayOnTop {
 public:
-    /// The native window of `window` exists and outlives this.
+    /// The native window of `window` must exist and outlive this object.
     StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& mainLoop);
 
-    /// Above all but the windows of this program that are above it now, such as its menu.
+    /// Raises it above all windows except this program's that are above it, such as the menu.
     void raise();
 
 private:
@@ -42,11 +41,11 @@ private:
     const QWindow& qtWindow_;
     xcb_window_t window_;
     xcb_window_t below_ = XCB_WINDOW_NONE; ///< the window right below this one
-    xcb_atom_t managedMark_; ///< a property of the windows that a window manager manages
+    xcb_atom_t managedMark_; ///< a property of managed windows
     MainLoop& mainLoop_;
     RaiseBudget budget_;
     std::unique_ptr<NextTurn> nextTurn_;
-    std::unique_ptr<Timer> pause_; ///< there while the budget is spent
+    std::unique_ptr<Timer> pause_; ///< while the budget is spent
     X11EventObserver observer_;
 };
 

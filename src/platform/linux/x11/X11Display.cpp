@@ -6,7 +6,7 @@
 namespace brellowind::platform {
 namespace {
 
-/// What may stand for a display of this host instead of its number: the path of its socket.
+/// The path of a display's socket, which may be used instead of its number.
 constexpr std::string_view localSocket = "/tmp/.X11-unix/X";
 
 } // namespace

@@ -6,17 +6,15 @@
 
 namespace brellowind::platform {
 
-/// The display that `spelling`, as in the variable DISPLAY, leads to: its host, which is empty for
-/// this one, a colon and its number. The screen is left out. Empty if it leads nowhere; null stands
-/// for the variable's value.
+/// Normalises `spelling`, a value of DISPLAY (null: the current one): host, empty for this host,
+/// colon and display number, without the screen. Empty if invalid.
 std::string x11DisplayName(const char* spelling = nullptr);
 
 struct X11Disconnect {
     void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
 };
 
-/// A connection to the X server that DISPLAY leads to; null when there is none or it refuses this
-/// program. Waits for the server's answer.
+/// Connects to the X server of DISPLAY. Blocks. Null if there is none or it refuses the connection.
 std::unique_ptr<xcb_connection_t, X11Disconnect> openX11Display();
 
 } // namespace brellowind::platform

@@ -10,19 +10,19 @@ class QWindow;
 
 namespace brellowind::platform {
 
-/// What differs between kinds of X servers: where the pointer is known, how the overlay's window
-/// takes it, and how a menu gets the keyboard.
+/// The differences between kinds of X servers: where the pointer is known, the input shape of the
+/// overlay, and the keyboard focus of a menu.
 class X11Input {
 public:
     virtual ~X11Input() = default;
 
     virtual Pointer& pointer() = 0;
 
-    /// Of an overlay's native window, which exists, is not shown yet and outlives the shape.
-    /// `changed` is called when the shape has to be updated though the overlay is as it was.
+    /// Makes the shape of an overlay's native window, which must exist, be hidden, and outlive the
+    /// shape. `changed` requests an update that is not caused by the overlay.
     virtual std::unique_ptr<OverlayShape> shape(QWindow& window, std::function<void()> changed) = 0;
 
-    /// `menu` is about to be shown as a popup.
+    /// Call before `menu` is shown as a popup.
     virtual void giveKeyboard(QWindow& menu) = 0;
 };
 

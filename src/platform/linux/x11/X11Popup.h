@@ -10,11 +10,11 @@
 
 namespace brellowind::platform {
 
-/// Shows a window as a popup, to which the X server gives nothing by itself: it holds pointer and
-/// keyboard while it is shown. Its corners are round also without a compositing manager.
+/// Shows a window as a popup that grabs pointer and keyboard while it is shown. Its corners are
+/// round also without a compositing manager.
 class X11Popup final : public QObject {
 public:
-    /// Closes the one that is shown.
+    /// Closes a popup that is shown.
     void show(const Popup& popup);
 
 protected:
@@ -28,7 +28,7 @@ private:
 
     X11Connection x11_;
     CompositingManager compositingManager_{x11_, [] {}};
-    QPointer<QWindow> window_; ///< while it is shown
+    QPointer<QWindow> window_; ///< while shown
     bool held_ = false;
 };
 

@@ -6,7 +6,7 @@
 
 namespace brellowind::platform {
 
-/// The screen saver of the X server itself.
+/// The X server's built-in screen saver.
 class X11ScreenSaver {
 public:
     /// Calls `onChange` after each change of `isActive`.

@@ -7,16 +7,15 @@
 
 namespace brellowind::platform {
 
-/// The shape of one window. Setting what is set already sends nothing.
+/// The SHAPE regions of a window. Setting the current value sends nothing.
 class X11Shape {
 public:
     X11Shape(const X11Connection& x11, xcb_window_t window);
 
-    /// Where the window takes the pointer; elsewhere it falls through to what lies beneath.
+    /// The region with pointer input; elsewhere it goes to the windows below.
     void setInput(const QRegion& region);
 
-    /// Where there is a window at all; absent: everywhere. Where a bounded window grows it is black
-    /// until it is drawn.
+    /// The extent of the window; nullopt: not bounded. New parts are black until they are drawn.
     void setBounding(const std::optional<QRegion>& region);
 
 private:
@@ -24,7 +23,7 @@ private:
 
     X11Connection x11_;
     xcb_window_t window_;
-    std::optional<QRegion> input_; ///< absent: as the server made it, the whole window
+    std::optional<QRegion> input_; ///< nullopt: the default, the whole window
     std::optional<QRegion> bounding_;
 };
 

@@ -9,10 +9,11 @@
 
 namespace brellowind::platform {
 
-/// The X server that the Qt application shows its windows on.
+/// The X server of the Qt application.
 class X11WindowSystem final : public WindowSystem {
 public:
-    /// REQUIRES: a `QGuiApplication` on the platform "xcb". Both references outlive this.
+    /// REQUIRES: a `QGuiApplication` on the platform "xcb". Both references must outlive this
+    /// object.
     X11WindowSystem(MainLoop& mainLoop, ScreenLock& screenLock, std::unique_ptr<X11Input> input);
 
     std::unique_ptr<Overlay> makeOverlay(QWindow& window) override;

@@ -13,18 +13,17 @@
 
 namespace brellowind::platform {
 
-/// Tells a `WindowPointer` of the pointer over an overlay's window under XWayland.
+/// Reports the pointer over an overlay's window under XWayland to a `WindowPointer`.
 ///
-/// The pointer is there from its first motion: when a window is shown where the pointer was last
-/// known, XWayland tells that it has entered though it may be anywhere by now. It is there until it
-/// leaves, which XWayland does not tell when an absolute device moved it, such as a virtual
-/// machine's. So while the pointer is there the compositor is asked now and then how long nobody
-/// did anything: if the last deed did not come here, the pointer is taken to be elsewhere. It comes
-/// back with its next motion, after typing for instance. A compositor that cannot be asked is not
-/// needed: the pointer is gone when nothing has come for some seconds.
+/// Hover begins with the first motion: enter events are not reliable, since XWayland also sends
+/// them to a new window at the last known position. It ends with a leave event, which XWayland does
+/// not send if an absolute device, such as that of a virtual machine, moved the pointer. Therefore
+/// the compositor's idle time is polled during hover: if the last user activity was not an event
+/// here, hover ends until the next motion. Without an idle monitor hover ends after some seconds
+/// without events.
 class XWaylandHover final : public QObject {
 public:
-    /// All three references outlive this.
+    /// All references must outlive this object.
     XWaylandHover(QWindow& window, WindowPointer& pointer, MainLoop& mainLoop,
                   const QDBusConnection& sessionBus);
     ~XWaylandHover() override;
@@ -44,8 +43,8 @@ private:
     WindowPointer& pointer_;
     MainLoop& mainLoop_;
     QDBusConnection sessionBus_;
-    Time lastHere_;                       ///< when an event of the pointer came last
-    std::unique_ptr<Timer> nextQuestion_; ///< while the pointer is over the window
+    Time lastHere_;                       ///< time of the last pointer event
+    std::unique_ptr<Timer> nextQuestion_; ///< during hover
     std::optional<BusCall> question_;
 };
 

@@ -6,7 +6,7 @@
 namespace brellowind::platform {
 namespace {
 
-/// The same height comes again after so many frames, which XWayland never hands over as one.
+/// The height repeats after this many frames; XWayland never coalesces as many.
 constexpr int mostExtra = 8;
 
 } // namespace
@@ -43,12 +43,12 @@ bool XWaylandShape::nativeEventFilter(const QByteArray& type, void* message, qin
            configured.width == known.width();
 }
 
-/// In pixels, as Qt knows it.
+/// The geometry that Qt has requested, in pixels.
 QRect XWaylandShape::geometry() const {
     return qtWindow_.handle()->geometry();
 }
 
-/// Of what the window shows, by XWayland to the compositor.
+/// Allows or blocks commits of the window's content by XWayland.
 void XWaylandShape::setCommitsAllowed(bool allowed) const {
     const std::uint32_t value = allowed;
     xcb_change_property(x11_.get(), XCB_PROP_MODE_REPLACE, window_, commitsAllowed_,

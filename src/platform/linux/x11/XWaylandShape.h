@@ -8,22 +8,21 @@
 
 namespace brellowind::platform {
 
-/// Lets a window take the pointer within a part of it under GNOME's compositor, which looks at the
-/// input shape of a window when its size changes, and forgets it when the window shows something
-/// else at the same size.
+/// The input shape of a window under GNOME's compositor, which reads it only when the window's size
+/// changes, and discards it when the content changes at the same size.
 ///
-/// So in every frame the window has another height, and XWayland hands over height and content
-/// together. The height is a few pixels more than Qt gave it; they are transparent, and Qt does not
-/// hear of them.
+/// Therefore every frame changes the window's height, and XWayland commits height and content
+/// together. The height is a few transparent pixels larger than Qt's; the resize events are hidden
+/// from Qt.
 class XWaylandShape final : public QAbstractNativeEventFilter {
 public:
-    /// The native window of `window` exists and outlives this.
+    /// The native window of `window` must exist and outlive this object.
     explicit XWaylandShape(const QWindow& window);
 
     /// `input` is in pixels.
     void update(const QRegion& input) { shape_.setInput(input); }
 
-    /// Shows a frame: calls `flush`, which sends it to the X server.
+    /// Presents a frame. `flush` sends it to the X server.
     void present(const std::function<void()>& flush);
 
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
@@ -37,7 +36,7 @@ private:
     xcb_window_t window_;
     X11Shape shape_;
     xcb_atom_t commitsAllowed_;
-    int extra_ = 0; ///< pixels of height
+    int extra_ = 0; ///< additional height in pixels
 };
 
 } // namespace brellowind::platform
