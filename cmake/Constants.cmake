@@ -3,8 +3,7 @@
 
 set(BRELLOWIND_LYRICS_ORIGIN "https://lrclib.net" CACHE STRING
   "https and host of the lyrics service, without a trailing slash")
-# What is empty is left out of the program, and with it what would use it: links, feedback, update
-# checks.
+# An empty value disables what would use it: links, feedback, update checks.
 set(BRELLOWIND_WEBSITE_URL "" CACHE STRING "The product's website")
 set(BRELLOWIND_SOCIAL_URL "" CACHE STRING "The product's social-media profile")
 set(BRELLOWIND_PRIVACY_POLICY_URL "" CACHE STRING "The privacy policy")

@@ -1,4 +1,4 @@
-# Makers of the project's own targets, so that every one has the same warnings and include root.
+# Functions for the project's targets, with common warnings and include folder.
 add_library(brellowind_options INTERFACE)
 target_compile_options(brellowind_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
@@ -18,7 +18,7 @@ target_compile_definitions(brellowind_qt_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
 
-# A static library without Qt; its includes are written from src/.
+# A static library without Qt. Includes are relative to src/.
 function(brellowind_core_library name)
   add_library(${name} STATIC ${ARGN})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
@@ -33,11 +33,11 @@ function(brellowind_qt_library name)
   target_link_libraries(${name} PUBLIC Qt6::Core PRIVATE brellowind_qt_options)
 endfunction()
 
-# Where the library of the settings window is, beside the folder "bin" of the program: the same in a
-# build tree and in an installation. So deep that nobody takes it for a library of the system's.
+# The folder of the settings library, relative to the parent of the program's "bin", in a build tree as
+# in an installation. Outside the search paths for libraries.
 set(BRELLOWIND_LIBRARY_FOLDER lib/brellowind/modules)
 
-# Makes a program that is all of Brellowind of the executable `target`.
+# Links the executable `target` with the whole of Brellowind.
 function(brellowind_program target)
   target_link_libraries(${target} PRIVATE brellowind_app brellowind_qt_options)
   add_dependencies(${target} brellowind_settings_library)

@@ -1,4 +1,4 @@
-# The Debian package: the program and what Debian wants beside it, in one file.
+# The Debian package: the program and Debian's documentation files.
 set(CPACK_GENERATOR DEB)
 set(CPACK_COMPONENTS_ALL program debian)
 set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
@@ -29,10 +29,9 @@ if(BRELLOWIND_WEBSITE_URL)
 endif()
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 
-# The libraries are computed. Qt's Wayland plugin, QML modules and plugins are loaded while the program runs, links are
-# opened by a command, and the bus and the certificates belong to the system: nothing can compute
-# them. Qt 6.4 looks for the last of the modules only, since the library of Qt Quick brings the types
-# of the others; that is its own affair, so what the QML imports is named whole.
+# Library dependencies are computed; those below cannot be: Qt's Wayland plugin and QML modules, which are loaded at run
+# time, xdg-open, the session bus and the certificates. All modules that the QML imports are listed, although Qt 6.4
+# looks up only the last one.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
   qml6-module-qtquick qml6-module-qtqml qml6-module-qtqml-workerscript

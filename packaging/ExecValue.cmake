@@ -1,5 +1,5 @@
-# How a desktop entry starts the program in `folder`: a desktop finds bare names in the usual folders
-# only; elsewhere its entry needs the whole path.
+# The Exec value for the program in `folder`: its name if the folder is in the default search path, else
+# its path.
 function(brellowind_exec_value folder result)
   set(value brellowind)
   if(NOT folder MATCHES "^/usr(/local)?/bin$")
