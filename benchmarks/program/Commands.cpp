@@ -2,7 +2,7 @@
 
 #include "app/BrellowindApp.h"
 #include "views/NotchRootView.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <QGuiApplication>
 #include <cstdio>
@@ -18,7 +18,7 @@ Commands::Commands(BrellowindApp& app, FrameLog& frames) : app_(app), frames_(fr
 }
 
 Commands::~Commands() {
-    reader_.join(); // who ends the program ends its input first
+    reader_.join(); // the input is closed before the program is ended
 }
 
 void Commands::read() {
@@ -62,7 +62,7 @@ std::string Commands::answer(const std::string& command) {
     return "done";
 }
 
-/// Where the lyric line is on the screen, in pixels.
+/// The rectangle of the lyric line on the screen, in pixels.
 std::string Commands::lineRect() const {
     const auto* line = app_.window().root().findChild<Item*>(QStringLiteral("lyricLine"));
     const double scale = app_.window().devicePixelRatio();

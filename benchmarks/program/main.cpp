@@ -2,7 +2,7 @@
 #include "FrameLog.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <cstdio>
 

@@ -2,7 +2,7 @@
 
 #include "app/BrellowindApp.h"
 #include "views/NotchRootView.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <QGuiApplication>
 #include <QPixmap>
@@ -12,7 +12,7 @@
 namespace brellowind::demo {
 namespace {
 
-constexpr std::chrono::milliseconds motion{900}; ///< after which the pill is at rest
+constexpr std::chrono::milliseconds motion{900}; ///< duration of the pill's animations
 constexpr int pillPictureHeight = 120;
 constexpr int panelPictureHeight = 480;
 
@@ -21,7 +21,7 @@ constexpr int panelPictureHeight = 480;
 Recorder::Recorder(BrellowindApp& app)
     : app_(app), redraws_(app.rootView().onRedraw([this] { redrawn(); })) {
     rest_.setSingleShot(true);
-    connect(&rest_, &QTimer::timeout, this, &Recorder::takePicture);
+    connect(&rest_, &QTimer::timeout, this, &Recorder::renderPicture);
     redrawn();
 }
 
@@ -49,7 +49,7 @@ void Recorder::redrawn() {
         rest_.start(motion);
 }
 
-void Recorder::takePicture() {
+void Recorder::renderPicture() {
     const QRect frame = app_.window().geometry();
     const bool panel = app_.rootView().form().isArtExpanded;
     const QPixmap picture = app_.window().screen()->grabWindow(

@@ -14,15 +14,15 @@ class BrellowindApp;
 
 namespace brellowind::demo {
 
-/// Prints each text that the pill shows with the song's time at which it appeared, and saves a
-/// picture of the screen's top once the pill has come to rest.
+/// Prints each text of the pill with the song's time when it appeared, and saves a screenshot of
+/// the screen's top after the animation.
 class Recorder : public QObject {
 public:
-    /// `app` must outlive the recorder.
+    /// `app` must outlive this object.
     explicit Recorder(BrellowindApp& app);
 
-    /// Saves numbered pictures into `folder`, which is made when it is missing and emptied of
-    /// earlier ones. False when it cannot be written.
+    /// Saves numbered pictures in `folder`. Creates it, or removes earlier pictures. Returns false
+    /// if it is not writable.
     bool savePictures(const QString& folder);
 
     /// Whether a picture could not be saved.
@@ -30,7 +30,7 @@ public:
 
 private:
     void redrawn();
-    void takePicture();
+    void renderPicture();
 
     BrellowindApp& app_;
     Subscription redraws_;

@@ -5,7 +5,7 @@
 #include "platform/WindowSystem.h"
 #include "views/NotchRootView.h"
 #include "views/motion/FrameDriver.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <memory>
 #include <optional>
@@ -24,7 +24,7 @@ public:
     void applicationDidFinishLaunching();
 
     NotchRootView& rootView() { return *rootView_; }
-    NotchView& window() { return notch_->content; } ///< only after launch
+    PillWindow& window() { return notch_->content; } ///< only after launch
 
 private:
     /// The window: its frame clock, its content and its placement.
@@ -32,7 +32,7 @@ private:
         Notch(NotchRootView& rootView, platform::WindowSystem& windowSystem);
 
         FrameDriver frames;
-        NotchView content;
+        PillWindow content;
         NotchWindow window;
     };
 

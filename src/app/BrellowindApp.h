@@ -27,7 +27,7 @@ public:
     void launch() { delegate_.applicationDidFinishLaunching(); }
 
     NotchRootView& rootView() { return delegate_.rootView(); }
-    NotchView& window() { return delegate_.window(); } ///< only after launch
+    PillWindow& window() { return delegate_.window(); } ///< only after launch
 
 private:
     SettingsServices settingsServices();

@@ -40,10 +40,10 @@ void Observers::notify() {
         if (const auto* callback = entries_[i].callback.get())
             (*callback)();
     }
-    if (--notifying_ > 0 || left_.empty())
+    if (--notifying_ > 0 || removed_.empty())
         return;
     std::erase_if(entries_, [](const Entry& entry) { return !entry.callback; });
-    left_.clear();
+    removed_.clear();
 }
 
 void Observers::remove(std::uint64_t id) {
@@ -51,7 +51,7 @@ void Observers::remove(std::uint64_t id) {
     if (entry == entries_.end())
         return;
     if (notifying_ > 0)
-        left_.push_back(std::move(entry->callback)); // it may be running now
+        removed_.push_back(std::move(entry->callback)); // it may be running now
     else
         entries_.erase(entry);
 }

@@ -49,7 +49,7 @@ private:
     void remove(std::uint64_t id);
 
     std::vector<Entry> entries_;
-    std::vector<std::unique_ptr<Callback>> left_; ///< freed after the notification
+    std::vector<std::unique_ptr<Callback>> removed_; ///< freed after the notification
     std::uint64_t lastId_ = 0;
     int notifying_ = 0;
 };

@@ -26,7 +26,7 @@ public:
     /// the window does not ignore it, in points from its top left corner, y downward. Input
     /// elsewhere goes to the windows below. Without transparency the window is clipped to the
     /// outline. May be called for every frame; initially both are empty.
-    virtual void setOutline(const Path& outline, const std::vector<Rect>& reach) = 0;
+    virtual void setOutline(const Path& outline, const std::vector<Rect>& inputRects) = 0;
 
     /// Presents a frame, after its outline is set. `flush` submits it to the window system.
     virtual void present(const std::function<void()>& flush) { flush(); }

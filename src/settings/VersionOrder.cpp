@@ -46,8 +46,8 @@ std::strong_ordering compareVersions(std::string_view a, std::string_view b) {
         if (order != 0)
             return order;
     }
-    if (const auto rests = restOfA.size() <=> restOfB.size(); rests != 0)
-        return rests; // one of them is empty
+    if (const auto lengths = restOfA.size() <=> restOfB.size(); lengths != 0)
+        return lengths; // one of them is empty
     const auto lengths = a.size() <=> b.size();
     return lengths != 0 ? lengths : a <=> b;
 }

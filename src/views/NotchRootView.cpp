@@ -19,15 +19,15 @@ NotchRootView::NotchRootView(Environment environment)
     : environment_(std::move(environment)),
       interactivity_(environment_.mainLoop, environment_.window),
       nextTurn_(environment_.mainLoop.onNextTurn([this] { refresh(); })) {
-    const auto follow = [this](const auto& published) {
+    const auto observe = [this](const auto& published) {
         subscriptions_.push_back(published.observe([this] { nextTurn_->request(); }));
     };
-    follow(environment_.nowPlaying->track);
-    follow(environment_.nowPlaying->isPlaying);
-    follow(environment_.nowPlaying->positionSec);
-    follow(environment_.lyrics->state);
-    follow(environment_.hover->isInside);
-    follow(environment_.artwork->image);
+    observe(environment_.nowPlaying->track);
+    observe(environment_.nowPlaying->isPlaying);
+    observe(environment_.nowPlaying->positionSec);
+    observe(environment_.lyrics->state);
+    observe(environment_.hover->isInside);
+    observe(environment_.artwork->image);
 }
 
 void NotchRootView::appear() {

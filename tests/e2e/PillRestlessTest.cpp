@@ -15,7 +15,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// A desktop whose screens and managers come and go.
+/// A desktop whose screens and managers change.
 class PillRestless : public PillOnDesktop {
 protected:
     explicit PillRestless(const QString& screen = QStringLiteral("2400x900x24"))
@@ -23,7 +23,7 @@ protected:
 
     ProcessUse use() { return ProcessUse(program->process().processId()); }
 
-    /// What the program holds in the X server: windows, pixmaps and the rest.
+    /// The number of the program's X resources: windows, pixmaps and others.
     quint32 resources() {
         const auto answer =
             x.ask<xcb_res_query_client_resources, xcb_res_query_client_resources_reply>(
@@ -36,7 +36,7 @@ protected:
         return count;
     }
 
-    /// Waits until the window hangs from the middle of the top edge of a screen.
+    /// Waits until the window is at the middle of the top edge of a screen.
     bool hangsFrom(const QRect& screen) {
         const int width = std::min(screen.width(), 640 * scale);
         const QRect place(screen.x() + (screen.width() - width + 1) / 2, screen.y(), width,
@@ -52,8 +52,7 @@ protected:
         EXPECT_TRUE(desktop.bus.connection().send(signal));
     }
 
-    /// Whether the window takes no other shape than its rectangle, as it may where windows can be
-    /// transparent.
+    /// Whether the window is not shaped, as with a compositing manager.
     bool isWhole() {
         const QRegion shape = x.shape(program->window(), XCB_SHAPE_SK_BOUNDING);
         return shape == QRegion(QRect({0, 0}, x.geometry(program->window()).size()));
@@ -67,7 +66,7 @@ protected:
 TEST_F(PillRestless, HangsRightAfterAThousandChangesOfTheScreens) {
     constexpr int rounds = 20;
     constexpr int changesPerRound = 50;
-    std::mt19937 random(20); // always the same changes
+    std::mt19937 random(20); // fixed seed
     const auto below = [&](int limit) {
         return static_cast<int>(random() % static_cast<unsigned>(limit));
     };
@@ -106,7 +105,7 @@ TEST_F(PillRestless, HangsRightAfterAThousandChangesOfTheScreens) {
         for (const QString& name : names + QStringList{last})
             if (monitors.has(name))
                 monitors.remove(name);
-        // Qt does not notice that a monitor is elsewhere that comes back by its name at once.
+        // Qt does not notice a new position of a monitor that reappears at once with the same name.
         last = QStringLiteral("last%1").arg(round);
         const QRect only = place(last, {700 + below(500), 600}, true);
         ASSERT_TRUE(hangsFrom(only)) << "in round " << round;
@@ -150,13 +149,13 @@ protected:
         };
     }
 
-    /// A person chooses so many pixels for a point.
+    /// Sets the scale in the desktop's settings.
     void choose(int pixels) {
         scale = pixels;
         settings->setDotsPerInch(96 * pixels);
     }
 
-    /// Black up to its lower edge and in its own shape, on what lies beneath.
+    /// Checks that the pill is black up to its lower edge and correctly shaped.
     bool isDrawn() {
         const QPoint window = x.geometry(program->window()).topLeft();
         const QRectF pill = program->rectangle("pill");
@@ -166,7 +165,7 @@ protected:
                at(edge + QPointF(0, 3)) == PlainWindow::colour();
     }
 
-    /// That the pill hangs, looks, feels and sings as ever.
+    /// Checks position, picture, input and lyrics of the pill.
     void expectWell() {
         EXPECT_TRUE(hangsFrom({QPoint(0, 0), screenSize}));
         EXPECT_TRUE(isShown());
@@ -193,7 +192,7 @@ TEST_F(PillOnAScreenOfAnotherDensity, IsAsLargeAsThePersonChooses) {
     }
     choose(2);
     ASSERT_TRUE(hangsFrom({QPoint(0, 0), screenSize}));
-    settings.reset(); // whoever tells of the density is gone
+    settings.reset(); // the settings manager exits
     expectWell();
 }
 
@@ -217,7 +216,7 @@ TEST_F(PillOnAScreenOfAnotherDensity, OpensItsMenuAsLargeAsThePill) {
 }
 
 TEST_F(PillOnAScreenOfAnotherDensity, LeavesNothingBehindHoweverOftenItChanges) {
-    // Of a part of the window that is sent to the screen Qt keeps a copy, as large as any was.
+    // Qt keeps a buffer for parts of the window, of the largest size so far.
     constexpr qint64 copyKiB = 1280 * 1080 * 4 / 1024;
     startSinging();
     const auto changeAndBack = [&] {

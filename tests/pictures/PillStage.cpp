@@ -16,7 +16,8 @@ namespace brellowind::test {
 namespace {
 
 constexpr int framesPerSecond = 60;
-constexpr int framesToRest = 198; ///< the wave then stands in the middle of the waveform symbol
+constexpr int framesToRest =
+    198; ///< at which the highlight is in the middle of the waveform symbol
 constexpr int waveformStepsPerSecond = 10;
 constexpr double screenWidth = 1512;
 constexpr double screenHeight = 982;
@@ -31,7 +32,7 @@ public:
     void paint(QPainter& painter) override { demo::paintDesktop(painter, size()); }
 };
 
-/// What the service answers with for lyrics in the LRC format.
+/// The service's answer for lyrics in the LRC format.
 std::string answer(const QString& lrc) {
     if (lrc.isEmpty())
         return "{}";
@@ -43,7 +44,7 @@ void send(QWindow& window, QEvent::Type type, QPointF at, Qt::MouseButton button
     QCoreApplication::sendEvent(&window, &event);
 }
 
-/// What `window` shows over black.
+/// The content of `window` over black.
 QImage grabbed(SceneWindow& window) {
     const QImage shown = window.grab();
     QImage image(shown.size(), QImage::Format_RGB32);
@@ -68,9 +69,9 @@ PillStage::PillStage() {
     machine_.screens.connected = {screen};
     machine_.screens.mainScreen = screen;
     spotify_.quit();
-    content_ = std::make_unique<NotchView>(*root_, clock_, windowSystem_);
+    content_ = std::make_unique<PillWindow>(*root_, clock_, windowSystem_);
     content_->resize(640, NotchMetrics::windowHeight);
-    QResizeEvent resize(content_->size(), {}); // a window that is not shown gets none
+    QResizeEvent resize(content_->size(), {}); // hidden windows get none
     QCoreApplication::sendEvent(content_.get(), &resize);
     new DesktopItem(content_->root());
     root_->appear();
@@ -151,7 +152,7 @@ QImage PillStage::menu(const QString& hovered) {
     const auto windows = QGuiApplication::allWindows();
     auto* menu = qobject_cast<SceneWindow*>(*std::ranges::find(
         windows, QStringLiteral("menu"), [](auto* window) { return window->objectName(); }));
-    QCoreApplication::processEvents(); // the window takes its size
+    QCoreApplication::processEvents(); // resizes the window
     for (auto* entry : menu->root().findChildren<TapArea*>())
         if (entry->accessibleName() == hovered)
             send(*menu, QEvent::MouseMove, entry->transform().map(entry->boundingRect().center()),

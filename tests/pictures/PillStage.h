@@ -5,7 +5,7 @@
 #include "views/FakeWindowSystem.h"
 #include "views/NotchRootView.h"
 #include "views/SteppedFrames.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <QImage>
 #include <QRectF>
@@ -70,7 +70,7 @@ private:
     std::shared_ptr<NotchRootView> root_;
     FakeWindowSystem windowSystem_{machine_.screens, machine_.pointer};
     SteppedFrames clock_;
-    std::unique_ptr<NotchView> content_;
+    std::unique_ptr<PillWindow> content_;
     std::string lyrics_;
     bool answersLyrics_ = true;
     std::size_t answered_ = 0;

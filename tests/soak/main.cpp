@@ -17,26 +17,25 @@
 #include <string_view>
 #include <vector>
 
-// The real program for a long time among everything that a desktop session may do to it.
+// The real program for a long time, with random events of a desktop session.
 namespace brellowind::test {
 namespace {
 
 using std::chrono::milliseconds;
 
 milliseconds duration{0};
-QString summary; ///< what there is to say of the run in a line
+QString summary; ///< of the run, one line
 
-/// A quantity that must not grow, and how much it may differ between two fifths of the run.
+/// A quantity that must not grow, and the tolerance between two fifths of the run.
 struct Quantity {
     const char* name;
     const char* unit;
     double Consumption::*value;
-    double tolerance = std::numeric_limits<double>::infinity(); ///< infinite: only told
+    double tolerance = std::numeric_limits<double>::infinity(); ///< infinite: reported only
 };
 
-// Of memory a few covers and what the allocator keeps of them come and go; of files and X resources
-// what is under way at the moment of a sample. PSS depends on which other programs run that use the
-// same libraries.
+// Memory varies with covers and the allocator; files and X resources with operations in progress.
+// PSS depends on other programs that use the same libraries.
 constexpr Quantity quantities[] = {
     {"PSS", " MB", &Consumption::pssMB},
     {"RSS", " MB", &Consumption::rssMB, 3},
@@ -47,11 +46,11 @@ constexpr Quantity quantities[] = {
     {"pixmaps", " MB", &Consumption::pixmapsMB, 2},
 };
 
-/// What the program may say when players and services fail, which they do here.
+/// The log lines that failures of player and service may cause.
 const QRegularExpression
     expectedLine(QStringLiteral("^(Spotify AppleScript error|Update check failed): "));
 
-/// What the pill may show here. A player that has just started plays what has no title.
+/// The texts that the pill may show. A player that has just started has no title.
 const QRegularExpression expectedText(
     QStringLiteral("^(No music playing|Loading lyrics…|♪|(Song \\d+)?(, line \\d+)?)$"));
 
@@ -61,7 +60,7 @@ protected:
         service.handler = [this](const demo::Exchange& exchange) { faulty.answer(exchange); };
     }
 
-    /// A few seconds of everything at once.
+    /// A few seconds of random events.
     void riot() {
         faulty.failsNow = true;
         QElapsedTimer time;
@@ -76,7 +75,7 @@ protected:
         }
     }
 
-    /// Ends what the riot has left open, and looks at what the program holds then.
+    /// Restores an idle state and measures the resource usage.
     void rest() {
         if (isDivided)
             joinMonitors();
@@ -90,7 +89,8 @@ protected:
         program->forgetEarlierTexts();
     }
 
-    /// Another size, or a second monitor in the right half; the pill goes where it belongs.
+    /// Changes the screen's size or adds a second monitor in the right half; checks the pill's
+    /// position.
     void changeScreens() {
         ++screenChanges;
         if (isDivided) {
@@ -119,7 +119,7 @@ protected:
         return waitUntil([&] { return x.geometry(program->window()) == place; });
     }
 
-    /// After all that it does what it is for.
+    /// Checks that the program still works.
     void singsAsOnTheFirstDay() {
         faulty.failsNow = false;
         restless->settle(QStringLiteral("Song 0"), "Paused", 10);
@@ -147,7 +147,7 @@ protected:
         }
     }
 
-    /// A soak in which nothing happens would prove nothing.
+    /// Checks that the events really happened.
     void expectThatMuchHappened() {
         const std::pair<const char*, int> events[] = {
             {"tracks", restless->tracks},    {"seeks", restless->seeks},
@@ -209,7 +209,7 @@ TEST_F(Soak, LeavesTheProgramAsItWas) {
     expectNoUnexpectedWords();
 }
 
-/// Says what failed, and nothing else.
+/// A listener that prints failures only.
 class Complaints : public testing::EmptyTestEventListener {
     void OnTestPartResult(const testing::TestPartResult& result) override {
         if (result.failed())

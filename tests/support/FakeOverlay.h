@@ -7,7 +7,7 @@
 
 namespace brellowind::test {
 
-/// Remembers what it was told, in order, and the last outline apart from that.
+/// Records all calls in order, and the last outline.
 class FakeOverlay final : public platform::Overlay {
 public:
     struct SetFrame {
@@ -34,16 +34,16 @@ public:
         calls.emplace_back(SetIgnoresMouseEvents{ignores});
     }
 
-    void setOutline(const Path& newOutline, const std::vector<Rect>& newReach) override {
+    void setOutline(const Path& newOutline, const std::vector<Rect>& newInputRects) override {
         outline = newOutline;
-        reach = newReach;
+        inputRects = newInputRects;
         ++outlines;
     }
 
     std::vector<Call> calls;
     Path outline;
-    std::vector<Rect> reach;
-    int outlines = 0; ///< how often it was told one
+    std::vector<Rect> inputRects;
+    int outlines = 0; ///< number of calls
 };
 
 } // namespace brellowind::test

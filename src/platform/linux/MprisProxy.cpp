@@ -33,11 +33,11 @@ void MprisProxy::ask() {
     if (question_)
         return;
     state_ = State::asked;
-    question_.emplace(bus_,
-                      methodCall(name_, objectPath,
-                                 QStringLiteral("org.freedesktop.DBus.Properties"), "GetAll",
-                                 {playerInterface}),
-                      BusCall::noTimeout, [this](const QDBusMessage& reply) { takeAnswer(reply); });
+    question_.emplace(
+        bus_,
+        methodCall(name_, objectPath, QStringLiteral("org.freedesktop.DBus.Properties"), "GetAll",
+                   {playerInterface}),
+        BusCall::noTimeout, [this](const QDBusMessage& reply) { handleReply(reply); });
     lateness_ = mainLoop_.scheduleOnce(patience, [this] {
         state_ = State::late;
         failures_.failed("the player does not answer");
@@ -58,7 +58,7 @@ QDBusMessage MprisProxy::playPauseCall() const {
     return methodCall(name_, objectPath, playerInterface, "PlayPause");
 }
 
-void MprisProxy::takeAnswer(const QDBusMessage& reply) {
+void MprisProxy::handleReply(const QDBusMessage& reply) {
     question_.reset();
     lateness_.reset();
     state_ = read(reply);

@@ -43,7 +43,7 @@ public:
 private:
     using State = PlayerCandidate::State;
 
-    void takeAnswer(const QDBusMessage& reply);
+    void handleReply(const QDBusMessage& reply);
     State read(const QDBusMessage& reply);
 
     QDBusConnection bus_;

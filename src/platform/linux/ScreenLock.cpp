@@ -120,13 +120,13 @@ void ScreenLock::findSession() {
                                             QStringLiteral("org.freedesktop.login1.Manager"),
                                             "GetSession", {id.variant()}),
                                  this, [this](const QDBusObjectPath& session, const QDBusMessage&) {
-                                     followSession(session.path());
+                                     watchSession(session.path());
                                  });
         });
 }
 
 /// Observes `LockedHint`, which is set by the screen locker. A `Lock` signal is only a request.
-void ScreenLock::followSession(const QString& path) {
+void ScreenLock::watchSession(const QString& path) {
     systemBus_.connect(loginManager, path, propertiesInterface, QStringLiteral("PropertiesChanged"),
                        this, SLOT(sessionChanged(QString, QVariantMap)));
     systemBus_.connect(loginManager, path, sessionInterface, QStringLiteral("Unlock"), this,

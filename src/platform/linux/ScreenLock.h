@@ -33,7 +33,7 @@ private:
     void forgetSaver(const QString& saver);
 
     void findSession();
-    void followSession(const QString& path);
+    void watchSession(const QString& path);
     void setSessionLocked(bool locked);
 
     template <typename Change>

@@ -24,9 +24,9 @@ QRegion outlineRegion(const Path& outline, double scale) {
     return QRegion(covered).translated(bounds.topLeft());
 }
 
-QRegion reachRegion(const std::vector<Rect>& reach, double scale) {
+QRegion rectsRegion(const std::vector<Rect>& inputRects, double scale) {
     QRegion region;
-    for (const Rect& rect : reach) {
+    for (const Rect& rect : inputRects) {
         const auto pixel = [scale](double edge) {
             return static_cast<int>(std::ceil(edge * scale - 0.5));
         };

@@ -12,6 +12,6 @@ namespace brellowind::platform {
 QRegion outlineRegion(const Path& outline, double scale);
 
 /// The same for the union of rectangles.
-QRegion reachRegion(const std::vector<Rect>& reach, double scale);
+QRegion rectsRegion(const std::vector<Rect>& inputRects, double scale);
 
 } // namespace brellowind::platform

@@ -82,19 +82,19 @@ private:
 
     void read() {
         if (isRedirect())
-            follow();
+            followRedirect();
         else if (auto error = readBody())
             complete(std::move(*error));
     }
 
     void finish() {
         if (isRedirect() && reply_->error() == QNetworkReply::NoError)
-            follow();
+            followRedirect();
         else if (auto error = readBody())
             complete(std::move(*error));
         else if (!isAnswer(status(), reply_->error()))
             complete(TransportError{reply_->errorString().toStdString()});
-        else if (!isWhole())
+        else if (!isComplete())
             complete(TransportError{"the body was cut off"});
         else
             complete(HttpResponse{status(), std::move(body_)});
@@ -102,7 +102,7 @@ private:
 
     /// Follows the redirect with a new request. Qt's own redirects sometimes mix the headers of one
     /// answer into those of the next.
-    void follow() {
+    void followRedirect() {
         const QByteArray location = reply_->rawHeader("Location");
         const QUrl from = reply_->url();
         const QUrl to = from.resolved(QUrl::fromEncoded(location));
@@ -119,7 +119,7 @@ private:
 
     /// Whether the body is complete. Qt may report a truncated body as complete if the connection
     /// closes while a part is read. For chunked bodies there is no further check.
-    bool isWhole() const {
+    bool isComplete() const {
         const bool hasBody = status() != noContent && status() != notModified;
         const auto length = reply_->header(QNetworkRequest::ContentLengthHeader);
         return !hasBody || !length.isValid() || body_.size() >= length.toULongLong();

@@ -5,7 +5,7 @@
 namespace brellowind {
 
 GeneralModel::GeneralModel(const SettingsServices& services)
-    : takesFeedback(!services.constants.feedbackEmail.empty()),
+    : acceptsFeedback(!services.constants.feedbackEmail.empty()),
       checksForUpdates(services.updater.hasFeed()), updater_(services.updater), settings_(services),
       launchAtLogin_(settings_.launchAtLogin.get()), card_(publishedCard()),
       nextTurn_(services.mainLoop.onNextTurn([this] { refresh(); })) {

@@ -19,7 +19,7 @@ class GeneralModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the settings window")
-    Q_PROPERTY(bool takesFeedback MEMBER takesFeedback CONSTANT FINAL)
+    Q_PROPERTY(bool acceptsFeedback MEMBER acceptsFeedback CONSTANT FINAL)
     Q_PROPERTY(bool checksForUpdates MEMBER checksForUpdates CONSTANT FINAL)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged FINAL)
     Q_PROPERTY(QString cardIcon READ cardIcon NOTIFY cardChanged FINAL)
@@ -34,7 +34,7 @@ public:
     explicit GeneralModel(const SettingsServices& services);
 
     // Whether a feedback address is configured.
-    const bool takesFeedback;
+    const bool acceptsFeedback;
     const bool checksForUpdates;
 
     /// Call when the tab is shown. Starts an update check.

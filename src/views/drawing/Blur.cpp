@@ -100,7 +100,7 @@ void blur(QImage& image, double sigma) {
         blurColumn({first + sample, image.bytesPerLine()});
 }
 
-double blurReach(double sigma) {
+double blurExtent(double sigma) {
     return 3 * sigma;
 }
 

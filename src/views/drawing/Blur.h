@@ -6,11 +6,11 @@ namespace brellowind {
 
 /// Approximates a Gaussian blur of standard deviation `sigma` pixels on `image` (Alpha8 or
 /// premultiplied ARGB32). Pixels outside the image count as transparent, so the content needs a
-/// transparent margin of `blurReach`. Does nothing if sigma is 0 or less; limits it to 120.
+/// transparent margin of `blurExtent`. Does nothing if sigma is 0 or less; limits it to 120.
 void blur(QImage& image, double sigma);
 
 /// The distance over which a blur spreads a point, in the unit of `sigma`.
-double blurReach(double sigma);
+double blurExtent(double sigma);
 
 /// The distance over which `blur` spreads a pixel. Sigmas with equal radii give the same result.
 int blurRadius(double sigma);

@@ -21,11 +21,12 @@ constexpr double glideSpeed = 15;
 
 } // namespace
 
-LyricText::LyricText(Look look, const QString& text, bool present, FrameDriver& frames,
+LyricText::LyricText(Style style, const QString& text, bool present, FrameDriver& frames,
                      Item* parent)
-    : PainterItem(parent), frames_(frames), look_(std::move(look)), text_(text), present_(present) {
-    layers_.emplace_back(text_, look_.font, present_ ? 1.0 : 0.0);
-    followSize();
+    : PainterItem(parent), frames_(frames), style_(std::move(style)), text_(text),
+      present_(present) {
+    layers_.emplace_back(text_, style_.font, present_ ? 1.0 : 0.0);
+    updateSize();
     beginGlide();
 }
 
@@ -39,15 +40,15 @@ void LyricText::setText(const QString& text) {
         return;
     text_ = text;
     const double now = frames_.now();
-    layers_.back().goAway(now);
+    layers_.back().fadeOut(now);
     const auto leaving = std::ranges::find(layers_, text_, &TextLayer::text);
     if (leaving == layers_.end())
-        layers_.emplace_back(text_, look_.font, 0.0);
+        layers_.emplace_back(text_, style_.font, 0.0);
     else
         layers_.splice(layers_.end(), layers_, leaving);
     if (present_)
-        layers_.back().comeIn(now);
-    followSize();
+        layers_.back().fadeIn(now);
+    updateSize();
     beginGlide();
     frames_.drive(*this);
     if (isAvailable())
@@ -60,19 +61,19 @@ void LyricText::setPresent(bool present) {
     present_ = present;
     const double now = frames_.now();
     if (present_) {
-        layers_.back().comeIn(now);
+        layers_.back().fadeIn(now);
         beginGlide();
     } else {
-        layers_.back().goAway(now);
+        layers_.back().fadeOut(now);
     }
     frames_.drive(*this);
 }
 
 void LyricText::setRoom(double width) {
-    if (width == look_.room)
+    if (width == style_.room)
         return;
-    look_.room = width;
-    followSize();
+    style_.room = width;
+    updateSize();
     beginGlide();
     update();
 }
@@ -93,9 +94,9 @@ void LyricText::visibilityChanged() {
         announceVisibility(*this, isVisible());
 }
 
-void LyricText::followSize() {
-    setSize({std::min(std::ceil(naturalWidth()), look_.room),
-             std::ceil(QFontMetricsF(look_.font).height())});
+void LyricText::updateSize() {
+    setSize({std::min(std::ceil(naturalWidth()), style_.room),
+             std::ceil(QFontMetricsF(style_.font).height())});
 }
 
 bool LyricText::mayGlide() const {
@@ -114,7 +115,7 @@ std::optional<double> LyricText::glide(double now) {
     if (!mayGlide())
         return std::nullopt;
     if (!glide_) {
-        glide_.emplace(naturalWidth() - look_.room, timeLeft_());
+        glide_.emplace(naturalWidth() - style_.room, timeLeft_());
         glided_ = 0;
     } else {
         glided_ += now - lastGlide_;
@@ -151,8 +152,8 @@ QRectF LyricText::paintedRect() const {
 
 QRectF LyricText::paintedRect(const TextLayer& layer) const {
     const double above = layer.overhang();
-    const double beside = isCut(layer) ? softReach : above;
-    const double half = std::min(layer.width(), look_.room) / 2 + beside;
+    const double beside = isCut(layer) ? fadeOverhang : above;
+    const double half = std::min(layer.width(), style_.room) / 2 + beside;
     return {width() / 2 - half, -above, 2 * half, height() + 2 * above};
 }
 
@@ -164,21 +165,21 @@ void LyricText::paint(QPainter& painter) {
         if (isCut(layer))
             paintCut(layer, painter);
         else
-            layer.paint(painter, look_.color, width() / 2, 0, left, right);
+            layer.paint(painter, style_.color, width() / 2, 0, left, right);
 }
 
 /// Fades only the ends that are clipped.
 void LyricText::paintCut(TextLayer& layer, QPainter& painter) const {
-    const double hidden = layer.width() - look_.room;
+    const double hidden = layer.width() - style_.room;
     const double hiddenLeft = layer.isRightToLeft() ? hidden - layer.offset() : layer.offset();
     const auto fade = [](double hiddenBeside) {
-        return std::min(softness, softReach + hiddenBeside);
+        return std::min(softness, fadeOverhang + hiddenBeside);
     };
     const QRectF seen = paintedRect(layer);
     const double centre = width() / 2 + hidden / 2 - hiddenLeft;
     paintWithSoftEnds(painter, {seen, fade(hiddenLeft), fade(hidden - hiddenLeft)},
                       [&](QPainter& inside) {
-                          layer.paint(inside, look_.color, centre, 0, seen.left(), seen.right());
+                          layer.paint(inside, style_.color, centre, 0, seen.left(), seen.right());
                       });
 }
 

@@ -19,12 +19,12 @@ namespace brellowind {
 /// One line of text in any script, at its natural size. A change of the text is a cross-fade: the
 /// old line blurs, shrinks a little and fades out while the new one sharpens, grows and fades in,
 /// around the same centre. A text that is wider than its room scrolls once from beginning to end
-/// each time it appears. Clipped ends are faded and extend beyond the room by `softReach`.
+/// each time it appears. Clipped ends are faded and extend beyond the room by `fadeOverhang`.
 class LyricText : public PainterItem, public Accessible, private Animated {
     Q_OBJECT
 
 public:
-    struct Look {
+    struct Style {
         QFont font;
         QColor color;
         double room = std::numeric_limits<double>::infinity(); ///< a wider text scrolls
@@ -33,10 +33,10 @@ public:
     /// Seconds for which the current text will be shown; nullopt if unknown.
     using TimeLeft = std::function<std::optional<double>()>;
 
-    static constexpr double softReach = 7;
+    static constexpr double fadeOverhang = 7;
 
     /// Shows `text` at once if it is present. `frames` must outlive this object.
-    LyricText(Look look, const QString& text, bool present, FrameDriver& frames, Item* parent);
+    LyricText(Style style, const QString& text, bool present, FrameDriver& frames, Item* parent);
     ~LyricText() override;
 
     void setText(const QString& text);
@@ -68,16 +68,16 @@ protected:
 
 private:
     std::optional<double> advance(double now) override;
-    void followSize();
+    void updateSize();
     bool mayGlide() const;
     void beginGlide();
     std::optional<double> glide(double now);
-    bool isCut(const TextLayer& layer) const { return layer.width() > look_.room; }
+    bool isCut(const TextLayer& layer) const { return layer.width() > style_.room; }
     QRectF paintedRect(const TextLayer& layer) const;
     void paintCut(TextLayer& layer, QPainter& painter) const;
 
     FrameDriver& frames_;
-    Look look_;
+    Style style_;
     QString text_;
     bool present_;
     std::list<TextLayer> layers_; ///< the last one is the current text, the others are fading out

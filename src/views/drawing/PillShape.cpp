@@ -24,8 +24,8 @@ constexpr double shadowDrop = 10;
 constexpr double shadowFade = 24; ///< points over which it fades out at the end of the window
 
 /// The extent of the shadow beyond the pill.
-double reach(double lift) {
-    return std::ceil(blurReach(shadowSigma * lift));
+double shadowExtent(double lift) {
+    return std::ceil(blurExtent(shadowSigma * lift));
 }
 
 const NotchShape shape(topRadius, bottomRadius);
@@ -52,24 +52,24 @@ void fadeOut(QImage& alpha, double top, double height) {
 /// column is not affected by the ends, or the width of `size` if that is smaller. Faded out `room`
 /// points below the pill.
 QImage narrowShadow(QSizeF size, double lift, double room, double ratio) {
-    const double reach = brellowind::reach(lift);
-    const double narrowest = 2 * (reach + topRadius + bottomRadius) + 1;
+    const double extent = shadowExtent(lift);
+    const double narrowest = 2 * (extent + topRadius + bottomRadius) + 1;
     const QSizeF pill(std::min(narrowest, size.width()), size.height());
-    const QSizeF whole = pill + QSizeF(2 * reach, 2 * reach);
+    const QSizeF whole = pill + QSizeF(2 * extent, 2 * extent);
     QImage alpha((whole * ratio).toSize(), QImage::Format_Alpha8);
     alpha.fill(0);
     QPainter painter(&alpha);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(ratio, ratio);
-    painter.translate(reach, reach);
+    painter.translate(extent, extent);
     painter.fillPath(painterPath(notchPath(pill)),
                      QColor(0, 0, 0, static_cast<int>(255 * shadowOpacity)));
     painter.end();
     blur(alpha, shadowSigma * lift * ratio);
     const double drop = shadowDrop * lift;
-    if (room < reach + drop) {
+    if (room < extent + drop) {
         const double fade = std::min(shadowFade, room);
-        const double end = reach + size.height() + room - drop;
+        const double end = extent + size.height() + room - drop;
         fadeOut(alpha, (end - fade) * ratio, fade * ratio);
     }
     return alpha;
@@ -79,7 +79,7 @@ QImage narrowShadow(QSizeF size, double lift, double room, double ratio) {
 double widestShadow(const QPainter& painter, double lift) {
     const auto* device = painter.device();
     const double seen = device->width() / device->devicePixelRatioF();
-    return 2 * std::ceil(seen / 2 + reach(lift) + topRadius + bottomRadius);
+    return 2 * std::ceil(seen / 2 + shadowExtent(lift) + topRadius + bottomRadius);
 }
 
 /// Black with `alpha`, with the middle column repeated up to `width` pixels.
@@ -123,8 +123,8 @@ Path PillShape::outline() const {
 QRectF PillShape::paintedRect() const {
     if (lift_ <= 0)
         return boundingRect();
-    const double reach = brellowind::reach(lift_);
-    return boundingRect().adjusted(-reach, 0, reach, reach + std::ceil(shadowDrop * lift_));
+    const double extent = shadowExtent(lift_);
+    return boundingRect().adjusted(-extent, 0, extent, extent + std::ceil(shadowDrop * lift_));
 }
 
 void PillShape::paint(QPainter& painter) {
@@ -144,20 +144,20 @@ void PillShape::paint(QPainter& painter) {
 /// Blurs again when a parameter has changed, as in every frame of a motion.
 void PillShape::paintShadow(QPainter& painter) {
     const double ratio = pixelRatio();
-    const double reach = brellowind::reach(lift_);
+    const double extent = shadowExtent(lift_);
     const Cast cast{.pill = {std::min(width(), widestShadow(painter, lift_)), height()},
                     .lift = lift_,
                     .room = roomBelow()};
     if (shadow_.isNull() || cast != cast_ || shadow_.devicePixelRatio() != ratio) {
         shadow_ = widened(narrowShadow(cast.pill, cast.lift, cast.room, ratio),
-                          static_cast<int>(std::lround((cast.pill.width() + 2 * reach) * ratio)));
+                          static_cast<int>(std::lround((cast.pill.width() + 2 * extent) * ratio)));
         shadow_.setDevicePixelRatio(ratio);
         cast_ = cast;
     }
     painter.save();
     painter.setOpacity(painter.opacity() * std::clamp(lift_, 0.0, 1.0));
     painter.drawImage(
-        QPointF((width() - cast.pill.width()) / 2 - reach, shadowDrop * lift_ - reach), shadow_);
+        QPointF((width() - cast.pill.width()) / 2 - extent, shadowDrop * lift_ - extent), shadow_);
     painter.restore();
 }
 

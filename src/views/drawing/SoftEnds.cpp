@@ -22,9 +22,9 @@ void paintWithSoftEnds(QPainter& painter, const SoftEnds& ends,
                        const std::function<void(QPainter&)>& paint) {
     const double ratio = painter.device()->devicePixelRatioF();
     const QTransform transform = painter.transform();
-    const QRectF place = transform.mapRect(ends.rect);
+    const QRectF target = transform.mapRect(ends.rect);
     // The image is aligned to pixels, so that its text is as sharp as when drawn directly.
-    const QRect pixels = QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect();
+    const QRect pixels = QRectF(target.topLeft() * ratio, target.size() * ratio).toAlignedRect();
     const QPointF corner = QPointF(pixels.topLeft()) / ratio;
 
     QImage image(pixels.size(), QImage::Format_ARGB32_Premultiplied);

@@ -15,7 +15,7 @@ namespace brellowind {
 namespace {
 
 constexpr double strongestSigma = 5; ///< points, of an absent line
-const double strongestReach = std::ceil(blurReach(strongestSigma));
+const double largestBlurExtent = std::ceil(blurExtent(strongestSigma));
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
 constexpr double tolerance = 1e-3;
 constexpr double smallestScale = 0.92; ///< of an absent line
@@ -32,7 +32,7 @@ constexpr qsizetype glyphsInPiece = 32;
 constexpr double inkOverhang = 6;
 
 /// The nominal distance of a fade in points, which determines its frame rate.
-constexpr double presenceReach = 20;
+constexpr double fadeDistance = 20;
 
 /// `text` with line breaks and other control characters replaced by spaces.
 QString singleLine(QString text) {
@@ -81,10 +81,10 @@ TextLayer::TextLayer(const QString& text, const QFont& font, double presence)
     }
     layout_.endLayout();
     if (layout_.text().size() > shortText)
-        takeApart();
+        splitIntoPieces();
 }
 
-void TextLayer::takeApart() {
+void TextLayer::splitIntoPieces() {
     for (const QGlyphRun& run : layout_.glyphRuns()) {
         const auto glyphs = run.glyphIndexes();
         const auto positions = run.positions();
@@ -114,7 +114,7 @@ std::optional<double> TextLayer::advance(double now) {
         picture_ = blurred_ = QImage();
         return std::nullopt;
     }
-    return presenceReach * presence_.speed(now);
+    return fadeDistance * presence_.speed(now);
 }
 
 void TextLayer::paint(QPainter& painter, QColor color, double centre, double top, double left,
@@ -142,7 +142,7 @@ bool TextLayer::isAtRest(double now) const {
 
 double TextLayer::overhang() const {
     constexpr double rounding = 1; // of the line's origin to pixels
-    return std::ceil(std::max(inkOverhang, blurReach(sigma()))) + rounding;
+    return std::ceil(std::max(inkOverhang, blurExtent(sigma()))) + rounding;
 }
 
 double TextLayer::sigma() const {
@@ -177,36 +177,38 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     const auto unscaled = [&](double x) {
         return middleX + (x - origin.x() - middleX) / smallestScale;
     };
-    const double left = std::max(line.left(), std::floor(unscaled(seen.left()) - strongestReach));
-    const double right = std::min(line.right(), std::ceil(unscaled(seen.right()) + strongestReach));
+    const double left =
+        std::max(line.left(), std::floor(unscaled(seen.left()) - largestBlurExtent));
+    const double right =
+        std::min(line.right(), std::ceil(unscaled(seen.right()) + largestBlurExtent));
     if (right <= left)
         return;
     // Aligned to pixels, like the line at rest; otherwise it would look softer.
     const QPointF corner(std::floor(left * ratio) / ratio, std::floor(line.top() * ratio) / ratio);
     const QRectF part(corner, QPointF(right, line.bottom()));
-    takePicture(part, color, ratio);
+    renderPicture(part, color, ratio);
     blurPicture(blurRadius(sigma() * ratio));
     const QSizeF room = (blurred_.size() - picture_.size()) / 2 / ratio;
-    const QRectF place(origin + part.topLeft() - QPointF(room.width(), room.height()),
-                       QSizeF(blurred_.size()) / ratio);
-    paintShrunk(painter, place, origin + layout_.boundingRect().center());
+    const QRectF target(origin + part.topLeft() - QPointF(room.width(), room.height()),
+                        QSizeF(blurred_.size()) / ratio);
+    paintShrunk(painter, target, origin + layout_.boundingRect().center());
 }
 
-/// Draws `blurred_` in `place`, scaled down about `middle`. Scales the image first: scaling by the
+/// Draws `blurred_` in `target`, scaled down about `middle`. Scales the image first: scaling by the
 /// painter uses threads.
-void TextLayer::paintShrunk(QPainter& painter, const QRectF& place, QPointF middle) const {
+void TextLayer::paintShrunk(QPainter& painter, const QRectF& target, QPointF middle) const {
     const auto shrunk = [&](QPointF corner) {
         return onPixel(painter, middle + (corner - middle) * scale());
     };
-    const QPointF from = shrunk(place.topLeft());
-    const QPointF corner = (shrunk(place.bottomRight()) - from) * blurred_.devicePixelRatio();
+    const QPointF from = shrunk(target.topLeft());
+    const QPointF corner = (shrunk(target.bottomRight()) - from) * blurred_.devicePixelRatio();
     const QSize size(qRound(corner.x()), qRound(corner.y()));
     painter.drawImage(from, blurred_.depth() == 8 ? tinted(blurred_, picturedColor_, size)
                                                   : blurred_.scaled(size, Qt::IgnoreAspectRatio,
                                                                     Qt::SmoothTransformation));
 }
 
-void TextLayer::takePicture(QRectF part, QColor color, double ratio) {
+void TextLayer::renderPicture(QRectF part, QColor color, double ratio) {
     if (!picture_.isNull() && pictured_ == part && picturedColor_ == color &&
         picture_.devicePixelRatio() == ratio)
         return;

@@ -30,8 +30,8 @@ public:
     double offset() const { return offset_; }
     void setOffset(double offset) { offset_ = offset; }
 
-    void comeIn(double now) { moveTo(1, now); }
-    void goAway(double now) { moveTo(0, now); }
+    void fadeIn(double now) { moveTo(1, now); }
+    void fadeOut(double now) { moveTo(0, now); }
 
     /// As `Animated::advance`.
     std::optional<double> advance(double now);
@@ -55,12 +55,12 @@ private:
     bool isAtRest(double now) const;
     double sigma() const;
     double scale() const;
-    void takeApart();
+    void splitIntoPieces();
     void paintSharp(QPainter& painter, QColor color, QPointF origin, double left,
                     double right) const;
     void paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen);
-    void paintShrunk(QPainter& painter, const QRectF& place, QPointF middle) const;
-    void takePicture(QRectF part, QColor color, double ratio);
+    void paintShrunk(QPainter& painter, const QRectF& target, QPointF middle) const;
+    void renderPicture(QRectF part, QColor color, double ratio);
     void blurPicture(int radius);
 
     QString text_;

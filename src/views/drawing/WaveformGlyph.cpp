@@ -61,7 +61,7 @@ void WaveformGlyph::setActive(bool active) {
     if (active == active_)
         return;
     active_ = active;
-    follow();
+    updateTimer();
     update();
 }
 
@@ -96,10 +96,10 @@ void WaveformGlyph::timerEvent(QTimerEvent* /*event*/) {
 }
 
 void WaveformGlyph::visibilityChanged() {
-    follow();
+    updateTimer();
 }
 
-void WaveformGlyph::follow() {
+void WaveformGlyph::updateTimer() {
     if (!active_ || !isVisible())
         steps_.stop();
     else if (!steps_.isActive())

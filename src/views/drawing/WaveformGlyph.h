@@ -27,7 +27,7 @@ protected:
     void visibilityChanged() override;
 
 private:
-    void follow();
+    void updateTimer();
 
     bool active_ = false;
     int step_ = 0;

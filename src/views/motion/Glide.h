@@ -16,12 +16,12 @@ public:
     /// The scroll position in points, `elapsed` seconds after the text was shown.
     double offset(double elapsed) const;
 
-    bool hasBegun(double elapsed) const { return elapsed > stand_; }
-    bool isOver(double elapsed) const { return elapsed >= stand_ + duration_; }
+    bool hasBegun(double elapsed) const { return elapsed > startPause_; }
+    bool isOver(double elapsed) const { return elapsed >= startPause_ + duration_; }
 
 private:
     double distance_;
-    double stand_; ///< seconds of the first pause
+    double startPause_; ///< seconds of the first pause
     double duration_;
 };
 

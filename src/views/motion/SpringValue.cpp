@@ -9,9 +9,9 @@ constexpr double tolerance = 0.05; ///< points; invisible
 
 } // namespace
 
-SpringValue::SpringValue(const SpringParameters& parameters, double value, double reach)
+SpringValue::SpringValue(const SpringParameters& parameters, double value, double pointsPerUnit)
     : parameters_(parameters), motion_(parameters, value), target_(value), value_(value),
-      reach_(reach) {}
+      pointsPerUnit_(pointsPerUnit) {}
 
 void SpringValue::setTarget(double target, const SpringParameters& parameters) {
     if (target == target_ && parameters == parameters_)
@@ -34,11 +34,11 @@ std::optional<double> SpringValue::advance(double now) {
         return std::nullopt;
     if (std::exchange(changed_, false))
         motion_.retarget(target_, now, parameters_);
-    moving_ = !motion_.isSettled(now, tolerance / reach_);
+    moving_ = !motion_.isSettled(now, tolerance / pointsPerUnit_);
     value_ = moving_ ? motion_.value(now) : target_;
     if (!moving_)
         return std::nullopt;
-    return reach_ * motion_.speed(now);
+    return pointsPerUnit_ * motion_.speed(now);
 }
 
 } // namespace brellowind

@@ -9,8 +9,9 @@ namespace brellowind {
 /// A spring-animated number. A new target or spring keeps the current value and velocity.
 class SpringValue {
 public:
-    /// At rest at `value`. A change of 1 moves things on the screen by `reach` points.
-    explicit SpringValue(const SpringParameters& parameters, double value = 0, double reach = 500);
+    /// At rest at `value`. A change of 1 moves things on the screen by `pointsPerUnit` points.
+    explicit SpringValue(const SpringParameters& parameters, double value = 0,
+                         double pointsPerUnit = 500);
 
     double value() const { return value_; }
 
@@ -31,7 +32,7 @@ private:
     Spring motion_;
     double target_;
     double value_;
-    double reach_;
+    double pointsPerUnit_;
     bool moving_ = false;
     bool changed_ = false; ///< the next `advance` applies the new target and parameters
 };

@@ -18,13 +18,12 @@ namespace {
 constexpr double popScale = 0.18;
 constexpr double popTilt = -6; ///< degrees
 
-/// The corner of the pill that is pressed like the thumbnail in it, which reaches just as far as
-/// the indicator in the other corner does.
-constexpr QSizeF corner(style::sidePadding + style::thumbnailWidth + style::indicatorReach,
+/// The input area of the thumbnail, a corner of the pill with the same margin as the indicator's.
+constexpr QSizeF corner(style::sidePadding + style::thumbnailWidth + style::indicatorMargin,
                         style::topPadding + style::bandHeight + style::spacing);
 
-/// How much may be seen of what does not tilt with a cover that pops out by so much: all of it at
-/// a tilt that nobody sees, nothing from a tenth of the whole tilt on.
+/// The opacity of parts that do not tilt with the cover: 1 without a visible tilt, 0 from a tenth
+/// of the tilt on.
 double upright(double pop) {
     constexpr double unseen = 0.02;
     constexpr double plain = 0.1;
@@ -38,14 +37,14 @@ FloatingArtwork::FloatingArtwork(NotchRootView& view, const PillContent& content
     : Item(parent), content_(content), frames_(frames), image_(new ArtworkImage(this)),
       area_(new TapArea(QAccessible::Button, this)) {
     area_->setName(tr("Show artwork"));
-    area_->mindHovering();
+    area_->acceptHover();
     connect(area_, &TapArea::tapped, this, [&view] { view.tapCover(); });
     connect(area_, &TapArea::hoveredChanged, this,
             [&view](bool hovered) { view.hoverCover(hovered); });
-    follow();
+    refresh();
 }
 
-void FloatingArtwork::follow() {
+void FloatingArtwork::refresh() {
     image_->setImage(content_.cover);
     area_->setEnabled(!content_.form.isArtExpanded);
     if (caption_)
@@ -70,7 +69,7 @@ void FloatingArtwork::layOut(const PillMotion& motion, double left) {
     showCaption(std::clamp(2 * expand - 1, 0.0, 1.0) * upright(motion.thumbnail.value()));
 }
 
-/// The caption is laid out once for the whole artwork, with which it grows.
+/// The caption is laid out once for the full size and scaled with the artwork.
 void FloatingArtwork::showCaption(double opacity) {
     if (opacity <= 0) {
         delete std::exchange(caption_, nullptr);

@@ -12,8 +12,8 @@ class TapArea;
 struct PillContent;
 struct PillMotion;
 
-/// The cover, gliding between the thumbnail's place and the panel's. It takes the pointer in the
-/// thumbnail's corner of the pill alone, wherever it glides.
+/// The cover, which moves between the positions of the thumbnail and of the panel. It always
+/// receives input in the thumbnail's corner of the pill.
 class FloatingArtwork : public Item {
     Q_OBJECT
 
@@ -21,10 +21,10 @@ public:
     FloatingArtwork(NotchRootView& view, const PillContent& content, FrameDriver& frames,
                     Item* parent);
 
-    /// Shows the content as it is now.
-    void follow();
+    /// Updates from the content.
+    void refresh();
 
-    /// Takes its place in a pill whose left edge is at `left`.
+    /// Lays out the cover in a pill whose left edge is at `left`.
     void layOut(const PillMotion& motion, double left);
 
 private:
@@ -34,7 +34,7 @@ private:
     const PillContent& content_;
     FrameDriver& frames_;
     ArtworkImage* image_;
-    ArtworkCaption* caption_ = nullptr; ///< there while it is visible
+    ArtworkCaption* caption_ = nullptr; ///< exists while visible
     TapArea* area_;
 };
 

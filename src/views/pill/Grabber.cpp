@@ -13,7 +13,7 @@
 namespace brellowind {
 namespace {
 
-constexpr double reach = 12; ///< around it, within which it is pressed as well
+constexpr double margin = 12; ///< of the input area around the handle
 constexpr double faint = 0.15;
 constexpr double bright = 0.25;
 
@@ -25,16 +25,16 @@ Grabber::Grabber(NotchRootView& view, const PillContent& content, Item* parent)
     setSize({style::grabberWidth, style::grabberPadding + style::grabberHeight});
     capsule_->setPosition({0, style::grabberPadding});
     capsule_->setSize({style::grabberWidth, style::grabberHeight});
-    area_->setPosition({-reach, -reach});
-    area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
-    area_->mindHovering();
+    area_->setPosition({-margin, -margin});
+    area_->setSize(size().grownBy(QMarginsF(margin, margin, margin, margin)));
+    area_->acceptHover();
     connect(area_, &TapArea::tapped, this, [&view] { view.tapGrabber(); });
     connect(area_, &TapArea::hoveredChanged, this,
             [&view](bool hovered) { view.hoverGrabber(hovered); });
-    follow();
+    refresh();
 }
 
-void Grabber::follow() {
+void Grabber::refresh() {
     area_->setName(content_.form.isArtExpanded ? tr("Close artwork")
                    : content_.form.isMinimized ? tr("Show lyrics")
                                                : tr("Hide lyrics"));

@@ -10,15 +10,15 @@ class TapArea;
 struct PillContent;
 struct PillMotion;
 
-/// The handle at the lower edge of a pill that the pointer is over.
+/// The handle at the lower edge of a hovered pill.
 class Grabber : public Item {
     Q_OBJECT
 
 public:
     Grabber(NotchRootView& view, const PillContent& content, Item* parent);
 
-    /// Shows the content as it is now.
-    void follow();
+    /// Updates from the content.
+    void refresh();
 
     void layOut(const PillMotion& motion);
 

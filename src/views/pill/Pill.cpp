@@ -25,11 +25,11 @@ Item* named(Item* item, const char* name) {
     return item;
 }
 
-LyricText::Look lineLook() {
+LyricText::Style lineStyle() {
     return {style::font(13, QFont::Medium), style::text};
 }
 
-LyricText::Look panelLineLook() {
+LyricText::Style panelLineStyle() {
     return {style::font(15, QFont::DemiBold), style::text, style::artworkSide};
 }
 
@@ -45,7 +45,7 @@ Pill::Pill(NotchRootView& view, FrameDriver& frames, platform::WindowSystem& win
       shape_(named(new PillShape(this), "pill")),
       background_(new TapArea(QAccessible::Grouping, this)), inside_(new Item(this)),
       line_(named(
-          new LyricText(lineLook(), content_.line, !content_.form.isMinimized, frames, inside_),
+          new LyricText(lineStyle(), content_.line, !content_.form.isMinimized, frames, inside_),
           "lyricLine")),
       artwork_(named(new FloatingArtwork(view, content_, frames, this), "artwork")),
       waveform_(named(new Waveform(view, content_, this), "waveform")),
@@ -55,10 +55,10 @@ Pill::Pill(NotchRootView& view, FrameDriver& frames, platform::WindowSystem& win
     setTransformOrigin(Top);
     inside_->setClip(true);
     line_->glideWithin([&view] { return view.timeUntilNextLine(); });
-    background_->takeRightButton();
+    background_->acceptRightButton();
     connect(background_, &TapArea::tapped, this, &Pill::tapBackground);
     connect(background_, &TapArea::menuRequested, this, &Pill::openMenu);
-    follow();
+    refresh();
 }
 
 Pill::~Pill() {
@@ -77,55 +77,55 @@ void Pill::openMenu(QPointF position) {
 void Pill::fill(QSizeF size) {
     setSize(size);
     line_->setRoom(lineRoom());
-    follow();
+    refresh();
 }
 
-std::vector<Rect> Pill::reach() const {
+std::vector<Rect> Pill::inputRects() const {
     const auto inWindow = [](const Item& item) {
         const QRectF rect = item.mapRectToScene(item.boundingRect());
         return Rect{rect.x(), rect.y(), rect.width(), rect.height()};
     };
-    std::vector<Rect> reach{inWindow(*shape_)};
+    std::vector<Rect> rects{inWindow(*shape_)};
     for (const auto* area : findChildren<TapArea*>())
         if (area->isVisible() && area->isEnabled())
-            reach.push_back(inWindow(*area));
-    return reach;
+            rects.push_back(inWindow(*area));
+    return rects;
 }
 
 std::optional<double> Pill::advance(double now) {
     const auto speed = motion_.advance(now);
-    followPanel();
+    updatePanel();
     layOut();
     return speed;
 }
 
 void Pill::redraw() {
     if (content_.update(view_))
-        follow();
+        refresh();
 }
 
-void Pill::follow() {
+void Pill::refresh() {
     line_->setText(content_.line);
     line_->setPresent(!content_.form.isMinimized);
     line_->setHeld(isLineHeld());
     background_->setName(content_.line);
-    followPanel();
-    artwork_->follow();
-    waveform_->follow();
-    grabber_->follow();
-    motion_.follow(content_, line_->width());
+    updatePanel();
+    artwork_->refresh();
+    waveform_->refresh();
+    grabber_->refresh();
+    motion_.setTargets(content_, line_->width());
     if (motion_.isMoving())
         frames_.drive(*this);
     layOut();
 }
 
-void Pill::followPanel() {
+void Pill::updatePanel() {
     if (!content_.form.isArtExpanded && motion_.expand.value() == 0) {
         delete std::exchange(panelLine_, nullptr);
         return;
     }
     if (!panelLine_) {
-        panelLine_ = named(new LyricText(panelLineLook(), content_.line, true, frames_, inside_),
+        panelLine_ = named(new LyricText(panelLineStyle(), content_.line, true, frames_, inside_),
                            "panelLine");
         panelLine_->glideWithin([this] { return view_.timeUntilNextLine(); });
     }
@@ -133,7 +133,7 @@ void Pill::followPanel() {
     panelLine_->setHeld(isLineHeld());
 }
 
-/// While the player is paused, a line that the next one will follow does not run ahead of the song.
+/// While the player is paused, a line with a successor does not scroll.
 bool Pill::isLineHeld() const {
     return !content_.isPlaying && view_.timeUntilNextLine();
 }
@@ -172,19 +172,19 @@ void Pill::layOut() {
     layOutPanelLine();
 }
 
-/// Texts are clipped to the pill's straight sides, between its flaring top corners, and its bottom.
+/// Clips texts to the pill's straight sides, between the flares, and its bottom.
 void Pill::layOutTexts() {
     const double expand = motion_.expand.value();
     const double margin = shape_->flare() + 1;
     inside_->setPosition({shape_->x() + margin, 0});
     inside_->setSize({shape_->width() - 2 * margin, shape_->height() - 1});
 
-    fade(*line_, 1 - 2.5 * expand); // gone before the artwork is there
+    fade(*line_, 1 - 2.5 * expand); // invisible before the artwork appears
     line_->setY(style::topPadding + style::bandHeight + style::spacing);
     centre(*line_, inside_->width());
 }
 
-/// In the middle between artwork and grabber, and not seen while there is too little room for it.
+/// Centres the line between artwork and grabber; invisible while there is too little room.
 void Pill::layOutPanelLine() {
     if (!panelLine_)
         return;
@@ -195,13 +195,13 @@ void Pill::layOutPanelLine() {
     centre(*panelLine_, inside_->width());
 }
 
-/// Where the panel still closes there is nothing to tap.
+/// The area of the closing panel is not tappable.
 double Pill::backgroundHeight() const {
     return content_.form.isArtExpanded ? shape_->height()
                                        : std::min(shape_->height(), collapsedHeight());
 }
 
-/// So wide that the pill stays within its window also while it is lifted and pulses.
+/// The width at which the pill fits its window also while lifted and pulsing.
 double Pill::lineRoom() const {
     const double widest = width() / ((1 + hoverScale) * PillMotion::pulseScale);
     return std::max(style::minimumContentWidth,

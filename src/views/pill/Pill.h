@@ -20,30 +20,30 @@ class PillShape;
 class TapArea;
 class Waveform;
 
-/// The black pill and all that is in it, hanging from the middle of its top edge. Each change of
-/// what it shows sets the targets of its springs, and each frame lays it out.
+/// The black pill and its contents, positioned by the middle of its top edge. Each change of the
+/// content sets the targets of the springs; each frame does the layout.
 class Pill : public Item, private Animated {
     Q_OBJECT
 
 public:
-    /// All must outlive it; `windowSystem` shows the context menu.
+    /// All references must outlive this object. `windowSystem` shows the context menu.
     Pill(NotchRootView& view, FrameDriver& frames, platform::WindowSystem& windowSystem,
          Item* parent);
     ~Pill() override;
 
-    /// Lays the pill out in a window of that size.
+    /// Lays out the pill in a window of `size`.
     void fill(QSizeF size);
 
     const PillShape& shape() const { return *shape_; }
 
-    /// Where it is tapped: its whole rectangle and the reaches of its buttons, in the window.
-    std::vector<Rect> reach() const;
+    /// The input areas: its whole rectangle and those of its buttons, in the window.
+    std::vector<Rect> inputRects() const;
 
 private:
     std::optional<double> advance(double now) override;
     void redraw();
-    void follow();
-    void followPanel();
+    void refresh();
+    void updatePanel();
     bool isLineHeld() const;
     void tapBackground();
     void openMenu(QPointF position);
@@ -64,7 +64,7 @@ private:
     TapArea* background_;
     Item* inside_; ///< clips the texts
     LyricText* line_;
-    LyricText* panelLine_ = nullptr; ///< there while the artwork panel is seen
+    LyricText* panelLine_ = nullptr; ///< exists while the artwork panel is visible
     FloatingArtwork* artwork_;
     Waveform* waveform_;
     Grabber* grabber_;

@@ -22,7 +22,7 @@ PillMenuEntry::PillMenuEntry(const QString& text, Item* parent)
     area_->setFocused(false);
     area_->setSize(size());
     area_->setName(text);
-    area_->mindHovering();
+    area_->acceptHover();
     connect(area_, &TapArea::hoveredChanged, this, &PillMenuEntry::hoveredChanged);
     connect(area_, &TapArea::tapped, this, &PillMenuEntry::triggered);
 }

@@ -9,18 +9,18 @@
 namespace brellowind {
 
 PillMotion::PillMotion(const PillContent& content, double widthOfLine) {
-    follow(content, widthOfLine);
+    setTargets(content, widthOfLine);
     for (auto* spring : all())
         spring->settle();
 }
 
-void PillMotion::follow(const PillContent& content, double widthOfLine) {
+void PillMotion::setTargets(const PillContent& content, double widthOfLine) {
     const bool minimized = content.form.isMinimized;
     const bool expanded = content.form.isArtExpanded;
     hover.setTarget(content.form.hovered);
     unfold.setTarget(!minimized);
     expand.setTarget(expanded);
-    // Even, so that the pill's edges fall on whole points about the middle.
+    // Even, so that the edges of the centred pill are on whole points.
     lineWidth.setTarget(minimized
                             ? style::minimumContentWidth
                             : 2 * std::ceil(std::max(style::minimumContentWidth, widthOfLine) / 2));
@@ -40,7 +40,7 @@ bool PillMotion::isMoving() {
 std::optional<double> PillMotion::advance(double now) {
     std::optional<double> fastest;
     for (auto* spring : all())
-        fastest = std::max(fastest, spring->advance(now)); // no value is less than any speed
+        fastest = std::max(fastest, spring->advance(now)); // nullopt is less than any speed
     return fastest;
 }
 

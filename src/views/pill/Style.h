@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QFont>
 
-/// The colours, fonts and measures of the pill, in points.
+/// The colours, fonts and dimensions of the pill, in points.
 namespace brellowind::style {
 
 inline const QColor text = QColor::fromRgbF(0.96F, 0.96F, 0.96F);
@@ -17,7 +17,7 @@ inline constexpr double minimizedBottomPadding = 8;
 inline constexpr double minimumContentWidth = 232;
 inline constexpr double thumbnailWidth = 19;
 inline constexpr double thumbnailRadius = 4;
-inline constexpr double indicatorReach = 10; ///< around it, within which it is pressed as well
+inline constexpr double indicatorMargin = 10; ///< of the input area around it
 
 inline constexpr double panelWidth = 352;
 inline constexpr double panelSidePadding = 16;
@@ -31,7 +31,7 @@ inline constexpr double grabberWidth = 36;
 inline constexpr double grabberHeight = 5;
 inline constexpr double grabberPadding = 2;
 
-/// The interface's font, `size` points high.
+/// The interface font at `size` points.
 inline QFont font(int size, QFont::Weight weight = QFont::Normal) {
     QFont font;
     font.setPixelSize(size);
@@ -39,12 +39,12 @@ inline QFont font(int size, QFont::Weight weight = QFont::Normal) {
     return font;
 }
 
-/// Between `a` and `b` by a fraction that may overshoot.
+/// Linear interpolation from `a` to `b`; the fraction may overshoot.
 constexpr double mix(double a, double b, double fraction) {
     return a + (b - a) * fraction;
 }
 
-/// Between `small` and `large`. Below `small` it overshoots by a part of `small`, not of the way.
+/// Interpolation from `small` to `large`; a negative fraction is relative to `small`.
 constexpr double swell(double small, double large, double fraction) {
     return fraction < 0 ? small * (1 + 2 * fraction) : mix(small, large, fraction);
 }

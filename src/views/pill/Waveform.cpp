@@ -31,17 +31,17 @@ Waveform::Waveform(NotchRootView& view, const PillContent& content, Item* parent
     waveform_->setSize(size());
     button_->setPosition({(side - buttonWidth) / 2 + buttonShift, 0});
     button_->setSize({buttonWidth, side});
-    constexpr double reach = style::indicatorReach;
-    area_->setPosition({-reach, -reach});
-    area_->setSize(size().grownBy(QMarginsF(reach, reach, reach, reach)));
-    area_->mindHovering();
+    constexpr double margin = style::indicatorMargin;
+    area_->setPosition({-margin, -margin});
+    area_->setSize(size().grownBy(QMarginsF(margin, margin, margin, margin)));
+    area_->acceptHover();
     connect(area_, &TapArea::tapped, this, [&view] { view.tapWaveform(); });
     connect(area_, &TapArea::hoveredChanged, this,
             [&view](bool hovered) { view.hoverWaveform(hovered); });
-    follow();
+    refresh();
 }
 
-void Waveform::follow() {
+void Waveform::refresh() {
     waveform_->setActive(content_.isPlaying);
     button_->setKind(content_.isPlaying ? Glyph::PauseFill : Glyph::PlayFill);
     area_->setName(content_.isPlaying ? tr("Pause") : tr("Play"));

@@ -11,15 +11,15 @@ class WaveformGlyph;
 struct PillContent;
 struct PillMotion;
 
-/// The playing indicator, which is the play/pause button as well.
+/// The playing indicator, which is also the play/pause button.
 class Waveform : public Item {
     Q_OBJECT
 
 public:
     Waveform(NotchRootView& view, const PillContent& content, Item* parent);
 
-    /// Shows the content as it is now.
-    void follow();
+    /// Updates from the content.
+    void refresh();
 
     void layOut(const PillMotion& motion);
 

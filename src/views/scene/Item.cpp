@@ -28,7 +28,7 @@ Item::~Item() {
     while (!children_.empty())
         delete children_.back();
     if (auto* shownIn = window())
-        shownIn->damage(look_.rect);
+        shownIn->damage(rendered_.rect);
     if (parent_)
         std::erase(parent_->children_, this);
 }
@@ -63,15 +63,15 @@ void Item::setVisible(bool visible) {
         return;
     visible_ = visible;
     if (!parent_ || parent_->isVisible())
-        tellVisibility();
+        notifyVisibility();
     requestFrame();
 }
 
-void Item::tellVisibility() {
+void Item::notifyVisibility() {
     visibilityChanged();
     for (auto* child : children_)
         if (child->visible_)
-            child->tellVisibility();
+            child->notifyVisibility();
 }
 
 QTransform Item::transform(const Item* ancestor) const {
@@ -113,40 +113,44 @@ double Item::pixelRatio() const {
     return shownIn ? shownIn->devicePixelRatio() : 1;
 }
 
-/// Computes how the next frame shows the item and its descendants, and adds what differs from the
-/// last frame to `damage`. `around` is inherited from the parent, and `isAroundNew` tells whether
-/// it differs from the last frame. With an empty `around.rect` nothing is visible.
-void Item::takeLook(const Look& around, bool isAroundNew, QRegion& damage) {
-    if (!isAroundNew && !changed_)
+/// Computes the render states of the item and its descendants for the next frame, and adds changed
+/// areas to `damage`. `inherited` is that of the parent; `isInheritedNew` means that it has changed
+/// since the last frame. With an empty `inherited.rect` nothing is visible.
+void Item::updateRenderState(const RenderState& inherited, bool isInheritedNew, QRegion& damage) {
+    if (!isInheritedNew && !changed_)
         return;
-    Look look{transformToParent() * around.transform, around.opacity * opacity_, around.clip, {}};
-    const bool seen = visible_ && look.opacity > 0 && !around.rect.isEmpty();
+    RenderState state{transformToParent() * inherited.transform,
+                      inherited.opacity * opacity_,
+                      inherited.clip,
+                      {}};
+    const bool seen = visible_ && state.opacity > 0 && !inherited.rect.isEmpty();
     if (seen)
-        look.rect = look.transform.mapRect(paintedRect()) & around.rect;
-    if (stale_ || look != look_)
-        damage |= SceneWindow::covering(look_.rect) | SceneWindow::covering(look.rect);
+        state.rect = state.transform.mapRect(paintedRect()) & inherited.rect;
+    if (stale_ || state != rendered_)
+        damage |= SceneWindow::covering(rendered_.rect) | SceneWindow::covering(state.rect);
     stale_ = changed_ = false;
-    look_ = look;
+    rendered_ = state;
 
-    look.rect = seen ? around.rect : QRectF();
+    state.rect = seen ? inherited.rect : QRectF();
     if (seen && clip_)
-        look.clip = look.rect = look.transform.mapRect(boundingRect()) & around.rect;
-    const bool isInsideNew = look != std::exchange(inside_, look);
+        state.clip = state.rect = state.transform.mapRect(boundingRect()) & inherited.rect;
+    const bool isChildStateNew = state != std::exchange(childState_, state);
     for (auto* child : children_)
-        child->takeLook(look, isInsideNew, damage);
+        child->updateRenderState(state, isChildStateNew, damage);
 }
 
-/// Draws what `takeLook` found within `region` of the window, to which `painter` is clipped.
+/// Draws what `updateRenderState` found within `region` of the window, to which `painter` is
+/// clipped.
 void Item::draw(QPainter& painter, const QRegion& region) {
-    if (region.intersects(look_.rect.toAlignedRect())) {
-        if (!look_.clip.isNull())
-            clipWindow(painter, region & SceneWindow::covering(look_.clip));
-        painter.setTransform(look_.transform);
-        painter.setOpacity(look_.opacity);
+    if (region.intersects(rendered_.rect.toAlignedRect())) {
+        if (!rendered_.clip.isNull())
+            clipWindow(painter, region & SceneWindow::covering(rendered_.clip));
+        painter.setTransform(rendered_.transform);
+        painter.setOpacity(rendered_.opacity);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                                QPainter::SmoothPixmapTransform);
         paint(painter);
-        if (!look_.clip.isNull())
+        if (!rendered_.clip.isNull())
             clipWindow(painter, region);
     }
     for (auto* child : children_)

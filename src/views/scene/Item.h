@@ -89,13 +89,13 @@ private:
     friend class SceneWindow;
 
     /// The rendered state of the item in a frame.
-    struct Look {
+    struct RenderState {
         QTransform transform; ///< to the window
         double opacity = 1;
         QRectF clip; ///< in the window; null: not clipped
         QRectF rect; ///< in the window, bounds of the drawing; empty: not visible
 
-        bool operator==(const Look&) const = default;
+        bool operator==(const RenderState&) const = default;
     };
 
     template <typename Value>
@@ -107,10 +107,10 @@ private:
     }
 
     void requestFrame();
-    void tellVisibility();
+    void notifyVisibility();
     void makeStale();
     QTransform transformToParent() const;
-    void takeLook(const Look& around, bool isAroundNew, QRegion& damage);
+    void updateRenderState(const RenderState& inherited, bool isInheritedNew, QRegion& damage);
     void draw(QPainter& painter, const QRegion& region);
 
     Item* parent_;
@@ -124,10 +124,10 @@ private:
     TransformOrigin origin_ = Centre;
     bool clip_ = false;
     bool visible_ = true;
-    bool stale_ = true;   ///< must be repainted even if its look is that of the last frame
-    bool changed_ = true; ///< the item or a descendant has changed since the last frame
-    Look look_;           ///< in the last frame
-    Look inside_;         ///< inherited by the children in the last frame
+    bool stale_ = true;      ///< must be repainted even if its state is that of the last frame
+    bool changed_ = true;    ///< the item or a descendant has changed since the last frame
+    RenderState rendered_;   ///< in the last frame
+    RenderState childState_; ///< inherited by the children in the last frame
 };
 
 /// An item that draws within its rectangle.

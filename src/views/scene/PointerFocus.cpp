@@ -8,17 +8,17 @@
 namespace brellowind {
 namespace {
 
-/// Hit test: the topmost area at `position` among `item` and its descendants that satisfies
-/// `wants`.
-template <typename Wants>
-TapArea* topmost(const Item& item, QPointF position, const Wants& wants) {
+/// Hit test: the topmost area at `position`, among `item` and its descendants, for which `accepts`
+/// is true.
+template <typename Accepts>
+TapArea* topmost(const Item& item, QPointF position, const Accepts& accepts) {
     for (auto* child : item.childItems() | std::views::reverse) {
         if (!child->isVisible())
             continue;
-        if (auto* found = topmost(*child, position, wants))
+        if (auto* found = topmost(*child, position, accepts))
             return found;
         auto* area = qobject_cast<TapArea*>(child);
-        if (area && area->isEnabled() && wants(*area) &&
+        if (area && area->isEnabled() && accepts(*area) &&
             area->contains(area->mapFromScene(position)))
             return area;
     }
@@ -31,7 +31,7 @@ void PointerFocus::press(QPointF position, Qt::MouseButton button) {
     move(position);
     if (pressed_)
         return; // pressed by another button already
-    auto* area = topmost(root_, position, [button](auto& found) { return found.takes(button); });
+    auto* area = topmost(root_, position, [button](auto& found) { return found.acceptsButton(button); });
     if (area && button == Qt::RightButton) {
         area->requestMenu(position);
         return;
@@ -51,7 +51,7 @@ void PointerFocus::release(QPointF position, Qt::MouseButton button) {
 
 void PointerFocus::move(QPointF position) {
     position_ = position;
-    follow();
+    updateHover();
 }
 
 void PointerFocus::leave() {
@@ -64,10 +64,10 @@ void PointerFocus::cancel() {
     leave();
 }
 
-void PointerFocus::follow() {
+void PointerFocus::updateHover() {
     if (!position_)
         return;
-    auto* area = topmost(root_, *position_, [](auto& found) { return found.mindsHovering(); });
+    auto* area = topmost(root_, *position_, [](auto& found) { return found.acceptsHover(); });
     hover(pressed_ && area != pressed_ ? nullptr : area);
 }
 

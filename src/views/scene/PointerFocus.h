@@ -31,7 +31,7 @@ public:
     void cancel();
 
     /// Updates the hovered area. Call after areas may have moved.
-    void follow();
+    void updateHover();
 
 private:
     void hover(TapArea* area);

@@ -62,7 +62,7 @@ void SceneWindow::damage(const QRectF& rect) {
 
 QImage SceneWindow::grab() {
     aboutToShow();
-    takeLooks();
+    updateRenderStates();
     const double ratio = devicePixelRatio();
     QImage image(size() * ratio, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(ratio);
@@ -127,7 +127,7 @@ void SceneWindow::makeFrame() {
     if (!isExposed())
         return;
     aboutToShow();
-    takeLooks();
+    updateRenderStates();
     const QRect whole(QPoint(0, 0), size());
     const double ratio = devicePixelRatio();
     if (std::exchange(ratio_, ratio) != ratio) {
@@ -143,7 +143,7 @@ void SceneWindow::makeFrame() {
     store_.endPaint();
     present([&] { store_.flush(region); });
     Q_EMIT frameShown();
-    pointer_.follow();
+    pointer_.updateHover();
 }
 
 void SceneWindow::paintStore(const QRegion& region) {
@@ -156,8 +156,8 @@ void SceneWindow::paintStore(const QRegion& region) {
     root_.draw(painter, region);
 }
 
-void SceneWindow::takeLooks() {
-    root_.takeLook({{}, 1, {}, QRectF(QPointF(0, 0), size())}, true, damage_);
+void SceneWindow::updateRenderStates() {
+    root_.updateRenderState({{}, 1, {}, QRectF(QPointF(0, 0), size())}, true, damage_);
 }
 
 } // namespace brellowind

@@ -63,7 +63,7 @@ private:
     void damage(const QRectF& rect); ///< schedules a repaint
     void makeFrame();
     void paintStore(const QRegion& region);
-    void takeLooks();
+    void updateRenderStates();
 
     Item root_;
     PointerFocus pointer_{root_};

@@ -18,8 +18,8 @@ void TapArea::setEnabled(bool enabled) {
     visibilityChanged();
 }
 
-bool TapArea::takes(Qt::MouseButton button) const {
-    return button == Qt::LeftButton || (takesRightButton_ && button == Qt::RightButton);
+bool TapArea::acceptsButton(Qt::MouseButton button) const {
+    return button == Qt::LeftButton || (acceptsRightButton_ && button == Qt::RightButton);
 }
 
 void TapArea::visibilityChanged() {

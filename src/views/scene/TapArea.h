@@ -19,11 +19,11 @@ public:
     void setEnabled(bool enabled);
 
     /// Accepts the right button, too. The left button is always accepted.
-    void takeRightButton() { takesRightButton_ = true; }
-    bool takes(Qt::MouseButton button) const;
+    void acceptRightButton() { acceptsRightButton_ = true; }
+    bool acceptsButton(Qt::MouseButton button) const;
 
-    bool mindsHovering() const { return mindsHovering_; }
-    void mindHovering() { mindsHovering_ = true; }
+    bool acceptsHover() const { return acceptsHover_; }
+    void acceptHover() { acceptsHover_ = true; }
     void setHovered(bool hovered);
 
     /// Makes it focusable for assistive programs, and reports whether it has the focus.
@@ -56,8 +56,8 @@ private:
     QAccessible::Role role_;
     QString name_;
     bool enabled_ = true;
-    bool takesRightButton_ = false;
-    bool mindsHovering_ = false;
+    bool acceptsRightButton_ = false;
+    bool acceptsHover_ = false;
     bool hovered_ = false;
     bool isFocusable_ = false;
     bool isFocused_ = false;

@@ -7,7 +7,7 @@
 #include <chrono>
 #include <cstdio>
 
-// The pill, lifted while the demo sings, on each of the compositors: pictures for the README.
+// Pictures of the README: the lifted pill on each of the compositors.
 
 using namespace brellowind::test;
 

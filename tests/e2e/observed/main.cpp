@@ -3,7 +3,7 @@
 #include "SettingsObserver.h"
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <cstdio>
 #include <string>

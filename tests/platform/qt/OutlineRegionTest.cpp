@@ -115,10 +115,10 @@ TEST(OutlineRegion, FollowsTheCurvesOfAPill) {
 }
 
 TEST(ReachRegion, IsAllPixelsWhoseMiddleLiesInARectangle) {
-    EXPECT_EQ(reachRegion({}, 1), QRegion());
-    EXPECT_EQ(reachRegion({{-2.5, -3, 7, 6.4}}, 1), QRegion(-3, -3, 7, 6));
-    EXPECT_EQ(reachRegion({{-2.5, -3, 7, 6.4}}, 2), QRegion(-5, -6, 14, 13));
-    EXPECT_EQ(reachRegion({{0, 0, 10, 4}, {4, 2, 2, 5}}, 1),
+    EXPECT_EQ(rectsRegion({}, 1), QRegion());
+    EXPECT_EQ(rectsRegion({{-2.5, -3, 7, 6.4}}, 1), QRegion(-3, -3, 7, 6));
+    EXPECT_EQ(rectsRegion({{-2.5, -3, 7, 6.4}}, 2), QRegion(-5, -6, 14, 13));
+    EXPECT_EQ(rectsRegion({{0, 0, 10, 4}, {4, 2, 2, 5}}, 1),
               QRegion(0, 0, 10, 4) | QRegion(4, 2, 2, 5));
 }
 

@@ -16,8 +16,7 @@ QImage clearAlpha(int width, int height) {
     return image;
 }
 
-/// A few shapes, not symmetric about the middle, with room for a blur about them. The width is not
-/// a multiple of 4.
+/// Asymmetric shapes with a margin for the blur. The width is not a multiple of 4.
 QImage shapes() {
     QImage image = clearAlpha(241, 223);
     QPainter painter(&image);
@@ -37,7 +36,7 @@ double sum(const QImage& image) {
 
 using Samples = std::vector<std::vector<double>>;
 
-/// Every row of `samples` with a real Gaussian, and rows and columns exchanged.
+/// Convolves the rows of `samples` with an exact Gaussian and transposes the result.
 Samples convolvedAndTransposed(const Samples& samples, double sigma) {
     const int height = static_cast<int>(samples.size());
     const int width = static_cast<int>(samples[0].size());
@@ -88,7 +87,7 @@ QImage onItsSide(const QImage& image) {
 }
 
 TEST(Blur, IsNearAGaussian) {
-    // Boxes are whole pixels wide, so the narrowest blurs are the roughest.
+    // Boxes are whole pixels wide, so narrow blurs are less exact.
     const std::pair<double, int> tolerances[] = {{1, 30}, {1.5, 10}, {2, 10}, {3, 10},
                                                  {5, 6},  {7.5, 6},  {10, 6}, {20, 6}};
     for (const auto& [sigma, tolerance] : tolerances)
@@ -143,7 +142,7 @@ TEST(Blur, ReachesNoFurtherThanItSays) {
         QImage image = clearAlpha(201, 201);
         QPainter(&image).fillRect(90, 90, 21, 21, Qt::black);
         blur(image, sigma);
-        const int reach = static_cast<int>(std::ceil(blurReach(sigma)));
+        const int reach = static_cast<int>(std::ceil(blurExtent(sigma)));
         const QRect reached = QRect(90, 90, 21, 21).adjusted(-reach, -reach, reach, reach);
         QRect touched;
         for (int y = 0; y < image.height(); ++y)

@@ -20,7 +20,7 @@ constexpr int middle = left + room / 2;
 constexpr int top = 20;
 constexpr double frame = 1.0 / 30;
 
-/// Bars at its ends, and between them nothing but a dot in the middle.
+/// A text with bars at its ends and a dot in the middle.
 const QString wide = u'H' + QString(60, u' ') + u'.' + QString(60, u' ') + u'H';
 const QString narrow = QStringLiteral("HHHHH");
 const QString wideHebrew = u'\u05E9' + QString(60, u' ') + u'\u05E9';
@@ -36,7 +36,7 @@ protected:
     LyricGlide() { window.resize(around); }
 
     void show(const QString& text, std::optional<double> life = {}) {
-        line.emplace(LyricText::Look{lyricFont(), Qt::white, room}, text, true, frames,
+        line.emplace(LyricText::Style{lyricFont(), Qt::white, room}, text, true, frames,
                      &window.root());
         line->glideWithin([life] { return life; });
         line->setPosition({left, top});
@@ -54,7 +54,7 @@ protected:
         });
     }
 
-    /// How much is drawn between two columns of the window.
+    /// The amount of ink between two columns of the window.
     double ink(int from, int to) { return test::ink(look().copy(from, 0, to - from, 60)); }
 
     double inkAtLeft() { return ink(left, left + 12); }
@@ -79,10 +79,10 @@ TEST_F(LyricGlide, TakesNoMoreThanTheRoom) {
     EXPECT_EQ(line->width(), room);
     for (int i = 0; i < 100; ++i) {
         const QRect drawn = test::inkRect(look());
-        EXPECT_GE(drawn.left(), left - LyricText::softReach);
-        EXPECT_LE(drawn.right(), right + LyricText::softReach);
-        EXPECT_EQ(line->paintedRect().left(), -LyricText::softReach) << "nor is more drawn anew";
-        EXPECT_EQ(line->paintedRect().right(), room + LyricText::softReach);
+        EXPECT_GE(drawn.left(), left - LyricText::fadeOverhang);
+        EXPECT_LE(drawn.right(), right + LyricText::fadeOverhang);
+        EXPECT_EQ(line->paintedRect().left(), -LyricText::fadeOverhang) << "nor is more drawn anew";
+        EXPECT_EQ(line->paintedRect().right(), room + LyricText::fadeOverhang);
         pass(0.1);
     }
 }

@@ -25,7 +25,7 @@ TextLayer layer(const QString& text, double presence = 1) {
 
 constexpr QSize room(400, 80);
 
-/// Draws `layer` about the middle of a clear image.
+/// Draws `layer` in the middle of a transparent image.
 QImage paintedLayer(TextLayer& layer) {
     return test::painted(room, [&](QPainter& painter) {
         layer.paint(painter, Qt::white, 200, 30, 0, room.width());
@@ -83,10 +83,10 @@ TEST(TextLayer, ComesToRestWithoutAJump) {
                     },
                     ratio);
             };
-            line.comeIn(0);
-            double now = 0.2; // just before it is there
+            line.fadeIn(0);
+            double now = 0.2; // just before the end of the fade
             QImage before;
-            while (line.advance(now += 0.001)) // is there where it returns no speed
+            while (line.advance(now += 0.001)) // until it is at rest
                 before = look();
             ASSERT_FALSE(before.isNull());
             EXPECT_LE(test::largestDifference(before, look()), 3) << qPrintable(line.text());
@@ -102,8 +102,8 @@ TEST(TextLayer, RestsOnceNoSwingOfItsSpringShows) {
     };
     TextLayer coming = layer(QStringLiteral("one"), 0);
     TextLayer going = layer(QStringLiteral("one"), 1);
-    coming.comeIn(0);
-    going.goAway(0);
+    coming.fadeIn(0);
+    going.fadeOut(0);
     const double rest = restOf(coming);
     EXPECT_DOUBLE_EQ(restOf(going), rest);
     EXPECT_TRUE(going.isGone());
@@ -136,7 +136,7 @@ TEST(TextLayer, ComesInFromNothingAndEndsAsIfItHadAlwaysBeenThere) {
     TextLayer coming = layer(QStringLiteral("HHHHHH"), 0);
     EXPECT_TRUE(test::inkRect(paintedLayer(coming)).isEmpty());
     EXPECT_TRUE(coming.isGone());
-    coming.comeIn(10);
+    coming.fadeIn(10);
     double last = 0;
     for (const double time : {10.03, 10.06, 10.09}) {
         EXPECT_TRUE(coming.advance(time));
@@ -153,7 +153,7 @@ TEST(TextLayer, ComesInFromNothingAndEndsAsIfItHadAlwaysBeenThere) {
 TEST(TextLayer, IsBlurredOnItsWay) {
     TextLayer there = layer(QStringLiteral("HHHHHH"));
     TextLayer going = layer(QStringLiteral("HHHHHH"));
-    going.goAway(10);
+    going.fadeOut(10);
     going.advance(10.1);
     const QRect sharp = test::inkRect(paintedLayer(there));
     const QRect soft = test::inkRect(paintedLayer(going));
@@ -165,7 +165,7 @@ TEST(TextLayer, IsBlurredOnItsWay) {
 
 TEST(TextLayer, ShrinksALittleAsItGoesAndGrowsIntoPlaceAsItComes) {
     const QString ends = u'H' + QString(30, u' ') + u'H';
-    // Between the middles of the ink in both halves: no blur changes that.
+    // The distance between the centres of the ink in both halves, which no blur changes.
     const auto distance = [](TextLayer& line) {
         const QImage image = paintedLayer(line);
         double sums[2] = {0, 0};
@@ -182,8 +182,8 @@ TEST(TextLayer, ShrinksALittleAsItGoesAndGrowsIntoPlaceAsItComes) {
     ASSERT_GT(whole, 80);
     TextLayer going = layer(ends);
     TextLayer coming = layer(ends, 0);
-    going.goAway(10);
-    coming.comeIn(10);
+    going.fadeOut(10);
+    coming.fadeIn(10);
     double gone = 1;
     double come = 0;
     for (const double time : {10.06, 10.1, 10.14}) {
@@ -200,7 +200,7 @@ TEST(TextLayer, ShrinksALittleAsItGoesAndGrowsIntoPlaceAsItComes) {
 
 TEST(TextLayer, WiderThanTheWindowFillsItOnItsWay) {
     TextLayer line = layer(QString(200, u'H'), 1);
-    line.goAway(10);
+    line.fadeOut(10);
     line.advance(10.2);
     const QImage image = test::painted(
         {640, 80}, [&](QPainter& painter) { line.paint(painter, Qt::white, 320, 30, 0, 640); });
@@ -212,7 +212,7 @@ TEST(TextLayer, WiderThanTheWindowFillsItOnItsWay) {
 TEST(TextLayer, KeepsItsColourOnItsWay) {
     const QColor colour(250, 100, 0);
     TextLayer going = layer(QStringLiteral("HHHHHH"));
-    going.goAway(10);
+    going.fadeOut(10);
     going.advance(10.1);
     const QImage look = test::painted(
         room, [&](QPainter& painter) { going.paint(painter, colour, 200, 30, 0, room.width()); });
@@ -230,7 +230,7 @@ TEST(TextLayer, CutsNoMarkThatStandsOutOfTheLine) {
     const QString tower = QString(u'A') + QString(3, QChar(0x0302)) + QString(3, QChar(0x032D));
     TextLayer there = layer(tower);
     TextLayer going = layer(tower);
-    going.goAway(10);
+    going.fadeOut(10);
     going.advance(10.05);
     const QRect sharp = test::inkRect(paintedLayer(there));
     ASSERT_LT(sharp.top(), 30 - 2) << "the marks stand out";
@@ -242,7 +242,7 @@ TEST(TextLayer, CutsNoMarkThatStandsOutOfTheLine) {
 TEST(TextLayer, GoesAwayToNothing) {
     TextLayer going = layer(QStringLiteral("HHHHHH"));
     EXPECT_FALSE(going.isGone());
-    going.goAway(10);
+    going.fadeOut(10);
     EXPECT_TRUE(going.advance(10.1));
     EXPECT_FALSE(going.isGone());
     EXPECT_FALSE(going.advance(20));
@@ -253,7 +253,7 @@ TEST(TextLayer, GoesAwayToNothing) {
 TEST(TextLayer, DrawsNoMoreThanWillBeSeenOfALineOnItsWay) {
     TextLayer line = layer(QString(100'000, u'H'), 1);
     ASSERT_GT(line.width(), 500'000);
-    line.goAway(10);
+    line.fadeOut(10);
     line.advance(10.1);
     test::ImageRecorder window({640, 540});
     QPainter painter(&window);
@@ -278,7 +278,7 @@ TEST(TextLayer, DrawsALongTextAsItDrawsAShortOne) {
         const QImage longer = beginning(2000);
         const QImage shorter = beginning(200);
         EXPECT_GT(test::ink(shorter), 100);
-        if (unit.isRightToLeft()) // its letters begin at other parts of a pixel
+        if (unit.isRightToLeft()) // its letters have other subpixel positions
             EXPECT_NEAR(test::ink(longer) / test::ink(shorter), 1, 0.02) << qPrintable(unit);
         else
             EXPECT_LE(test::largestDifference(longer, shorter), 2) << qPrintable(unit);
@@ -287,7 +287,7 @@ TEST(TextLayer, DrawsALongTextAsItDrawsAShortOne) {
 
 TEST(TextLayer, DrawsNoImageOutsideWhatWillBeSeen) {
     TextLayer line = layer(QStringLiteral("HHHHHH"), 1);
-    line.goAway(10);
+    line.fadeOut(10);
     line.advance(10.1);
     test::ImageRecorder window({640, 540});
     QPainter painter(&window);

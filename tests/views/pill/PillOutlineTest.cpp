@@ -18,7 +18,7 @@ protected:
 
     void draw() { window.grab(); }
 
-    /// Where the outline that the overlay has begins, which is its top left corner.
+    /// The start of the overlay's outline, its top left corner.
     Point corner() const {
         const auto& elements = windowSystem.overlay->outline.elements();
         return elements.front().to;
@@ -39,13 +39,13 @@ TEST_F(PillOutline, IsThatOfThePill) {
 }
 
 TEST_F(PillOutline, ComesWithTheWholeRectangleAndTheReachesOfTheButtons) {
-    machine.view.tapBackground(); // in which state the grabber reaches beyond the pill
+    machine.view.tapBackground(); // the grabber extends beyond the minimised pill
     machine.movePointer(test::View::overThePill);
     settle();
     draw();
     const auto reaches = [this](QPointF at) { // from a corner of the laid out pill
         const QPointF place = pill()->transform().map(at);
-        return std::ranges::any_of(windowSystem.overlay->reach, [place](const Rect& rect) {
+        return std::ranges::any_of(windowSystem.overlay->inputRects, [place](const Rect& rect) {
             return rect.contains({place.x(), place.y()});
         });
     };

@@ -10,9 +10,9 @@ namespace {
 using namespace std::chrono_literals;
 
 /// The pill with its clock running.
-class PillRest : public test::PillWindow {
+class PillRest : public test::OffscreenPill {
 protected:
-    PillRest() : PillWindow(std::make_unique<FrameDriver>()) {}
+    PillRest() : OffscreenPill(std::make_unique<FrameDriver>()) {}
 
     bool isMoving() const {
         return !QAbstractEventDispatcher::instance()->registeredTimers(frames.get()).isEmpty();

@@ -7,20 +7,20 @@
 
 namespace brellowind::test {
 
-PillWindow::PillWindow(std::unique_ptr<FrameDriver> driver) : frames(std::move(driver)) {
+OffscreenPill::OffscreenPill(std::unique_ptr<FrameDriver> driver) : frames(std::move(driver)) {
     window.resize(windowWidth, windowHeight);
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     hover(QPoint(5, windowHeight - 5));
 }
 
-Item* PillWindow::item(const char* name) const {
+Item* OffscreenPill::item(const char* name) const {
     auto* found = window.root().findChild<Item*>(QString::fromLatin1(name));
     EXPECT_NE(found, nullptr) << name;
     return found;
 }
 
-Item* PillWindow::below(Item* parent, const char* type) {
+Item* OffscreenPill::below(Item* parent, const char* type) {
     for (auto* child : parent->childItems()) {
         if (child->metaObject()->className() == QByteArray("brellowind::") + type)
             return child;
@@ -30,37 +30,37 @@ Item* PillWindow::below(Item* parent, const char* type) {
     return nullptr;
 }
 
-SceneWindow* PillWindow::menu() {
+SceneWindow* OffscreenPill::menu() {
     for (auto* found : QGuiApplication::allWindows())
         if (found->objectName() == QStringLiteral("menu"))
             return qobject_cast<SceneWindow*>(found);
     return nullptr;
 }
 
-QRectF PillWindow::layout(Item* laidOut) const {
+QRectF OffscreenPill::layout(Item* laidOut) const {
     const auto* root = item("notch");
     return {laidOut->transform(root).map(QPointF(0, 0)), laidOut->size()};
 }
 
-QPoint PillWindow::onWindow(Item* of, QPointF point) {
+QPoint OffscreenPill::onWindow(Item* of, QPointF point) {
     return of->transform().map(point).toPoint();
 }
 
-QPoint PillWindow::middle(Item* of) {
+QPoint OffscreenPill::middle(Item* of) {
     return onWindow(of, of->boundingRect().center());
 }
 
-void PillWindow::click(QPoint at, Qt::MouseButton button) {
+void OffscreenPill::click(QPoint at, Qt::MouseButton button) {
     QTest::mouseClick(&window, button, {}, at);
     machine.runTurns();
 }
 
-void PillWindow::hover(QPoint at) {
+void OffscreenPill::hover(QPoint at) {
     QTest::mouseMove(&window, at);
     machine.runTurns();
 }
 
-Stage::Stage() : PillWindow(std::make_unique<SteppedFrames>()) {
+Stage::Stage() : OffscreenPill(std::make_unique<SteppedFrames>()) {
     settle();
 }
 

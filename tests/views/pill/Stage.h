@@ -4,7 +4,7 @@
 #include "views/RootViewFixture.h"
 #include "views/motion/FrameDriver.h"
 #include "views/scene/Item.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
@@ -13,12 +13,12 @@
 namespace brellowind::test {
 
 /// The pill on an offscreen window, over a view on the fake machine.
-class PillWindow : public testing::Test {
+class OffscreenPill : public testing::Test {
 protected:
     static constexpr int windowWidth = 640;
     static constexpr int windowHeight = 540;
 
-    explicit PillWindow(std::unique_ptr<FrameDriver> driver);
+    explicit OffscreenPill(std::unique_ptr<FrameDriver> driver);
 
     /// The item of that name.
     Item* item(const char* name) const;
@@ -26,7 +26,7 @@ protected:
     /// The first item below `parent` whose type has that name.
     static Item* below(Item* parent, const char* type);
 
-    /// The context menu; null until it was first wanted.
+    /// The context menu; null before it is first opened.
     static SceneWindow* menu();
 
     Item* pill() const { return item("pill"); }
@@ -34,18 +34,18 @@ protected:
     Item* waveform() const { return item("waveform"); }
     Item* grabber() const { return item("grabber"); }
 
-    /// Where the item is laid out, before the pill's scale, in points of the window.
+    /// The laid-out rectangle of the item in the window, without the pill's scale.
     QRectF layout(Item* laidOut) const;
 
-    /// Where `point` of the item is on the window.
+    /// Converts `point` from the item to the window.
     static QPoint onWindow(Item* of, QPointF point);
     static QPoint middle(Item* of);
 
-    /// Presses and releases at a point of the window.
+    /// Clicks at a point of the window.
     void click(QPoint at, Qt::MouseButton button = Qt::LeftButton);
     void click(Item* at) { click(middle(at)); }
 
-    /// Moves the pointer on the window.
+    /// Moves the pointer to a point of the window.
     void hover(QPoint at);
     void hover(Item* over) { hover(middle(over)); }
 
@@ -54,18 +54,18 @@ protected:
     View machine;
     FakeWindowSystem windowSystem{machine.machine.screens, machine.machine.pointer};
     std::unique_ptr<FrameDriver> frames;
-    NotchView window{machine.view, *frames, windowSystem};
+    PillWindow window{machine.view, *frames, windowSystem};
 };
 
-/// The same; its motions stand still until the test moves them.
-class Stage : public PillWindow {
+/// As `OffscreenPill`, with simulated time for the animations.
+class Stage : public OffscreenPill {
 protected:
     Stage();
 
-    /// Lets all that moves come to rest.
+    /// Advances time until all animations are at rest.
     void settle();
 
-    /// Lets what was asked for so far begin, and `seconds` pass.
+    /// Starts pending animations and advances time by `seconds`.
     void step(double seconds);
 };
 

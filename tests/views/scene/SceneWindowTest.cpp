@@ -74,7 +74,7 @@ TEST_F(SceneWindowTest, ClipsTheChildrenButNotTheItem) {
 TEST_F(SceneWindowTest, AFingerTapsAndHoversNoLongerThanItTouches) {
     TapArea area(QAccessible::Button, &window.root());
     area.setSize({40, 40});
-    area.mindHovering();
+    area.acceptHover();
     int taps = 0;
     bool hovered = false;
     QObject::connect(&area, &TapArea::tapped, [&] { ++taps; });
@@ -91,7 +91,7 @@ TEST_F(SceneWindowTest, AFingerTapsAndHoversNoLongerThanItTouches) {
 TEST_F(SceneWindowTest, AMouseGoesOnHoveringWhateverItsDevice) {
     TapArea area(QAccessible::Button, &window.root());
     area.setSize({40, 40});
-    area.mindHovering();
+    area.acceptHover();
     bool hovered = false;
     QObject::connect(&area, &TapArea::hoveredChanged, [&](bool inside) { hovered = inside; });
     window.show();

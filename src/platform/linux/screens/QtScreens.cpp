@@ -59,13 +59,13 @@ QtScreens::QtScreens(MainLoop& mainLoop)
     : announcement_(mainLoop.onNextTurn([this] { observers_->notify(); })) {
     const auto announce = [this] { announcement_->request(); };
     connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
-        follow(screen);
+        observe(screen);
         announcement_->request();
     });
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, announce);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, announce);
     for (auto* screen : QGuiApplication::screens())
-        follow(screen);
+        observe(screen);
 }
 
 std::vector<Screen> QtScreens::screens() {
@@ -88,7 +88,7 @@ Subscription QtScreens::onChange(Observers::Callback callback) {
     return observers_->add(std::move(callback));
 }
 
-void QtScreens::follow(QScreen* screen) {
+void QtScreens::observe(QScreen* screen) {
     const auto announce = [this] { announcement_->request(); };
     connect(screen, &QScreen::geometryChanged, this, announce);
     connect(screen, &QScreen::availableGeometryChanged, this, announce);

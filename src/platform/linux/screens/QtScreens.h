@@ -33,7 +33,7 @@ public:
     Subscription onChange(Observers::Callback callback) override;
 
 private:
-    void follow(QScreen* screen);
+    void observe(QScreen* screen);
 
     std::shared_ptr<Observers> observers_ = std::make_shared<Observers>();
     std::unique_ptr<NextTurn> announcement_;

@@ -42,7 +42,8 @@ std::optional<Point> ScreenCoordinates::desktopPoint(int nativeX, int nativeY) c
     return Point{logical.x - primary_.x, primary_.maxY() - logical.y};
 }
 
-std::optional<ScreenCoordinates::Place> ScreenCoordinates::place(const Rect& desktop) const {
+std::optional<ScreenCoordinates::LogicalRect>
+ScreenCoordinates::logicalRect(const Rect& desktop) const {
     if (screens_.empty())
         return std::nullopt;
     const Rect logical{desktop.x + primary_.x, primary_.maxY() - desktop.maxY(), desktop.width,
@@ -57,7 +58,7 @@ std::optional<ScreenCoordinates::Place> ScreenCoordinates::place(const Rect& des
             return squaredDistance(candidate.logical, middle);
         });
     }
-    return Place{static_cast<std::size_t>(screen - screens_.begin()), logical};
+    return LogicalRect{static_cast<std::size_t>(screen - screens_.begin()), logical};
 }
 
 } // namespace brellowind::platform

@@ -22,11 +22,11 @@ struct ScreenPlacement {
 class ScreenCoordinates {
 public:
     /// A rectangle of the desktop in the toolkit's coordinates.
-    struct Place {
+    struct LogicalRect {
         std::size_t screen; ///< with the largest intersection, else the nearest
         Rect logical;
 
-        bool operator==(const Place&) const = default;
+        bool operator==(const LogicalRect&) const = default;
     };
 
     /// `primary` is an index into `screens`, unless these are empty.
@@ -40,7 +40,7 @@ public:
     std::optional<Point> desktopPoint(int nativeX, int nativeY) const;
 
     /// Returns nullopt without a screen.
-    std::optional<Place> place(const Rect& desktop) const;
+    std::optional<LogicalRect> logicalRect(const Rect& desktop) const;
 
 private:
     std::vector<ScreenPlacement> screens_;

@@ -12,13 +12,13 @@
 namespace brellowind::platform {
 namespace {
 
-constexpr int lowHeight = 128; ///< points, enough for everything but the artwork panel
-constexpr int glow = 48;       ///< points that a shadow may reach below the outline
+constexpr int lowHeight = 128; ///< points; without the artwork panel
+constexpr int glow = 48;       ///< points below the outline for a shadow
 
-/// After which a surface that the compositor closed is shown again.
+/// Delay before a surface that was closed by the compositor is shown again.
 constexpr std::chrono::seconds retryDelay{1};
 
-/// In which a window that was opened from the menu takes the keyboard itself.
+/// Time for a window opened from the menu to take the focus itself.
 constexpr std::chrono::milliseconds focusDelay{100};
 
 } // namespace
@@ -27,7 +27,7 @@ WaylandOverlay::WaylandOverlay(QWindow& window, const WaylandCompositor& composi
                                WindowPointer& pointer, MainLoop& mainLoop)
     : window_(window), compositor_(compositor), pointer_(pointer), mainLoop_(mainLoop),
       resize_(mainLoop.onNextTurn([this] { resize(); })) {
-    // With the hint Qt gives the surface no role.
+    // With this hint Qt does not assign a role to the surface.
     window_.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
                      Qt::BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus);
     window_.installEventFilter(this);
@@ -40,8 +40,8 @@ WaylandOverlay::~WaylandOverlay() {
 
 void WaylandOverlay::setFrame(const Rect& frame) {
     const auto arrangement = ScreenArrangement::current();
-    const auto place = arrangement.coordinates.place(frame);
-    auto* screen = place ? arrangement.screens[static_cast<qsizetype>(place->screen)] : nullptr;
+    const auto target = arrangement.coordinates.logicalRect(frame);
+    auto* screen = target ? arrangement.screens[static_cast<qsizetype>(target->screen)] : nullptr;
     if (!screen || screen != screen_ || screen->devicePixelRatio() != ratio_)
         hide();
     screen_ = screen;
@@ -49,7 +49,7 @@ void WaylandOverlay::setFrame(const Rect& frame) {
         return;
     ratio_ = screen->devicePixelRatio();
     desktopFrame_ = frame;
-    const Rect& logical = place->logical;
+    const Rect& logical = target->logical;
     frame_ = QRectF(logical.x, logical.y, logical.width, logical.height).toRect();
     if (layerSurface_)
         resize();
@@ -62,14 +62,14 @@ void WaylandOverlay::orderFrontRegardless() {
     show();
 }
 
-void WaylandOverlay::setOutline(const Path& outline, const std::vector<Rect>& reach) {
+void WaylandOverlay::setOutline(const Path& outline, const std::vector<Rect>& inputRects) {
     outline_ = outlineRegion(outline, 1);
-    reach_ = reachRegion(reach, 1);
+    extraInput_ = rectsRegion(inputRects, 1);
     if (!layerSurface_)
         return;
     setInputRegion();
     if (geometry().size() != window_.size())
-        resize_->request(); // not while the frame with this outline is being drawn
+        resize_->request(); // not while the frame is being drawn
 }
 
 void WaylandOverlay::setIgnoresMouseEvents(bool ignores) {
@@ -104,7 +104,7 @@ bool WaylandOverlay::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-/// Of the window: as high as what it shows needs.
+/// The geometry of the window, as high as its content.
 QRect WaylandOverlay::geometry() const {
     const bool low = outline_.boundingRect().bottom() + glow <= lowHeight;
     return {frame_.topLeft(),
@@ -124,7 +124,7 @@ void WaylandOverlay::show() {
     setInputRegion();
 }
 
-/// The layer surface goes before the surface.
+/// Destroys the layer surface before the surface.
 void WaylandOverlay::hide() {
     if (closePopup_)
         closePopup_();
@@ -147,10 +147,10 @@ void WaylandOverlay::resize() {
     window_.setGeometry(geometry);
 }
 
-/// Applied by the next frame.
+/// Takes effect with the next frame.
 void WaylandOverlay::setInputRegion() {
     const WaylandObject<wl_region> region(wl_compositor_create_region(compositor_.surfaces()));
-    for (const QRect& rect : ignoresMouseEvents_ ? outline_ : outline_ | reach_)
+    for (const QRect& rect : ignoresMouseEvents_ ? outline_ : outline_ | extraInput_)
         wl_region_add(region.get(), rect.x(), rect.y(), rect.width(), rect.height());
     wl_surface_set_input_region(surface(), region.get());
 }
@@ -158,7 +158,7 @@ void WaylandOverlay::setInputRegion() {
 void WaylandOverlay::popupOpens(xdg_popup* popup, std::function<void()> close) {
     closePopup_ = std::move(close);
     layerSurface_->adoptPopup(popup);
-    if (!popupHasKeyboard()) // before the grab, during which the keyboard goes nowhere else
+    if (!popupHasKeyboard()) // before the grab
         layerSurface_->setKeyboardExclusive(true);
 }
 
@@ -170,8 +170,8 @@ void WaylandOverlay::popupClosed() {
         layerSurface_->setKeyboardExclusive(false);
 }
 
-/// Whether the compositor gives the keyboard to a popup of a layer surface, and not to the surface.
-/// Then it also leaves the keyboard with a layer surface that wants none.
+/// Whether the compositor gives the keyboard to a layer surface's popup, not to the surface itself.
+/// Such compositors also leave it with a clicked layer surface that does not request it.
 bool WaylandOverlay::popupHasKeyboard() const {
     return compositor_.layerShellVersion() < 4;
 }
@@ -180,7 +180,7 @@ void WaylandOverlay::returnFocusSoon() {
     focusDelay_ = mainLoop_.scheduleOnce(focusDelay, [this] { returnFocus(); });
 }
 
-/// Not while a press may still open the menu, nor while the menu is open.
+/// Does nothing while a press may open the menu or the menu is open.
 void WaylandOverlay::returnFocus() {
     if (!layerSurface_ || !hasFocus())
         return;
@@ -190,7 +190,7 @@ void WaylandOverlay::returnFocus() {
         focusReturn_.start(WaylandCompositor::output(*screen_));
 }
 
-/// Nobody in the program has it after the popup had it.
+/// Whether the overlay has the focus. After a popup Qt may have no focus window instead.
 bool WaylandOverlay::hasFocus() const {
     const auto* focused = QGuiApplication::focusWindow();
     return focused == &window_ || (popupHasKeyboard() && !focused);

@@ -17,34 +17,35 @@
 
 namespace brellowind::platform {
 
-/// Makes a transparent window of Qt an overlay by a layer shell. It takes the pointer within its
-/// content's outline, always, and tells `pointer` where that is; within its reach only while it
-/// does not ignore mouse events.
+/// Makes a transparent Qt window an overlay with a layer shell. The outline always receives input,
+/// which is reported to `pointer`; the other input rectangles only while the overlay does not
+/// ignore mouse events.
 ///
-/// The surface is only as high as what it shows needs, which saves memory and the compositor's
-/// work. It is made anew on another screen or at another scale.
+/// The surface is only as high as its content, which saves memory and work of the compositor. It is
+/// recreated for another screen or scale.
 class WaylandOverlay final : public QObject, public Overlay {
 public:
-    /// Sets the flags of `window`, whose native window does not exist yet. All outlive this.
+    /// Sets the flags of `window`, which must not have a native window. All references must outlive
+    /// this object.
     WaylandOverlay(QWindow& window, const WaylandCompositor& compositor, WindowPointer& pointer,
                    MainLoop& mainLoop);
     ~WaylandOverlay() override;
 
-    /// Without a screen it is hidden.
+    /// Hides the window if there is no screen.
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
-    void setOutline(const Path& outline, const std::vector<Rect>& reach) override;
+    void setOutline(const Path& outline, const std::vector<Rect>& inputRects) override;
     void setIgnoresMouseEvents(bool ignores) override;
 
     bool isShown() const { return layerSurface_.has_value(); }
     const QWindow& window() const { return window_; }
     wl_surface* surface() const { return WaylandCompositor::surface(window_); } ///< may be null
 
-    /// Makes `popup`, whose grab is still to come, a child. `close` closes it, and is called before
-    /// the overlay is hidden. REQUIRES: it is shown.
+    /// Makes this overlay the parent of `popup`, before its grab. Calls `close` to close the popup
+    /// before the overlay is hidden. REQUIRES: the overlay is shown.
     void popupOpens(xdg_popup* popup, std::function<void()> close);
 
-    /// The roles of the popup are gone.
+    /// Call when the popup's role objects are destroyed.
     void popupClosed();
 
 protected:
@@ -66,20 +67,20 @@ private:
     const WaylandCompositor& compositor_;
     WindowPointer& pointer_;
     MainLoop& mainLoop_;
-    QPointer<QScreen> screen_; ///< that it belongs on
+    QPointer<QScreen> screen_; ///< the target screen
     QRect frame_;              ///< in Qt's coordinates
     Rect desktopFrame_;
-    QRegion outline_; ///< in points
-    QRegion reach_;   ///< in points
+    QRegion outline_;    ///< in points
+    QRegion extraInput_; ///< in points
     bool ignoresMouseEvents_ = true;
     bool ordered_ = false;
-    double ratio_ = 0; ///< pixels per point of `screen_` when it was placed
+    double ratio_ = 0; ///< pixels per point of `screen_` when the surface was made
     std::optional<LayerSurface> layerSurface_;
     std::unique_ptr<NextTurn> resize_;
     std::unique_ptr<Timer> retry_;
     FocusReturn focusReturn_{compositor_};
     std::unique_ptr<Timer> focusDelay_;
-    std::function<void()> closePopup_; ///< absent while there is none
+    std::function<void()> closePopup_; ///< null without a popup
 };
 
 } // namespace brellowind::platform

@@ -8,17 +8,16 @@
 
 namespace brellowind::platform {
 
-/// What the native window of an overlay takes of the pointer, and what there is of it at all.
+/// The input shape and the bounding shape of an overlay's native window.
 class OverlayShape {
 public:
     virtual ~OverlayShape() = default;
 
-    /// `outline` and `reach`, in points of `scale` pixels, and `ignoresMouseEvents` are those of
-    /// the overlay.
-    virtual void update(const Path& outline, const std::vector<Rect>& reach, double scale,
+    /// The arguments are as for `Overlay`, in points of `scale` pixels.
+    virtual void update(const Path& outline, const std::vector<Rect>& inputRects, double scale,
                         bool ignoresMouseEvents) = 0;
 
-    /// As of the overlay.
+    /// As `Overlay::present`.
     virtual void present(const std::function<void()>& flush) { flush(); }
 };
 

@@ -11,7 +11,7 @@ PlainX11Shape::PlainX11Shape(const QWindow& window, std::function<void()> change
     : compositingManager_(x11_, std::move(changed)),
       shape_(x11_, static_cast<xcb_window_t>(window.winId())) {}
 
-void PlainX11Shape::update(const Path& outline, const std::vector<Rect>& reach, double scale,
+void PlainX11Shape::update(const Path& outline, const std::vector<Rect>& inputRects, double scale,
                            bool ignoresMouseEvents) {
     const bool isBounded = !compositingManager_.isRunning();
     const QRegion region =
@@ -19,7 +19,7 @@ void PlainX11Shape::update(const Path& outline, const std::vector<Rect>& reach, 
     shape_.setBounding(isBounded ? std::optional(region) : std::nullopt);
     shape_.setInput(ignoresMouseEvents ? QRegion()
                     : isBounded        ? region
-                                       : region | reachRegion(reach, scale));
+                                       : region | rectsRegion(inputRects, scale));
 }
 
 } // namespace brellowind::platform

@@ -8,14 +8,14 @@
 
 namespace brellowind::platform {
 
-/// The shape on an X server of its own. Without a compositing manager the window exists within the
-/// outline only, since all else would be black.
+/// The shape on a real X server. Without a compositing manager the window is bounded by the
+/// outline, since the rest would be black.
 class PlainX11Shape final : public OverlayShape {
 public:
-    /// Calls `changed` when a compositing manager comes or goes.
+    /// Calls `changed` when a compositing manager starts or stops.
     PlainX11Shape(const QWindow& window, std::function<void()> changed);
 
-    void update(const Path& outline, const std::vector<Rect>& reach, double scale,
+    void update(const Path& outline, const std::vector<Rect>& inputRects, double scale,
                 bool ignoresMouseEvents) override;
 
 private:

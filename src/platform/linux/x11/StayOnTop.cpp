@@ -8,10 +8,10 @@
 namespace brellowind::platform {
 namespace {
 
-/// How deep in its window manager's frame a window may be.
+/// The maximum depth of a window in its window manager's frame.
 constexpr int frameDepth = 2;
 
-/// In the window system's pixels, without those that Qt rounds off.
+/// The screen's geometry in pixels, with Qt's rounding.
 QRect pixels(const QScreen& screen) {
     const QRect logical = screen.geometry();
     const QSizeF size = QSizeF(logical.size()) * screen.devicePixelRatio();
@@ -31,7 +31,7 @@ StayOnTop::StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& 
       managedMark_(x11.atom("WM_STATE")), mainLoop_(mainLoop),
       nextTurn_(mainLoop.onNextTurn([this] { check(); })),
       observer_([this](const xcb_generic_event_t& event) { return handle(event); }) {
-    x11_.hearOfRoot(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
+    x11_.selectRootEvents(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
 }
 
 void StayOnTop::raise() {
@@ -133,7 +133,7 @@ std::vector<xcb_window_t> StayOnTop::windowsAbove() const {
     return {own + 1, end};
 }
 
-/// Absent for one that shows nothing.
+/// Returns nullopt for an invisible window.
 std::optional<StayOnTop::Neighbour> StayOnTop::viewable(xcb_window_t window) const {
     const auto attributes =
         x11_.ask<xcb_get_window_attributes, xcb_get_window_attributes_reply>(window);
@@ -150,7 +150,7 @@ std::optional<StayOnTop::Neighbour> StayOnTop::viewable(xcb_window_t window) con
         attributes->override_redirect != 0};
 }
 
-/// The frames of window managers bypass them too, but there is a managed window within.
+/// Frames of window managers are override-redirect, too, but contain a managed window.
 bool StayOnTop::isShield(const Neighbour& neighbour) const {
     const auto* screen = qtWindow_.screen();
     return neighbour.bypassesWindowManager && screen && neighbour.frame.contains(pixels(*screen)) &&

@@ -41,7 +41,7 @@ private:
     const QWindow& qtWindow_;
     xcb_window_t window_;
     xcb_window_t below_ = XCB_WINDOW_NONE; ///< the window right below this one
-    xcb_atom_t managedMark_; ///< a property of managed windows
+    xcb_atom_t managedMark_;               ///< a property of managed windows
     MainLoop& mainLoop_;
     RaiseBudget budget_;
     std::unique_ptr<NextTurn> nextTurn_;

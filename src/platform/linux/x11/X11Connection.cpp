@@ -12,7 +12,7 @@ xcb_connection_t* applicationConnection() {
     return qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
 }
 
-/// The one that the application was told to open, as Qt does too: by the environment.
+/// The default screen of DISPLAY, as Qt uses it.
 int defaultScreen() {
     char* host = nullptr;
     int display = 0;
@@ -46,7 +46,7 @@ xcb_atom_t X11Connection::atom(const char* name) const {
     return answer ? answer->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
-void X11Connection::hearOfRoot(std::uint32_t events) const {
+void X11Connection::selectRootEvents(std::uint32_t events) const {
     const auto root = ask<xcb_get_window_attributes, xcb_get_window_attributes_reply>(root_);
     const std::uint32_t all = events | (root ? root->your_event_mask : 0);
     xcb_change_window_attributes(connection_, root_, XCB_CW_EVENT_MASK, &all);

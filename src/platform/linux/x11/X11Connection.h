@@ -10,7 +10,7 @@
 
 namespace brellowind::platform {
 
-/// The answer of an X server; null when the request failed.
+/// A reply of the X server; null if the request failed.
 template <typename Answer>
 struct FreeAnswer {
     void operator()(Answer* answer) const { std::free(answer); }
@@ -18,8 +18,8 @@ struct FreeAnswer {
 template <typename Answer>
 using X11Answer = std::unique_ptr<Answer, FreeAnswer<Answer>>;
 
-/// The connection of the Qt application to its X server. Requests through it keep their order with
-/// Qt's own; its events reach an `X11EventObserver` before Qt handles them.
+/// The Qt application's connection to its X server, so that requests are ordered with Qt's. Its
+/// events are passed to `X11EventObserver`s before Qt handles them.
 class X11Connection {
 public:
     /// REQUIRES: a `QGuiApplication` on the platform "xcb".
@@ -29,23 +29,23 @@ public:
     xcb_window_t root() const { return root_; }
     int screenNumber() const { return screenNumber_; }
 
-    /// Sends what is buffered.
+    /// Sends buffered requests.
     void flush() const { xcb_flush(connection_); }
 
-    /// Whether a window was made by this program.
+    /// Whether a window belongs to this program.
     bool owns(xcb_window_t window) const;
 
     xcb_atom_t atom(const char* name) const;
 
-    /// Sends a request and waits for its answer.
+    /// Sends a request and waits for its reply.
     template <auto Request, auto Reply, typename... Arguments>
     auto ask(Arguments... arguments) const {
         auto* answer = Reply(connection_, Request(connection_, arguments...), nullptr);
         return X11Answer<std::remove_pointer_t<decltype(answer)>>(answer);
     }
 
-    /// Adds to the events of the root window that this program hears of.
-    void hearOfRoot(std::uint32_t events) const;
+    /// Adds to the selected events of the root window.
+    void selectRootEvents(std::uint32_t events) const;
 
 private:
     xcb_connection_t* connection_;
@@ -53,10 +53,10 @@ private:
     xcb_window_t root_;
 };
 
-/// Observes every event of the application's connection before Qt handles it.
+/// Receives every event of the application's connection before Qt handles it.
 class X11EventObserver final : public QAbstractNativeEventFilter {
 public:
-    /// Returns whether Qt shall not handle the event.
+    /// Returns true to hide the event from Qt.
     using Handler = std::function<bool(const xcb_generic_event_t&)>;
 
     explicit X11EventObserver(Handler handler);
@@ -67,7 +67,7 @@ private:
     Handler handler_;
 };
 
-/// What kind of event it is, whether the server or another client sent it.
+/// The type of an event, without the flag for events sent by clients.
 inline int eventType(const xcb_generic_event_t& event) {
     return event.response_type & 0x7f;
 }

@@ -38,11 +38,11 @@ X11Overlay::X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLo
 
 void X11Overlay::setFrame(const Rect& frame) {
     const auto arrangement = ScreenArrangement::current();
-    const auto place = arrangement.coordinates.place(frame);
-    if (!place)
+    const auto target = arrangement.coordinates.logicalRect(frame);
+    if (!target)
         return;
-    window_.setScreen(arrangement.screens[static_cast<qsizetype>(place->screen)]);
-    window_.setGeometry(wholePoints(place->logical));
+    window_.setScreen(arrangement.screens[static_cast<qsizetype>(target->screen)]);
+    window_.setGeometry(wholePoints(target->logical));
     window_.requestUpdate();
     updateShape();
 }
@@ -54,9 +54,9 @@ void X11Overlay::orderFrontRegardless() {
         native_->stayOnTop.raise();
 }
 
-void X11Overlay::setOutline(const Path& outline, const std::vector<Rect>& reach) {
+void X11Overlay::setOutline(const Path& outline, const std::vector<Rect>& inputRects) {
     outline_ = outline;
-    reach_ = reach;
+    inputRects_ = inputRects;
     updateShape();
 }
 
@@ -82,7 +82,7 @@ bool X11Overlay::eventFilter(QObject* watched, QEvent* event) {
         else
             native_.reset();
     } else if (event->type() == QEvent::Resize || event->type() == QEvent::Paint) {
-        updateShape(); // the scale may be another
+        updateShape(); // the scale may have changed
     }
     return QObject::eventFilter(watched, event);
 }
@@ -93,7 +93,7 @@ void X11Overlay::adoptNativeWindow() {
     updateShape();
 }
 
-/// Several compositing managers draw one around every window, unless they are asked not to.
+/// Some compositing managers draw shadows around all windows by default.
 void X11Overlay::forbidShadow() {
     constexpr std::uint32_t none = 0;
     xcb_change_property(x11_.get(), XCB_PROP_MODE_REPLACE,
@@ -103,7 +103,8 @@ void X11Overlay::forbidShadow() {
 
 void X11Overlay::updateShape() {
     if (native_)
-        native_->shape->update(outline_, reach_, window_.devicePixelRatio(), ignoresMouseEvents_);
+        native_->shape->update(outline_, inputRects_, window_.devicePixelRatio(),
+                               ignoresMouseEvents_);
 }
 
 void X11Overlay::updateVisibility() {

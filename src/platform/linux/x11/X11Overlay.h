@@ -16,20 +16,21 @@
 
 namespace brellowind::platform {
 
-/// Makes a transparent window of Qt an overlay on an X server.
+/// Makes a transparent Qt window an overlay on an X server.
 ///
-/// It bypasses the window manager, so that none places, focuses or lists it, and raises itself when
-/// another window covers it. While the session is locked or the screen saver is active it is
-/// hidden.
+/// The window is override-redirect, so that the window manager does not place, focus or list it,
+/// and raises itself when it is covered. Hidden while the session is locked or the screen saver is
+/// active.
 class X11Overlay final : public QObject, public Overlay {
 public:
-    /// Sets the flags of `window`, whose native window does not exist yet. All outlive this.
+    /// Sets the flags of `window`, which must not have a native window. All references must outlive
+    /// this object.
     X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock, X11Input& input);
 
-    /// Does nothing while there is no screen.
+    /// Does nothing if there is no screen.
     void setFrame(const Rect& frame) override;
     void orderFrontRegardless() override;
-    void setOutline(const Path& outline, const std::vector<Rect>& reach) override;
+    void setOutline(const Path& outline, const std::vector<Rect>& inputRects) override;
     void present(const std::function<void()>& flush) override;
     void setIgnoresMouseEvents(bool ignores) override;
 
@@ -37,7 +38,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// What is bound to the native window.
+    /// The state of the native window.
     struct Native {
         explicit Native(X11Overlay& overlay);
 
@@ -59,9 +60,9 @@ private:
     Subscription lockChange_;
     std::optional<Native> native_;
     Path outline_;
-    std::vector<Rect> reach_;
+    std::vector<Rect> inputRects_;
     bool ignoresMouseEvents_ = true;
-    bool ordered_ = false; ///< in front, unless hidden for the time being
+    bool ordered_ = false; ///< ordered front; may be hidden temporarily
 };
 
 } // namespace brellowind::platform

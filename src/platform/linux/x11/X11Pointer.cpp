@@ -21,15 +21,14 @@ private:
     Subscription subscription_;
 };
 
-/// Whether the program has a window that may stand in a frame of the window manager.
+/// Whether the program has a window that may be reparented by the window manager.
 bool hasManagedWindow() {
     return std::ranges::any_of(QGuiApplication::topLevelWindows(), [](const QWindow* window) {
         return window->isVisible() && !window->flags().testFlag(Qt::BypassWindowManagerHint);
     });
 }
 
-/// The extension's number, or -1. Before 2.1 there are no raw events while another holds the
-/// pointer.
+/// The extension's opcode, or -1. Before 2.1 there are no raw events during grabs.
 int xinputNumber(const X11Connection& x11) {
     const auto* extension = xcb_get_extension_data(x11.get(), &xcb_input_id);
     if (!extension || !extension->present)
@@ -54,7 +53,7 @@ void selectRawMotion(const X11Connection& x11, bool selected) {
 } // namespace
 
 X11Pointer::X11Pointer(MainLoop& mainLoop)
-    : xinput_(xinputNumber(x11_)), nextTurn_(mainLoop.onNextTurn([this] { tellMovement(); })),
+    : xinput_(xinputNumber(x11_)), nextTurn_(mainLoop.onNextTurn([this] { notifyMonitors(); })),
       observer_([this](const xcb_generic_event_t& event) {
           handle(event);
           return false;
@@ -120,15 +119,15 @@ void X11Pointer::requestMovement() {
     nextTurn_->request();
 }
 
-/// What a window is about to be told of a movement, the monitors hear first. Between movements
-/// there is no filter, since it sees every event of the program.
+/// Notifies the monitors of a movement before the window receives it. Installed during movements
+/// only, since a filter sees every event of the program.
 bool X11Pointer::eventFilter(QObject* watched, QEvent* event) {
     if (moved_ && (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter))
-        tellMovement();
+        notifyMonitors();
     return QObject::eventFilter(watched, event);
 }
 
-void X11Pointer::tellMovement() {
+void X11Pointer::notifyMonitors() {
     if (!std::exchange(moved_, false))
         return;
     qGuiApp->removeEventFilter(this);
@@ -146,11 +145,11 @@ X11Pointer::Position X11Pointer::query(xcb_window_t within) const {
 }
 
 bool X11Pointer::isOverOwnWindow(Position position) const {
-    const bool lookIntoFrames = hasManagedWindow();
+    const bool searchFrames = hasManagedWindow();
     while (position && position->child != XCB_WINDOW_NONE) {
         if (x11_.owns(position->child))
             return true;
-        if (!lookIntoFrames)
+        if (!searchFrames)
             return false;
         position = query(position->child);
     }

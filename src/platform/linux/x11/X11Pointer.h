@@ -11,10 +11,9 @@
 
 namespace brellowind::platform {
 
-/// The pointer of an X server. Its movements are told by the server, wherever it moves and whoever
-/// holds it (XInput 2.1 raw events), also when another program puts it elsewhere after it has
-/// rested; nothing happens while it rests. Several movements that have come by the time of the next
-/// turn of the main loop count as one.
+/// The pointer of an X server. Receives all movements, also during grabs of other clients, as
+/// XInput 2.1 raw events, without polling. Also notices when another program warps the pointer.
+/// Movements before the next turn of the main loop are coalesced.
 class X11Pointer final : public QObject, public Pointer {
 public:
     explicit X11Pointer(MainLoop& mainLoop);
@@ -34,13 +33,13 @@ private:
     void handle(const xcb_generic_event_t& event);
     void handleUse();
     void requestMovement();
-    void tellMovement();
+    void notifyMonitors();
     Position query(xcb_window_t within) const;
     bool isOverOwnWindow(Position position) const;
     std::unique_ptr<PointerMonitor> monitor(Observers& observers, Handler handler) const;
 
     X11Connection x11_;
-    int xinput_ = -1; ///< the extension's number; -1 when it is absent or too old
+    int xinput_ = -1; ///< the extension's opcode; -1 if missing or too old
     bool moved_ = false;
     std::optional<std::pair<int, int>> told_; ///< the last location, in pixels of the root window
     std::shared_ptr<Observers> global_ = std::make_shared<Observers>();

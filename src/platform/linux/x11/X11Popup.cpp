@@ -12,8 +12,8 @@
 namespace brellowind::platform {
 namespace {
 
-/// What a rectangle with round corners covers as a whole: what it covers in part would be mixed
-/// with black.
+/// The pixels that a rounded rectangle covers completely; partly covered ones would be blended with
+/// black.
 QRegion roundedRegion(QSize size, double radius) {
     QRegion region(QRect(QPoint(0, 0), size));
     for (int y = 0; y < radius; ++y) {
@@ -28,15 +28,14 @@ QRegion roundedRegion(QSize size, double radius) {
     return region;
 }
 
-/// Within `area`, with the top left corner as near to `corner` as it can be.
-QPoint placeWithin(const QRect& area, QPoint corner, QSize size) {
+/// Moves a rectangle of `size` at `corner` into `area`. Returns its top left corner.
+QPoint movedInto(const QRect& area, QPoint corner, QSize size) {
     return {std::max(area.x(), std::min(corner.x(), area.x() + area.width() - size.width())),
             std::max(area.y(), std::min(corner.y(), area.y() + area.height() - size.height()))};
 }
 
-/// Whether the server would let `window` grab the pointer, which Qt's own grab does not tell. It is
-/// a grab of the same kind as Qt's, so that the program may hold the pointer already, by a button
-/// that is down.
+/// Whether `window` can grab the pointer, which Qt's grab does not report. Uses the same kind of
+/// grab as Qt, so that it also works while this program has a grab by a pressed button.
 bool isPointerFree(const X11Connection& x11, xcb_window_t window) {
     const auto pointer =
         x11.ask<xcb_input_xi_get_client_pointer, xcb_input_xi_get_client_pointer_reply>(
@@ -59,12 +58,12 @@ void X11Popup::show(const Popup& popup) {
     auto& window = popup.window;
     const QPoint corner = popup.overlay.mapToGlobal(QPointF(popup.at.x, popup.at.y)).toPoint();
     const auto* at = QGuiApplication::screenAt(corner);
-    // Not of the type Popup, of which Qt tells assistive programs nothing.
+    // Not of the type Popup, which Qt does not expose to assistive programs.
     window.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
                     Qt::BypassWindowManagerHint);
     window.setPosition(
-        placeWithin((at ? at : popup.overlay.screen())->geometry(), corner, window.size()));
-    window.create(); // what is not there yet has no mask
+        movedInto((at ? at : popup.overlay.screen())->geometry(), corner, window.size()));
+    window.create(); // required for the mask
     window.setMask(compositingManager_.isRunning()
                        ? QRegion()
                        : roundedRegion(window.size(), popup.cornerRadius));
@@ -79,7 +78,7 @@ bool X11Popup::eventFilter(QObject* receiver, QEvent* event) {
     switch (event->type()) {
     case QEvent::Expose:
         if (receiver == window_ && window_->isExposed())
-            hold(); // not earlier: a window that is not seen yet can grab nothing
+            hold(); // an unmapped window cannot grab
         return false;
     case QEvent::Hide:
         if (receiver == window_)
@@ -116,7 +115,7 @@ void X11Popup::release() {
     window->setKeyboardGrabEnabled(false);
 }
 
-/// A press beside a window that holds the pointer comes to that window, or to another one of this
+/// During the grab a press outside the window is delivered to it, or to another window of this
 /// program.
 bool X11Popup::handlePress(const QObject* receiver, const QEvent* event) {
     const QPointF at = static_cast<const QMouseEvent*>(event)->position();
@@ -126,12 +125,12 @@ bool X11Popup::handlePress(const QObject* receiver, const QEvent* event) {
     return true;
 }
 
-/// Qt delivers keys to the window of this program that had the focus before.
+/// Qt delivers keys to the window of this program that had the focus before; redirects them.
 bool X11Popup::handleKey(const QObject* receiver, QEvent* event) {
     if (receiver == window_)
         return false;
     if (event->type() == QEvent::ShortcutOverride)
-        event->accept(); // no shortcut of that window
+        event->accept(); // suppress that window's shortcuts
     else
         QCoreApplication::sendEvent(window_, event);
     return true;

@@ -12,11 +12,11 @@ using namespace std::chrono_literals;
 constexpr auto interval = 1000ms;
 constexpr int timeoutMs = 2000;
 
-/// By which an event may come here later than to the compositor.
+/// The maximum delay of an event between the compositor and this program.
 constexpr auto delay = 100ms;
 
-/// For which the pointer may rest over the window where the compositor cannot be asked.
-constexpr auto longestRest = 3s;
+/// The maximum hover time without events, if there is no idle monitor.
+constexpr auto longestIdle = 3s;
 
 const auto monitor = QStringLiteral("org.gnome.Mutter.IdleMonitor");
 const auto monitorPath = QStringLiteral("/org/gnome/Mutter/IdleMonitor/Core");
@@ -80,10 +80,10 @@ void XWaylandHover::askIdleTime() {
 }
 
 void XWaylandHover::handleIdleTime(Time asked, const QDBusMessage& reply) {
-    const auto rest = asked - lastHere_;
+    const auto sinceEvent = asked - lastHere_;
     const bool isKnown = reply.type() == QDBusMessage::ReplyMessage;
     const std::chrono::milliseconds idle(isKnown ? reply.arguments().value(0).toLongLong() : 0);
-    const bool isElsewhere = isKnown ? rest > idle + delay : rest > longestRest;
+    const bool isElsewhere = isKnown ? sinceEvent > idle + delay : sinceEvent > longestIdle;
     question_.reset();
     if (isElsewhere)
         leave();

@@ -13,16 +13,16 @@
 namespace brellowind::platform {
 namespace {
 
-class FollowedShape final : public OverlayShape {
+class XWaylandOverlayShape final : public OverlayShape {
 public:
-    FollowedShape(QWindow& window, WindowPointer& pointer, MainLoop& mainLoop,
-                  const QDBusConnection& sessionBus)
+    XWaylandOverlayShape(QWindow& window, WindowPointer& pointer, MainLoop& mainLoop,
+                         const QDBusConnection& sessionBus)
         : shape_(window), hover_(window, pointer, mainLoop, sessionBus) {}
 
-    void update(const Path& outline, const std::vector<Rect>& reach, double scale,
+    void update(const Path& outline, const std::vector<Rect>& inputRects, double scale,
                 bool ignoresMouseEvents) override {
         const QRegion region = outlineRegion(outline, scale);
-        shape_.update(ignoresMouseEvents ? region : region | reachRegion(reach, scale));
+        shape_.update(ignoresMouseEvents ? region : region | rectsRegion(inputRects, scale));
     }
 
     void present(const std::function<void()>& flush) override { shape_.present(flush); }
@@ -38,7 +38,7 @@ bool isXWayland() {
     constexpr std::string_view extension = "XWAYLAND";
     const auto answer = X11Connection().ask<xcb_query_extension, xcb_query_extension_reply>(
         static_cast<std::uint16_t>(extension.size()), extension.data());
-    // Without the extension its screens have no names of their own.
+    // Older versions without the extension are recognised by the names of their screens.
     return (answer && answer->present) ||
            std::ranges::any_of(QGuiApplication::screens(), [](const QScreen* screen) {
                return screen->name().startsWith(QLatin1String("XWAYLAND"));
@@ -50,7 +50,7 @@ XWaylandInput::XWaylandInput(MainLoop& mainLoop, const QDBusConnection& sessionB
 
 std::unique_ptr<OverlayShape> XWaylandInput::shape(QWindow& window,
                                                    std::function<void()> /*changed*/) {
-    return std::make_unique<FollowedShape>(window, pointer_, mainLoop_, sessionBus_);
+    return std::make_unique<XWaylandOverlayShape>(window, pointer_, mainLoop_, sessionBus_);
 }
 
 } // namespace brellowind::platform

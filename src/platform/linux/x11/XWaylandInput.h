@@ -9,20 +9,19 @@
 
 namespace brellowind::platform {
 
-/// Whether the X server of the Qt application, which exists, is XWayland: its windows are shown by
-/// a Wayland compositor.
+/// Whether the X server of the existing Qt application is XWayland.
 bool isXWayland();
 
-/// XWayland below a compositor such as GNOME's. It knows the pointer only while that is over an X
-/// window, and elsewhere tells the place where it was last.
+/// XWayland on a compositor such as GNOME's. The pointer is known only over X windows; elsewhere
+/// XWayland reports its last position.
 class XWaylandInput final : public X11Input {
 public:
-    /// `mainLoop` outlives this. Without `sessionBus` hover ends later.
+    /// `mainLoop` must outlive this object. Without `sessionBus` hover ends later.
     XWaylandInput(MainLoop& mainLoop, const QDBusConnection& sessionBus);
 
     Pointer& pointer() override { return pointer_; }
     std::unique_ptr<OverlayShape> shape(QWindow& window, std::function<void()> changed) override;
-    void giveKeyboard(QWindow& menu) override { menuFocus_.follow(menu); }
+    void giveKeyboard(QWindow& menu) override { menuFocus_.attach(menu); }
 
 private:
     MainLoop& mainLoop_;

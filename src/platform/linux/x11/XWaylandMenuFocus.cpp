@@ -8,7 +8,7 @@
 namespace brellowind::platform {
 namespace {
 
-/// The window manager may take the focus for a moment while it gives it to the new window.
+/// The window manager may remove the focus briefly while it gives it to the new window.
 constexpr std::chrono::milliseconds changeOfFocus(50);
 
 } // namespace
@@ -21,7 +21,7 @@ XWaylandMenuFocus::XWaylandMenuFocus() {
     holder_.installEventFilter(this);
 }
 
-void XWaylandMenuFocus::follow(QWindow& menu) {
+void XWaylandMenuFocus::attach(QWindow& menu) {
     if (menu_)
         menu_->removeEventFilter(this);
     menu_ = &menu;
@@ -45,8 +45,8 @@ void XWaylandMenuFocus::closeWithoutFocus() {
         menu_->close();
 }
 
-void XWaylandMenuFocus::show(QPoint place) {
-    holder_.setGeometry(QRect(place, QSize(1, 1)));
+void XWaylandMenuFocus::show(QPoint position) {
+    holder_.setGeometry(QRect(position, QSize(1, 1)));
     holder_.show();
     holder_.requestActivate();
 }

@@ -6,24 +6,23 @@
 
 namespace brellowind::platform {
 
-/// Gives the keyboard to a menu under XWayland, where a grab holds neither keys nor presses that
-/// are for other programs.
+/// Gives the keyboard focus to a menu under XWayland, where grabs do not affect Wayland clients.
 ///
-/// While the menu is shown there is a clear window of one point that the window manager gives the
-/// focus, so that the X server gets the keys. When it loses the focus, as by a press on a window of
-/// another program, the menu closes.
+/// While the menu is shown, a managed transparent window of one point has the focus, so that
+/// XWayland receives the keys. When it loses the focus, as by a click on another program's window,
+/// the menu closes.
 class XWaylandMenuFocus final : public QObject {
 public:
     XWaylandMenuFocus();
 
-    /// `menu` is about to be shown, in its place. It outlives this or is followed no more.
-    void follow(QWindow& menu);
+    /// Call before `menu` is shown, at its final position. `menu` may be destroyed first.
+    void attach(QWindow& menu);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void show(QPoint place);
+    void show(QPoint position);
     void closeWithoutFocus();
 
     QPointer<QWindow> menu_;

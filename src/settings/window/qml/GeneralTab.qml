@@ -35,12 +35,12 @@ Item {
 
             FormRow {
                 label: "Support"
-                visible: root.model.takesFeedback
+                visible: root.model.acceptsFeedback
                 action: "Send Feedback"
                 onPressed: root.model.sendFeedback()
             }
             Divider {
-                visible: root.model.takesFeedback
+                visible: root.model.acceptsFeedback
                 x: Style.inset
                 width: parent.width - 2 * x
             }

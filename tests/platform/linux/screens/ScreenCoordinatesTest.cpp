@@ -7,7 +7,7 @@
 namespace brellowind::platform {
 namespace {
 
-using Place = ScreenCoordinates::Place;
+using LogicalRect = ScreenCoordinates::LogicalRect;
 
 ScreenPlacement screen(double x, double y, double width, double height, double scale = 1) {
     return {{x, y, width, height}, scale, {x, y, width / scale, height / scale}};
@@ -16,7 +16,7 @@ ScreenPlacement screen(double x, double y, double width, double height, double s
 TEST(ScreenCoordinates, PutTheOriginAtTheBottomLeftOfASingleScreen) {
     const ScreenCoordinates one({screen(0, 0, 1512, 982)}, 0);
     EXPECT_EQ(one.desktopRect({0, 30, 1512, 952}), (Rect{0, 0, 1512, 952}));
-    EXPECT_EQ(one.place({436, 442, 640, 540}), (Place{0, {436, 0, 640, 540}}));
+    EXPECT_EQ(one.logicalRect({436, 442, 640, 540}), (LogicalRect{0, {436, 0, 640, 540}}));
 }
 
 TEST(ScreenCoordinates, PutThePointerAtTheMiddleOfItsPixel) {
@@ -40,7 +40,7 @@ TEST(ScreenCoordinates, DivideByTheScale) {
     const ScreenCoordinates one({screen(0, 0, 3024, 1964, 2)}, 0);
     EXPECT_EQ(one.desktopPoint(0, 0), (Point{0.25, 981.75}));
     EXPECT_EQ(one.desktopPoint(3023, 1963), (Point{1511.75, 0.25}));
-    EXPECT_EQ(one.place({436, 442, 640, 540}), (Place{0, {436, 0, 640, 540}}));
+    EXPECT_EQ(one.logicalRect({436, 442, 640, 540}), (LogicalRect{0, {436, 0, 640, 540}}));
 }
 
 TEST(ScreenCoordinates, PlaceScreensAroundThePrimaryOne) {
@@ -49,8 +49,8 @@ TEST(ScreenCoordinates, PlaceScreensAroundThePrimaryOne) {
     EXPECT_EQ(two.desktopRect({0, 0, 1280, 1024}), (Rect{-1280, 200, 1280, 1024}));
     EXPECT_EQ(two.desktopPoint(0, 0), (Point{-1279.5, 1223.5}));
     EXPECT_EQ(two.desktopPoint(1280, 144), (Point{0.5, 1079.5}));
-    EXPECT_EQ(two.place({-960, 684, 640, 540}), (Place{0, {320, 0, 640, 540}}));
-    EXPECT_EQ(two.place({640, 540, 640, 540}), (Place{1, {1920, 144, 640, 540}}));
+    EXPECT_EQ(two.logicalRect({-960, 684, 640, 540}), (LogicalRect{0, {320, 0, 640, 540}}));
+    EXPECT_EQ(two.logicalRect({640, 540, 640, 540}), (LogicalRect{1, {1920, 144, 640, 540}}));
 }
 
 TEST(ScreenCoordinates, TakeNegativeOriginsAndScreensBelowEachOther) {
@@ -58,8 +58,8 @@ TEST(ScreenCoordinates, TakeNegativeOriginsAndScreensBelowEachOther) {
         {screen(0, 0, 1920, 1080), screen(-100, -1200, 1600, 1200), screen(50, 1080, 800, 600)}, 0);
     EXPECT_EQ(two.desktopRect({-100, -1200, 1600, 1200}), (Rect{-100, 1080, 1600, 1200}));
     EXPECT_EQ(two.desktopPoint(-100, -1200), (Point{-99.5, 2279.5}));
-    EXPECT_EQ(two.place({380, 1740, 640, 540}), (Place{1, {380, -1200, 640, 540}}));
-    EXPECT_EQ(two.place({130, -540, 640, 540}), (Place{2, {130, 1080, 640, 540}}));
+    EXPECT_EQ(two.logicalRect({380, 1740, 640, 540}), (LogicalRect{1, {380, -1200, 640, 540}}));
+    EXPECT_EQ(two.logicalRect({130, -540, 640, 540}), (LogicalRect{2, {130, 1080, 640, 540}}));
 }
 
 TEST(ScreenCoordinates, MixScales) {
@@ -67,7 +67,7 @@ TEST(ScreenCoordinates, MixScales) {
     const ScreenCoordinates two({screen(0, 0, 3840, 2160, 2), screen(3840, 0, 1920, 1080)}, 0);
     EXPECT_EQ(two.desktopPoint(3839, 0), (Point{1919.75, 1079.75}));
     EXPECT_EQ(two.desktopPoint(3840, 0), (Point{3840.5, 1079.5}));
-    EXPECT_EQ(two.place({4480, 540, 640, 540}), (Place{1, {4480, 0, 640, 540}}));
+    EXPECT_EQ(two.logicalRect({4480, 540, 640, 540}), (LogicalRect{1, {4480, 0, 640, 540}}));
 }
 
 TEST(ScreenCoordinates, AgreeOnAScreenOfAFractionalScale) {
@@ -85,16 +85,16 @@ TEST(ScreenCoordinates, TakeThePointerBesideAllScreensForOneOfTheNearest) {
 
 TEST(ScreenCoordinates, PlaceARectangleOnTheScreenThatMostOfItLiesOn) {
     const ScreenCoordinates two({screen(0, 0, 1000, 1000), screen(1000, 0, 1000, 1000)}, 0);
-    EXPECT_EQ(two.place({700, 0, 500, 100})->screen, 0U);
-    EXPECT_EQ(two.place({800, 0, 500, 100})->screen, 1U);
-    EXPECT_EQ(two.place({5000, 5000, 100, 100})->screen, 1U);
-    EXPECT_EQ(two.place({-500, 200, 100, 100})->screen, 0U);
+    EXPECT_EQ(two.logicalRect({700, 0, 500, 100})->screen, 0U);
+    EXPECT_EQ(two.logicalRect({800, 0, 500, 100})->screen, 1U);
+    EXPECT_EQ(two.logicalRect({5000, 5000, 100, 100})->screen, 1U);
+    EXPECT_EQ(two.logicalRect({-500, 200, 100, 100})->screen, 0U);
 }
 
 TEST(ScreenCoordinates, KnowNoPlaceWithoutAScreen) {
     const ScreenCoordinates none({}, 0);
     EXPECT_EQ(none.desktopPoint(10, 10), std::nullopt);
-    EXPECT_EQ(none.place({0, 0, 640, 540}), std::nullopt);
+    EXPECT_EQ(none.logicalRect({0, 0, 640, 540}), std::nullopt);
 }
 
 } // namespace

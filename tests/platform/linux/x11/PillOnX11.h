@@ -32,7 +32,7 @@ inline Path rectanglePath(const QRectF& rect) {
     return path;
 }
 
-/// A window that draws its pill in green and nothing around it.
+/// A window with a green pill, transparent elsewhere.
 class GreenWindow : public QRasterWindow {
 public:
     QRect pill;
@@ -80,12 +80,12 @@ protected:
         settle();
     }
 
-    /// Returns when the server has done what this program has asked for so far.
+    /// Waits until the server has processed this program's requests.
     void settle() {
         platform::X11Connection().ask<xcb_get_input_focus, xcb_get_input_focus_reply>();
     }
 
-    /// Another program's window under the shown pill and what is beside it.
+    /// Another program's window, below the pill and around it.
     PlainWindow& openBeneath() {
         auto& beneath =
             beneath_.emplace(display, QRect(0, 0, 1280, 400), PlainWindow::Kind::unmanaged);
@@ -93,9 +93,9 @@ protected:
         return beneath;
     }
 
-    void setOutline(const QRect& pill, const std::vector<Rect>& reach = {}) {
+    void setOutline(const QRect& pill, const std::vector<Rect>& inputRects = {}) {
         window.pill = pill;
-        overlay.setOutline(rectanglePath(pill), reach);
+        overlay.setOutline(rectanglePath(pill), inputRects);
         window.update();
     }
 

@@ -12,12 +12,12 @@ class NotchRootView;
 class Pill;
 
 /// The notch window: shows the pill at its top, the rest is transparent.
-class NotchView : public SceneWindow {
+class PillWindow : public SceneWindow {
     Q_OBJECT
 
 public:
     /// All references must outlive this object. Makes the window an overlay of `windowSystem`.
-    NotchView(NotchRootView& rootView, FrameDriver& frames, platform::WindowSystem& windowSystem);
+    PillWindow(NotchRootView& rootView, FrameDriver& frames, platform::WindowSystem& windowSystem);
 
     platform::Overlay& overlay() { return *overlay_; }
 
