@@ -1,4 +1,4 @@
-"""osdlyrics, showing the same lines from a file for the same player on the same bus."""
+"""osdlyrics, with the same lyrics from a file and the same player on the same bus."""
 
 import shutil
 import subprocess
@@ -44,7 +44,7 @@ def osdlyrics(programs, seconds, results):
                                stderr=subprocess.DEVNULL)
     try:
         time.sleep(15)
-        # It counts only when its picture really changes with the lines.
+        # The figures count only if its picture changes with the lines.
         pictures = [picture(programs["eye"], session, results / "osdlyrics.png")]
         for _ in range(3):
             time.sleep(3)

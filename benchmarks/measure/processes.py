@@ -1,4 +1,4 @@
-"""What processes take, as the kernel counts it."""
+"""Resource usage of processes, from the kernel."""
 
 import os
 import time
@@ -13,7 +13,7 @@ def _tasks(pid):
 
 
 def _usage(pids):
-    """Of each thread, nanoseconds on a processor and how often it has gone to rest."""
+    """For each thread, CPU time in nanoseconds and the number of voluntary context switches."""
     usage = {}
     for pid in pids:
         for task in _tasks(pid):
@@ -27,7 +27,7 @@ def _usage(pids):
 
 
 def load(pids, seconds):
-    """The processor share of processes and their wake-ups per second over the next `seconds`."""
+    """The CPU share of processes and their wake-ups per second during the next `seconds`."""
     start, before = time.monotonic(), _usage(pids)
     time.sleep(seconds)
     passed, after = time.monotonic() - start, _usage(pids)
@@ -53,7 +53,7 @@ def memory(pids):
 
 
 def children_of_session(environment_mark):
-    """The processes whose environment holds `environment_mark`."""
+    """The processes with `environment_mark` in their environment."""
     found = []
     for folder in Path("/proc").iterdir():
         if folder.name.isdigit():

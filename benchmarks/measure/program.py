@@ -1,4 +1,4 @@
-"""The whole program: processor, wake-ups, memory, start, lateness and frames."""
+"""The whole program: CPU, wake-ups, memory, start, lateness and frames."""
 
 import contextlib
 import json
@@ -21,7 +21,7 @@ def percentile(values, share):
 
 
 def every(seconds, length=3600):
-    """Lyrics with a line each so many seconds."""
+    """Lyrics with one line per interval."""
     lines = (f"{tag(i * seconds)}Line {i} of the song, which goes on" for i in
              range(int(length / seconds)))
     return "\n".join(lines)
@@ -42,7 +42,7 @@ class Bench:
 
     @contextlib.contextmanager
     def stage(self, lyrics="", screen="1440x900x24"):
-        """A session, a service that sings `lyrics`, and a player."""
+        """A session, a service with `lyrics`, and a player."""
         with contextlib.ExitStack() as ends:
             session = Session(screen)
             ends.callback(session.close)
@@ -68,7 +68,7 @@ class Bench:
             player.play("Song", "Singer", 3600, service.origin + "/cover/1")
             floor = self.window(session)
             time.sleep(4)
-            # At the same moment: what others share with both changes with what else runs.
+            # At the same time: the shared part depends on other programs.
             result["playing"] = {"memory": processes.memory([program.pid])}
             result["window"] = {"memory": processes.memory([floor.pid])}
             result["playing"] |= self.turns(program, floor)
@@ -106,7 +106,7 @@ class Bench:
         return load
 
     def start(self):
-        """Seconds from exec to the first frame, turn by turn."""
+        """Seconds from exec to the first frame, alternating."""
         times = {"program": [], "window": []}
         with self.stage() as (session, service, _):
             for _ in range(self.starts):
@@ -119,7 +119,7 @@ class Bench:
         return {name: statistics.median(values) for name, values in times.items()}
 
     def memory(self):
-        """What the panel, the settings and many tracks leave behind."""
+        """Memory after using the panel, the settings and many tracks."""
         result = {}
         with self.stage(every(3)) as (session, service, player):
             program = self.measured(session, service)
@@ -140,7 +140,7 @@ class Bench:
             result["settingsClosed"] = look()
 
             def tracks(first, count):
-                # Each press of play/pause has the program ask the player at once.
+                # Each play/pause makes the program poll the player at once.
                 for i in range(first, first + count):
                     player.play(f"Song {i}", "Singer", 3600, f"{service.origin}/cover/{i}")
                     program.ask("toggle")
@@ -155,11 +155,11 @@ class Bench:
         return result
 
     def lateness(self):
-        """Milliseconds from the moment of a line in the player's position to its pixels."""
+        """Milliseconds from the time of a line, by the player's position, to its pixels."""
         chance = random.Random(5)
         moments, text, at = [], [], 5.0
         for i in range(self.lines):
-            # The motion of one line has ended before the next one comes.
+            # The animation of a line ends before the next line.
             at = round(at + 1.05 + 0.1 * chance.random(), 2)
             moments.append(at)
             text.append(f"{tag(at)}{'WHM'[i % 3] * 9} {'nuo'[i % 3] * 9} {i:03}")
@@ -196,7 +196,7 @@ class Bench:
                 "longest": max(late, default=None)}
 
     def frames(self):
-        """Processor milliseconds of a frame at scale 2 while the pill morphs and the line changes."""
+        """CPU milliseconds of a frame at scale 2 during morphs and changes of the line."""
         durations = []
         with self.stage(every(1.5), "2880x1800x24") as (session, service, player):
             program = self.measured(session, service, QT_SCALE_FACTOR="2")
@@ -204,7 +204,7 @@ class Bench:
             time.sleep(4)
             for _ in range(3 if self.lines < 100 else 10):
                 for command in MORPHS:
-                    # The first one holds what was done since the last frame before the command.
+                    # The first one includes work since the last frame before the command.
                     durations += frames_of(program, command, 0.75)[1:]
             program.close()
         milliseconds = [1e3 * value for value in durations]
@@ -212,7 +212,7 @@ class Bench:
                 "p99": percentile(milliseconds, 0.99), "longest": max(milliseconds)}
 
     def instructions(self):
-        """Instructions of a frame at scale 2, as callgrind counts them, whatever else runs."""
+        """Instructions of a frame at scale 2, counted by callgrind; independent of other load."""
         frames = 0
         with self.stage(every(1.5), "2880x1800x24") as (session, service, player):
             output = f"{session.home}/callgrind.out"
@@ -237,7 +237,7 @@ MORPHS = ("panel", "close panel", "background", "background")
 
 
 def frames_of(program, command, seconds):
-    """The processor seconds of each frame in the `seconds` after a command."""
+    """The CPU seconds of each frame in the `seconds` after a command."""
     program.ask("start frames")
     program.ask(command)
     time.sleep(seconds)
@@ -245,5 +245,5 @@ def frames_of(program, command, seconds):
 
 
 def best(loads):
-    """The quietest of some: what else the machine does only ever adds."""
+    """The minimum: other load only adds."""
     return {key: min(load[key] for load in loads) for key in loads[0]}

@@ -1,4 +1,4 @@
-"""A desktop of its own: an X server, a session bus, a home, a player and a lyrics service."""
+"""A private session: X server, session bus, home folder, player and lyrics service."""
 
 import http.server
 import json
@@ -41,7 +41,7 @@ def tag(seconds):
 
 
 class LyricsService:
-    """Answers every song with `lyrics` and every cover with one of a few images."""
+    """A service that returns `lyrics` for every song and one of a few images for every cover."""
 
     def __init__(self):
         self.lyrics = ""
@@ -81,7 +81,7 @@ class LyricsService:
 
 
 class Player:
-    """The demo player, in a process of its own, told over the bus what to play."""
+    """The demo player in a separate process, controlled over the bus."""
 
     def __init__(self, program, session):
         self.process = session.start([program])
@@ -107,7 +107,7 @@ class Player:
         self.call("SetStatus", "Paused")
 
     def start_of_song(self):
-        """When, on the monotonic clock, the position was 0; of the quickest of many answers."""
+        """The monotonic time of position 0, from the fastest of many answers."""
         properties = "org.freedesktop.DBus.Properties"
         best = None
         for _ in range(50):
@@ -185,7 +185,7 @@ def wait_until(condition, seconds=10):
 
 
 class Program:
-    """A measured program that says when its first frame is there, and takes commands."""
+    """A measured program that reports its first frame and executes commands."""
 
     def __init__(self, command, session, **environment):
         started = time.monotonic_ns()

@@ -1,4 +1,4 @@
-"""The results as rows: what, measured, to reach, whether it holds."""
+"""The results as rows: quantity, measured value, target, whether it is met."""
 
 
 def milli(seconds):

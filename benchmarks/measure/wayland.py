@@ -18,7 +18,7 @@ exec env > environment
 
 
 class SwaySession(Session):
-    """One on a headless sway with XWayland, of an ordinary user."""
+    """A session on a headless sway with XWayland, of an ordinary user."""
 
     def start(self, command, environment=None, **options):
         if os.getuid() == 0:

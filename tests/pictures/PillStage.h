@@ -28,7 +28,7 @@ public:
     /// A song begins whose lyrics are `lrc`; empty: there are none.
     void play(const QString& title, const QString& artist, const QString& lrc, bool withCover);
 
-    /// Plays a song whose one line is `line`, and lets the pill come to rest.
+    /// Plays a song with one line, `line`, and advances time until the pill is at rest.
     void sing(const QString& line, bool withCover = true);
 
     void setPlaying(bool plays);
@@ -38,10 +38,10 @@ public:
     /// Leaves requests for lyrics open from now on.
     void holdLyrics() { answersLyrics_ = false; }
 
-    /// Lets one sixtieth of a second pass.
+    /// Advances time by 1/60 s.
     void step();
 
-    /// Lets time pass until every motion has ended.
+    /// Advances time until all animations have ended.
     void rest();
 
     /// The whole window, at the screen's scale.

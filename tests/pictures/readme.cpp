@@ -44,7 +44,7 @@ QImage minimised() {
     return shown(stage);
 }
 
-/// The menu is a window of its own, which the pointer opened over the panel.
+/// Draws the menu, a separate window, over the panel.
 QImage artworkWithMenu() {
     PillStage stage;
     stage.sing(QStringLiteral("Hold the light, hold it low"));

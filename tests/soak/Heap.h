@@ -4,13 +4,13 @@
 
 namespace brellowind::test {
 
-/// What the operators new of this process have given out and not got back.
+/// The allocations of the global operators new that are not freed.
 struct Heap {
     std::size_t blocks = 0;
     std::size_t bytes = 0;
 };
 
-/// Counted from the beginning of the process, by operators of its own.
+/// Counted since the start of the process, by replaced operators.
 Heap heap();
 
 } // namespace brellowind::test

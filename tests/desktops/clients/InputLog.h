@@ -4,8 +4,8 @@
 
 namespace brellowind::test {
 
-/// Writes what a person does to this client's surfaces to standard output, one line each, places in
-/// points of the surface, buttons and keys as in linux/input-event-codes.h:
+/// Prints the input events of this client's surfaces, one per line; positions in points of the
+/// surface, buttons and keys as in linux/input-event-codes.h:
 ///     pointer enter X Y | pointer leave | press X Y BUTTON | tap X Y
 ///     keyboard enter | keyboard leave | key CODE
 class InputLog {

@@ -124,7 +124,7 @@ TEST(SpotifyBridgeSnapshot, EmptyAnswerIsNone) {
     EXPECT_FALSE(SpotifyBridge::snapshot(""));
 }
 
-/// A spelling, and what it means as a duration and as a position.
+/// A number's text, and its value as a duration and as a position.
 struct Number {
     std::string_view field;
     double duration;

@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** What the program is, and where to read more of it. */
+/** The About tab: program information and links. */
 Item {
     id: root
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-/** A link that looks like a button with an edge; the prominent one is what a page is about. */
+/** A link styled as a button with a border; `prominent` marks the main action. */
 Pressable {
     id: root
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-/** A hairline between what stands above and below. */
+/** A horizontal hairline. */
 Rectangle {
     implicitHeight: 1
     color: Style.hairline

@@ -1,6 +1,6 @@
 import QtQuick
 
-/** The short way of small things to their new place. */
+/** A short animation with an ease-out curve. */
 NumberAnimation {
     duration: Style.easeDuration
     easing.type: Easing.BezierSpline

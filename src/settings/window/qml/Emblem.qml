@@ -1,6 +1,6 @@
 import QtQuick
 
-/** The pill in small: a cover, a line being sung, the music going. */
+/** A miniature of the pill: cover, line, waveform. */
 Rectangle {
     id: root
 

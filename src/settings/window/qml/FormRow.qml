@@ -1,6 +1,6 @@
 import QtQuick
 
-/** What is set or done here, and the button for it. */
+/** A row of the form: label and control. */
 Item {
     id: root
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-/** Rows of the form that belong together. */
+/** A group of rows of the form. */
 Rectangle {
     default property alias rows: column.data
 

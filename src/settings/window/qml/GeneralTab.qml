@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** Updates, launch at login, feedback and the end of the program. */
+/** The General tab: updates, launch at login, feedback, quit. */
 Item {
     id: root
 

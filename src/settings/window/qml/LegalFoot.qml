@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** The small print at the foot of the About tab. */
+/** The legal notice at the bottom of the About tab. */
 Column {
     id: root
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-/** Text that is shown as it is written. */
+/** Plain text, without markup. */
 Text {
     textFormat: Text.PlainText
     color: Style.text

@@ -1,6 +1,6 @@
 import QtQuick
 
-/** What can be pressed, with the pointer, Space or Enter, and shows when the keyboard is on it. */
+/** Base of controls that can be pressed with pointer, Space or Enter. Shows a focus ring. */
 Item {
     id: root
 

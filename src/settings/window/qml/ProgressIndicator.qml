@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** Goes round while something is under way. */
+/** An animated spinner. */
 Spokes {
     id: root
 

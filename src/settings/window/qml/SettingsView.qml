@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** The whole window: the tabs, and the page of the selected one. */
+/** The content of the window: the tab strip and the selected page. */
 Rectangle {
     id: root
 

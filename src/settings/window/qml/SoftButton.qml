@@ -1,6 +1,6 @@
 import QtQuick
 
-/** A quiet button that dims under the pointer. */
+/** A flat button that dims when hovered. */
 Pressable {
     id: root
 

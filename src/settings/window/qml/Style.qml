@@ -2,7 +2,7 @@ pragma Singleton
 
 import QtQuick
 
-/** The colours and measures of the settings window, in points. */
+/** The colours and dimensions of the settings window, in points. */
 QtObject {
     readonly property color window: "#0f0f11"
     readonly property color text: Qt.rgba(0.96, 0.96, 0.96, 1)

@@ -1,6 +1,6 @@
 import QtQuick
 
-/** A row whose whole width turns its switch, which shows only what is really so. */
+/** A row with a switch; the whole row is clickable. The switch always shows the model's value. */
 Pressable {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** One tab: its symbol above its name. The keyboard stops at the selected one. */
+/** A tab: symbol and name. Only the selected tab is in the focus chain. */
 Pressable {
     id: root
 

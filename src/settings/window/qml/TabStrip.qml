@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** The tabs of the window. Left and right go from one to the other. */
+/** The tabs of the window. The left and right arrow keys select the neighbour. */
 FocusScope {
     id: root
 

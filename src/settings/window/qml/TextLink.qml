@@ -1,6 +1,6 @@
 import QtQuick
 
-/** A word that is a link. */
+/** A text link. */
 Pressable {
     id: root
 

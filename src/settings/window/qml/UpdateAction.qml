@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** The lower row of the update card: which version, and what can be done about it. */
+/** The lower row of the update card: version and action. */
 Item {
     id: root
 

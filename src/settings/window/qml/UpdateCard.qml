@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** The version, and what is known of newer releases in the colour of the state. */
+/** The update card: version and update state, in the colour of the state. */
 Rectangle {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Brellowind.Settings
 
-/** The upper row of the update card: how things stand. */
+/** The upper row of the update card: the state. */
 Item {
     id: root
 

@@ -95,7 +95,7 @@ TEST_F(StayOnTop, FightsForTheTopFiveTimesASecondAtMost) {
     EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); })); // after the pause
 }
 
-/// Counts what Qt is told of windows of other programs.
+/// Counts events of other programs' windows that Qt receives.
 class ForeignConfigures final : public QAbstractNativeEventFilter {
 public:
     ForeignConfigures() { QCoreApplication::instance()->installNativeEventFilter(this); }
