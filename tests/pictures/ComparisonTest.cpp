@@ -28,6 +28,21 @@ TEST(Comparison, NoticesTextThatMovedByOnePixel) {
     EXPECT_FALSE(agree(compare(strokes(1), strokes(0))));
 }
 
+TEST(Comparison, NoticesASmallPartThatIsMissingInALargePicture) {
+    QImage expected(1280, 800, QImage::Format_RGB32);
+    expected.fill(Qt::black);
+    QImage actual = expected;
+    QPainter(&expected).fillRect(301, 413, 37, 5, QColor(64, 64, 64)); // across tiles
+    EXPECT_FALSE(agree(compare(actual, expected)));
+}
+
+TEST(Comparison, ToleratesSomePixelsInEachTile) {
+    QImage actual = strokes(0);
+    for (int x = 0; x < actual.width(); x += 8)
+        actual.setPixel(x, 20, qRgb(255, 255, 255));
+    EXPECT_TRUE(agree(compare(actual, strokes(0))));
+}
+
 TEST(Comparison, NoticesAnotherSizeAndAMissingPicture) {
     EXPECT_FALSE(agree(compare(strokes(0), strokes(0).copy(0, 0, 320, 79))));
     EXPECT_FALSE(agree(compare(strokes(0), QImage())));

@@ -28,7 +28,7 @@ void expectKept(QImage actual, const QString& name) {
     const QString compared = differing.filePath(QStringLiteral("difference-") + file);
     actual.save(shown);
     difference.image.save(compared);
-    ADD_FAILURE() << 100 * difference.fraction << " % of the pixels differ from "
+    ADD_FAILURE() << 100 * difference.fraction << " % of the pixels of a tile differ from "
                   << qPrintable(kept.filePath(file)) << "\n  now: " << qPrintable(shown)
                   << "\n  difference: " << qPrintable(compared);
 }
