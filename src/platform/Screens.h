@@ -27,7 +27,7 @@ public:
     /// In the system's order. May be empty.
     virtual std::vector<Screen> screens() = 0;
 
-    /// The screen with the user's focus, if any.
+    /// The user's main screen, if any.
     virtual std::optional<Screen> main() = 0;
 
     /// Calls `callback` after every change of the arrangement.
