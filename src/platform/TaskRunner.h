@@ -5,19 +5,19 @@
 
 #include <list>
 #include <memory>
-#include <stop_token>
+#include <utility>
 
 namespace brellowind {
 
 /// A started task, to request its cancellation with. Dropping it changes nothing for the task.
 class TaskHandle {
 public:
-    explicit TaskHandle(std::stop_source source) : source_(std::move(source)) {}
+    explicit TaskHandle(StopSource source) : source_(std::move(source)) {}
 
-    void cancel() { source_.request_stop(); }
+    void cancel() { source_.requestStop(); }
 
 private:
-    std::stop_source source_;
+    StopSource source_;
 };
 
 /// Runs tasks to their end on the main thread. Destroying it destroys those that are suspended.
