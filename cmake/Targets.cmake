@@ -12,11 +12,13 @@ if(BRELLOWIND_SANITIZE)
   target_link_options(brellowind_options INTERFACE -fsanitize=${BRELLOWIND_SANITIZE})
 endif()
 
-add_library(brellowind_qt_options INTERFACE)
-target_link_libraries(brellowind_qt_options INTERFACE brellowind_options Qt6::Core)
-target_compile_definitions(brellowind_qt_options INTERFACE
-  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
-  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+if(BRELLOWIND_BUILD_PROGRAM)
+  add_library(brellowind_qt_options INTERFACE)
+  target_link_libraries(brellowind_qt_options INTERFACE brellowind_options Qt6::Core)
+  target_compile_definitions(brellowind_qt_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+endif()
 
 # A static library without Qt; its includes are written from src/.
 function(brellowind_core_library name)
@@ -33,9 +35,14 @@ function(brellowind_qt_library name)
   target_link_libraries(${name} PUBLIC Qt6::Core PRIVATE brellowind_qt_options)
 endfunction()
 
-# Where the library of the settings window is, beside the folder "bin" of the program: the same in a
-# build tree and in an installation. So deep that nobody takes it for a library of the system's.
-set(BRELLOWIND_LIBRARY_FOLDER lib/brellowind/modules)
+# Where the library of the settings window is, beside the folder of the program ("bin", in a bundle
+# "MacOS"): the same in a build tree and in an installation. So deep that nobody takes it for a library
+# of the system's.
+if(APPLE)
+  set(BRELLOWIND_LIBRARY_FOLDER PlugIns/brellowind)
+else()
+  set(BRELLOWIND_LIBRARY_FOLDER lib/brellowind/modules)
+endif()
 
 # Makes a program that is all of Brellowind of the executable `target`.
 function(brellowind_program target)

@@ -9,7 +9,7 @@ namespace brellowind {
 struct UUID {
     std::array<std::uint64_t, 2> words{}; ///< most significant word first
 
-    auto operator<=>(const UUID&) const = default;
+    bool operator==(const UUID&) const = default;
 };
 
 /// Draws many random (version 4) identifiers with one system call, when it is made.
