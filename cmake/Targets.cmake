@@ -12,11 +12,13 @@ if(BRELLOWIND_SANITIZE)
   target_link_options(brellowind_options INTERFACE -fsanitize=${BRELLOWIND_SANITIZE})
 endif()
 
-add_library(brellowind_qt_options INTERFACE)
-target_link_libraries(brellowind_qt_options INTERFACE brellowind_options Qt6::Core)
-target_compile_definitions(brellowind_qt_options INTERFACE
-  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
-  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+if(BRELLOWIND_BUILD_PROGRAM)
+  add_library(brellowind_qt_options INTERFACE)
+  target_link_libraries(brellowind_qt_options INTERFACE brellowind_options Qt6::Core)
+  target_compile_definitions(brellowind_qt_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+endif()
 
 # A static library without Qt. Includes are relative to src/.
 function(brellowind_core_library name)
@@ -33,9 +35,13 @@ function(brellowind_qt_library name)
   target_link_libraries(${name} PUBLIC Qt6::Core PRIVATE brellowind_qt_options)
 endfunction()
 
-# The folder of the settings library, relative to the parent of the program's "bin", in a build tree as
-# in an installation. Outside the search paths for libraries.
-set(BRELLOWIND_LIBRARY_FOLDER lib/brellowind/modules)
+# The folder of the settings library, relative to the parent of the program's folder ("bin", in a
+# bundle "MacOS"), in a build tree as in an installation. Outside the search paths for libraries.
+if(APPLE)
+  set(BRELLOWIND_LIBRARY_FOLDER PlugIns/brellowind)
+else()
+  set(BRELLOWIND_LIBRARY_FOLDER lib/brellowind/modules)
+endif()
 
 # Links the executable `target` with the whole of Brellowind.
 function(brellowind_program target)

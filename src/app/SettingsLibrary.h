@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/HeldFile.h"
 #include "settings/SettingsOpener.h"
 
 #include <memory>
@@ -16,16 +17,14 @@ public:
     SettingsLibrary(const std::string& path, const SettingsServices& services);
     SettingsLibrary(const SettingsLibrary&) = delete;
     SettingsLibrary& operator=(const SettingsLibrary&) = delete;
-    ~SettingsLibrary();
 
-    /// Opens the window. Logs an error if the library is missing or broken.
+    /// Opens the window. Logs an error if the library is missing, broken or replaced.
     void open();
 
 private:
     void load();
 
-    std::string path_;
-    int file_; ///< file descriptor; -1 if it cannot be opened
+    platform::HeldFile file_;
     SettingsServices services_;
     std::unique_ptr<SettingsOpener> window_;
 };

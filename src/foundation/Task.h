@@ -1,9 +1,10 @@
 #pragma once
 
+#include "foundation/StopToken.h"
+
 #include <coroutine>
 #include <exception>
 #include <optional>
-#include <stop_token>
 #include <utility>
 
 namespace brellowind {
@@ -29,7 +30,7 @@ struct TaskPromiseBase {
     [[noreturn]] void unhandled_exception() const noexcept { std::terminate(); }
 
     std::coroutine_handle<> continuation = std::noop_coroutine();
-    std::stop_token stopToken;
+    StopToken stopToken;
 };
 
 template <typename Result>
@@ -103,9 +104,9 @@ struct CurrentStopToken {
         token = running.promise().stopToken;
         return false;
     }
-    std::stop_token await_resume() noexcept { return std::move(token); }
+    StopToken await_resume() noexcept { return std::move(token); }
 
-    std::stop_token token;
+    StopToken token;
 };
 
 } // namespace brellowind

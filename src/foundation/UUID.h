@@ -9,7 +9,7 @@ namespace brellowind {
 struct UUID {
     std::array<std::uint64_t, 2> words{}; ///< most significant word first
 
-    auto operator<=>(const UUID&) const = default;
+    bool operator==(const UUID&) const = default;
 };
 
 /// Generates random (version 4) identifiers. Seeded by one system call in the constructor.

@@ -1,12 +1,12 @@
 #include "lyrics/LRCParser.h"
 
+#include "foundation/Unicode.h"
 #include "foundation/Utf8.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <optional>
-#include <unicode/uchar.h>
 #include <utility>
 
 namespace brellowind::LRCParser {
@@ -35,10 +35,10 @@ inline Digits takeDigits(std::string_view& text, int most) {
     bool ascii = true;
     for (; digits.count < most && !text.empty(); ++digits.count) {
         auto rest = text;
-        const auto character = static_cast<UChar32>(utf8::takeFirst(rest));
+        const char32_t character = utf8::takeFirst(rest);
         if (character >= '0' && character <= '9')
-            digits.value = digits.value * 10 + (character - '0');
-        else if (character >= 0x80 && u_isdigit(character))
+            digits.value = digits.value * 10 + static_cast<int>(character - '0');
+        else if (character >= 0x80 && unicode::isDecimalDigit(character))
             ascii = false;
         else
             break;
@@ -75,11 +75,8 @@ std::optional<double> takeTag(std::string_view& text) {
     return minutes.value * 60 + seconds.value + fraction;
 }
 
-/// A space separator of Unicode or the tab; no line break is one.
 bool isSpace(char32_t character) {
-    if (character < 0x80)
-        return character == ' ' || character == '\t';
-    return u_charType(static_cast<UChar32>(character)) == U_SPACE_SEPARATOR;
+    return character == '\t' || unicode::isSpaceSeparator(character);
 }
 
 std::string_view trimmed(std::string_view text) {

@@ -1,29 +1,41 @@
 #include "lyrics/LrclibResponse.h"
 
-#include <map>
 #include <nlohmann/json.hpp>
 #include <utility>
-#include <vector>
 
 namespace brellowind {
 namespace {
 
-/// A number whose value is ignored. The parser rejects numbers that overflow; this type avoids that
-/// by always reading 0.
-struct Number {
-    Number(double written) : written_(written) {}
-    operator double&() { return written_; }
-    operator double() const { return 0; }
+using nlohmann::json;
 
-private:
-    double written_;
-};
-
-using Json = nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t,
-                                  std::uint64_t, Number>;
+/// `document` with numbers that a double can hold, since the parser refuses others. Their values
+/// are not used. Long runs of digits are cut and the digits of exponents become 0, so that what is
+/// JSON stays JSON and nothing else becomes it.
+std::string withSmallNumbers(std::string_view document) {
+    constexpr int longestRun = 18;
+    std::string small;
+    small.reserve(document.size());
+    bool inString = false;
+    bool isEscaped = false;
+    bool inExponent = false;
+    int digits = 0;
+    for (const char character : document) {
+        const bool isDigit = !inString && character >= '0' && character <= '9';
+        digits = isDigit ? digits + 1 : 0;
+        if (digits <= longestRun)
+            small += isDigit && inExponent ? '0' : character;
+        if (character == '"' && !isEscaped)
+            inString = !inString;
+        isEscaped = inString && character == '\\' && !isEscaped;
+        inExponent =
+            !inString && (character == 'e' || character == 'E' ||
+                          (inExponent && (isDigit || character == '+' || character == '-')));
+    }
+    return small;
+}
 
 /// SAX handler that stores the two texts. Returning false stops the parser.
-class Reader final : public Json::json_sax_t {
+class Reader final : public json::json_sax_t {
 public:
     std::optional<LrclibResponse> response() {
         if (!synced_ || !plain_)
@@ -43,7 +55,7 @@ public:
     bool boolean(bool) override { return set(noText); }
     bool number_integer(number_integer_t) override { return set(noText); }
     bool number_unsigned(number_unsigned_t) override { return set(noText); }
-    bool number_float(Number, const std::string&) override { return set(noText); }
+    bool number_float(double, const std::string&) override { return set(noText); }
     bool binary(binary_t&) override { return set(noText); }
 
     bool start_object(std::size_t) override { return (depth_ == 0 || set(noText)) && open(); }
@@ -51,7 +63,7 @@ public:
     bool end_object() override { return close(); }
     bool end_array() override { return close(); }
 
-    bool parse_error(std::size_t, const std::string&, const Json::exception&) override {
+    bool parse_error(std::size_t, const std::string&, const json::exception&) override {
         return false;
     }
 
@@ -89,7 +101,7 @@ std::optional<LrclibResponse> LrclibResponse::decode(std::string_view body) {
     if (body.find('\0') != body.npos) // the parser would stop there
         return std::nullopt;
     Reader reader;
-    if (!Json::sax_parse(body, &reader))
+    if (!json::sax_parse(withSmallNumbers(body), &reader))
         return std::nullopt;
     return reader.response();
 }

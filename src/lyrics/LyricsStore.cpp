@@ -40,7 +40,7 @@ void LyricsStore::clear() {
 Task<void> LyricsStore::fetchInto(std::weak_ptr<LyricsStore> weakStore, Task<LyricsState> fetch) {
     auto result = co_await std::move(fetch);
     // A later load or clear cancels this task: its answer is stale.
-    if ((co_await CurrentStopToken{}).stop_requested())
+    if ((co_await CurrentStopToken{}).stopRequested())
         co_return;
     if (const auto store = weakStore.lock())
         store->state.set(std::move(result));

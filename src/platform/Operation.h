@@ -1,12 +1,13 @@
 #pragma once
 
+#include "foundation/StopToken.h"
 #include "platform/MainLoop.h"
 
 #include <coroutine>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <stop_token>
+#include <utility>
 
 namespace brellowind::platform {
 
@@ -29,29 +30,24 @@ public:
 
     template <typename Promise>
     bool await_suspend(std::coroutine_handle<Promise> awaiting) {
-        const std::stop_token& token = awaiting.promise().stopToken;
-        if (token.stop_requested()) {
+        const StopToken& token = awaiting.promise().stopToken;
+        if (token.stopRequested()) {
             result_ = std::move(cancelled_);
             return false;
         }
         awaiting_ = awaiting;
         owner_ = begin_([this](Result result) {
-            onStop_.reset();
+            onStop_.cancel();
             result_ = std::move(result);
             awaiting_.resume();
         });
-        onStop_.emplace(token, Abandon{this});
+        onStop_ = token.onStop([this] { abandon(); });
         return true;
     }
 
     Result await_resume() { return std::move(*result_); }
 
 private:
-    struct Abandon {
-        Operation* operation;
-        void operator()() const { operation->abandon(); }
-    };
-
     void abandon() {
         owner_.reset();
         result_ = std::move(cancelled_);
@@ -66,7 +62,7 @@ private:
     std::optional<Result> result_;
     std::unique_ptr<Owner> owner_;
     std::unique_ptr<Timer> resumption_;
-    std::optional<std::stop_callback<Abandon>> onStop_;
+    Subscription onStop_;
 };
 
 } // namespace brellowind::platform

@@ -16,7 +16,7 @@ struct TaskRunner::Frame {
         void return_void() const noexcept {}
         [[noreturn]] void unhandled_exception() const noexcept { std::terminate(); }
 
-        std::stop_token stopToken;
+        StopToken stopToken;
     };
 
     std::coroutine_handle<promise_type> handle;
@@ -35,10 +35,10 @@ TaskRunner::~TaskRunner() {
 }
 
 TaskHandle TaskRunner::start(Task<void> task) {
-    std::stop_source source;
+    StopSource source;
     const auto position = roots_.insert(roots_.end(), std::make_unique<Root>());
     const auto frame = run(std::move(task), position).handle;
-    frame.promise().stopToken = source.get_token();
+    frame.promise().stopToken = source.token();
     (*position)->frame = frame;
     (*position)->start =
         mainLoop_.scheduleOnce(std::chrono::milliseconds(0), [frame] { frame.resume(); });

@@ -5,19 +5,19 @@
 
 #include <list>
 #include <memory>
-#include <stop_token>
+#include <utility>
 
 namespace brellowind {
 
 /// Cancels a started task. Destroying the handle does not affect the task.
 class TaskHandle {
 public:
-    explicit TaskHandle(std::stop_source source) : source_(std::move(source)) {}
+    explicit TaskHandle(StopSource source) : source_(std::move(source)) {}
 
-    void cancel() { source_.request_stop(); }
+    void cancel() { source_.requestStop(); }
 
 private:
-    std::stop_source source_;
+    StopSource source_;
 };
 
 /// Runs tasks on the main thread. Destroying it destroys all suspended tasks.

@@ -58,7 +58,7 @@ void NowPlaying::poll() {
 
 Task<void> NowPlaying::ask(std::weak_ptr<NowPlaying> monitor, Player& player) {
     auto answer = co_await player.read();
-    const bool cancelled = (co_await CurrentStopToken{}).stop_requested();
+    const bool cancelled = (co_await CurrentStopToken{}).stopRequested();
     const auto self = monitor.lock();
     if (!self || cancelled)
         co_return;

@@ -116,6 +116,20 @@ TEST(LrclibResponse, IsWhatTheWholeBodySays) {
     EXPECT_GT(withTexts, bodies / 10);
 }
 
+TEST(LrclibResponse, KeepsDigitsThatStandInTexts) {
+    const auto digits = std::string(40, '7') + R"(\\\"1e999\\)";
+    EXPECT_EQ(LrclibResponse::decode(R"({"x":1e5,"plainLyrics":")" + digits + "\"}"),
+              (LrclibResponse{"", std::string(40, '7') + R"(\"1e999\)"}));
+}
+
+TEST(LrclibResponse, RefusesWhatIsNearlyANumber) {
+    for (const auto& number : {"1e"s, "1e+"s, "0"s + std::string(400, '1'), "1.e5"s, "-"s, "1e5e5"s,
+                               "true5"s, "1e--5"s, "1" + std::string(400, '0') + "."})
+        EXPECT_EQ(LrclibResponse::decode(R"({"plainLyrics":"a","x":[)" + number + "]}"),
+                  std::nullopt)
+            << number;
+}
+
 TEST(LrclibResponse, TakesNumbersThatNoDoubleHolds) {
     for (const auto& number : {"1e999"s, "-1e999"s, "1e-999"s, "1" + std::string(400, '0')}) {
         EXPECT_EQ(LrclibResponse::decode(R"({"plainLyrics":"a","x":[)" + number + "]}"),

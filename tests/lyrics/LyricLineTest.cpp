@@ -1,5 +1,7 @@
 #include "lyrics/LyricLine.h"
 
+#include <array>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
 #include <set>
@@ -17,9 +19,9 @@ TEST(LyricLine, KeepsTimeAndTextUnchanged) {
 }
 
 TEST(LyricLine, DrawsAFreshIdEachTime) {
-    std::set<UUID> ids;
+    std::set<std::array<std::uint64_t, 2>> ids;
     for (int i = 0; i < 1000; ++i)
-        ids.insert(LyricLine(1, "same").id);
+        ids.insert(LyricLine(1, "same").id.words);
     EXPECT_EQ(ids.size(), 1000U);
 }
 

@@ -53,7 +53,7 @@ TEST(TaskRunner, CancellationReachesTheTasksThatATaskAwaits) {
     test::TestMachine machine;
     bool cancelled = false;
     const auto inner = []() -> Task<bool> {
-        co_return (co_await CurrentStopToken{}).stop_requested();
+        co_return (co_await CurrentStopToken{}).stopRequested();
     };
     const auto outer = [&](bool& into) -> Task<void> { into = co_await inner(); };
     auto handle = machine.tasks.start(outer(cancelled));

@@ -60,7 +60,7 @@ public:
         view_.machine.mainLoop.runTurns();
         view_.spotify.launch();
         view_.spotify.readable = true;
-        view_.spotify.artwork.clear();
+        forget(view_.spotify.artwork);
         view_.spotify.plays = false;
         answerAll();
         view_.spotify.playSong("At the end");

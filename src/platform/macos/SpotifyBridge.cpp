@@ -1,8 +1,9 @@
 #include "platform/macos/SpotifyBridge.h"
 
+#include "foundation/Decimal.h"
+
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <string>
 #include <utility>
@@ -28,23 +29,9 @@ std::optional<Fields> split(std::string_view record) {
     return fields;
 }
 
-bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
-/// The number that the whole of `text` spells in C notation; 0 when it spells none.
+/// The number that the whole of `text` spells; 0 when it spells none.
 double number(std::string_view text) {
-    const bool hasPlus = text.starts_with('+'); // from_chars takes a minus sign only
-    text.remove_prefix(hasPlus ? 1 : 0);
-    const auto unsignedText = text.substr(!hasPlus && text.starts_with('-') ? 1 : 0);
-    const bool isNumeric =
-        unsignedText.starts_with('.') || (!unsignedText.empty() && isDigit(unsignedText.front()));
-    if (!isNumeric)
-        return 0; // from_chars would also read "inf" and "nan"
-    double value = 0;
-    const auto* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    return error == std::errc() && stop == end ? value : 0;
+    return readDecimal(text).value_or(0);
 }
 
 std::string withDecimalPoint(std::string_view text) {
