@@ -27,7 +27,6 @@ void MacOverlay::setFrame(const Rect& frame) {
         native_->setFrame(frame_);
     else
         window_.create(); // which adopts the frame
-    window_.requestUpdate();
 }
 
 void MacOverlay::orderFrontRegardless() {
