@@ -58,10 +58,12 @@ TEST_F(MacOverlay, HasItsFrameBeforeItIsShown) {
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(MacOverlay, IsShownInFront) {
-    show();
+TEST_F(MacOverlay, IsShownInFrontInItsFrame) {
+    overlay->setFrame(frame);
+    natives.calls.clear();
+    overlay->orderFrontRegardless();
     EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(natives.calls.back(), "front");
+    EXPECT_THAT(natives.calls, ElementsAre("frame", "front"));
 }
 
 TEST_F(MacOverlay, IsShownWithoutAFrameWhereThereIsNoScreen) {
