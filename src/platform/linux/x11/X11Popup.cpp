@@ -1,10 +1,11 @@
 #include "platform/linux/x11/X11Popup.h"
 
+#include "platform/qt/MovedInto.h"
+
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QRegion>
 #include <QScreen>
-#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <xcb/xinput.h>
@@ -26,12 +27,6 @@ QRegion roundedRegion(QSize size, double radius) {
         }
     }
     return region;
-}
-
-/// Moves a rectangle of `size` at `corner` into `area`. Returns its top left corner.
-QPoint movedInto(const QRect& area, QPoint corner, QSize size) {
-    return {std::max(area.x(), std::min(corner.x(), area.x() + area.width() - size.width())),
-            std::max(area.y(), std::min(corner.y(), area.y() + area.height() - size.height()))};
 }
 
 /// Whether `window` can grab the pointer, which Qt's grab does not report. Uses the same kind of

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Pointer.h"
+
+namespace brellowind::platform {
+
+/// The mouse pointer of macOS. Watching its movements needs no permission.
+class AppKitPointer final : public Pointer {
+public:
+    /// Always there.
+    std::optional<Point> location() override;
+    bool isButtonHeld() override;
+    std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) override;
+    std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) override;
+};
+
+} // namespace brellowind::platform

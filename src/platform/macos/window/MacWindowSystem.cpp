@@ -1,0 +1,37 @@
+#include "platform/macos/window/MacWindowSystem.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+#include <utility>
+
+namespace brellowind::platform {
+
+MacWindowSystem::MacWindowSystem(Native native)
+    : native_(std::move(native)), popup_(native_.pointer) {}
+
+std::unique_ptr<Overlay> MacWindowSystem::makeOverlay(QWindow& window) {
+    auto overlay = std::make_unique<MacOverlay>(window, native_.pointer, native_.makeOverlay);
+    overlay_ = overlay.get();
+    return overlay;
+}
+
+void MacWindowSystem::popUp(const Popup& popup) {
+    popup_.show(popup, [overlay = overlay_] {
+        if (overlay)
+            overlay->setCovered(false);
+    });
+    overlay_->setCovered(true);
+}
+
+void MacWindowSystem::activate() {
+    native_.activateProgram();
+    for (auto* window : QGuiApplication::topLevelWindows()) {
+        const bool takesFocus = !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus);
+        if (window->isVisible() && takesFocus) {
+            window->raise();
+            window->requestActivate();
+        }
+    }
+}
+
+} // namespace brellowind::platform

@@ -1,0 +1,3 @@
+# in: AppKitOverlay.mm
+# says: requires a bridged cast
+s/(__bridge NSView\*)/(NSView*)/

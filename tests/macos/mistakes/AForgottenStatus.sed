@@ -1,0 +1,3 @@
+# in: ServiceLoginItem.mm
+# says: enumeration value 'SMAppServiceStatusNotFound' not handled
+/case SMAppServiceStatusNotFound/,/return/d

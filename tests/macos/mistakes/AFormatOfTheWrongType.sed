@@ -1,0 +1,3 @@
+# in: SystemLog.mm
+# says: format specifies type 'int'
+s/@"%@", /@"%d", /

@@ -1,0 +1,3 @@
+# in: SystemLog.mm
+# says: more '%' conversions than data arguments
+s/@"%@", /@"%@ %@", /

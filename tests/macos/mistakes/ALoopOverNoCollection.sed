@@ -1,0 +1,3 @@
+# in: AppleScripts.mm
+# says: may not respond to 'countByEnumeratingWithState
+s/sharedWorkspace\.runningApplications/sharedWorkspace/

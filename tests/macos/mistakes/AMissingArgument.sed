@@ -1,0 +1,3 @@
+# in: AppKitOverlay.mm
+# says: declares the selector 'setFrame:'
+s/ display:YES\]/]/

@@ -1,0 +1,3 @@
+# in: Program.mm
+# says: use of undeclared identifier 'NSApplicationActivationPolicyAccesory'
+s/PolicyAccessory/PolicyAccesory/

@@ -1,0 +1,3 @@
+# in: WorkspaceLinks.mm
+# says: implicit conversion from nullable pointer .* to non-nullable
+s/openURL:address/openURL:[NSURL URLWithString:nativeText(url)]/

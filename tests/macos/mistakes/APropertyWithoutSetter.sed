@@ -1,0 +1,3 @@
+# in: AppKitOverlay.mm
+# says: no setter method 'setIsMovable:'
+s/window\.movable = /window.isMovable = /

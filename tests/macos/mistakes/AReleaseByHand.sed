@@ -1,0 +1,3 @@
+# in: AppleScripts.mm
+# says: no visible @interface for 'NSAppleScript' declares the selector 'release'
+s/^    if (information != nil)$/    [script release];\n&/

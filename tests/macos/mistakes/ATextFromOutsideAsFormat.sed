@@ -1,0 +1,3 @@
+# in: SystemLog.mm
+# says: format string is not a string literal
+s/@"%@", //

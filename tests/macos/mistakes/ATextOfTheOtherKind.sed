@@ -1,0 +1,3 @@
+# in: AppleScripts.mm
+# says: no viable conversion from 'NSString
+s/\.text = plainText(text)/.text = text/

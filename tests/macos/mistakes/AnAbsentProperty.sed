@@ -1,0 +1,3 @@
+# in: AppKitScreens.mm
+# says: property 'auxiliaryTopRightAre' not found
+s/screen\.auxiliaryTopRightArea/screen.auxiliaryTopRightAre/

@@ -1,0 +1,3 @@
+# in: Program.mm
+# says: cannot initialize a parameter of type 'NSApplicationActivationPolicy'
+s/NSApplicationActivationPolicyAccessory/NSWindowAnimationBehaviorNone/
