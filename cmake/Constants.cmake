@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The constants that the product's owner or a packager may set. They are compiled in: the program
 # itself has no configuration.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Functions for the project's targets, with common warnings and include folder.
 add_library(brellowind_options INTERFACE)
 target_compile_options(brellowind_options INTERFACE

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Fuzz.h"
 #include "foundation/AbsoluteURL.h"
 #include "foundation/Utf8.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Fuzz.h"
 #include "platform/qt/QtImageDecoder.h"
 

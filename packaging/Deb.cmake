@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The Debian package: the program and Debian's documentation files.
 set(CPACK_GENERATOR DEB)
 set(CPACK_COMPONENTS_ALL program debian)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The Exec value for the program in `folder`: its name if the folder is in the default search path, else
 # its path.
 function(brellowind_exec_value folder result)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "notch/NotchWindow.h"
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/machine/SessionWindowSystem.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "IcuParser.h"
 
 #include <algorithm>

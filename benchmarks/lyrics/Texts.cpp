@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Texts.h"
 
 #include <array>

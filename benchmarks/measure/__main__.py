@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Measures everything: python3 -m measure BUILD-FOLDER RESULTS-FOLDER [--quick]"""
 
 import json

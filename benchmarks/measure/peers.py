@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """osdlyrics, with the same lyrics from a file and the same player on the same bus."""
 
 import shutil

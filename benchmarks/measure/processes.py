@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Resource usage of processes, from the kernel."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The whole program: CPU, wake-ups, memory, start, lateness and frames."""
 
 import contextlib

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """A private session: X server, session bus, home folder, player and lyrics service."""
 
 import http.server

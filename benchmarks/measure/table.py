@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The results as rows: quantity, measured value, target, whether it is met."""
 
 

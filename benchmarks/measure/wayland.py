@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The program on a Wayland compositor, natively and through XWayland."""
 
 import contextlib

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "FrameLog.h"
 
 #include <cstdio>

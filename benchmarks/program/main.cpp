@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Commands.h"
 #include "FrameLog.h"
 #include "app/BrellowindApp.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Makes Brellowind.app of the executable `brellowind`, in the folder that defines it.
 include(${PROJECT_SOURCE_DIR}/packaging/macos/Info.cmake)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)

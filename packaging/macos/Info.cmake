@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Writes the property list of the bundle to `file`.
 set(BRELLOWIND_MACOS_VERSION "${CMAKE_OSX_DEPLOYMENT_TARGET}")
 if(NOT BRELLOWIND_MACOS_VERSION)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "backdrop/Desktop.h"
 
 #include <QLinearGradient>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "companion/Companion.h"
 
 #include <csignal>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "DemoPlayer.h"
 
 #include <QCommandLineParser>

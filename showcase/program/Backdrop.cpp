@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Backdrop.h"
 
 #include "backdrop/Desktop.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Recorder.h"
 
 #include "app/BrellowindApp.h"

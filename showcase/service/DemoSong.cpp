@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "service/DemoSong.h"
 
 #include <QDir>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "app/BrellowindApp.h"
 
 #include "app/CompiledConstants.h"

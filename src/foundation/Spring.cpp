@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "foundation/Spring.h"
 
 #include <algorithm>

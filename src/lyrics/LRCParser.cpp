@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lyrics/LRCParser.h"
 
 #include "foundation/Unicode.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lyrics/LrclibAPI.h"
 
 #include "foundation/PercentEncoding.h"

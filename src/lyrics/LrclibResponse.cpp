@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lyrics/LrclibResponse.h"
 
 #include <nlohmann/json.hpp>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lyrics/LyricsStore.h"
 
 #include "lyrics/LrclibAPI.h"

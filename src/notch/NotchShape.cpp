@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "notch/NotchShape.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "notch/NotchWindow.h"
 
 #include "notch/NotchMetrics.h"

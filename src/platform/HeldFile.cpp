@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/HeldFile.h"
 
 #include <fcntl.h>

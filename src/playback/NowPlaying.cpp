@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "playback/NowPlaying.h"
 
 #include "platform/Sleep.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/Artwork.h"
 
 #include "foundation/AbsoluteURL.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/NotchRootView.h"
 
 #include "platform/Sleep.h"

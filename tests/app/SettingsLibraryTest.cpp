@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "app/SettingsLibrary.h"
 
 #include "support/SettingsParts.h"

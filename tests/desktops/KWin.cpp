@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/KWin.h"
 
 #include "desktops/KdeInput.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/Mutter.h"
 
 #include "desktops/MutterPicture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/MutterPicture.h"
 
 #include "desktops/MutterCall.h"

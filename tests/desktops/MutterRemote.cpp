@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/MutterRemote.h"
 
 #include "desktops/MutterCall.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/Compositor.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/Compositor.h"
 #include "desktops/PressLog.h"
 #include "session/EventLoop.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/Sway.h"
 
 #include "desktops/WlrInput.h"

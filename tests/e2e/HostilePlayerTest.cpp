@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "e2e/PillFixture.h"
 #include "session/LoopWatch.h"
 #include "session/ProcessUse.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "e2e/PrivacyFixture.h"
 
 #include <QBuffer>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "session/Desktop.h"
 #include "session/EventLoop.h"
 #include "session/SendSignal.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "faults/AnimatedImages.h"
 
 #include <QtEndian>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "faults/HostileAnswers.h"
 #include "faults/HostileServer.h"
 #include "faults/NetworkMachine.h"

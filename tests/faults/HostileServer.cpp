@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "faults/HostileServer.h"
 
 #include <QAbstractEventDispatcher>

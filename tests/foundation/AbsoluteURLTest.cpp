@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "foundation/AbsoluteURL.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "foundation/Decimal.h"
 
 #include <clocale>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "foundation/Geometry.h"
 
 #include <gtest/gtest.h>

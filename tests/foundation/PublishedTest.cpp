@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "foundation/Published.h"
 
 #include <gtest/gtest.h>

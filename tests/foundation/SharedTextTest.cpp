@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "foundation/SharedText.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "foundation/StopToken.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "foundation/Unicode.h"
 #include "foundation/Utf8.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lyrics/LyricLine.h"
 
 #include <array>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lyrics/LyricsState.h"
 
 #include <gtest/gtest.h>

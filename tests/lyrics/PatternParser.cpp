@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lyrics/PatternParser.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "lyrics/WholeResponse.h"
 
 #include <nlohmann/json.hpp>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the program takes for granted of Apple's declarations. It is compiled against the
 // declarations in include/ by scripts/check-macos, and against Apple's own on a Mac: so the first
 // build there finds what is declared wrongly here.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "notch/HoverMonitor.h"
 #include "support/PrintGeometry.h"
 #include "support/TestMachine.h"

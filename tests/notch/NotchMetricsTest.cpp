@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "notch/NotchMetrics.h"
 
 #include <gtest/gtest.h>

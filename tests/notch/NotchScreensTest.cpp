@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "notch/NotchScreens.h"
 #include "support/FakeScreens.h"
 

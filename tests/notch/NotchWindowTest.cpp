@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "notch/NotchWindow.h"
 #include "support/FakeOverlay.h"
 #include "support/PrintGeometry.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Fails unless the desktop entry of a program in `folder` starts `expected`.
 include(${CMAKE_CURRENT_LIST_DIR}/../../packaging/ExecValue.cmake)
 brellowind_exec_value("${folder}" value)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "pictures/Comparison.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "pictures/Comparison.h"
 #include "pictures/KeptPicture.h"
 #include "pictures/PillStage.h"

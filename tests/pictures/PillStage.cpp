@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "pictures/PillStage.h"
 
 #include "backdrop/Desktop.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "pictures/KeptPicture.h"
 #include "settings/SettingsRouter.h"
 #include "settings/window/SettingsWindow.h"

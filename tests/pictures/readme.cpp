@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "pictures/AnimatedPng.h"
 #include "pictures/PillStage.h"
 

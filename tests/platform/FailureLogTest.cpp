@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/FailureLog.h"
 
 #include <gmock/gmock.h>

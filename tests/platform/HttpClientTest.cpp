@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/HttpClient.h"
 #include "support/TestMachine.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/TaskRunner.h"
 #include "platform/Sleep.h"
 #include "support/TestMachine.h"

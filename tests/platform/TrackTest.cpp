@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/Track.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/XdgLoginItem.h"
 
 #include "platform/linux/DesktopEntry.h"

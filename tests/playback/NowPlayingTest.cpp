@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "playback/MonitorFixture.h"
 
 #include <gtest/gtest.h>

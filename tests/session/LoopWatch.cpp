@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "session/LoopWatch.h"
 
 #include "session/ProcessUse.h"

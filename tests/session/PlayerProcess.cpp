@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "session/PlayerProcess.h"
 
 #include "session/EventLoop.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "settings/UpdateFeed.h"
 
 #include <gtest/gtest.h>

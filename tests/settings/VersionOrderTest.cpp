@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "settings/VersionOrder.h"
 
 #include <array>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "soak/Consumption.h"
 
 #include <filesystem>

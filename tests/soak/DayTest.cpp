@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "settings/GeneralSettings.h"
 #include "settings/UpdateChecker.h"
 #include "soak/Heap.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "soak/FaultyService.h"
 
 #include <QBuffer>

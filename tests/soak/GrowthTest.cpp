@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "soak/Growth.h"
 
 #include <gtest/gtest.h>

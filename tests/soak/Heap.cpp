@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "soak/Heap.h"
 
 #include <cstdlib>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "soak/RestlessPerson.h"
 
 #include "session/EventLoop.h"

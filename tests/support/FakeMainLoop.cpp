@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "support/FakeMainLoop.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "support/FakePlayer.h"
 
 #include "platform/Sleep.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "support/RootViewParts.h"
 #include "views/NotchRootView.h"
 

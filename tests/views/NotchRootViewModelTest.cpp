@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "support/Sequences.h"
 #include "views/RootViewFixture.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/MprisPlayer.h"
 
 #include "platform/Operation.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/MprisProxy.h"
 
 #include "platform/linux/MprisReading.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/ScreenLock.h"
 
 #include "platform/linux/BusCall.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/ScriptPlayer.h"
 
 #include "platform/Sleep.h"

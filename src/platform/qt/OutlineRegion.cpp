@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/qt/OutlineRegion.h"
 
 #include "platform/qt/PainterPath.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/qt/QtHttpClient.h"
 
 #include <QBasicTimer>

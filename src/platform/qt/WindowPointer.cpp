@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/qt/WindowPointer.h"
 
 #include <QMouseEvent>

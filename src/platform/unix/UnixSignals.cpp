@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/unix/UnixSignals.h"
 
 #include <array>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "settings/window/SettingsModel.h"
 
 namespace brellowind {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "settings/window/SettingsWindow.h"
 
 #include "settings/AppInfo.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "settings/window/Symbol.h"
 
 #include <QPainter>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/Blur.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/Coverage.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/LyricText.h"
 
 #include "views/drawing/SoftEnds.h"

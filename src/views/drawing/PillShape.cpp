@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/PillShape.h"
 
 #include "notch/NotchShape.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/SoftEnds.h"
 
 #include <QImage>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/VisualEffectBlur.h"
 
 #include "views/drawing/Blur.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/ArtworkCaption.h"
 
 #include "views/drawing/LyricText.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/FloatingArtwork.h"
 
 #include "views/NotchRootView.h"

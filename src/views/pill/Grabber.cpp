@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/Grabber.h"
 
 #include "views/NotchRootView.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/Pill.h"
 
 #include "views/drawing/LyricText.h"

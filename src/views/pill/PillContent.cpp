@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/PillContent.h"
 
 #include "foundation/Utf8.h"

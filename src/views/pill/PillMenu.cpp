@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/PillMenu.h"
 
 #include "views/NotchRootView.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/PillMenuEntry.h"
 
 #include "views/pill/Style.h"

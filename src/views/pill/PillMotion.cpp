@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/PillMotion.h"
 
 #include "views/pill/PillContent.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/pill/Waveform.h"
 
 #include "views/NotchRootView.h"

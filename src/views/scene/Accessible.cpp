@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/scene/Accessible.h"
 
 #include "views/scene/SceneWindow.h"

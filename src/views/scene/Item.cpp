@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/scene/Item.h"
 
 #include "views/scene/SceneWindow.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/scene/PointerFocus.h"
 
 #include "views/scene/TapArea.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/scene/SceneWindow.h"
 
 #include "platform/qt/QtMainLoop.h"

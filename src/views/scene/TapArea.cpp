@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/scene/TapArea.h"
 
 namespace brellowind {

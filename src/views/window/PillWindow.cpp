@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/window/PillWindow.h"
 
 #include "views/drawing/PillShape.h"

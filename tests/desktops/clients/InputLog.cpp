@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/clients/InputLog.h"
 
 #include <cstdio>

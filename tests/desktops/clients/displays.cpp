@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Started by a compositor: writes the environment variables of its displays, one per line, to the
 // file in its argument. Runs until the compositor exits, since some compositors exit with their
 // child.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Simulated input for KWin, which accepts it from programs of its own user only. Executes commands
 // from standard input, one per line, and prints the line "done" after each, and when it is ready:
 //     move X Y | move-by X Y | button CODE 0|1 | key CODE 0|1 | tap X Y

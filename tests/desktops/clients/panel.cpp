@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A panel of one colour, 32 points high, at the top edge, that logs its input.
 //     desktop-panel RRGGBB
 #include "desktops/clients/InputLog.h"

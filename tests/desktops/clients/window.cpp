@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A window of one colour that logs its input until it is closed.
 //     desktop-window full-screen|maximized RRGGBB
 #include "desktops/clients/InputLog.h"

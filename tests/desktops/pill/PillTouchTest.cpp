@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "desktops/pill/PillOnCompositor.h"
 
 namespace brellowind::test {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "LoopObserver.h"
 
 #include <QDBusConnection>

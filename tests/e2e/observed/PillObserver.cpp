@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "PillObserver.h"
 
 #include "views/NotchRootView.h"

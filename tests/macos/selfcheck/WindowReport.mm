@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "WindowReport.h"
 
 #import <AppKit/AppKit.h>

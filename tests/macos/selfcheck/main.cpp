@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "DemoMachine.h"
 #include "SongPlayer.h"
 #include "WindowReport.h"

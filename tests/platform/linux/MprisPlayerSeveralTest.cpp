@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/MprisSession.h"
 
 #include "session/EventLoop.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/MprisReading.h"
 
 #include "platform/linux/MessageLine.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/window/MacOverlay.h"
 
 #include "platform/macos/FakeNativeOverlay.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/FakeNativeOverlay.h"
 #include "platform/macos/WindowEvents.h"
 #include "platform/macos/window/MacWindowSystem.h"

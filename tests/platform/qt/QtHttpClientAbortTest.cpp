@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "loopback/LoopbackServer.h"
 #include "platform/qt/Download.h"
 #include "platform/qt/QtHttpClient.h"

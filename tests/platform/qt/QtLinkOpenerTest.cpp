@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/qt/QtLinkOpener.h"
 
 #include "session/EventLoop.h"

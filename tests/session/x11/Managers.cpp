@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "session/x11/Managers.h"
 
 #include "session/EventLoop.h"

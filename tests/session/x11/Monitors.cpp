@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "session/x11/Monitors.h"
 
 #include <QProcess>

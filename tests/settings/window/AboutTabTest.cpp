@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "settings/SettingsRouter.h"
 #include "settings/window/SettingsFixture.h"
 

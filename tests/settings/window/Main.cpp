@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QQuickWindow>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/qt/QtMainLoop.h"
 #include "settings/UpdateChecker.h"
 #include "settings/window/SettingsWindow.h"

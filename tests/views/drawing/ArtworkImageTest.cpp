@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/ArtworkImage.h"
 #include "views/Painting.h"
 

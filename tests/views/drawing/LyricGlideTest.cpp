@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/Painting.h"
 #include "views/SteppedFrames.h"
 #include "views/drawing/LyricText.h"

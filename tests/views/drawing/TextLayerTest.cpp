@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/TextLayer.h"
 #include "views/Painting.h"
 #include "views/motion/Springs.h"

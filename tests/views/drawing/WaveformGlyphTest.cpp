@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/drawing/WaveformGlyph.h"
 #include "views/Painting.h"
 #include "views/scene/SceneWindow.h"

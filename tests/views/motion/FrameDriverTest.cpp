@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/motion/FrameDriver.h"
 
 #include "views/SteppedFrames.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "views/motion/Glide.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "support/PrintGeometry.h"
 #include "views/Painting.h"
 #include "views/drawing/Glyph.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "session/EventLoop.h"
 #include "views/Painting.h"
 #include "views/scene/Block.h"

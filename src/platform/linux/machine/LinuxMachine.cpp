@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/Machine.h"
 #include "platform/linux/MprisPlayer.h"
 #include "platform/linux/ScreenLock.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/wayland/FocusReturn.h"
 
 #include <sys/mman.h>

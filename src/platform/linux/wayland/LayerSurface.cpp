@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/wayland/LayerSurface.h"
 
 #include <utility>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/wayland/WaylandOverlay.h"
 
 #include "platform/linux/screens/QtScreens.h"

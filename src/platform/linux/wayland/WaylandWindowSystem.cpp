@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/wayland/WaylandWindowSystem.h"
 
 #include "platform/linux/wayland/WaylandDisplay.h"

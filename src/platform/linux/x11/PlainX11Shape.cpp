@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/x11/PlainX11Shape.h"
 
 #include "platform/qt/OutlineRegion.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/x11/X11Connection.h"
 
 #include <QCoreApplication>

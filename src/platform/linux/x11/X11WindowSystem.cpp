@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/x11/X11WindowSystem.h"
 
 #include "platform/linux/x11/X11Display.h"

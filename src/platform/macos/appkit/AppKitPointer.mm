@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/appkit/AppKitPointer.h"
 
 #import <AppKit/AppKit.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/appkit/AppKitScreens.h"
 
 #import <AppKit/AppKit.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/appkit/ServiceLoginItem.h"
 
 #import <ServiceManagement/ServiceManagement.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/appkit/SystemLog.h"
 
 #include "platform/macos/appkit/Text.h"

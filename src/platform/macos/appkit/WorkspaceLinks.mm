@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/appkit/WorkspaceLinks.h"
 
 #import <AppKit/AppKit.h>

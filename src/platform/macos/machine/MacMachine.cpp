@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/Machine.h"
 #include "platform/macos/ScriptPlayer.h"
 #include "platform/macos/appkit/AppKitOverlay.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/window/MacPopup.h"
 
 #include "platform/qt/MovedInto.h"

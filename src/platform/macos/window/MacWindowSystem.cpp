@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/macos/window/MacWindowSystem.h"
 
 #include <QGuiApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 import QtQuick
 
 /** A link styled as a button with a border; `prominent` marks the main action. */

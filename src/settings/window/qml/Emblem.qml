@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 import QtQuick
 
 /** A miniature of the pill: cover, line, waveform. */

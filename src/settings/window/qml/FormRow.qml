@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 import QtQuick
 
 /** A row of the form: label and control. */

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 import QtQuick
 
 /** Base of controls that can be pressed with pointer, Space or Enter. Shows a focus ring. */

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 import QtQuick
 
 /** A row with a switch; the whole row is clickable. The switch always shows the model's value. */

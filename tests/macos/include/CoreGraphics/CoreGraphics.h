@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Declarations of what the program uses of Core Graphics, written from the documentation.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Declarations of what the program uses of Core Services, written from the documentation.
 #pragma once
 

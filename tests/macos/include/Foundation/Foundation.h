@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Declarations of what the program uses of Foundation and of the Objective-C runtime, written from
 // the documentation, to check the program's use of it with a compiler alone.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/screens/QtScreens.h"
 
 #include "platform/qt/QtMainLoop.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/screens/ScreenCoordinates.h"
 
 #include "support/PrintGeometry.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/x11/PillOnX11.h"
 
 #include "platform/linux/screens/QtScreens.h"
