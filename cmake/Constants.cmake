@@ -12,6 +12,7 @@ set(BRELLOWIND_TERMS_URL "" CACHE STRING "The terms of use")
 set(BRELLOWIND_FEEDBACK_EMAIL "" CACHE STRING "The mailbox that receives feedback")
 set(BRELLOWIND_UPDATE_FEED_URL "" CACHE STRING
   "The release feed: an https address whose document is named latest.json")
+set(BRELLOWIND_SCREENSHOT_URL "" CACHE STRING "A picture of the pill, for software catalogues")
 set(BRELLOWIND_LEGAL_NOTICE "" CACHE STRING "One line that names the rights holder")
 set(BRELLOWIND_MPRIS_PLAYERS "spotify" CACHE STRING
   "Players that count as Spotify: names after org.mpris.MediaPlayer2., separated by semicolons")
@@ -31,7 +32,7 @@ set(url_query "([A-Za-z0-9._~:@!$&'()*+,=/?-]|%[0-9A-Fa-f][0-9A-Fa-f])*")
 set(url_tail "(/${url_path})?([?]${url_query})?(#${url_query})?")
 brellowind_check_constant(BRELLOWIND_LYRICS_ORIGIN "^https://${url_host}$"
   "an origin such as https://lyrics.example")
-foreach(page IN ITEMS WEBSITE SOCIAL PRIVACY_POLICY TERMS)
+foreach(page IN ITEMS WEBSITE SOCIAL PRIVACY_POLICY TERMS SCREENSHOT)
   brellowind_check_constant(BRELLOWIND_${page}_URL "^(https?://${url_host}${url_tail})?$" "a web address")
 endforeach()
 brellowind_check_constant(BRELLOWIND_UPDATE_FEED_URL "^(https://${url_host}/(${url_path}/)?latest[.]json)?$"

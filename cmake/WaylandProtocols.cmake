@@ -22,6 +22,7 @@ function(brellowind_wayland_protocols library)
     list(APPEND sources ${header} ${code})
   endforeach()
   add_library(${library} STATIC ${sources})
+  set_target_properties(${library} PROPERTIES UNITY_BUILD OFF) # their static names are equal
   target_include_directories(${library} SYSTEM PUBLIC ${folder})
   target_link_libraries(${library} PUBLIC PkgConfig::BRELLOWIND_WAYLAND_CLIENT)
 endfunction()

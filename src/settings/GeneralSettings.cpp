@@ -15,7 +15,7 @@ bool isEnabled(platform::LoginItem& item) {
 } // namespace
 
 GeneralSettings::GeneralSettings(const SettingsServices& services)
-    : launchAtLogin(isEnabled(services.loginItem)), services_(services) {}
+    : launchAtLogin(isEnabled(services.loginItem)), launchAtLoginError({}), services_(services) {}
 
 void GeneralSettings::appear() {
     check_ = startCheck();
@@ -34,12 +34,14 @@ void GeneralSettings::disappear() {
 void GeneralSettings::setLaunchAtLogin(bool enabled) {
     const bool changes = enabled != launchAtLogin.get();
     launchAtLogin.set(enabled);
+    launchAtLoginError.set({});
     if (!changes)
         return;
     auto& item = services_.loginItem;
     if (const auto error = enabled ? item.registerItem() : item.unregisterItem()) {
         services_.log.write("Launch-at-login error: " + *error);
         setLaunchAtLogin(isEnabled(item));
+        launchAtLoginError.set(*error);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "settings/SettingsServices.h"
 
 #include <optional>
+#include <string>
 
 namespace brellowind {
 
@@ -37,6 +38,9 @@ public:
     void quit();
 
     Published<bool, GeneralSettings> launchAtLogin; ///< the value of the switch
+
+    /// Why the last change of the switch failed; empty if it did not.
+    Published<std::string, GeneralSettings> launchAtLoginError;
 
 private:
     TaskHandle startCheck();

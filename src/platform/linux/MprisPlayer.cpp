@@ -42,6 +42,10 @@ Task<std::optional<QDBusMessage>> replyTo(QDBusConnection bus, QDBusMessage call
     co_return co_await reply;
 }
 
+void logFailure(Log& log, std::string_view description) {
+    log.write(std::string(Player::logPrefix).append(description));
+}
+
 } // namespace
 
 MprisPlayer::MprisPlayer(QDBusConnection bus, std::vector<std::string> players, MainLoop& mainLoop,
@@ -79,17 +83,14 @@ Task<void> MprisPlayer::playPause() {
             co_return;
     const auto player = playerToControl();
     auto& log = log_; // this object may be destroyed while the task is suspended
-    const auto fail = [&log](std::string_view description) {
-        log.write(std::string(logPrefix).append(description));
-    };
     if (player == proxies_.end()) {
-        fail("the player is not running");
+        logFailure(log, "the player is not running");
     } else if (player->second.isLate()) {
-        fail("the player does not answer"); // and would execute the command late
+        logFailure(log, "the player does not answer"); // and would execute the command late
     } else {
         const auto reply = co_await replyTo(bus_, player->second.playPauseCall(), mainLoop_);
         if (reply && reply->type() == QDBusMessage::ErrorMessage)
-            fail(errorText(*reply));
+            logFailure(log, errorText(*reply));
     }
 }
 

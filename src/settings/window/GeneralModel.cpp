@@ -13,6 +13,7 @@ GeneralModel::GeneralModel(const SettingsServices& services)
       nextTurn_(services.mainLoop.onNextTurn([this] { refresh(); })) {
     const auto refreshNextTurn = [this] { nextTurn_->request(); };
     subscriptions_.push_back(settings_.launchAtLogin.observe(refreshNextTurn));
+    subscriptions_.push_back(settings_.launchAtLoginError.observe(refreshNextTurn));
     subscriptions_.push_back(updater_.state.observe(refreshNextTurn));
 }
 
@@ -22,7 +23,10 @@ UpdateCard GeneralModel::publishedCard() const {
 
 void GeneralModel::refresh() {
     const bool launchAtLogin = settings_.launchAtLogin.get();
-    if (std::exchange(launchAtLogin_, launchAtLogin) != launchAtLogin)
+    const std::string& error = settings_.launchAtLoginError.get();
+    const bool isNewError = launchAtLoginError_ != error;
+    launchAtLoginError_ = error;
+    if (std::exchange(launchAtLogin_, launchAtLogin) != launchAtLogin || isNewError)
         Q_EMIT launchAtLoginChanged();
     auto card = publishedCard();
     if (card == card_)

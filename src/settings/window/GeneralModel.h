@@ -11,6 +11,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace brellowind {
@@ -24,6 +25,7 @@ class GeneralModel : public QObject {
     Q_PROPERTY(bool acceptsFeedback MEMBER acceptsFeedback CONSTANT FINAL)
     Q_PROPERTY(bool checksForUpdates MEMBER checksForUpdates CONSTANT FINAL)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged FINAL)
+    Q_PROPERTY(QString launchAtLoginError READ launchAtLoginError NOTIFY launchAtLoginChanged FINAL)
     Q_PROPERTY(QString cardIcon READ cardIcon NOTIFY cardChanged FINAL)
     Q_PROPERTY(int cardColor READ cardColor NOTIFY cardChanged FINAL)
     Q_PROPERTY(double cardTintOpacity READ cardTintOpacity NOTIFY cardChanged FINAL)
@@ -49,6 +51,7 @@ public:
     void refresh();
 
     bool launchAtLogin() const { return launchAtLogin_; }
+    QString launchAtLoginError() const { return QString::fromStdString(launchAtLoginError_); }
     QString cardIcon() const { return QString::fromUtf8(card_.icon); }
     int cardColor() const { return static_cast<int>(card_.color); } ///< an `UpdateCard::Color`
     double cardTintOpacity() const { return card_.tintOpacity; }
@@ -72,6 +75,7 @@ private:
     UpdateChecker& updater_;
     GeneralSettings settings_;
     bool launchAtLogin_;
+    std::string launchAtLoginError_;
     UpdateCard card_;
     std::unique_ptr<platform::NextTurn> nextTurn_;
     std::vector<Subscription> subscriptions_;

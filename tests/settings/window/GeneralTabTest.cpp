@@ -9,8 +9,10 @@
 namespace brellowind {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 using Status = platform::LoginItem::Status;
 
 class GeneralTabTest : public SettingsFixture {
@@ -82,6 +84,31 @@ TEST_F(GeneralTabTest, TheSwitchTurnsBackWhenTheRegistrationFails) {
     machine.loginItem.registrationError.reset();
     click(pressable(QStringLiteral("Launch at Login")));
     EXPECT_TRUE(isSwitchOn());
+}
+
+TEST_F(GeneralTabTest, SaysBesideTheSwitchWhyItCouldNotBeChanged) {
+    machine.loginItem.registrationError = "the folder is read-only";
+    open();
+    EXPECT_THAT(visibleTexts(), Not(Contains("the folder is read-only")));
+    click(pressable(QStringLiteral("Launch at Login")));
+    EXPECT_THAT(visibleTexts(), Contains("the folder is read-only"));
+    EXPECT_EQ(accessible(item("launchAtLogin"))->text(QAccessible::Description),
+              QStringLiteral("the folder is read-only"));
+    machine.loginItem.registrationError.reset();
+    click(pressable(QStringLiteral("Launch at Login")));
+    EXPECT_THAT(visibleTexts(), Not(Contains("the folder is read-only")));
+}
+
+TEST_F(GeneralTabTest, WrapsALongReasonWithinTheRow) {
+    machine.loginItem.registrationError = std::string(40, 'x') + ' ' + std::string(80, 'y');
+    open();
+    const double before = item("launchAtLogin")->height();
+    click(pressable(QStringLiteral("Launch at Login")));
+    const auto* reason = item("switchError");
+    EXPECT_GT(item("launchAtLogin")->height(), before);
+    EXPECT_LT(reason->height(), item("launchAtLogin")->height());
+    EXPECT_GT(item("switchTrack")->mapToScene({0, 0}).x(),
+              reason->mapToScene({reason->width(), 0}).x());
 }
 
 TEST_F(GeneralTabTest, TheSwitchTurnsBackOnWhenTheUnregistrationFails) {

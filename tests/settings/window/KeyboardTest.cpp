@@ -48,6 +48,22 @@ TEST_F(SettingsKeyboardTest, TabPassesOverAButtonThatCannotBePressed) {
     EXPECT_THAT(tabThrough(2), ElementsAre("General", "Launch at Login"));
 }
 
+TEST_F(SettingsKeyboardTest, AnAssistiveProgramSelectsATabByFocusingIt) {
+    open();
+    auto* tab = accessible(item("aboutTab"));
+    tab->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    turn();
+    EXPECT_EQ(parts.router.selectedTab.get(), SettingsTab::about);
+    EXPECT_TRUE(item("aboutTab")->hasActiveFocus());
+}
+
+TEST_F(SettingsKeyboardTest, TheListOfTabsHasAName) {
+    open();
+    auto* list = accessible(item("aboutTab"))->parent();
+    EXPECT_EQ(list->role(), QAccessible::PageTabList);
+    EXPECT_EQ(list->text(QAccessible::Name), QStringLiteral("Settings"));
+}
+
 TEST_F(SettingsKeyboardTest, LeftAndRightGoFromTabToTab) {
     open();
     tabTo("General");

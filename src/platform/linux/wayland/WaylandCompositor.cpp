@@ -24,8 +24,6 @@ void answerPing(void* /*data*/, xdg_wm_base* shell, std::uint32_t serial) {
 
 constexpr xdg_wm_base_listener shellListener{answerPing};
 
-void ignoreRemoval(void* /*self*/, wl_registry* /*registry*/, std::uint32_t /*name*/) {}
-
 /// Binds `global` if it has the type `interface`, in `version`, limited to `known`. Its events are
 /// dispatched with those of Qt.
 template <typename Object>

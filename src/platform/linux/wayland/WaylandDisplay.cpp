@@ -19,8 +19,6 @@ void noteGlobal(void* found, wl_registry* /*registry*/, std::uint32_t /*name*/,
         *static_cast<bool*>(found) = true;
 }
 
-void ignoreRemoval(void* /*found*/, wl_registry* /*registry*/, std::uint32_t /*name*/) {}
-
 constexpr wl_registry_listener registryListener{noteGlobal, ignoreRemoval};
 
 } // namespace

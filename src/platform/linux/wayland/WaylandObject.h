@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <wayland-client.h>
 #include <wlr-layer-shell-unstable-v1-client-protocol.h>
@@ -31,6 +32,9 @@ struct WaylandDestroy {
         zwlr_layer_surface_v1_destroy(surface);
     }
 };
+
+/// For listeners of a registry that is read once.
+inline void ignoreRemoval(void* /*data*/, wl_registry* /*registry*/, std::uint32_t /*name*/) {}
 
 /// Owns a protocol object or an event queue.
 template <typename Object>

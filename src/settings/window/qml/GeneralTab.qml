@@ -29,6 +29,7 @@ Item {
                 objectName: "launchAtLogin"
                 text: "Launch at Login"
                 on: root.model.launchAtLogin
+                error: root.model.launchAtLoginError
                 onClicked: root.model.setLaunchAtLogin(!on)
             }
         }

@@ -28,20 +28,30 @@ QtObject {
     readonly property real hoverOpacity: 0.7
     readonly property int easeDuration: 120
 
-    readonly property int windowWidth: 460
-    readonly property int pageHeight: 360
+    /** The size of text: 1 for a desktop font of up to 12 points, proportional to a larger one. */
+    readonly property real textScale: {
+        const points = Application.font.pointSize;
+        return points <= 12 ? 1 : Math.min(points / 11, 2);
+    }
+
+    readonly property int windowWidth: scaled(460)
+    readonly property int pageHeight: scaled(360)
     readonly property int margin: 20
-    readonly property int rowHeight: 48
+    readonly property int rowHeight: scaled(48)
     readonly property int inset: 16
     readonly property int cardRadius: 12
     readonly property int buttonRadius: 8
 
-    readonly property int nameSize: 20
-    readonly property int titleSize: 16
-    readonly property int buttonSize: 14
-    readonly property int bodySize: 13
-    readonly property int calloutSize: 12
-    readonly property int captionSize: 11
+    readonly property int nameSize: scaled(20)
+    readonly property int titleSize: scaled(16)
+    readonly property int buttonSize: scaled(14)
+    readonly property int bodySize: scaled(13)
+    readonly property int calloutSize: scaled(12)
+    readonly property int captionSize: scaled(11)
+
+    function scaled(length: int): int {
+        return Math.round(length * textScale);
+    }
 
     function tint(color: int): color {
         return [yellow, teal, red, green][color];

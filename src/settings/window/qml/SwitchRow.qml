@@ -8,19 +8,43 @@ Pressable {
 
     required property bool on
 
+    /** Why the switch could not be changed; empty if it was. */
+    property string error
+
     width: parent ? parent.width : 0
-    height: Style.rowHeight
+    height: Math.max(Style.rowHeight, words.height + 16)
     ringed: track
     radius: track.radius
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: on
+    Accessible.description: error
     Accessible.onToggleAction: enabled && clicked()
 
-    PlainText {
-        anchors { left: parent.left; leftMargin: Style.inset; verticalCenter: parent.verticalCenter }
-        text: root.text
-        Accessible.ignored: true
+    Column {
+        id: words
+
+        anchors {
+            left: parent.left; leftMargin: Style.inset
+            right: track.left; rightMargin: Style.inset
+            verticalCenter: parent.verticalCenter
+        }
+        spacing: 2
+
+        PlainText {
+            text: root.text
+            Accessible.ignored: true
+        }
+        PlainText {
+            objectName: "switchError"
+            width: parent.width
+            visible: text !== ""
+            text: root.error
+            color: Style.red
+            font.pixelSize: Style.captionSize
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
     }
     Rectangle {
         id: track

@@ -11,14 +11,18 @@ Pressable {
     required property bool selected
     readonly property color ink: selected || hovered ? Style.text : Style.secondaryText
 
-    width: 76
-    height: 52
+    width: Style.scaled(76)
+    height: Style.scaled(52)
     focus: selected
     activeFocusOnTab: selected
     ringOutset: 0
     Accessible.role: Accessible.PageTab
     Accessible.selectable: true
     Accessible.selected: selected
+    onActiveFocusChanged: {
+        if (activeFocus && !selected)
+            clicked(); // an assistive program has set the focus
+    }
 
     Rectangle {
         anchors.fill: parent

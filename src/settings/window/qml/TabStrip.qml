@@ -11,6 +11,7 @@ FocusScope {
 
     implicitHeight: row.height + 16
     Accessible.role: Accessible.PageTabList
+    Accessible.name: "Settings"
 
     Row {
         id: row

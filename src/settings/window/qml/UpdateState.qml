@@ -10,7 +10,7 @@ Item {
     required property GeneralModel model
     required property color tint
 
-    implicitHeight: 20
+    implicitHeight: Style.scaled(20)
 
     Symbol {
         objectName: "stateIcon"
