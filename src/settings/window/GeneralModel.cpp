@@ -24,9 +24,9 @@ UpdateCard GeneralModel::publishedCard() const {
 void GeneralModel::refresh() {
     const bool launchAtLogin = settings_.launchAtLogin.get();
     const std::string& error = settings_.launchAtLoginError.get();
-    const bool isNewError = launchAtLoginError_ != error;
-    launchAtLoginError_ = error;
-    if (std::exchange(launchAtLogin_, launchAtLogin) != launchAtLogin || isNewError)
+    if (std::exchange(launchAtLoginError_, error) != error)
+        Q_EMIT launchAtLoginErrorChanged();
+    if (std::exchange(launchAtLogin_, launchAtLogin) != launchAtLogin)
         Q_EMIT launchAtLoginChanged();
     auto card = publishedCard();
     if (card == card_)

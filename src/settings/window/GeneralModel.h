@@ -25,7 +25,8 @@ class GeneralModel : public QObject {
     Q_PROPERTY(bool acceptsFeedback MEMBER acceptsFeedback CONSTANT FINAL)
     Q_PROPERTY(bool checksForUpdates MEMBER checksForUpdates CONSTANT FINAL)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged FINAL)
-    Q_PROPERTY(QString launchAtLoginError READ launchAtLoginError NOTIFY launchAtLoginChanged FINAL)
+    Q_PROPERTY(QString launchAtLoginError READ launchAtLoginError NOTIFY launchAtLoginErrorChanged
+                   FINAL)
     Q_PROPERTY(QString cardIcon READ cardIcon NOTIFY cardChanged FINAL)
     Q_PROPERTY(int cardColor READ cardColor NOTIFY cardChanged FINAL)
     Q_PROPERTY(double cardTintOpacity READ cardTintOpacity NOTIFY cardChanged FINAL)
@@ -67,6 +68,7 @@ public:
 
 Q_SIGNALS:
     void launchAtLoginChanged();
+    void launchAtLoginErrorChanged();
     void cardChanged();
 
 private:

@@ -160,7 +160,7 @@ TEST_F(MprisPlayerSeveral, ThePositionIsThatOfTheEndOfTheReading) {
     read(mpris);
     const auto answer = read(mpris);
     EXPECT_THAT(answer, hasTitle("Second"));
-    EXPECT_GE(positionOf(answer), 11);
+    EXPECT_GE(positionOf(answer), 10.9); // the delays are timed coarsely
 }
 
 TEST_F(MprisPlayerSeveral, APausedPositionStays) {

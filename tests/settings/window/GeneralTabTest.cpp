@@ -105,7 +105,7 @@ TEST_F(GeneralTabTest, WrapsALongReasonWithinTheRow) {
     const double before = item("launchAtLogin")->height();
     click(pressable(QStringLiteral("Launch at Login")));
     const auto* reason = item("switchError");
-    EXPECT_GT(item("launchAtLogin")->height(), before);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return item("launchAtLogin")->height() > before; }));
     EXPECT_LT(reason->height(), item("launchAtLogin")->height());
     EXPECT_GT(item("switchTrack")->mapToScene({0, 0}).x(),
               reason->mapToScene({reason->width(), 0}).x());
