@@ -11,7 +11,7 @@ namespace brellowind::platform {
 namespace {
 
 /// The window manager may remove the focus briefly while it gives it to the new window.
-constexpr std::chrono::milliseconds changeOfFocus(50);
+constexpr std::chrono::milliseconds changeOfFocus(150);
 
 } // namespace
 
