@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -57,7 +58,7 @@ QImage barPicture(QSize size) {
 
 } // namespace
 
-WaveformGlyph::WaveformGlyph(Item* parent) : PainterItem(parent) {}
+WaveformGlyph::WaveformGlyph(Item* parent) : PainterItem(parent), bars_(barCount) {}
 
 void WaveformGlyph::setActive(bool active) {
     if (active == active_)

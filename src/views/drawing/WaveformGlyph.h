@@ -6,7 +6,7 @@
 
 #include <QBasicTimer>
 #include <QImage>
-#include <array>
+#include <vector>
 
 namespace brellowind {
 
@@ -33,7 +33,7 @@ private:
 
     bool active_ = false;
     int step_ = 0;
-    std::array<QImage, 5> bars_; ///< each as it is drawn, white
+    std::vector<QImage> bars_; ///< each as it is drawn, white
     QBasicTimer steps_;
 };
 

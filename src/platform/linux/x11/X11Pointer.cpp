@@ -110,6 +110,8 @@ void X11Pointer::handle(const xcb_generic_event_t& event) {
 
 /// A press uses the pointer as well, without a movement.
 void X11Pointer::handleUse() {
+    if (moved_)
+        return;
     const auto position = query(x11_.root());
     if (position && told_ != std::pair<int, int>(position->root_x, position->root_y))
         requestMovement();

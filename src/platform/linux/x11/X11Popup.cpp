@@ -2,12 +2,11 @@
 
 #include "platform/linux/x11/X11Popup.h"
 
-#include "platform/qt/MovedInto.h"
+#include "platform/qt/PopupPosition.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QRegion>
-#include <QScreen>
 #include <cmath>
 #include <utility>
 #include <xcb/xinput.h>
@@ -53,13 +52,10 @@ void X11Popup::show(const Popup& popup) {
     if (window_)
         window_->close();
     auto& window = popup.window;
-    const QPoint corner = popup.overlay.mapToGlobal(QPointF(popup.at.x, popup.at.y)).toPoint();
-    const auto* at = QGuiApplication::screenAt(corner);
     // Not of the type Popup, which Qt does not expose to assistive programs.
     window.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
                     Qt::BypassWindowManagerHint);
-    window.setPosition(
-        movedInto((at ? at : popup.overlay.screen())->geometry(), corner, window.size()));
+    window.setPosition(popupPosition(popup));
     window.create(); // required for the mask
     window.setMask(compositingManager_.isRunning()
                        ? QRegion()

@@ -4,9 +4,8 @@
 
 #include "platform/linux/x11/X11Display.h"
 #include "platform/linux/x11/X11Overlay.h"
+#include "platform/qt/RaiseWindows.h"
 
-#include <QGuiApplication>
-#include <QWindow>
 #include <utility>
 
 namespace brellowind::platform {
@@ -25,13 +24,7 @@ void X11WindowSystem::popUp(const Popup& popup) {
 }
 
 void X11WindowSystem::activate() {
-    for (auto* window : QGuiApplication::topLevelWindows()) {
-        const bool takesFocus = !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus);
-        if (window->isVisible() && takesFocus) {
-            window->raise();
-            window->requestActivate();
-        }
-    }
+    raiseWindows();
 }
 
 std::string X11WindowSystem::sessionName() const {

@@ -2,7 +2,7 @@
 
 #include "platform/macos/window/MacPopup.h"
 
-#include "platform/qt/MovedInto.h"
+#include "platform/qt/PopupPosition.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -22,12 +22,9 @@ void MacPopup::show(const Popup& popup, std::function<void()> onClose) {
     if (shown_)
         shown_->window.close();
     auto& window = popup.window;
-    const QPoint corner = popup.overlay.mapToGlobal(QPointF(popup.at.x, popup.at.y)).toPoint();
-    const auto* at = QGuiApplication::screenAt(corner);
     window.setFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     window.setTransientParent(&popup.overlay); // Qt lifts it above the overlay then
-    window.setPosition(
-        movedInto((at ? at : popup.overlay.screen())->geometry(), corner, window.size()));
+    window.setPosition(popupPosition(popup));
     shown_ = std::make_unique<Shown>(window, std::move(onClose));
     shown_->globalMonitor = pointer_.addGlobalMonitor([this] { updateHover(); });
     shown_->localMonitor = pointer_.addLocalMonitor([this] { updateHover(); });

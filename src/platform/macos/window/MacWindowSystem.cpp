@@ -2,8 +2,8 @@
 
 #include "platform/macos/window/MacWindowSystem.h"
 
-#include <QGuiApplication>
-#include <QWindow>
+#include "platform/qt/RaiseWindows.h"
+
 #include <utility>
 
 namespace brellowind::platform {
@@ -27,13 +27,7 @@ void MacWindowSystem::popUp(const Popup& popup) {
 
 void MacWindowSystem::activate() {
     native_.activateProgram();
-    for (auto* window : QGuiApplication::topLevelWindows()) {
-        const bool takesFocus = !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus);
-        if (window->isVisible() && takesFocus) {
-            window->raise();
-            window->requestActivate();
-        }
-    }
+    raiseWindows();
 }
 
 } // namespace brellowind::platform
