@@ -65,11 +65,13 @@ bool ObservedProgram::comesToRest() {
     QRectF seen;
     QElapsedTimer since;
     return waitUntil([&] {
+        // Before the question, so that a delay of this process counts for nothing.
+        const bool isLongEnough = since.isValid() && since.elapsed() >= stillness.count();
         const QRectF now = rectangle("pill");
-        if (now != seen || !since.isValid())
+        const bool isStill = now == std::exchange(seen, now);
+        if (!isStill || !since.isValid())
             since.start();
-        seen = now;
-        return since.elapsed() >= stillness.count();
+        return isStill && isLongEnough;
     });
 }
 

@@ -53,8 +53,6 @@ void LyricText::setText(const QString& text) {
     updateSize();
     beginGlide();
     frames_.drive(*this);
-    if (isAvailable())
-        announceName(*this);
 }
 
 void LyricText::setPresent(bool present) {
@@ -92,8 +90,6 @@ void LyricText::setHeld(bool held) {
 void LyricText::visibilityChanged() {
     if (isVisible())
         beginGlide();
-    if (isAvailable())
-        announceVisibility(*this, isVisible());
 }
 
 void LyricText::updateSize() {

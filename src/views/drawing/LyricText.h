@@ -5,7 +5,6 @@
 #include "views/drawing/TextLayer.h"
 #include "views/motion/FrameDriver.h"
 #include "views/motion/Glide.h"
-#include "views/scene/Accessible.h"
 #include "views/scene/Item.h"
 
 #include <QColor>
@@ -22,7 +21,7 @@ namespace brellowind {
 /// old line blurs, shrinks a little and fades out while the new one sharpens, grows and fades in,
 /// around the same centre. A text that is wider than its room scrolls once from beginning to end
 /// each time it appears. Clipped ends are faded and extend beyond the room by `fadeOverhang`.
-class LyricText : public PainterItem, public Accessible, private Animated {
+class LyricText : public PainterItem, private Animated {
     Q_OBJECT
 
 public:
@@ -41,6 +40,7 @@ public:
     LyricText(Style style, const QString& text, bool present, FrameDriver& frames, Item* parent);
     ~LyricText() override;
 
+    const QString& text() const { return text_; }
     void setText(const QString& text);
 
     /// Fades the line in or out, as with a change of the text.
@@ -61,9 +61,6 @@ public:
 
     void paint(QPainter& painter) override;
     QRectF paintedRect() const override;
-
-    QAccessible::Role accessibleRole() const override { return QAccessible::StaticText; }
-    QString accessibleName() const override { return text_; }
 
 protected:
     void visibilityChanged() override;

@@ -30,14 +30,6 @@ double lineHeight(const QFont& font) {
     return std::ceil(QFontMetricsF(font).height());
 }
 
-/// A text that is hidden from assistive programs.
-class CaptionText final : public LyricText {
-public:
-    using LyricText::LyricText;
-
-    bool isAvailable() const override { return false; }
-};
-
 } // namespace
 
 ArtworkCaption::ArtworkCaption(FrameDriver& frames, Item* parent)
@@ -54,10 +46,10 @@ void ArtworkCaption::setTexts(const QString& artist, const QString& title) {
 /// Replaces the text without animation, aligned to the start of its writing direction.
 void ArtworkCaption::show(LyricText*& line, const QString& text, const QFont& font,
                           const QColor& color, double top) {
-    if (line && line->accessibleName() == text)
+    if (line && line->text() == text)
         return;
     delete line;
-    line = new CaptionText({font, color, room}, text, true, frames_, this);
+    line = new LyricText({font, color, room}, text, true, frames_, this);
     const double beside = line->isRightToLeft() ? room - line->width() : 0;
     line->setPosition({style::panelSidePadding + beside, top});
 }

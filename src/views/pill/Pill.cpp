@@ -45,7 +45,7 @@ Pill::Pill(NotchRootView& view, FrameDriver& frames, platform::WindowSystem& win
            Item* parent)
     : Item(parent), view_(view), frames_(frames), windowSystem_(windowSystem), content_(view),
       shape_(named(new PillShape(this), "pill")),
-      background_(new TapArea(QAccessible::Grouping, this)), inside_(new Item(this)),
+      background_(new TapArea(QAccessible::StaticText, this)), inside_(new Item(this)),
       line_(named(
           new LyricText(lineStyle(), content_.line, !content_.form.isMinimized, frames, inside_),
           "lyricLine")),

@@ -23,7 +23,7 @@ TEST_F(PillAccessibility, TheLineCanBeReadWhereItIs) {
     const auto line = reader.waitFor("line", "label");
     ASSERT_TRUE(line);
     const QRect extents = reader.extents(*line);
-    EXPECT_TRUE(agree(extents, place("lyricLine"))) << extents.x() << ", " << extents.y() << ", "
+    EXPECT_TRUE(agree(extents, place("pill"))) << extents.x() << ", " << extents.y() << ", "
                                                     << extents.width() << " x " << extents.height();
 }
 

@@ -57,7 +57,7 @@ bool PillObserver::listen() {
 
 QString PillObserver::Text(const QString& line) const {
     const auto* text = qobject_cast<const LyricText*>(item(line));
-    return text ? text->accessibleName() : QString();
+    return text ? text->text() : QString();
 }
 
 bool PillObserver::Form(const QString& name) const {
