@@ -25,38 +25,37 @@ void listenToMode(KdeScreen& screen, kde_output_device_mode_v2* mode) {
 
 void listen(KdeScreen& screen) {
     using Device = kde_output_device_v2;
-    static constexpr kde_output_device_v2_listener listener{
-        .geometry =
-            [](void* data, Device*, std::int32_t x, std::int32_t y, std::int32_t, std::int32_t,
-               std::int32_t, const char*, const char*, std::int32_t) {
-                static_cast<KdeScreen*>(data)->position = {x, y};
-            },
-        .current_mode = [](void*, Device*, kde_output_device_mode_v2*) {},
-        .mode =
-            [](void* data, Device*, kde_output_device_mode_v2* mode) {
-                listenToMode(*static_cast<KdeScreen*>(data), mode);
-            },
-        .done = [](void*, Device*) {},
-        .scale =
-            [](void* data, Device*, wl_fixed_t scale) {
-                static_cast<KdeScreen*>(data)->scale = wl_fixed_to_double(scale);
-            },
-        .edid = [](void*, Device*, const char*) {},
-        .enabled =
-            [](void* data, Device*, std::int32_t enabled) {
-                static_cast<KdeScreen*>(data)->isEnabled = enabled != 0;
-            },
-        .uuid = [](void*, Device*, const char*) {},
-        .serial_number = [](void*, Device*, const char*) {},
-        .eisa_id = [](void*, Device*, const char*) {},
-        .capabilities = [](void*, Device*, std::uint32_t) {},
-        .overscan = [](void*, Device*, std::uint32_t) {},
-        .vrr_policy = [](void*, Device*, std::uint32_t) {},
-        .rgb_range = [](void*, Device*, std::uint32_t) {},
-        .name =
-            [](void* data, Device*, const char* name) {
-                static_cast<KdeScreen*>(data)->name = QString::fromUtf8(name);
-            }};
+    // Assigned one by one, since later versions of the protocol have more events.
+    static constexpr auto listener = [] {
+        kde_output_device_v2_listener events{};
+        events.geometry = [](void* data, Device*, std::int32_t x, std::int32_t y, std::int32_t,
+                             std::int32_t, std::int32_t, const char*, const char*, std::int32_t) {
+            static_cast<KdeScreen*>(data)->position = {x, y};
+        };
+        events.current_mode = [](void*, Device*, kde_output_device_mode_v2*) {};
+        events.mode = [](void* data, Device*, kde_output_device_mode_v2* mode) {
+            listenToMode(*static_cast<KdeScreen*>(data), mode);
+        };
+        events.done = [](void*, Device*) {};
+        events.scale = [](void* data, Device*, wl_fixed_t scale) {
+            static_cast<KdeScreen*>(data)->scale = wl_fixed_to_double(scale);
+        };
+        events.edid = [](void*, Device*, const char*) {};
+        events.enabled = [](void* data, Device*, std::int32_t enabled) {
+            static_cast<KdeScreen*>(data)->isEnabled = enabled != 0;
+        };
+        events.uuid = [](void*, Device*, const char*) {};
+        events.serial_number = [](void*, Device*, const char*) {};
+        events.eisa_id = [](void*, Device*, const char*) {};
+        events.capabilities = [](void*, Device*, std::uint32_t) {};
+        events.overscan = [](void*, Device*, std::uint32_t) {};
+        events.vrr_policy = [](void*, Device*, std::uint32_t) {};
+        events.rgb_range = [](void*, Device*, std::uint32_t) {};
+        events.name = [](void* data, Device*, const char* name) {
+            static_cast<KdeScreen*>(data)->name = QString::fromUtf8(name);
+        };
+        return events;
+    }();
     kde_output_device_v2_add_listener(screen.device, &listener, &screen);
 }
 
@@ -86,13 +85,16 @@ void KdeScreens::setEnabled(const KdeScreen& screen, bool isEnabled) {
 
 template <class Change>
 void KdeScreens::apply(const Change& change) {
-    static constexpr kde_output_configuration_v2_listener listener{
-        [](void* data, kde_output_configuration_v2*) {
+    static constexpr auto listener = [] {
+        kde_output_configuration_v2_listener events{};
+        events.applied = [](void* data, kde_output_configuration_v2*) {
             *static_cast<std::optional<bool>*>(data) = true;
-        },
-        [](void* data, kde_output_configuration_v2*) {
+        };
+        events.failed = [](void* data, kde_output_configuration_v2*) {
             *static_cast<std::optional<bool>*>(data) = false;
-        }};
+        };
+        return events;
+    }();
     auto* management =
         connection_.bind<kde_output_management_v2>(kde_output_management_v2_interface, 2);
     auto* configuration = kde_output_management_v2_create_configuration(management);
