@@ -10,28 +10,19 @@
 #include <QDBusConnectionInterface>
 #include <QDBusReply>
 #include <QFile>
-#include <cmath>
 
 namespace brellowind::test {
 namespace {
 
-const auto spareScreen = QStringLiteral("Meta-1");
-
-QString monitor(QSize pixels) {
-    return QStringLiteral("%1x%2").arg(pixels.width()).arg(pixels.height());
-}
-
-QByteArray settings(bool layOutInPoints) {
-    QByteArray settings = "[org/gnome/desktop/interface]\nenable-animations=false\n";
-    if (layOutInPoints)
-        settings += "[org/gnome/mutter]\nexperimental-features=['scale-monitor-framebuffer']\n";
-    return settings;
+/// In points.
+QRect geometry(const MutterScreen& screen) {
+    return {(QPointF(screen.position) / screen.scale).toPoint(),
+            (QSizeF(screen.pixels) / screen.scale).toSize()};
 }
 
 } // namespace
 
-Mutter::Mutter(const CompositorOptions& options)
-    : isLaidOutInPoints_(options.scale != std::floor(options.scale)) {
+Mutter::Mutter(const CompositorOptions& options) {
     requireProgram(QStringLiteral("mutter"), QStringLiteral("mutter"));
     requireProgram(QStringLiteral("pipewire"), QStringLiteral("pipewire"));
     requireProgram(QStringLiteral("wireplumber"), QStringLiteral("wireplumber"));
@@ -42,15 +33,15 @@ Mutter::Mutter(const CompositorOptions& options)
     auto& session = mutableSession();
     session.setVariable(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("keyfile"));
     session.writeFile(QStringLiteral(".config/glib-2.0/settings/keyfile"),
-                      settings(isLaidOutInPoints_));
+                      "[org/gnome/desktop/interface]\nenable-animations=false\n");
     pipewire_ = session.start(QStringLiteral("pipewire"), {}, QStringLiteral("pipewire.log"));
     if (!waitUntil([&] { return QFile::exists(session.file(QStringLiteral("pipewire-0"))); }))
         throw DesktopFailure(QStringLiteral("pipewire did not start"));
     wireplumber_ = session.start(QStringLiteral("wireplumber"), {}, QStringLiteral("pipewire.log"));
     const QSize pixels = (QSizeF(options.size) * options.scale).toSize();
-    QStringList arguments{QStringLiteral("--headless"),        QStringLiteral("--wayland"),
-                          QStringLiteral("--virtual-monitor"), monitor(pixels),
-                          QStringLiteral("--virtual-monitor"), monitor(pixels)};
+    QStringList arguments{QStringLiteral("--headless"), QStringLiteral("--wayland"),
+                          QStringLiteral("--virtual-monitor"),
+                          QStringLiteral("%1x%2").arg(pixels.width()).arg(pixels.height())};
     if (!options.xWayland)
         arguments += QStringLiteral("--no-x11");
     launch(QStringLiteral("mutter"),
@@ -62,10 +53,9 @@ Mutter::Mutter(const CompositorOptions& options)
                names.contains(QStringLiteral("org.gnome.Mutter.RemoteDesktop")) &&
                names.contains(QStringLiteral("org.gnome.Mutter.ScreenCast"));
     });
-    setEnabled(spareScreen, false);
     if (options.scale != 1)
         setScale(options.scale);
-    if (options.xWayland && !isLaidOutInPoints_)
+    if (options.xWayland)
         tellXClients(options.scale);
     remote_ = std::make_unique<MutterRemote>(this->session());
     wakeDevices();
@@ -83,7 +73,6 @@ void Mutter::tellXClients(double scale) {
 
 void Mutter::wakeDevices() {
     constexpr int leftShift = 42;
-    remote_->tap(screens().value(0).name, {0, 0}); // while there is nothing to tap on
     remote_->movePointerBy({0, 0});
     remote_->key(leftShift, Stroke::down);
     remote_->key(leftShift, Stroke::up);
@@ -104,8 +93,7 @@ void Mutter::movePointerTo(QPointF place) {
 }
 
 void Mutter::movePointerBy(QPointF distance) {
-    const auto first = MutterScreens(session()).all().value(0);
-    remote_->movePointerBy(isLaidOutInPoints_ ? distance : distance * first.scale);
+    remote_->movePointerBy(distance * MutterScreens(session()).all().value(0).scale);
 }
 
 void Mutter::button(int code, Stroke stroke) {
@@ -116,17 +104,10 @@ void Mutter::key(int code, Stroke stroke) {
     remote_->key(code, stroke);
 }
 
-bool Mutter::tap(QPointF place) {
-    const auto pixel = pixelAt(place);
-    remote_->tap(pixel.screen, pixel.place);
-    return true;
-}
-
 QList<CompositorScreen> Mutter::screens() const {
     QList<CompositorScreen> screens;
     for (const auto& screen : MutterScreens(session()).all())
-        if (screen.isEnabled)
-            screens.append({screen.name, geometry(screen)});
+        screens.append({screen.name, geometry(screen)});
     return screens;
 }
 
@@ -137,49 +118,11 @@ void Mutter::setScale(double scale) {
     screens.apply(all);
 }
 
-bool Mutter::setScreensOn(bool on) {
-    MutterScreens(session()).setPower(on);
-    return true;
-}
-
-QString Mutter::addScreen() {
-    return setEnabled(spareScreen, true) ? spareScreen : QString();
-}
-
-bool Mutter::removeScreen(const QString& name) {
-    return setEnabled(name, false);
-}
-
 Mutter::Pixel Mutter::pixelAt(QPointF place) const {
     for (const auto& screen : MutterScreens(session()).all())
-        if (screen.isEnabled && QRectF(geometry(screen)).contains(place))
+        if (QRectF(geometry(screen)).contains(place))
             return {screen.name, (place - geometry(screen).topLeft()) * screen.scale};
     throw DesktopFailure(QStringLiteral("the place is on no screen"));
-}
-
-QRect Mutter::geometry(const MutterScreen& screen) const {
-    const QPointF position =
-        isLaidOutInPoints_ ? screen.position : QPointF(screen.position) / screen.scale;
-    return {position.toPoint(), (QSizeF(screen.pixels) / screen.scale).toSize()};
-}
-
-bool Mutter::setEnabled(const QString& name, bool isEnabled) {
-    MutterScreens screens(session());
-    auto all = screens.all();
-    bool isChanged = false;
-    int right = 0; // each stands at the right of the one before
-    for (auto& screen : all) {
-        if (screen.name == name && screen.isEnabled != isEnabled) {
-            screen.isEnabled = isEnabled;
-            isChanged = true;
-        }
-        screen.position = {right, 0};
-        if (screen.isEnabled)
-            right += isLaidOutInPoints_ ? geometry(screen).width() : screen.pixels.width();
-    }
-    if (isChanged)
-        screens.apply(all);
-    return isChanged;
 }
 
 } // namespace brellowind::test

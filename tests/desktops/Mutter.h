@@ -9,11 +9,9 @@
 namespace brellowind::test {
 
 class MutterRemote;
-struct MutterScreen;
 
-/// mutter, GNOME's compositor, without the shell and animations. One screen can be added; there is
-/// no layer shell. The layout is in pixels at integer scales, as with GNOME, else in points, which
-/// is decided at the start.
+/// mutter, GNOME's compositor, without the shell and animations. There is no layer shell. The
+/// layout is in pixels and the scale an integer, as with GNOME.
 class Mutter : public Compositor {
 public:
     explicit Mutter(const CompositorOptions& options);
@@ -25,12 +23,8 @@ public:
     void movePointerBy(QPointF distance) override;
     void button(int code, Stroke stroke) override;
     void key(int code, Stroke stroke) override;
-    bool tap(QPointF place) override;
     QList<CompositorScreen> screens() const override;
     void setScale(double scale) override;
-    bool setScreensOn(bool on) override;
-    QString addScreen() override;
-    bool removeScreen(const QString& name) override;
 
 private:
     struct Pixel {
@@ -45,10 +39,7 @@ private:
     void tellXClients(double scale);
 
     Pixel pixelAt(QPointF place) const;
-    QRect geometry(const MutterScreen& screen) const;
-    bool setEnabled(const QString& name, bool isEnabled);
 
-    bool isLaidOutInPoints_;
     std::unique_ptr<demo::Companion> pipewire_;
     std::unique_ptr<demo::Companion> wireplumber_;
     std::unique_ptr<MutterRemote> remote_;

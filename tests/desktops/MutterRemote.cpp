@@ -48,12 +48,6 @@ void MutterRemote::key(int code, Stroke stroke) {
     act("NotifyKeyboardKeycode", {static_cast<uint>(code), stroke == Stroke::down});
 }
 
-void MutterRemote::tap(const QString& screen, QPointF pixel) {
-    constexpr uint finger = 0;
-    act("NotifyTouchDown", {stream(screen), finger, pixel.x(), pixel.y()});
-    act("NotifyTouchUp", {finger});
-}
-
 QString MutterRemote::stream(const QString& screen) {
     QString& stream = streams_[screen];
     if (stream.isEmpty())

@@ -20,12 +20,11 @@ public:
     /// Moves to a pixel of a screen.
     void movePointerTo(const QString& screen, QPointF pixel);
 
-    /// In the units of the layout.
+    /// In pixels.
     void movePointerBy(QPointF distance);
 
     void button(int code, Stroke stroke);
     void key(int code, Stroke stroke);
-    void tap(const QString& screen, QPointF pixel);
 
 private:
     QString stream(const QString& screen);

@@ -59,7 +59,6 @@ void readLogicalMonitor(const QDBusArgument& from, QList<MutterScreen>& screens)
             if (screen.name == connector) {
                 screen.position = position;
                 screen.scale = scale;
-                screen.isEnabled = true;
             }
     }
     from.endArray();
@@ -91,14 +90,13 @@ QList<MutterScreen> MutterScreens::all() {
 void MutterScreens::apply(const QList<MutterScreen>& screens) {
     QStringList logicalMonitors;
     for (const auto& screen : screens)
-        if (screen.isEnabled)
-            logicalMonitors.append(QStringLiteral("(%1, %2, %3, 0, %4, [('%5', '%6', {})])")
-                                       .arg(screen.position.x())
-                                       .arg(screen.position.y())
-                                       .arg(screen.scale, 0, 'f', 6)
-                                       .arg(logicalMonitors.isEmpty() ? QStringLiteral("true")
-                                                                      : QStringLiteral("false"))
-                                       .arg(screen.name, screen.mode));
+        logicalMonitors.append(
+            QStringLiteral("(%1, %2, %3, 0, %4, [('%5', '%6', {})])")
+                .arg(screen.position.x())
+                .arg(screen.position.y())
+                .arg(screen.scale, 0, 'f', 6)
+                .arg(logicalMonitors.isEmpty() ? QStringLiteral("true") : QStringLiteral("false"))
+                .arg(screen.name, screen.mode));
     session_.run(QStringLiteral("gdbus"),
                  {QStringLiteral("call"), QStringLiteral("--session"), QStringLiteral("--dest"),
                   service, QStringLiteral("--object-path"), path, QStringLiteral("--method"),
@@ -106,15 +104,6 @@ void MutterScreens::apply(const QList<MutterScreen>& screens) {
                   QStringLiteral("1"),
                   QStringLiteral("[%1]").arg(logicalMonitors.join(QLatin1Char(','))),
                   QStringLiteral("{}")});
-}
-
-void MutterScreens::setPower(bool on) {
-    session_.run(QStringLiteral("gdbus"),
-                 {QStringLiteral("call"), QStringLiteral("--session"), QStringLiteral("--dest"),
-                  service, QStringLiteral("--object-path"), path, QStringLiteral("--method"),
-                  QStringLiteral("org.freedesktop.DBus.Properties.Set"), service,
-                  QStringLiteral("PowerSaveMode"),
-                  on ? QStringLiteral("<0>") : QStringLiteral("<3>")});
 }
 
 } // namespace brellowind::test

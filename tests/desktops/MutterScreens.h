@@ -10,14 +10,13 @@
 
 namespace brellowind::test {
 
-/// A screen of mutter, enabled or not.
+/// A screen of mutter.
 struct MutterScreen {
     QString name;
     QString mode;
     QSize pixels;
-    QPoint position; ///< in the units of the layout
+    QPoint position; ///< in pixels
     double scale = 1;
-    bool isEnabled = false;
 };
 
 /// The screens of mutter over its bus interface.
@@ -30,8 +29,6 @@ public:
 
     /// Applies the configuration `screens`.
     void apply(const QList<MutterScreen>& screens);
-
-    void setPower(bool on);
 
 private:
     const UserSession& session_;

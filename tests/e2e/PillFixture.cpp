@@ -55,14 +55,12 @@ void PillOnDesktop::leavePill() {
     EXPECT_TRUE(program->comesToRest());
 }
 
-QPoint PillOnDesktop::openMenu() {
+void PillOnDesktop::openMenu() {
     EXPECT_TRUE(program->comesToRest()); // it may only just have started
     enterPill();
-    const QPoint place = middleOf("pill");
-    person.pressAt(place, Person::secondary);
+    person.pressAt(middleOf("pill"), Person::secondary);
     EXPECT_TRUE(waitUntil([&] { return program->menu() != 0; }));
     EXPECT_TRUE(waitUntil([&] { return x.isViewable(program->menu()); }));
-    return place;
 }
 
 QPoint PillOnDesktop::middleOfEntry(const char* text) {

@@ -39,8 +39,8 @@ protected:
     /// Moves the pointer away and waits until the pill is lowered.
     void leavePill();
 
-    /// Opens the context menu in the middle of the pill and returns that position.
-    QPoint openMenu();
+    /// Opens the context menu in the middle of the pill.
+    void openMenu();
 
     /// The middle of an entry of the open context menu on the screen, in pixels.
     QPoint middleOfEntry(const char* text);

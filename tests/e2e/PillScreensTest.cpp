@@ -23,11 +23,6 @@ protected:
     Monitors monitors{desktop.xServer.display()};
 };
 
-TEST_F(PillScreens, HangsInTheMiddleOfThePrimaryOne) {
-    start();
-    EXPECT_TRUE(hangsAt({380, 0, 640, 540}));
-}
-
 TEST_F(PillScreens, GoesToTheMiddleOfTheWholeOnceItIsNotDivided) {
     start();
     ASSERT_TRUE(hangsAt({380, 0, 640, 540}));

@@ -184,16 +184,5 @@ TEST_F(PillText, GoesOnSingingWhileThePlayerHangsAndFollowsItAgainAfterwards) {
     EXPECT_TRUE(program.shows(QStringLiteral("far")));
 }
 
-TEST_F(PillText, AsksThePlayerOnceASecond) {
-    PlayerProcess player(desktop.bus.connection());
-    play(player, "Song");
-    ASSERT_TRUE(program.shows(QStringLiteral("Song")));
-    const unsigned before = player.requests();
-    runFor(milliseconds(4500));
-    const unsigned asked = player.requests() - before;
-    EXPECT_GE(asked, 4U);
-    EXPECT_LE(asked, 5U);
-}
-
 } // namespace
 } // namespace brellowind::test

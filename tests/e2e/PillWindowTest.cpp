@@ -30,47 +30,6 @@ TEST_F(PillWindow, BelongsToNoWindowManagerAndTakesNoFocus) {
     EXPECT_EQ(x.focus(), other.id());
 }
 
-TEST_F(PillWindow, StandsAboveAFullScreenWindowThatWasThereBefore) {
-    below();
-    start();
-    EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), below().id()); }));
-}
-
-TEST_F(PillWindow, ComesBackAboveAFullScreenWindowThatComesLater) {
-    start();
-    below();
-    EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), below().id()); }));
-}
-
-TEST_F(PillWindow, ComesBackAboveAWindowThatBypassesTheWindowManager) {
-    start();
-    const PlainWindow panel(desktop.xServer.display(), {0, 0, 1440, 30},
-                            PlainWindow::Kind::unmanaged);
-    EXPECT_TRUE(waitUntil([&] { return x.isAbove(program->window(), panel.id()); }));
-}
-
-TEST_F(PillWindow, IsNotShownWhileTheScreenSaverIsActive) {
-    start();
-    x.setScreenSaverActive(true);
-    EXPECT_TRUE(waitUntil([&] { return !x.isViewable(program->window()); }));
-    x.setScreenSaverActive(false);
-    EXPECT_TRUE(waitUntil([&] { return x.isViewable(program->window()); }));
-    EXPECT_EQ(x.geometry(program->window()), QRect(400, 0, 640, 540));
-}
-
-TEST_F(PillWindow, ShowsWhatLiesBesideThePillWithoutACompositingManager) {
-    const QColor desktopColour = x.pixel({450, 300});
-    startSinging();
-    const QRectF pill = program->rectangle("pill");
-    const QPoint inside(700, 3);
-    EXPECT_TRUE(waitUntil([&] { return x.pixel(inside) == Qt::black; }));
-    below();
-    const QPoint beside(400 + int(pill.left()) - 20, 20);
-    EXPECT_TRUE(waitUntil([&] { return x.pixel(beside) == PlainWindow::colour(); }))
-        << qPrintable(x.pixel(beside).name()) << ", before " << qPrintable(desktopColour.name());
-    EXPECT_EQ(x.pixel(inside), QColor(Qt::black));
-}
-
 class PillWindowOnANarrowScreen : public PillWindow {
 protected:
     PillWindowOnANarrowScreen() : PillWindow(QStringLiteral("600x800x24")) {}
@@ -102,16 +61,6 @@ class PillWindowUnderACompositingManager : public PillWindow {
 protected:
     CompositingManager compositingManager{x};
 };
-
-TEST_F(PillWindowUnderACompositingManager, IsTransparentBesideThePill) {
-    below();
-    startSinging();
-    const QRectF pill = program->rectangle("pill");
-    EXPECT_TRUE(waitUntil([&] { return x.pixel({700, 3}) == Qt::black; }));
-    const QPoint beside(400 + int(pill.left()) - 20, 20);
-    EXPECT_TRUE(waitUntil([&] { return x.pixel(beside) == PlainWindow::colour(); }))
-        << qPrintable(x.pixel(beside).name());
-}
 
 TEST_F(PillWindowUnderACompositingManager, CastsAShadowWhileItIsLifted) {
     below();

@@ -4,7 +4,6 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <utility>
 
 namespace brellowind::test {
 
@@ -20,15 +19,7 @@ QByteArray Feed::release(const QString& version, const QString& url) {
 
 void Feed::answer(const demo::Exchange& exchange) {
     ++requests_;
-    if (held_)
-        waiting_.append(exchange);
-    else
-        exchange.respond(status, body);
-}
-
-void Feed::release() {
-    held_ = false;
-    for (const auto& exchange : std::exchange(waiting_, {}))
+    if (!held_)
         exchange.respond(status, body);
 }
 

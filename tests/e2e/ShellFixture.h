@@ -4,8 +4,6 @@
 
 #include "e2e/PillFixture.h"
 
-#include <QList>
-
 namespace brellowind::test {
 
 /// The release feed: its answers, and the number of requests.
@@ -19,9 +17,8 @@ public:
 
     void answer(const demo::Exchange& exchange);
 
-    /// Holds all requests until they are released.
+    /// Leaves all requests from now on unanswered.
     void hold() { held_ = true; }
-    void release();
 
     int requests() const { return requests_; }
 
@@ -32,7 +29,6 @@ public:
 private:
     int requests_ = 0;
     bool held_ = false;
-    QList<demo::Exchange> waiting_;
 };
 
 /// The program on a desktop with a window manager and a feed, and a simulated user of its settings.

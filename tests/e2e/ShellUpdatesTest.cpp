@@ -48,29 +48,6 @@ protected:
     }
 };
 
-TEST_F(ShellUpdates, SaysCheckingAndTakesNoPressUntilTheAnswerIsThere) {
-    feed.hold();
-    startWithSettings();
-    ASSERT_TRUE(settings().shows(QStringLiteral("Checking…")));
-    EXPECT_TRUE(settings().texts().contains(QStringLiteral("Checking for updates")));
-    EXPECT_FALSE(settings().property("Checking…", "enabled").toBool());
-    press("Checking…");
-    feed.release();
-    EXPECT_TRUE(settings().shows(QStringLiteral("Check update")));
-    EXPECT_EQ(feed.requests(), 1);
-}
-
-TEST_F(ShellUpdates, SaysThatItIsUpToDate) {
-    feed.hold();
-    startWithSettings();
-    ASSERT_TRUE(settings().shows(QStringLiteral("Checking…")));
-    feed.release();
-    EXPECT_TRUE(settings().shows(QStringLiteral("Up to date")));
-    EXPECT_TRUE(showsVersion());
-    press("Check update");
-    EXPECT_TRUE(checksBecome(2));
-}
-
 TEST_F(ShellUpdates, SaysThatACheckFailedAndTriesAgain) {
     feed.status = 404;
     feed.body = "<html>Not found</html>";
@@ -97,26 +74,6 @@ TEST_F(ShellUpdates, DownloadOpensExactlyTheAddressOfTheRelease) {
     EXPECT_EQ(opener.opened(), u'<' + address + u'>');
     EXPECT_TRUE(settings().texts().contains(QStringLiteral("Update Available")));
     EXPECT_EQ(feed.requests(), 1);
-}
-
-TEST_F(ShellUpdates, StartsOneCheckEachTimeGeneralAppears) {
-    startWithSettings();
-    ASSERT_TRUE(settings().shows(QStringLiteral("Check update")));
-    EXPECT_TRUE(checksBecome(1));
-    press("About");
-    ASSERT_TRUE(settings().shows(QStringLiteral("Visit our website")));
-    feed.hold();
-    press("General");
-    EXPECT_TRUE(settings().shows(QStringLiteral("Checking…")));
-    feed.release();
-    ASSERT_TRUE(settings().shows(QStringLiteral("Check update")));
-    EXPECT_TRUE(checksBecome(2));
-    person.pressEscape();
-    ASSERT_TRUE(settingsAreGone());
-    choose("Open Settings");
-    EXPECT_TRUE(checksBecome(3));
-    EXPECT_TRUE(settings().shows(QStringLiteral("Check update")));
-    EXPECT_TRUE(checksBecome(3));
 }
 
 TEST_F(ShellUpdates, ThePillsMenuOpensSettingsAndChecksBesideTheAppearance) {

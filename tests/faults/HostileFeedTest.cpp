@@ -16,7 +16,6 @@
 namespace brellowind {
 namespace {
 
-using namespace std::chrono_literals;
 using Case = UpdateState::Case;
 using demo::Exchange;
 using test::HostileServer;
@@ -60,7 +59,6 @@ bool isControl(char character) {
 
 TEST_P(HostileFeed, EndsInItsStateWithOneLineWhenItFailedAndTheNextCheckIsWell) {
     LoopWatch loop;
-    machine.http.patience = 500ms;
     testing::internal::CaptureStderr();
     const Case state = check();
     const auto log = QByteArray::fromStdString(testing::internal::GetCapturedStderr());
@@ -74,23 +72,14 @@ TEST_P(HostileFeed, EndsInItsStateWithOneLineWhenItFailedAndTheNextCheckIsWell) 
         EXPECT_TRUE(log.isEmpty()) << log.constData();
     }
     isHostile = false;
-    machine.http.patience = 60s;
     EXPECT_EQ(check(), Case::available);
 }
 
-Row body(const char* name, Case state, const QByteArray& bytes, int status = 200) {
-    return {name, state,
-            [=](const Exchange& exchange) { exchange.respond(status, bytes, "text/html"); }};
+Row body(const char* name, Case state, const QByteArray& bytes) {
+    return {name, state, [bytes](const Exchange& exchange) { exchange.respond(200, bytes); }};
 }
 
 const std::vector<Row> rows{
-    {"Dropped", Case::failed, [](const Exchange& e) { e.drop(); }},
-    {"NeverAnswered", Case::failed, [](const Exchange&) {}},
-    {"Dripping", Case::failed,
-     [](const Exchange& e) {
-         hostile::begin(e, "Content-Length: 1000000\r\n");
-         hostile::drip(e, ' ');
-     }},
     {"CutOff", Case::failed,
      [](const Exchange& e) { hostile::answer(e, "Content-Length: 1000\r\n", goodFeed); }},
     {"CutOffErrorPageWithAStrangePhrase", Case::failed,
@@ -103,7 +92,6 @@ const std::vector<Row> rows{
          e.send("HTTP/1.1 302 " + QByteArray(100'000, 'x') + "\x1B[2J\r\n\r\n");
          e.connection->disconnectFromHost();
      }},
-    {"RedirectLoop", Case::failed, [](const Exchange& e) { hostile::redirect(e, "/latest.json"); }},
     {"RedirectToAStrangePlace", Case::failed,
      [](const Exchange& e) { hostile::redirect(e, "strange:\x1B[2J%0Aplace"); }},
     {"CompressedInAWayNeverAskedFor", Case::failed,
@@ -115,18 +103,7 @@ const std::vector<Row> rows{
          hostile::begin(e, {});
          hostile::pour(e, QByteArray(1'000'000, ' '));
      }},
-    body("Empty", Case::failed, {}),
-    body("ErrorPage", Case::failed, "<html>\x1B[2J</html>", 404),
-    body("FeedThatComesWithAnError", Case::available, goodFeed, 500),
-    body("InvalidUtf8", Case::failed, "{\"version\":\"\xff\",\"url\":\"https://a.invalid/\"}"),
     body("NestedDeeply", Case::failed, QByteArray("[").repeated(100'000)),
-    body("List", Case::failed, "[" + goodFeed + "]"),
-    body("VersionIsANumber", Case::failed, R"({"version":99,"url":"https://a.invalid/"})"),
-    body("AddressIsAList", Case::failed, R"({"version":"99","url":["https://a.invalid/"]})"),
-    body("AddressIsNone", Case::failed, R"({"version":"99","url":"not an address"})"),
-    body("NotesAreANumber", Case::failed,
-         R"({"version":"99","url":"https://a.invalid/","notes":1})"),
-    body("EmptyVersion", Case::upToDate, R"({"version":"","url":"https://a.invalid/"})"),
     body("VersionOfAHundredThousandDigits", Case::available,
          R"({"version":")" + QByteArray(100'000, '9') + R"(","url":"https://a.invalid/"})"),
 };

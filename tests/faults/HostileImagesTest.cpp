@@ -11,8 +11,11 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <chrono>
+#include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace brellowind {
@@ -59,21 +62,31 @@ QByteArray animation() {
            frame + ';';
 }
 
+QByteArray png() {
+    return picture("png");
+}
+
+QByteArray webp() {
+    return picture("webp");
+}
+
 struct Row {
     const char* name;
     bool shown;
-    HostileServer::Handler handler;
+    std::function<QByteArray()> bytes; ///< made by the one test that needs them
+    std::function<void(const Exchange&, const QByteArray& bytes)> answer;
+    std::chrono::milliseconds patience = 60s;
 
     friend void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 };
 
 class HostileImage : public testing::TestWithParam<Row> {
 protected:
-    HostileServer server{[good = picture("png")](const Exchange& exchange) {
+    HostileServer server{[good = png(), bytes = GetParam().bytes()](const Exchange& exchange) {
         if (exchange.path == "/good")
             exchange.respond(200, good, "image/png");
         else
-            GetParam().handler(exchange);
+            GetParam().answer(exchange, bytes);
     }};
     platform::QtImageDecoder decoder;
     test::NetworkMachine machine{server.origin()};
@@ -90,7 +103,7 @@ protected:
 };
 
 TEST_P(HostileImage, IsShownOrLeftAloneWithinItsMemoryAndTheNextIsShown) {
-    machine.http.patience = 500ms;
+    machine.http.patience = GetParam().patience;
     const ProcessUse use;
     use.forgetPeakMemory();
     const qint64 before = use.peakMemoryKiB();
@@ -100,72 +113,73 @@ TEST_P(HostileImage, IsShownOrLeftAloneWithinItsMemoryAndTheNextIsShown) {
     EXPECT_TRUE(shows("/good"));
 }
 
-Row file(const char* name, bool shown, const QByteArray& bytes,
+Row file(const char* name, bool shown, std::function<QByteArray()> bytes,
          const QByteArray& type = "image/png") {
-    return {name, shown, [=](const Exchange& exchange) { exchange.respond(200, bytes, type); }};
+    return {name, shown, std::move(bytes),
+            [type](const Exchange& e, const QByteArray& sent) { e.respond(200, sent, type); }};
 }
 
-const std::vector<Row>& rows() {
-    static const QByteArray png = picture("png");
-    static const QByteArray webp = picture("webp");
-    static const std::vector<Row> all{
-        file("ZeroBytes", false, {}),
-        file("TruncatedPng", false, png.left(60)),
-        file("TruncatedWebp", false, picture("webp").left(40), "image/webp"),
-        file("TruncatedJpegInItsHead", false, picture("jpeg").left(100), "image/jpeg"),
-        file("OfAnotherContentType", true, png, "text/html"),
-        file("SixteenBits", true, picture("png", 100, QImage::Format_RGBA64)),
-        file("SixteenBitsBeyondTheLimit", false, picture("png", 2900, QImage::Format_RGBA64)),
-        file("PixelsUpToTheLimit", true, picture("png", 4096, QImage::Format_Mono)),
-        file("PixelsBeyondTheLimit", false, picture("png", 4097, QImage::Format_Mono)),
-        file("PixelsFarBeyondTheLimit", false, picture("png", 9'000, QImage::Format_Mono)),
-        file("ColoursOfAPrinter", true, printedPicture(), "image/jpeg"),
-        file("Animation", false, animation(), "image/gif"),
-        file("AnimatedPng", true, hostile::animatedPng(png, {100, 100}, 1000)),
-        file("AnimatedWebp", true, hostile::animatedWebp(webp, {100, 100}, 1000, {100, 100}),
-             "image/webp"),
-        file("AnimatedWebpUpToTheLimit", true,
-             hostile::animatedWebp(webp, {100, 100}, 2, {2896, 2896}), "image/webp"),
-        file("AnimatedWebpBeyondTheLimit", false,
-             hostile::animatedWebp(webp, {100, 100}, 2, {2897, 2897}), "image/webp"),
-        file("AnimatedWebpOfOneFrameBeyondTheLimit", false,
-             hostile::animatedWebp(webp, {100, 100}, 1, {4096, 4096}), "image/webp"),
-        file("AnimatedWebpWithoutFrames", false,
-             hostile::animatedWebp(webp, {100, 100}, 0, {100, 100}), "image/webp"),
-        file("Svg", false,
-             R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"><rect/></svg>)",
-             "image/svg+xml"),
-        file("Html", false, "<!DOCTYPE html><title>Not found</title>", "image/png"),
-        file("Bitmap", false, picture("bmp")),
-        {"ErrorPageThatIsAnImage", true,
-         [](const Exchange& e) { e.respond(404, png, "image/png"); }},
-        {"LongerThanSixteenMebibytes", false,
-         [](const Exchange& e) {
-             hostile::begin(e, "Content-Type: image/png\r\n", png);
-             hostile::pour(e, QByteArray(1'000'000, '\0'));
-         }},
-        {"CutOffByTheServer", false,
-         [](const Exchange& e) { hostile::answer(e, "Content-Length: 100000\r\n", png); }},
-        {"TooSlow", false,
-         [](const Exchange& e) {
-             hostile::begin(e, "Content-Length: 100000\r\n", png);
-             hostile::drip(e, '\0');
-         }},
-        {"BrotliBomb", false,
-         [](const Exchange& e) {
-             hostile::answer(e, "Content-Encoding: br\r\n", hostile::brotliBomb());
-         }},
-        {"SaidToBeCompressed", false,
-         [](const Exchange& e) { hostile::answer(e, "Content-Encoding: gzip\r\n", png); }},
-        {"Redirected", true, [](const Exchange& e) { hostile::redirect(e, "/good"); }},
-        {"RedirectedForEver", false, [](const Exchange& e) { hostile::redirect(e, "/hostile"); }},
-        {"RedirectedToAFile", false,
-         [](const Exchange& e) { hostile::redirect(e, "file:///usr/share/pixmaps/x.png"); }},
-    };
-    return all;
+Row redirect(const char* name, bool shown, const QByteArray& location) {
+    return {name, shown, png,
+            [location](const Exchange& e, const QByteArray&) { hostile::redirect(e, location); }};
 }
 
-INSTANTIATE_TEST_SUITE_P(Answer, HostileImage, testing::ValuesIn(rows()),
+std::function<QByteArray()> animated(int frames, int side) {
+    return [=] { return hostile::animatedWebp(webp(), {100, 100}, frames, {side, side}); };
+}
+
+const std::vector<Row> rows{
+    file(
+        "TruncatedJpegInItsHead", false, [] { return picture("jpeg").left(100); }, "image/jpeg"),
+    file("OfAnotherContentType", true, png, "text/html"),
+    file("SixteenBitsBeyondTheLimit", false,
+         [] { return picture("png", 2900, QImage::Format_RGBA64); }),
+    file("PixelsUpToTheLimit", true, [] { return picture("png", 4096, QImage::Format_Mono); }),
+    file("PixelsBeyondTheLimit", false, [] { return picture("png", 4097, QImage::Format_Mono); }),
+    file("PixelsFarBeyondTheLimit", false,
+         [] { return picture("png", 9'000, QImage::Format_Mono); }),
+    file("ColoursOfAPrinter", true, printedPicture, "image/jpeg"),
+    file("Animation", false, animation, "image/gif"),
+    file("AnimatedPng", true,
+         [] {
+             return hostile::animatedPng(png(), {100, 100}, 1000);
+         }),
+    file("AnimatedWebp", true, animated(1000, 100), "image/webp"),
+    file("AnimatedWebpUpToTheLimit", true, animated(2, 2896), "image/webp"),
+    file("AnimatedWebpBeyondTheLimit", false, animated(2, 2897), "image/webp"),
+    file("AnimatedWebpOfOneFrameBeyondTheLimit", false, animated(1, 4096), "image/webp"),
+    file("AnimatedWebpWithoutFrames", false, animated(0, 100), "image/webp"),
+    {"ErrorPageThatIsAnImage", true, png,
+     [](const Exchange& e, const QByteArray& sent) { e.respond(404, sent, "image/png"); }},
+    {"LongerThanSixteenMebibytes", false, png,
+     [](const Exchange& e, const QByteArray& sent) {
+         hostile::begin(e, "Content-Type: image/png\r\n", sent);
+         hostile::pour(e, QByteArray(1'000'000, '\0'));
+     }},
+    {"CutOffByTheServer", false, png,
+     [](const Exchange& e, const QByteArray& sent) {
+         hostile::answer(e, "Content-Length: 100000\r\n", sent);
+     }},
+    {"TooSlow", false, png,
+     [](const Exchange& e, const QByteArray& sent) {
+         hostile::begin(e, "Content-Length: 100000\r\n", sent);
+         hostile::drip(e, '\0');
+     },
+     150ms},
+    {"BrotliBomb", false, hostile::brotliBomb,
+     [](const Exchange& e, const QByteArray& sent) {
+         hostile::answer(e, "Content-Encoding: br\r\n", sent);
+     }},
+    {"SaidToBeCompressed", false, png,
+     [](const Exchange& e, const QByteArray& sent) {
+         hostile::answer(e, "Content-Encoding: gzip\r\n", sent);
+     }},
+    redirect("Redirected", true, "/good"),
+    redirect("RedirectedForEver", false, "/hostile"),
+    redirect("RedirectedToAFile", false, "file:///usr/share/pixmaps/x.png"),
+};
+
+INSTANTIATE_TEST_SUITE_P(Answer, HostileImage, testing::ValuesIn(rows),
                          [](const auto& parameter) { return std::string(parameter.param.name); });
 
 } // namespace

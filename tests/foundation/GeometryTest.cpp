@@ -61,21 +61,5 @@ TEST(Rect, ContainsNothingWhenANumberIsNotOne) {
     EXPECT_FALSE((Rect{10, nan, 30, 40}.contains({10, 20})));
 }
 
-TEST(Rect, ComparesEveryNumber) {
-    const Rect rect{1, 2, 3, 4};
-    EXPECT_EQ(rect, (Rect{1, 2, 3, 4}));
-    EXPECT_NE(rect, (Rect{9, 2, 3, 4}));
-    EXPECT_NE(rect, (Rect{1, 9, 3, 4}));
-    EXPECT_NE(rect, (Rect{1, 2, 9, 4}));
-    EXPECT_NE(rect, (Rect{1, 2, 3, 9}));
-}
-
-TEST(Geometry, IsKnownAtCompileTime) {
-    static_assert(Rect{0, 0, 10, 10}.contains({0, 0}));
-    static_assert(Rect{0, 0, 10, 20}.midY() == 10);
-    static_assert(Point{1, 2} != Point{2, 1});
-    static_assert(Size{1, 2} != Size{2, 1});
-}
-
 } // namespace
 } // namespace brellowind

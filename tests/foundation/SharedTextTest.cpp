@@ -14,12 +14,6 @@ TEST(SharedText, ComparesByItsBytes) {
     EXPECT_EQ(SharedText(), "");
 }
 
-TEST(SharedText, CopiesShareTheBytes) {
-    const SharedText original("a text that is long enough to need memory of its own");
-    const SharedText copy = original; // NOLINT(performance-unnecessary-copy-initialization)
-    EXPECT_EQ(copy.view().data(), original.view().data());
-}
-
 TEST(SharedText, OutlivesTheStringItWasCutFrom) {
     auto whole = std::make_shared<const std::string>("one two");
     const SharedText text(whole, std::string_view(*whole).substr(4));

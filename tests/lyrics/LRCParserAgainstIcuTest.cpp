@@ -4,11 +4,9 @@
 #include "lyrics/PatternParser.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
-#include <unicode/uchar.h>
 #include <vector>
 
 // Compares the hand-written parser with a regular expression on generated texts.
@@ -172,27 +170,6 @@ TEST(LRCParserAgainstIcu, ReadsEveryTimeAlike) {
                                   "." + std::to_string(fraction) + "]";
                 ASSERT_EQ(parsed(text), reference.parse(icu::UnicodeString::fromUTF8(text)));
             }
-}
-
-/// Whether Unicode 15 knows `character`, as the parser does: a newer engine knows more.
-bool isKnown(char32_t character) {
-    UVersionInfo age;
-    u_charAge(static_cast<UChar32>(character), age);
-    return age[0] <= 15;
-}
-
-TEST(LRCParserAgainstIcu, AgreesOnWhichCharactersAreDigitsAndSpaces) {
-    const PatternParser reference;
-    for (char32_t character = 1; character <= 0x10FFFF; ++character) {
-        if ((character >= 0xD800 && character <= 0xDFFF) || !isKnown(character))
-            continue;
-        const auto text = utf16(std::u32string(U"[00:0") + character + U"]\n[00:02]" + character +
-                                U"x" + character);
-        std::string bytes;
-        text.toUTF8String(bytes);
-        if (parsed(bytes) != reference.parse(text))
-            ADD_FAILURE() << "U+" << std::hex << static_cast<std::uint32_t>(character);
-    }
 }
 
 } // namespace

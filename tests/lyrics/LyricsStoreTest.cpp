@@ -328,6 +328,20 @@ TEST(LyricsStoreActiveIndex, AgreesWithAScanFromTheFront) {
     }
 }
 
+TEST(LyricsStoreActiveIndex, IsFoundAmongAMillionLinesAHundredThousandTimes) {
+    constexpr std::size_t count = 1'000'000;
+    std::string lrc;
+    for (std::size_t i = 0; i < count; ++i)
+        lrc += "[0:0]";
+    Store store;
+    store.loadAnswered(track("A"), synced(lrc));
+    ASSERT_EQ(store.lyrics->lines().size(), count);
+    for (int i = 0; i < 50'000; ++i) { // with a scan from either end this would take minutes
+        ASSERT_EQ(store.lyrics->activeIndex(-1), std::nullopt);
+        ASSERT_EQ(store.lyrics->activeIndex(0), count - 1);
+    }
+}
+
 TEST(LyricsStoreActiveIndex, IsAbsentInEveryStateWithoutLines) {
     Store store;
     const auto expectNone = [&](Case which) {

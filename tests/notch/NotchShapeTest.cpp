@@ -127,12 +127,5 @@ TEST(NotchShape, WithoutRoomForItsFlareContainsNothing) {
     EXPECT_FALSE(NotchShape(8, 12).contains({0, 0, 280, 6}, {100, 1, 10, 1}));
 }
 
-TEST(NotchShape, TakesItsRadiiInTheOrderTopThenBottom) {
-    const NotchShape shape(8, 12);
-    EXPECT_EQ(shape.topRadius, 8);
-    EXPECT_EQ(shape.bottomRadius, 12);
-    EXPECT_NE(shape, NotchShape(12, 8));
-}
-
 } // namespace
 } // namespace brellowind

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <ostream>
 #include <random>
 #include <string>
@@ -21,40 +22,57 @@ struct Pair {
     }
 };
 
-class VersionOrderTable : public testing::TestWithParam<Pair> {};
-
-TEST_P(VersionOrderTable, HoldsOneWayOnly) {
-    EXPECT_TRUE(isNewer(GetParam().newer, GetParam().older));
-    EXPECT_FALSE(isNewer(GetParam().older, GetParam().newer));
+void expectEachHoldsOneWayOnly(std::initializer_list<Pair> pairs) {
+    for (const auto& pair : pairs) {
+        EXPECT_TRUE(isNewer(pair.newer, pair.older)) << pair;
+        EXPECT_FALSE(isNewer(pair.older, pair.newer)) << pair;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(NumbersByValue, VersionOrderTable,
-                         testing::Values(Pair{"1.10", "1.9"}, Pair{"2.0", "1.99"},
-                                         Pair{"1.10", "1.2"}, Pair{"10", "9"},
-                                         Pair{"1.2-rc10", "1.2-rc9"}, Pair{"1.010", "1.9"},
-                                         Pair{"1.3", "1.2"}, Pair{"1", "0"}, Pair{"1", "000"},
-                                         Pair{"18446744073709551616", "18446744073709551615"},
-                                         Pair{"1.100000000000000000000000000000000000000002",
-                                              "1.100000000000000000000000000000000000000001"},
-                                         Pair{"1.100000000000000000000000000000000000000000",
-                                              "1.99999999999999999999999999999999999999999"}));
+TEST(VersionOrder, ComparesNumbersByValue) {
+    expectEachHoldsOneWayOnly({{"1.10", "1.9"},
+                               {"2.0", "1.99"},
+                               {"1.10", "1.2"},
+                               {"10", "9"},
+                               {"1.2-rc10", "1.2-rc9"},
+                               {"1.010", "1.9"},
+                               {"1.3", "1.2"},
+                               {"1", "0"},
+                               {"1", "000"},
+                               {"18446744073709551616", "18446744073709551615"},
+                               {"1.100000000000000000000000000000000000000002",
+                                "1.100000000000000000000000000000000000000001"},
+                               {"1.100000000000000000000000000000000000000000",
+                                "1.99999999999999999999999999999999999999999"}});
+}
 
-INSTANTIATE_TEST_SUITE_P(PrefixesFirst, VersionOrderTable,
-                         testing::Values(Pair{"1.2.1", "1.2"}, Pair{"1.2.0", "1.2"},
-                                         Pair{"1.2b", "1.2"}, Pair{"1.20", "1.2"},
-                                         Pair{"1.2-beta", "1.2"}, Pair{"0", ""}, Pair{"a", ""},
-                                         Pair{"00", "0"}));
+TEST(VersionOrder, PutsAPrefixFirst) {
+    expectEachHoldsOneWayOnly({{"1.2.1", "1.2"},
+                               {"1.2.0", "1.2"},
+                               {"1.2b", "1.2"},
+                               {"1.20", "1.2"},
+                               {"1.2-beta", "1.2"},
+                               {"0", ""},
+                               {"a", ""},
+                               {"00", "0"}});
+}
 
-INSTANTIATE_TEST_SUITE_P(CharactersByCodePoint, VersionOrderTable,
-                         testing::Values(Pair{"v1.0", "9.9"}, Pair{"v1.0", "0"}, Pair{"1.b", "1.a"},
-                                         Pair{"a", "B"}, Pair{"1:", "1.5"}, Pair{"1.5", "1-5"},
-                                         Pair{"1é", "1z"}, Pair{"1é", "1.5"},
-                                         Pair{"1\U0001F3B5", "1\uFFFD"}));
+TEST(VersionOrder, ComparesCharactersByCodePoint) {
+    expectEachHoldsOneWayOnly({{"v1.0", "9.9"},
+                               {"v1.0", "0"},
+                               {"1.b", "1.a"},
+                               {"a", "B"},
+                               {"1:", "1.5"},
+                               {"1.5", "1-5"},
+                               {"1é", "1z"},
+                               {"1é", "1.5"},
+                               {"1\U0001F3B5", "1\uFFFD"}});
+}
 
-INSTANTIATE_TEST_SUITE_P(DifferentSpellingsOfOneNumberConsistently, VersionOrderTable,
-                         testing::Values(Pair{"02", "2"}, Pair{"1.002", "1.02"},
-                                         Pair{"2.01", "02.1"}, Pair{"02.3", "2.2"},
-                                         Pair{"2.3", "02.2"}));
+TEST(VersionOrder, OrdersDifferentSpellingsOfOneNumberConsistently) {
+    expectEachHoldsOneWayOnly(
+        {{"02", "2"}, {"1.002", "1.02"}, {"2.01", "02.1"}, {"02.3", "2.2"}, {"2.3", "02.2"}});
+}
 
 TEST(VersionOrder, EqualTextsAreNotNewer) {
     for (const auto* text : {"", "0", "1.2", "1.2.0", "v1.2-beta", "02", "♪"})

@@ -29,10 +29,5 @@ TEST(Growth, IgnoresSinglePeaks) {
     EXPECT_EQ(growth(samples).amount(), 0);
 }
 
-TEST(Growth, TellsAShrinkingFromAGrowing) {
-    const std::vector<double> samples{9, 8, 7, 6, 5};
-    EXPECT_EQ(growth(samples).amount(), -3);
-}
-
 } // namespace
 } // namespace brellowind::test

@@ -98,11 +98,11 @@ inline std::uint64_t numberFromEnvironment(const char* name, std::uint64_t other
 }
 
 /// Fails the test with the shortest sequence on which program and model disagree. Runs the seeds 1
-/// to 100,000; the variables BRELLOWIND_SEED and BRELLOWIND_SEQUENCES choose others.
+/// to 10,000; the variables BRELLOWIND_SEED and BRELLOWIND_SEQUENCES choose others.
 template <typename Step>
 void expectAgreement(const Experiment<Step>& experiment) {
     const auto firstSeed = numberFromEnvironment("BRELLOWIND_SEED", 1);
-    const auto count = numberFromEnvironment("BRELLOWIND_SEQUENCES", 100'000);
+    const auto count = numberFromEnvironment("BRELLOWIND_SEQUENCES", 10'000);
     const auto finding = findDisagreement(experiment, firstSeed, count);
     if (!finding)
         return;

@@ -67,10 +67,6 @@ TEST_F(NotchRootViewArtwork, IsFetchedFromWhereTheTrackSays) {
     EXPECT_EQ(shown(), "image of Song");
 }
 
-TEST_F(NotchRootViewArtwork, IsAtMostSixteenMebibytes) {
-    EXPECT_EQ(fetch(0).maximumBodyBytes, 16U * 1024 * 1024);
-}
-
 TEST_F(NotchRootViewArtwork, MayLieInALocalFile) {
     const std::string file = "file:///covers/next.png";
     view.machine.files.contents[file] = "image of Next";

@@ -235,17 +235,6 @@ TEST(NotchRootViewRedraw, ComesOnceATurnHoweverMuchChanges) {
     EXPECT_EQ(redraws, 1);
 }
 
-TEST(NotchRootViewRedraw, ComesWithEveryTickWhilePlaying) {
-    View view;
-    view.spotify.plays = true;
-    view.appearAnswered(HttpResponse{404, ""});
-    view.advance(100ms); // the pulse of the beginning ends
-    int redraws = 0;
-    const auto subscription = view.view.onRedraw([&] { ++redraws; });
-    view.advance(850ms);
-    EXPECT_EQ(redraws, 17);
-}
-
 TEST(NotchRootViewRedraw, NeverComesInsideTheChange) {
     View view;
     std::vector<std::string> texts;

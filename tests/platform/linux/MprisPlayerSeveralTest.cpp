@@ -38,13 +38,6 @@ TEST_F(MprisPlayerSeveral, TheOneThatPlaysIsRead) {
     EXPECT_THAT(read(mpris), hasTitle("First"));
 }
 
-TEST_F(MprisPlayerSeveral, OfTwoThatPlayThePreferredOneIsRead) {
-    second.setStatus("Playing");
-    EXPECT_THAT(read(mpris), hasTitle("Second"));
-    first.setStatus("Playing");
-    EXPECT_THAT(read(mpris), hasTitle("First"));
-}
-
 TEST_F(MprisPlayerSeveral, TheOneThatHasATrackIsRead) {
     first.setTrack({});
     EXPECT_THAT(read(mpris), hasTitle("Second"));
@@ -154,18 +147,18 @@ TEST_F(MprisPlayerSeveral, OneThatStartsWhileAnotherHangsIsRead) {
 }
 
 TEST_F(MprisPlayerSeveral, ThePositionIsThatOfTheEndOfTheReading) {
-    first.setDelay(milliseconds(500));
+    first.setDelay(milliseconds(150));
     second.setStatus("Playing");
     second.setPosition(10);
     read(mpris);
     const auto answer = read(mpris);
     EXPECT_THAT(answer, hasTitle("Second"));
-    EXPECT_GE(positionOf(answer), 10.9); // the delays are timed coarsely
+    EXPECT_GE(positionOf(answer), 10.25); // the delays are timed coarsely
 }
 
 TEST_F(MprisPlayerSeveral, APausedPositionStays) {
     first.setTrack({});
-    first.setDelay(milliseconds(300));
+    first.setDelay(milliseconds(100));
     second.setStatus("Paused");
     second.setPosition(10);
     EXPECT_EQ(positionOf(read(mpris)), 10);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/MprisReading.h"
 #include "platform/linux/MprisSession.h"
 
 #include "session/EventLoop.h"
@@ -107,13 +106,6 @@ TEST_F(MprisPlayerTest, AnErrorIsUnreadableAndOneLineUntilItChanges) {
     player.setAnswer("text");
     EXPECT_THAT(read(mpris), isUnreadable());
     EXPECT_THAT(log, ElementsAre(error, wrongType, wrongType));
-}
-
-TEST_F(MprisPlayerTest, ReadsATitleOfAMegabyteToItsLongestLength) {
-    PlayerProcess player(bus.connection());
-    player.setTrack(song(std::string(1 << 20, 'x').c_str()));
-    auto mpris = adapter();
-    EXPECT_THAT(read(mpris), hasTitle(std::string(longestMprisText, 'x')));
 }
 
 TEST_F(MprisPlayerTest, TwoReadingsAtOnceBothEnd) {

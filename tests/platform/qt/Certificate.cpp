@@ -27,7 +27,8 @@ QSslConfiguration selfSignedServer() {
     QProcess openssl;
     openssl.start(QStringLiteral("openssl"),
                   {QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-nodes"),
-                   QStringLiteral("-newkey"), QStringLiteral("rsa:2048"), QStringLiteral("-days"),
+                   QStringLiteral("-newkey"), QStringLiteral("ec"), QStringLiteral("-pkeyopt"),
+                   QStringLiteral("ec_paramgen_curve:prime256v1"), QStringLiteral("-days"),
                    QStringLiteral("2"), QStringLiteral("-subj"), QStringLiteral("/CN=127.0.0.1"),
                    QStringLiteral("-addext"), QStringLiteral("subjectAltName=IP:127.0.0.1"),
                    QStringLiteral("-keyout"), key, QStringLiteral("-out"), certificate});
@@ -36,7 +37,7 @@ QSslConfiguration selfSignedServer() {
 
     auto server = QSslConfiguration::defaultConfiguration();
     server.setLocalCertificate(QSslCertificate(contents(certificate)));
-    server.setPrivateKey(QSslKey(contents(key), QSsl::Rsa));
+    server.setPrivateKey(QSslKey(contents(key), QSsl::Ec));
     EXPECT_FALSE(server.localCertificate().isNull());
     EXPECT_FALSE(server.privateKey().isNull());
     return server;

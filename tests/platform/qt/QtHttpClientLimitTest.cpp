@@ -182,7 +182,7 @@ public:
 private:
     void pour() {
         const int connection = ::accept(listener_, nullptr, nullptr);
-        const timeval patience{.tv_sec = 1, .tv_usec = 0};
+        const timeval patience{.tv_sec = 0, .tv_usec = 200'000};
         ::setsockopt(connection, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
         const QByteArray head = httpResponse(contentLength(size));
         ::send(connection, head.constData(), static_cast<std::size_t>(head.size()), MSG_NOSIGNAL);

@@ -87,34 +87,17 @@ TEST_F(QtHttpClientTest, SendsNoCookieBack) {
     EXPECT_TRUE(exchanges[1].header("cookie").isNull());
 }
 
-class QtHttpClientStatus : public QtHttpClientTest, public testing::WithParamInterface<int> {};
-
-TEST_P(QtHttpClientStatus, ArrivesWithTheBody) {
-    answer = [](const Exchange& exchange) { exchange.respond(GetParam(), "the body"); };
-    Download download(client, url("/"));
-    const auto response = download.response();
-    ASSERT_TRUE(response.has_value());
-    EXPECT_EQ(response->status, GetParam());
-    EXPECT_EQ(response->body, "the body");
-    EXPECT_EQ(exchanges.size(), 1U);
+TEST_F(QtHttpClientTest, AStatusArrivesWithTheBody) {
+    for (const int status : {200, 404, 500}) {
+        answer = [status](const Exchange& exchange) { exchange.respond(status, "the body"); };
+        Download download(client, url("/"));
+        const auto response = download.response();
+        ASSERT_TRUE(response.has_value()) << status;
+        EXPECT_EQ(response->status, status);
+        EXPECT_EQ(response->body, "the body");
+    }
+    EXPECT_EQ(exchanges.size(), 3U);
 }
-
-INSTANTIATE_TEST_SUITE_P(Codes, QtHttpClientStatus,
-                         testing::Values(200, 201, 206, 300, 400, 401, 403, 404, 405, 407, 409, 410,
-                                         418, 429, 451, 500, 501, 502, 503, 504, 511, 599));
-
-class QtHttpClientRedirectStatus : public QtHttpClientTest,
-                                   public testing::WithParamInterface<int> {};
-
-TEST_P(QtHttpClientRedirectStatus, WithoutALocationIsATransportError) {
-    answer = [](const Exchange& exchange) { exchange.respond(GetParam(), "the body"); };
-    Download download(client, url("/"));
-    EXPECT_TRUE(download.fails());
-    EXPECT_EQ(exchanges.size(), 1U);
-}
-
-INSTANTIATE_TEST_SUITE_P(Codes, QtHttpClientRedirectStatus,
-                         testing::Values(301, 302, 303, 305, 307, 308));
 
 TEST_F(QtHttpClientTest, AnAnswerMayHaveNoBody) {
     for (const char* status : {"204 No Content", "304 Not Modified"}) {

@@ -139,7 +139,7 @@ TEST_P(QtImageDecoderFormat, ScalesTheWholeAndNotACorner) {
 
 TEST_P(QtImageDecoderFormat, IsRefusedWhenOnlyItsBeginningIsThere) {
     const std::string whole = encoded(bands(100, 100), GetParam());
-    for (const std::size_t length : {std::size_t{1}, std::size_t{8}, std::size_t{16}})
+    for (const std::size_t length : {1U, 8U, 16U, 40U})
         EXPECT_TRUE(decoded(whole.substr(0, length)).isNull()) << length;
 }
 
@@ -188,25 +188,10 @@ TEST(QtImageDecoder, RefusesAnImageThatClaimsToBeTooLarge) {
     EXPECT_TRUE(decoded(pngThatClaims(1, 0x7FFFFFFF)).isNull());
 }
 
-TEST(QtImageDecoder, DrawsTheLineAtSixtyFourMebibytesDecoded) {
-    QImage atLimit(4096, 4096, QImage::Format_Mono); // small to make, counted as 32 bits
-    atLimit.fill(1);
-    EXPECT_EQ(decoded(encoded(atLimit, "png")).width(), largestSide());
-    QImage beyond(4097, 4096, QImage::Format_Mono);
-    beyond.fill(1);
-    EXPECT_TRUE(decoded(encoded(beyond, "png")).isNull());
-}
-
 TEST(QtImageDecoder, DecodesSixteenBitsToAColour) {
     const QImage image = decoded(encoded(bands(100, 100, QImage::Format_RGBA64), "png"));
     ASSERT_EQ(image.size(), QSize(100, 100));
     EXPECT_EQ(image.pixelColor(50, 50), QColor(Qt::green));
-}
-
-TEST(QtImageDecoder, CountsSixteenBitsToAColourTwice) {
-    QImage image(2900, 2900, QImage::Format_RGBA64); // 32 MiB with 8 bits, 64.2 MiB with 16
-    image.fill(Qt::black);
-    EXPECT_TRUE(decoded(encoded(image, "png")).isNull());
 }
 
 TEST(QtImageDecoder, DecodesGreyAndIndexedImages) {

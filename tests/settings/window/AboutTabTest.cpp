@@ -24,17 +24,6 @@ TEST_F(AboutTabTest, SaysWhatTheProgramIs) {
                             "© brellowind.example", "Privacy Policy", "·", "Terms of Use"));
 }
 
-TEST_F(AboutTabTest, ShowsADashForAMissingVersion) {
-    machine.constants.version.clear();
-    openAbout();
-    EXPECT_EQ(visibleTexts().at(3), "Version —");
-}
-
-TEST_F(AboutTabTest, IsAsLargeAsPlanned) {
-    openAbout();
-    EXPECT_EQ(item("aboutPage")->size(), QSizeF(460, 360));
-}
-
 TEST_F(AboutTabTest, LinksOpenTheirPages) {
     openAbout();
     const std::pair<const char*, const char*> links[] = {

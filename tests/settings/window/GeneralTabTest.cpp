@@ -111,15 +111,6 @@ TEST_F(GeneralTabTest, WrapsALongReasonWithinTheRow) {
               reason->mapToScene({reason->width(), 0}).x());
 }
 
-TEST_F(GeneralTabTest, TheSwitchTurnsBackOnWhenTheUnregistrationFails) {
-    machine.loginItem.current = Status::enabled;
-    machine.loginItem.unregistrationError = "the disk is full";
-    open();
-    click(pressable(QStringLiteral("Launch at Login")));
-    EXPECT_TRUE(isSwitchOn());
-    EXPECT_THAT(machine.log.lines, ElementsAre("Launch-at-login error: the disk is full"));
-}
-
 TEST_F(GeneralTabTest, FeedbackBeginsAMessageToTheMaker) {
     open();
     click(pressable(QStringLiteral("Send Feedback")));

@@ -54,6 +54,7 @@ TEST_F(SettingsWindowTest, IsAsLargeAsItsContentAndNobodyCanPullIt) {
         EXPECT_EQ(window().minimumSize(), window().size());
         EXPECT_EQ(window().maximumSize(), window().size());
     }
+    EXPECT_EQ(item("aboutPage")->height(), 360);
 }
 
 TEST_F(SettingsWindowTest, GrowsAndShrinksWithItsContent) {

@@ -156,16 +156,16 @@ TEST_F(RunningFrameDriver, StopsWhenAllHaveComeToRest) {
 
 TEST_F(RunningFrameDriver, MakesFewerFramesOfWhatMovesSlowly) {
     const auto seconds = [this](double speed) {
-        Recorder recorder(driver, 9);
+        Recorder recorder(driver, 4);
         recorder.speed = speed;
         driver.drive(recorder);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !isRunning(); }));
         return recorder.moments.back() - recorder.moments.front();
     };
     // Frames may be late on a busy machine, never early.
-    EXPECT_GE(seconds(1000), 8 * 0.015);
-    EXPECT_GE(seconds(0.5 / 0.03), 8 * 0.029); // by half a point in 30 ms
-    EXPECT_GE(seconds(0.1), 8 * 0.049);
+    EXPECT_GE(seconds(1000), 3 * 0.015);
+    EXPECT_GE(seconds(0.5 / 0.03), 3 * 0.029); // by half a point in 30 ms
+    EXPECT_GE(seconds(0.1), 3 * 0.049);
 }
 
 TEST_F(RunningFrameDriver, LetsNothingWaitForWhatMovesSlowly) {
@@ -180,8 +180,8 @@ TEST_F(RunningFrameDriver, LetsNothingWaitForWhatMovesSlowly) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !recorder.moments.empty(); }));
         return recorder.moments.back() - asked;
     };
-    double shortest = 1; // of many, since a busy machine may be late with any
-    for (int i = 0; i < 20; ++i)
+    double shortest = 1; // of several, since a busy machine may be late with any
+    for (int i = 0; i < 20 && shortest >= 0.03; ++i)
         shortest = std::min(shortest, waits());
     EXPECT_LT(shortest, 0.03);
 }

@@ -53,7 +53,7 @@ TEST(ArtworkCaption, CanBeReadOnACoverOfAnyLightColour) {
                 painter.restore();
             }
         };
-        const auto painted = [&] { return test::painted(caption.size().toSize(), paintAll, 4); };
+        const auto painted = [&] { return test::painted(caption.size().toSize(), paintAll, 2); };
         const QRectF artist(0, 0, 320, caption.height() / 2 - 4);
         const QRectF title(0, caption.height() / 2 + 4, 320, caption.height() / 2 - 24);
         const double behind = brightest(painted(), artist);

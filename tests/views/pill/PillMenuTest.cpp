@@ -48,15 +48,6 @@ protected:
     }
 };
 
-TEST_F(PillMenuTest, IsMadeWhenItIsFirstWantedAndThenKept) {
-    EXPECT_EQ(menu(), nullptr);
-    open();
-    const auto* made = menu();
-    menu()->close();
-    open();
-    EXPECT_EQ(menu(), made);
-}
-
 TEST_F(PillMenuTest, OffersNoCheckWithoutAReleaseFeed) {
     machine.machine.constants.updateFeedURL.clear();
     open();
@@ -117,19 +108,6 @@ TEST_F(PillMenuTest, OpensInTheArtworkPanelAndWhileMinimized) {
     settle();
     ASSERT_TRUE(form().isMinimized);
     open();
-}
-
-TEST_F(PillMenuTest, OpensWhereThePointerIs) {
-    const QPoint at = onWindow(pill(), {150, 40});
-    open(at);
-    EXPECT_EQ(windowSystem.poppedUpAt, (Point{double(at.x()), double(at.y())}));
-}
-
-TEST_F(PillMenuTest, HasItsEntriesInOrder) {
-    open();
-    EXPECT_EQ(texts(),
-              (QStringList{QStringLiteral("Open Settings"), QString::fromUtf8("Check for Updates…"),
-                           QStringLiteral("Quit Brellowind")}));
 }
 
 TEST_F(PillMenuTest, OpensTheSettings) {
@@ -282,12 +260,6 @@ TEST_F(PillMenuTest, StaysOpenOnAClickOnItsRim) {
     open();
     QTest::mouseClick(menu(), Qt::LeftButton, {}, QPoint(2, 2));
     EXPECT_TRUE(menu()->isVisible());
-}
-
-TEST_F(PillMenuTest, CanBeOpenedAgain) {
-    open();
-    QTest::keyClick(menu(), Qt::Key_Escape);
-    open();
 }
 
 } // namespace

@@ -71,14 +71,6 @@ TEST(Item, MovesBelowASibling) {
     EXPECT_EQ(outer.childItems(), (std::vector<Item*>{&third, &first, &second}));
 }
 
-TEST(Item, IsFoundByItsName) {
-    Item outer;
-    Item middle(&outer);
-    Item inner(&middle);
-    inner.setObjectName(QStringLiteral("inner"));
-    EXPECT_EQ(outer.findChild<Item*>(QStringLiteral("inner")), &inner);
-}
-
 TEST(Item, LiesWhereItIsPlacedInItsParent) {
     Item outer;
     outer.setPosition({100, 50});

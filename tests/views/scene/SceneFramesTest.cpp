@@ -5,6 +5,7 @@
 #include "views/scene/Block.h"
 #include "views/scene/SceneWindow.h"
 
+#include <QCoreApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <gtest/gtest.h>
@@ -37,6 +38,10 @@ protected:
 
     QImage shown() {
         settle();
+        return onScreen();
+    }
+
+    QImage onScreen() {
         QImage image = window.screen()->grabWindow(window.winId()).toImage();
         return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
@@ -89,8 +94,7 @@ TEST_F(SceneFrames, DrawsOnlyWhatLiesWhereSomethingChanged) {
     settle();
     EXPECT_EQ(changed.drawn, 1);
     EXPECT_EQ(touched.drawn, 1);
-    const bool partly = window.devicePixelRatio() != 1.37; // there every frame is complete
-    EXPECT_EQ(apart.drawn, partly ? 0 : 1);
+    EXPECT_EQ(apart.drawn, 0);
 }
 
 TEST_F(SceneFrames, MovesAnItemWithAllThatIsInIt) {
@@ -215,10 +219,13 @@ private:
 
 TEST_F(SceneFrames, ShowsAfterEveryFrameWhatAWholeDrawingShows) {
     Restless restless(window.root());
-    for (int i = 0; i < 300; ++i) {
+    const bool partly = window.devicePixelRatio() != 1.37; // there every frame is complete
+    for (int i = 0; i < (partly ? 300 : 20); ++i) {
         restless.change();
         restless.change();
-        const QImage image = shown();
+        QCoreApplication::processEvents(); // makes the frame, and another if that asks for one
+        QCoreApplication::processEvents();
+        const QImage image = onScreen();
         const QImage whole = window.grab();
         ASSERT_EQ(image.size(), whole.size());
         // An antialiased edge may differ slightly where only a part of it is repainted.

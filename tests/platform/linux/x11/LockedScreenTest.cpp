@@ -55,7 +55,7 @@ TEST_F(LockedScreen, ShowsNoPillThatIsOrderedInFrontMeanwhile) {
     overlay.setFrame({440, 500, 400, 300});
     setOutline(pillInWindow);
     overlay.orderFrontRegardless();
-    runFor(std::chrono::milliseconds(200));
+    react();
     EXPECT_FALSE(isShown());
     announce(false);
     EXPECT_TRUE(waitUntil([this] { return isShown(); }));

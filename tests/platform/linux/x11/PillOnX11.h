@@ -87,6 +87,13 @@ protected:
         platform::X11Connection().ask<xcb_get_input_focus, xcb_get_input_focus_reply>();
     }
 
+    /// Lets this program react to all that has happened at the server.
+    void react() {
+        settle();
+        runFor(std::chrono::milliseconds(50));
+        settle();
+    }
+
     /// Another program's window, below the pill and around it.
     PlainWindow& openBeneath() {
         auto& beneath =

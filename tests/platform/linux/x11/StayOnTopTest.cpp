@@ -37,7 +37,7 @@ TEST_F(StayOnTop, ComesBackAboveAWindowThatIsRaisedOrMovedOverIt) {
 TEST_F(StayOnTop, LeavesAWindowAboveThatDoesNotCoverIt) {
     show();
     const PlainWindow rival(display, {0, 400, 600, 200}, Kind::unmanaged);
-    runFor(milliseconds(300));
+    react();
     EXPECT_TRUE(x.isAbove(rival.id(), id()));
 }
 
@@ -49,7 +49,7 @@ TEST_F(StayOnTop, LeavesThisProgramsOwnWindowsAbove) {
     menu.show();
     const auto menuId = static_cast<xcb_window_t>(menu.winId());
     ASSERT_TRUE(waitUntil([&] { return x.isViewable(menuId); }));
-    runFor(milliseconds(300));
+    react();
     EXPECT_TRUE(x.isAbove(menuId, id()));
     const PlainWindow rival(display, {300, 0, 600, 200}, Kind::unmanaged);
     EXPECT_TRUE(waitUntil([&] { return x.isAbove(id(), rival.id()); }));
@@ -72,10 +72,10 @@ TEST_F(StayOnTop, StaysBelowAWindowThatShieldsTheWholeScreen) {
     show();
     std::optional<PlainWindow> locker(std::in_place, display, QRect(0, 0, 1280, 800),
                                       Kind::unmanaged);
-    runFor(milliseconds(300));
+    react();
     EXPECT_TRUE(x.isAbove(locker->id(), id()));
     const PlainWindow rival(display, {300, 0, 600, 200}, Kind::unmanaged);
-    runFor(milliseconds(300));
+    react();
     EXPECT_TRUE(x.isAbove(locker->id(), id()));
     locker.reset();
     EXPECT_TRUE(waitUntil([this] { return x.stack().back() == id(); }));

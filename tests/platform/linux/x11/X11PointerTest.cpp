@@ -17,6 +17,9 @@ protected:
         global = local = 0;
     }
 
+    /// Longer than the rest after which the server tells that the pointer is used again.
+    static constexpr std::chrono::milliseconds rest{200};
+
     platform::X11Pointer pointer{mainLoop};
     int global = 0;
     int local = 0;
@@ -86,14 +89,14 @@ TEST_F(X11Pointer, TellsOfAHundredMovementsThatComeTogetherAFewTimesAtMost) {
 }
 
 TEST_F(X11Pointer, IsSilentWhileItRests) {
-    runFor(std::chrono::milliseconds(300));
+    runFor(rest);
     EXPECT_EQ(global + local, 0);
 }
 
 TEST_F(X11Pointer, TellsOfAPointerThatAProgramPutsElsewhere) {
     for (const int column : {200, 640}) {
         global = 0;
-        runFor(std::chrono::milliseconds(300));
+        runFor(rest);
         const auto place = static_cast<std::int16_t>(column);
         xcb_warp_pointer(x.get(), XCB_NONE, x.root(), 0, 0, 0, 0, place, 300);
         x.finish();
@@ -103,10 +106,10 @@ TEST_F(X11Pointer, TellsOfAPointerThatAProgramPutsElsewhere) {
 }
 
 TEST_F(X11Pointer, TellsOfNoMovementWhenAButtonIsPressed) {
-    runFor(std::chrono::milliseconds(300));
+    runFor(rest);
     global = 0;
     person.press();
-    runFor(std::chrono::milliseconds(300));
+    react();
     EXPECT_EQ(global, 0);
 }
 

@@ -1,3 +1,0 @@
-# in: Program.mm
-# says: use of undeclared identifier 'NSApplicationActivationPolicyAccesory'
-s/PolicyAccessory/PolicyAccesory/

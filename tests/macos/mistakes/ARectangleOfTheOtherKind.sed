@@ -1,3 +1,0 @@
-# in: AppKitScreens.mm
-# says: no viable conversion from 'NSRect'
-s/\.frame = plainRect(screen\.frame)/.frame = screen.frame/

@@ -1,3 +1,0 @@
-# in: AppleScripts.mm
-# says: no viable conversion from 'NSString
-s/\.text = plainText(text)/.text = text/
