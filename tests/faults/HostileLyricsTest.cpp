@@ -32,9 +32,7 @@ constexpr qint64 memoryLimitKiB = (test::isInstrumented ? 512 : 48) * 1024;
 
 const QByteArray goodBody = R"({"syncedLyrics":"[00:01.00]line"})";
 
-Track song(const char* title) {
-    return {title, "Artist", "Album", 215000, std::nullopt};
-}
+constexpr auto hostileArtist = "Hostile";
 
 /// A store with a real server.
 class Listener {
@@ -42,8 +40,8 @@ public:
     explicit Listener(const QString& origin) : machine(origin) {}
 
     /// Loads the lyrics of a new song and waits for the end.
-    Case load() {
-        lyrics->load(song(std::to_string(++songs_).c_str()));
+    Case load(const char* artist = "Artist") {
+        lyrics->load({std::to_string(++songs_), artist, "Album", 215000, std::nullopt});
         EXPECT_TRUE(test::waitUntil([this] { return lyrics->state->which() != Case::loading; }));
         return lyrics->state->which();
     }
@@ -56,7 +54,7 @@ private:
     int songs_ = 0;
 };
 
-/// Waits for the end of the next load; checks the limits of the main loop's turns and of memory. A
+/// Loads a song of the hostile artist; checks the limits of the main loop's turns and of memory. A
 /// disturbed machine lengthens turns, so one load of three within the limit is enough.
 void expectEnd(Listener& listener, Case expected) {
     const ProcessUse use;
@@ -65,7 +63,7 @@ void expectEnd(Listener& listener, Case expected) {
         loop.forget();
         use.forgetPeakMemory();
         const qint64 before = use.peakMemoryKiB();
-        EXPECT_EQ(listener.load(), expected);
+        EXPECT_EQ(listener.load(hostileArtist), expected);
         EXPECT_LT(use.peakMemoryKiB() - before, memoryLimitKiB);
         if (loop.longestTurn() < LoopWatch::bearable)
             return;
@@ -85,12 +83,14 @@ std::string rowName(const testing::TestParamInfo<Row>& parameter) {
     return parameter.param.name;
 }
 
-/// Answers the first request with a faulty answer and later ones correctly.
-HostileServer::Handler onceHostile(HostileServer::Handler handler) {
+/// Leaves requests for the hostile artist, and where they are redirected to, to `handler`; answers
+/// others correctly.
+HostileServer::Handler answering(HostileServer::Handler handler) {
     return [handler = std::move(handler)](const Exchange& exchange) {
-        const bool isFirst = exchange.field(QStringLiteral("track_name")) == QStringLiteral("1") ||
-                             exchange.path != "/api/get";
-        if (isFirst)
+        const bool isHostile =
+            exchange.field(QStringLiteral("artist_name")) == QLatin1String(hostileArtist) ||
+            exchange.path != "/api/get";
+        if (isHostile)
             handler(exchange);
         else
             exchange.respond(200, goodBody);
@@ -99,7 +99,7 @@ HostileServer::Handler onceHostile(HostileServer::Handler handler) {
 
 class HostileLyrics : public testing::TestWithParam<Row> {
 protected:
-    HostileServer server{onceHostile(GetParam().handler)};
+    HostileServer server{answering(GetParam().handler)};
     Listener listener{server.origin()};
 };
 
@@ -243,7 +243,7 @@ INSTANTIATE_TEST_SUITE_P(Body, HostileLyrics, testing::ValuesIn(hostileBodies), 
 
 /// The client's tests let the server stall later, too.
 TEST(StallingLyrics, AreFailedWhenTheTimeIsUpAndTheNextSongsAreLoaded) {
-    const HostileServer server(onceHostile([](const Exchange&) {}));
+    const HostileServer server(answering([](const Exchange&) {}));
     Listener listener(server.origin());
     listener.machine.http.patience = 150ms;
     expectEnd(listener, Case::failed);
