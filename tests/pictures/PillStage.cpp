@@ -107,7 +107,7 @@ void PillStage::setPlaying(bool plays) {
 
 void PillStage::setPointerInside(bool inside) {
     const Point above{screenWidth / 2, screenHeight - 4};
-    machine_.pointer.moveOutsideWindows(inside ? above : Point{0, 0});
+    machine_.pointer.move(inside ? above : Point{0, 0});
     runTurns();
 }
 

@@ -46,13 +46,7 @@ void MacOverlay::setOutline(const Path& outline, const std::vector<Rect>& inputR
 void MacOverlay::setIgnoresMouseEvents(bool ignores) {
     if (std::exchange(ignoresMouseEvents_, ignores) == ignores)
         return;
-    if (ignores) {
-        globalMonitor_.reset();
-        localMonitor_.reset();
-    } else {
-        globalMonitor_ = pointer_.addGlobalMonitor([this] { updateHover(); });
-        localMonitor_ = pointer_.addLocalMonitor([this] { updateHover(); });
-    }
+    monitor_ = ignores ? Subscription() : pointer_.addMonitor([this] { updateHover(); });
     updateHover();
 }
 

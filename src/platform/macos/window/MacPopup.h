@@ -37,8 +37,7 @@ private:
         QWindow& window;
         std::function<void()> onClose;
         HoverEvents hover;
-        std::unique_ptr<PointerMonitor> globalMonitor;
-        std::unique_ptr<PointerMonitor> localMonitor;
+        Subscription monitor;
     };
 
     void updateHover();
