@@ -33,7 +33,6 @@ SettingsServices BrellowindApp::settingsServices() {
             .log = machine_.log(),
             .loginItem = machine_.loginItem(),
             .links = machine_.links(),
-            .application = machine_.application(),
             .constants = constants_,
             .router = router_,
             .updater = *updater_};
@@ -44,7 +43,6 @@ NotchRootView::Environment BrellowindApp::notchContent() {
     auto& windowSystem = machine_.windowSystem();
     return {.mainLoop = mainLoop,
             .tasks = tasks_,
-            .application = machine_.application(),
             .router = router_,
             .updater = *updater_,
             .nowPlaying =
@@ -54,7 +52,10 @@ NotchRootView::Environment BrellowindApp::notchContent() {
             .artwork = std::make_shared<Artwork>(tasks_, machine_.http(), machine_.files(),
                                                  machine_.images()),
             .window = {},
-            .openSettings = [this] { settings_.open(); }};
+            .openSettings = [this] {
+                machine_.windowSystem().activate();
+                settings_.open();
+            }};
 }
 
 } // namespace brellowind

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "platform/Application.h"
 #include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "platform/Images.h"
@@ -33,7 +32,6 @@ public:
     virtual LocalFiles& files() = 0;
     virtual Player& player() = 0;
     virtual WindowSystem& windowSystem() = 0;
-    virtual Application& application() = 0;
     virtual LinkOpener& links() = 0;
     virtual LoginItem& loginItem() = 0;
 
@@ -42,7 +40,7 @@ public:
     /// has been notified, and this process should exit. Call once.
     virtual bool claimSession(std::function<void()> onSecondStart) = 0;
 
-    /// Runs the main loop until the application terminates. Returns the exit status of the process.
+    /// Runs the main loop until it quits. Returns the exit status of the process.
     virtual int run() = 0;
 };
 

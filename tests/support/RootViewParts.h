@@ -22,7 +22,6 @@ struct RootViewParts : SettingsParts {
         return std::make_shared<NotchRootView>(NotchRootView::Environment{
             .mainLoop = m.mainLoop,
             .tasks = m.tasks,
-            .application = m.application,
             .router = router,
             .updater = *updater,
             .nowPlaying = std::make_shared<NowPlaying>(m.mainLoop, m.tasks, m.clock, m.player),

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "platform/Application.h"
 #include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "platform/Images.h"
@@ -70,15 +69,6 @@ public:
     std::size_t pending() const;
 
     std::vector<std::shared_ptr<Pending>> requests;
-};
-
-class FakeApplication final : public platform::Application {
-public:
-    void activate() override { ++activations; }
-    void terminate() override { ++terminations; }
-
-    int activations = 0;
-    int terminations = 0;
 };
 
 /// Records the opened links.
@@ -163,7 +153,6 @@ struct TestMachine {
     FakePlayer player{mainLoop};
     FakeScreens screens; ///< none at first
     FakePointer pointer;
-    FakeApplication application;
     FakeLinkOpener links;
     FakeLoginItem loginItem;
     platform::ProductConstants constants{

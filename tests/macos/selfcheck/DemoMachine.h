@@ -21,7 +21,6 @@ public:
     platform::LocalFiles& files() override { return machine_.files(); }
     platform::Player& player() override { return player_; }
     platform::WindowSystem& windowSystem() override { return machine_.windowSystem(); }
-    platform::Application& application() override { return machine_.application(); }
     platform::LinkOpener& links() override { return machine_.links(); }
     platform::LoginItem& loginItem() override { return machine_.loginItem(); }
 

@@ -7,7 +7,6 @@
 #include "platform/linux/XdgLoginItem.h"
 #include "platform/linux/machine/DisplayLoss.h"
 #include "platform/linux/machine/SessionWindowSystem.h"
-#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"
 #include "platform/qt/QtLinkOpener.h"
@@ -61,7 +60,6 @@ public:
     LocalFiles& files() override { return files_; }
     Player& player() override { return player_; }
     WindowSystem& windowSystem() override { return *windowSystem_; }
-    Application& application() override { return application_; }
     LinkOpener& links() override { return links_; }
     LoginItem& loginItem() override { return loginItem_; }
 
@@ -88,10 +86,9 @@ private:
     MprisPlayer player_;
     ScreenLock screenLock_{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
     std::unique_ptr<WindowSystem> windowSystem_ = makeWindowSystem(mainLoop_, screenLock_);
-    QtApplication application_{*windowSystem_};
     QtLinkOpener links_;
     XdgLoginItem loginItem_ = makeLoginItem();
-    UnixSignals signals_{[this] { application_.terminate(); }};
+    UnixSignals signals_{[this] { mainLoop_.quit(); }};
     std::optional<SingleInstance> instance_;
 };
 

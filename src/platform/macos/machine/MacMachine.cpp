@@ -12,7 +12,6 @@
 #include "platform/macos/appkit/SystemLog.h"
 #include "platform/macos/appkit/WorkspaceLinks.h"
 #include "platform/macos/window/MacWindowSystem.h"
-#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"
 #include "platform/qt/QtLocalFiles.h"
@@ -46,7 +45,6 @@ public:
     LocalFiles& files() override { return files_; }
     Player& player() override { return player_; }
     WindowSystem& windowSystem() override { return windowSystem_; }
-    Application& application() override { return application_; }
     LinkOpener& links() override { return links_; }
     LoginItem& loginItem() override { return loginItem_; }
 
@@ -76,10 +74,9 @@ private:
                                    .pointer = pointer_,
                                    .makeOverlay = makeAppKitOverlay,
                                    .activateProgram = Program::activate}};
-    QtApplication application_{windowSystem_};
     WorkspaceLinks links_;
     ServiceLoginItem loginItem_;
-    UnixSignals signals_{[this] { application_.terminate(); }};
+    UnixSignals signals_{[this] { mainLoop_.quit(); }};
     std::optional<SecondStart> secondStart_;
 };
 
