@@ -5,6 +5,7 @@
 #include "app/CompiledConstants.h"
 
 #include <QCoreApplication>
+#include <chrono>
 #include <utility>
 
 namespace brellowind {
@@ -45,8 +46,8 @@ NotchRootView::Environment BrellowindApp::notchContent() {
             .tasks = tasks_,
             .router = router_,
             .updater = *updater_,
-            .nowPlaying =
-                std::make_shared<NowPlaying>(mainLoop, tasks_, machine_.clock(), machine_.player()),
+            .nowPlaying = std::make_shared<NowPlaying>(
+                mainLoop, tasks_, std::chrono::system_clock::now, machine_.player()),
             .lyrics = std::make_shared<LyricsStore>(tasks_, machine_.http(), constants_),
             .hover = std::make_shared<HoverMonitor>(windowSystem.pointer(), windowSystem.screens()),
             .artwork = std::make_shared<Artwork>(tasks_, machine_.http(), machine_.files(),

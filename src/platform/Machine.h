@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "platform/Images.h"
 #include "platform/LinkOpener.h"
@@ -25,7 +24,6 @@ public:
     virtual ~Machine() = default;
 
     virtual MainLoop& mainLoop() = 0;
-    virtual Clock& clock() = 0;
     virtual Log& log() = 0;
     virtual HttpClient& http() = 0;
     virtual ImageDecoder& images() = 0;

@@ -24,7 +24,8 @@ struct RootViewParts : SettingsParts {
             .tasks = m.tasks,
             .router = router,
             .updater = *updater,
-            .nowPlaying = std::make_shared<NowPlaying>(m.mainLoop, m.tasks, m.clock, m.player),
+            .nowPlaying = std::make_shared<NowPlaying>(
+                m.mainLoop, m.tasks, [&m] { return m.clock.now(); }, m.player),
             .lyrics = std::make_shared<LyricsStore>(m.tasks, m.http, m.constants),
             .hover = std::make_shared<HoverMonitor>(m.pointer, m.screens),
             .artwork =

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "platform/Images.h"
 #include "platform/LinkOpener.h"
@@ -16,6 +15,7 @@
 #include "support/FakePointer.h"
 #include "support/FakeScreens.h"
 
+#include <chrono>
 #include <list>
 #include <map>
 #include <optional>
@@ -25,17 +25,19 @@
 namespace brellowind::test {
 
 /// A wall clock that runs with the fake main loop and can be changed.
-class FakeClock final : public platform::Clock {
+class FakeClock {
 public:
+    using Time = std::chrono::system_clock::time_point;
+
     explicit FakeClock(const FakeMainLoop& loop) : loop_(loop) {}
 
-    platform::WallTime now() const override { return start_ + loop_.elapsed() + shift; }
+    Time now() const { return start_ + loop_.elapsed() + shift; }
 
     std::chrono::milliseconds shift{0};
 
 private:
     const FakeMainLoop& loop_;
-    platform::WallTime start_{std::chrono::hours(24 * 365 * 50)};
+    Time start_{std::chrono::hours(24 * 365 * 50)};
 };
 
 class FakeLog final : public platform::Log {

@@ -14,7 +14,6 @@ public:
         : machine_(machine), player_(player) {}
 
     platform::MainLoop& mainLoop() override { return machine_.mainLoop(); }
-    platform::Clock& clock() override { return machine_.clock(); }
     platform::Log& log() override { return machine_.log(); }
     platform::HttpClient& http() override { return machine_.http(); }
     platform::ImageDecoder& images() override { return machine_.images(); }

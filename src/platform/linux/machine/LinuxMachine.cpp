@@ -13,7 +13,6 @@
 #include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtStartEnvironment.h"
-#include "platform/qt/SystemClock.h"
 #include "platform/unix/StderrLog.h"
 #include "platform/unix/UnixSignals.h"
 
@@ -53,7 +52,6 @@ public:
     ~LinuxMachine() override { ignoreDisplay(); }
 
     MainLoop& mainLoop() override { return mainLoop_; }
-    Clock& clock() override { return clock_; }
     Log& log() override { return log_; }
     HttpClient& http() override { return http_; }
     ImageDecoder& images() override { return images_; }
@@ -78,7 +76,6 @@ public:
 private:
     std::unique_ptr<QGuiApplication> guiApplication_;
     QtMainLoop mainLoop_;
-    SystemClock clock_;
     StderrLog log_;
     QtHttpClient http_{mainLoop_};
     QtImageDecoder images_;

@@ -16,7 +16,6 @@
 #include "platform/qt/QtImageDecoder.h"
 #include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
-#include "platform/qt/SystemClock.h"
 #include "platform/unix/UnixSignals.h"
 
 #include <QGuiApplication>
@@ -38,7 +37,6 @@ public:
     }
 
     MainLoop& mainLoop() override { return mainLoop_; }
-    Clock& clock() override { return clock_; }
     Log& log() override { return log_; }
     HttpClient& http() override { return http_; }
     ImageDecoder& images() override { return images_; }
@@ -61,7 +59,6 @@ private:
     int argumentCount_; ///< Qt keeps a reference to it
     QGuiApplication guiApplication_;
     QtMainLoop mainLoop_;
-    SystemClock clock_;
     SystemLog log_;
     QtHttpClient http_{mainLoop_};
     QtImageDecoder images_;
