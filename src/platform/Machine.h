@@ -43,7 +43,7 @@ public:
 };
 
 /// Makes the machine of this process. Call once. Returns null, after one line on standard error, if
-/// there is no usable window system. `argv` must outlive the machine.
-std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& constants);
+/// there is no usable window system. `argc` and `argv` must outlive the machine.
+std::unique_ptr<Machine> makeMachine(int& argc, char** argv, const ProductConstants& constants);
 
 } // namespace brellowind::platform

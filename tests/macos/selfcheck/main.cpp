@@ -50,11 +50,12 @@ int examine(NotchView& window, const QString& picture) {
 
 int main(int argc, char** argv) {
     auto constants = compiledConstants();
-    const auto machine = platform::makeMachine(1, argv, constants);
-    if (!machine)
-        return 1;
     if (argc != 2)
         return complain("usage: brellowind-selfcheck PICTURE");
+    argc = 1;
+    const auto machine = platform::makeMachine(argc, argv, constants);
+    if (!machine)
+        return 1;
     const auto song = demo::DemoSong::load(QStringLiteral(BRELLOWIND_DEMO_SONG));
     if (!song)
         return complain("the demo song is not whole");

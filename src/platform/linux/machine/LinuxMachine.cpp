@@ -91,7 +91,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& constants) {
+std::unique_ptr<Machine> makeMachine(int& argc, char** argv, const ProductConstants& constants) {
 #ifdef __GLIBC__
     // Other threads allocate too little to need arenas of their own.
     mallopt(M_ARENA_MAX, 1);

@@ -29,8 +29,7 @@ namespace {
 /// Destroyed from the bottom up.
 class MacMachine final : public Machine {
 public:
-    MacMachine(int argc, char** argv)
-        : argumentCount_(argc), guiApplication_(argumentCount_, argv) {
+    MacMachine(int& argc, char** argv) : guiApplication_(argc, argv) {
         Program::becomeAccessory();
         QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
         QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -56,7 +55,6 @@ public:
     int run() override { return QGuiApplication::exec(); }
 
 private:
-    int argumentCount_; ///< Qt keeps a reference to it
     QGuiApplication guiApplication_;
     QtMainLoop mainLoop_;
     SystemLog log_;
@@ -79,7 +77,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& /*constants*/) {
+std::unique_ptr<Machine> makeMachine(int& argc, char** argv,
+                                     const ProductConstants& /*constants*/) {
     if (!Program::hasWindowServer()) {
         std::fputs("brellowind: this session has no window server to show the pill on\n", stderr);
         return nullptr;
