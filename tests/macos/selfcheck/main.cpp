@@ -7,7 +7,7 @@
 #include "app/CompiledConstants.h"
 #include "companion/Companion.h"
 #include "service/DemoSong.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -34,7 +34,7 @@ int complain(const char* message) {
     return 1;
 }
 
-int examine(NotchView& window, const QString& picture) {
+int examine(PillWindow& window, const QString& picture) {
     const auto view = static_cast<std::uintptr_t>(window.winId());
     const auto complaints = complaintsAbout(view);
     for (const auto& complaint : complaints)
