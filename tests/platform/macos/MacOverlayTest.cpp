@@ -51,7 +51,6 @@ TEST_F(MacOverlay, IsAFramelessToolThatTakesNoFocus) {
     EXPECT_TRUE(window.flags().testFlag(Qt::FramelessWindowHint));
     EXPECT_TRUE(window.flags().testFlag(Qt::NoDropShadowWindowHint));
     EXPECT_TRUE(window.flags().testFlag(Qt::WindowDoesNotAcceptFocus));
-    EXPECT_TRUE(window.requestedFormat().hasAlpha());
 }
 
 TEST_F(MacOverlay, HasItsFrameBeforeItIsShown) {
