@@ -90,6 +90,12 @@ TEST_F(PillLayout, OfALongLineIsFortyPointsWiderThanIt) {
     EXPECT_EQ(std::fmod(pillSize().width, 2), 0);
 }
 
+TEST_F(PillLayout, IsTheDefaultPillWhateverTheLineUntilItsWindowHasASize) {
+    appearWith(std::string(100'000, 'H'));
+    PillWindow sizeless(machine.view, *frames, windowSystem);
+    EXPECT_EQ(sizeless.root().findChild<Item*>(QStringLiteral("pill"))->width(), 272);
+}
+
 TEST_F(PillLayout, OfALineWithoutEndStaysInTheWindowAlsoWhileItIsLiftedAndPulses) {
     appearWith(std::string(100'000, 'H'));
     ASSERT_GT(naturalWidth(), 10 * windowWidth);
