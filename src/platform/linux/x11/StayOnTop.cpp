@@ -32,7 +32,7 @@ StayOnTop::StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& 
     : x11_(x11), qtWindow_(window), window_(static_cast<xcb_window_t>(window.winId())),
       managedMark_(x11.atom("WM_STATE")), mainLoop_(mainLoop),
       nextTurn_(mainLoop.onNextTurn([this] { check(); })),
-      observer_([this](const xcb_generic_event_t& event) { return handle(event); }) {
+      observer_([this](const auto& event) { return handle(event); }) {
     x11_.selectRootEvents(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
 }
 

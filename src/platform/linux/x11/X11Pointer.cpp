@@ -38,10 +38,7 @@ void selectRawMotion(const X11Connection& x11, bool selected) {
 
 X11Pointer::X11Pointer(MainLoop& mainLoop)
     : xinput_(xinputNumber(x11_)), nextTurn_(mainLoop.onNextTurn([this] { notifyMonitors(); })),
-      observer_([this](const xcb_generic_event_t& event) {
-          handle(event);
-          return false;
-      }),
+      observer_([this](const auto& event) { return handle(event); }),
       use_([this] { handleUse(); }) {
     if (xinput_ < 0)
         return;
@@ -72,12 +69,12 @@ Subscription X11Pointer::addMonitor(Handler handler) {
     return xinput_ < 0 ? Subscription() : observers_->add(std::move(handler));
 }
 
-void X11Pointer::handle(const xcb_generic_event_t& event) {
-    if (eventType(event) != XCB_GE_GENERIC)
-        return;
+bool X11Pointer::handle(const xcb_generic_event_t& event) {
     const auto& generic = eventAs<xcb_ge_generic_event_t>(event);
-    if (generic.extension == xinput_ && generic.event_type == XCB_INPUT_RAW_MOTION)
+    if (eventType(event) == XCB_GE_GENERIC && generic.extension == xinput_ &&
+        generic.event_type == XCB_INPUT_RAW_MOTION)
         requestMovement();
+    return false;
 }
 
 /// A press uses the pointer as well, without a movement.

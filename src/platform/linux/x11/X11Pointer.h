@@ -29,7 +29,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void handle(const xcb_generic_event_t& event);
+    bool handle(const xcb_generic_event_t& event);
     void handleUse();
     void requestMovement();
     void notifyMonitors();
