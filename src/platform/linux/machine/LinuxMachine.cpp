@@ -4,12 +4,12 @@
 #include "platform/linux/MprisPlayer.h"
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/linux/XdgLinkOpener.h"
 #include "platform/linux/XdgLoginItem.h"
 #include "platform/linux/machine/DisplayLoss.h"
 #include "platform/linux/machine/SessionWindowSystem.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"
-#include "platform/qt/QtLinkOpener.h"
 #include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtStartEnvironment.h"
@@ -83,7 +83,7 @@ private:
     MprisPlayer player_;
     ScreenLock screenLock_{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
     std::unique_ptr<WindowSystem> windowSystem_ = makeWindowSystem(mainLoop_, screenLock_);
-    QtLinkOpener links_;
+    XdgLinkOpener links_;
     XdgLoginItem loginItem_ = makeLoginItem();
     UnixSignals signals_{[this] { mainLoop_.quit(); }};
     std::optional<SingleInstance> instance_;
