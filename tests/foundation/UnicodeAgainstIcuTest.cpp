@@ -3,7 +3,6 @@
 #include "foundation/Unicode.h"
 #include "foundation/Utf8.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <random>

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 #include <limits>
-#include <utility>
 
 namespace brellowind {
 namespace {

@@ -16,7 +16,6 @@
 #include "support/FakeScreens.h"
 
 #include <chrono>
-#include <list>
 #include <map>
 #include <optional>
 #include <string>

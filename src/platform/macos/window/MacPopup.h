@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace brellowind::platform {
 
