@@ -9,6 +9,7 @@
 #include <QDBusConnection>
 #include <QPainter>
 #include <QRasterWindow>
+#include <QSurfaceFormat>
 #include <QTimer>
 #include <chrono>
 #include <cstdio>
@@ -20,6 +21,13 @@ namespace {
 
 /// Reports when it has drawn its first frame, which is transparent.
 class Window final : public QRasterWindow {
+public:
+    Window() {
+        QSurfaceFormat transparent;
+        transparent.setAlphaBufferSize(8);
+        setFormat(transparent);
+    }
+
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter(this).fillRect(QRect(QPoint(0, 0), size()), Qt::transparent);

@@ -18,7 +18,8 @@ int main(int argc, char** argv) {
     auto constants = compiledConstants();
     constants.lyricsOrigin = argv[1];
     constants.updateFeedURL = constants.lyricsOrigin + "/latest.json"; // nothing leaves the machine
-    const auto machine = platform::makeMachine(1, argv, constants);
+    argc = 1;
+    const auto machine = platform::makeMachine(argc, argv, constants);
     if (!machine)
         return 1;
     BrellowindApp app(*machine, constants);

@@ -5,6 +5,7 @@
 #include "app/CompiledConstants.h"
 
 #include <QCoreApplication>
+#include <chrono>
 #include <utility>
 
 namespace brellowind {
@@ -33,7 +34,6 @@ SettingsServices BrellowindApp::settingsServices() {
             .log = machine_.log(),
             .loginItem = machine_.loginItem(),
             .links = machine_.links(),
-            .application = machine_.application(),
             .constants = constants_,
             .router = router_,
             .updater = *updater_};
@@ -44,17 +44,19 @@ NotchRootView::Environment BrellowindApp::notchContent() {
     auto& windowSystem = machine_.windowSystem();
     return {.mainLoop = mainLoop,
             .tasks = tasks_,
-            .application = machine_.application(),
             .router = router_,
             .updater = *updater_,
-            .nowPlaying =
-                std::make_shared<NowPlaying>(mainLoop, tasks_, machine_.clock(), machine_.player()),
+            .nowPlaying = std::make_shared<NowPlaying>(
+                mainLoop, tasks_, std::chrono::system_clock::now, machine_.player()),
             .lyrics = std::make_shared<LyricsStore>(tasks_, machine_.http(), constants_),
             .hover = std::make_shared<HoverMonitor>(windowSystem.pointer(), windowSystem.screens()),
             .artwork = std::make_shared<Artwork>(tasks_, machine_.http(), machine_.files(),
                                                  machine_.images()),
             .window = {},
-            .openSettings = [this] { settings_.open(); }};
+            .openSettings = [this] {
+                machine_.windowSystem().activate();
+                settings_.open();
+            }};
 }
 
 } // namespace brellowind

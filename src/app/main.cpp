@@ -3,10 +3,11 @@
 #include "app/BrellowindApp.h"
 #include "app/CompiledConstants.h"
 
-int main(int /*argc*/, char** argv) {
+int main(int argc, char** argv) {
     using namespace brellowind;
+    argc = 1; // arguments are ignored
     const auto constants = compiledConstants();
-    const auto machine = platform::makeMachine(1, argv, constants); // ignores arguments
+    const auto machine = platform::makeMachine(argc, argv, constants);
     if (!machine)
         return 1;
     BrellowindApp app(*machine, constants);

@@ -4,16 +4,16 @@
 
 namespace brellowind {
 
-/// A damped spring of unit mass: stiffness (2π / response)², damping 4π · dampingFraction /
+/// An underdamped spring of unit mass: stiffness (2π / response)², damping 4π · dampingFraction /
 /// response.
 struct SpringParameters {
-    double response = 0;        ///< seconds; 0 or less jumps to the target
-    double dampingFraction = 1; ///< not negative; below 1 underdamped, above 1 overdamped
+    double response;        ///< seconds; positive
+    double dampingFraction; ///< from 0, below 1
 
     bool operator==(const SpringParameters&) const = default;
 };
 
-/// A value driven to its target by a damped spring, computed in closed form for any time.
+/// A value driven to its target by an underdamped spring, computed in closed form for any time.
 ///
 /// Times are seconds on one clock of the caller's choice. Times before the last retargeting give
 /// the state at that retargeting.

@@ -2,8 +2,6 @@
 
 #include "foundation/Utf8.h"
 
-#include <algorithm>
-
 namespace brellowind::utf8 {
 namespace {
 
@@ -46,19 +44,6 @@ char32_t takeFirstMultibyte(std::string_view& text) {
     const auto character =
         bytes < 2 || bytes > text.size() ? invalid : decoded(text.substr(0, bytes));
     text.remove_prefix(character == invalid ? 1 : bytes);
-    return character;
-}
-
-char32_t takeLastMultibyte(std::string_view& text) {
-    constexpr std::size_t longest = 4;
-    std::size_t bytes = 1;
-    while (bytes < std::min(longest, text.size()) && isTrail(text[text.size() - bytes]))
-        ++bytes;
-    auto last = text.substr(text.size() - bytes);
-    auto character = takeFirst(last);
-    if (!last.empty()) // not all of the bytes are one character
-        character = invalid;
-    text.remove_suffix(character == invalid ? 1 : bytes);
     return character;
 }
 

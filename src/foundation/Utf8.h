@@ -11,9 +11,8 @@ namespace brellowind::utf8 {
 /// What stands for bytes that are not UTF-8.
 inline constexpr char32_t invalid = 0xFFFF'FFFF;
 
-/// The parts of `takeFirst` and `takeLast` for what is not ASCII.
+/// The part of `takeFirst` for what is not ASCII.
 char32_t takeFirstMultibyte(std::string_view& text);
-char32_t takeLastMultibyte(std::string_view& text);
 
 /// The first character of `text`, which loses it. `text` is not empty.
 inline char32_t takeFirst(std::string_view& text) {
@@ -22,15 +21,6 @@ inline char32_t takeFirst(std::string_view& text) {
         return takeFirstMultibyte(text);
     text.remove_prefix(1);
     return first;
-}
-
-/// The last character of `text`, which loses it. `text` is not empty.
-inline char32_t takeLast(std::string_view& text) {
-    const auto last = static_cast<unsigned char>(text.back());
-    if (last >= 0x80)
-        return takeLastMultibyte(text);
-    text.remove_suffix(1);
-    return last;
 }
 
 bool isValid(std::string_view text);

@@ -81,11 +81,23 @@ bool isSpace(char32_t character) {
     return character == '\t' || unicode::isSpaceSeparator(character);
 }
 
+/// The number of bytes of the space that `text` ends with; 0 without one.
+std::size_t spaceAtEnd(std::string_view text) {
+    constexpr std::size_t longest = 3;
+    for (std::size_t bytes = 1; bytes <= std::min(longest, text.size()); ++bytes) {
+        auto last = text.substr(text.size() - bytes);
+        const auto character = utf8::takeFirst(last);
+        if (last.empty() && isSpace(character))
+            return bytes;
+    }
+    return 0;
+}
+
 std::string_view trimmed(std::string_view text) {
     for (auto rest = text; !text.empty() && isSpace(utf8::takeFirst(rest));)
         text = rest;
-    for (auto rest = text; !text.empty() && isSpace(utf8::takeLast(rest));)
-        text = rest;
+    while (const auto bytes = spaceAtEnd(text))
+        text.remove_suffix(bytes);
     return text;
 }
 

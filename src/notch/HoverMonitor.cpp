@@ -19,21 +19,15 @@ Rect hoverRectangle(const Rect& screenFrame, Size contentSize) {
 
 void HoverMonitor::start() {
     stop();
-    globalMonitor_ = pointer_.addGlobalMonitor(evaluation());
-    localMonitor_ = pointer_.addLocalMonitor(evaluation());
+    monitor_ = pointer_.addMonitor([weakSelf = weak_from_this()] {
+        if (const auto self = weakSelf.lock())
+            self->evaluate();
+    });
     evaluate();
 }
 
 void HoverMonitor::stop() {
-    globalMonitor_.reset();
-    localMonitor_.reset();
-}
-
-platform::Pointer::Handler HoverMonitor::evaluation() {
-    return [weakSelf = weak_from_this()] {
-        if (const auto self = weakSelf.lock())
-            self->evaluate();
-    };
+    monitor_.cancel();
 }
 
 void HoverMonitor::evaluate() {

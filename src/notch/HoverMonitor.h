@@ -38,13 +38,11 @@ public:
     Size currentSize{280, NotchMetrics::collapsedHeight};
 
 private:
-    platform::Pointer::Handler evaluation();
     void evaluate();
 
     platform::Pointer& pointer_;
     platform::Screens& screens_;
-    std::unique_ptr<platform::PointerMonitor> globalMonitor_; ///< null if refused
-    std::unique_ptr<platform::PointerMonitor> localMonitor_;  ///< null if refused
+    Subscription monitor_;
 };
 
 } // namespace brellowind

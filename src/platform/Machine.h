@@ -2,8 +2,6 @@
 
 #pragma once
 
-#include "platform/Application.h"
-#include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "platform/Images.h"
 #include "platform/LinkOpener.h"
@@ -26,14 +24,12 @@ public:
     virtual ~Machine() = default;
 
     virtual MainLoop& mainLoop() = 0;
-    virtual Clock& clock() = 0;
     virtual Log& log() = 0;
     virtual HttpClient& http() = 0;
     virtual ImageDecoder& images() = 0;
     virtual LocalFiles& files() = 0;
     virtual Player& player() = 0;
     virtual WindowSystem& windowSystem() = 0;
-    virtual Application& application() = 0;
     virtual LinkOpener& links() = 0;
     virtual LoginItem& loginItem() = 0;
 
@@ -42,12 +38,12 @@ public:
     /// has been notified, and this process should exit. Call once.
     virtual bool claimSession(std::function<void()> onSecondStart) = 0;
 
-    /// Runs the main loop until the application terminates. Returns the exit status of the process.
+    /// Runs the main loop until it quits. Returns the exit status of the process.
     virtual int run() = 0;
 };
 
 /// Makes the machine of this process. Call once. Returns null, after one line on standard error, if
-/// there is no usable window system. `argv` must outlive the machine.
-std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& constants);
+/// there is no usable window system. `argc` and `argv` must outlive the machine.
+std::unique_ptr<Machine> makeMachine(int& argc, char** argv, const ProductConstants& constants);
 
 } // namespace brellowind::platform

@@ -44,6 +44,9 @@ public:
     virtual std::unique_ptr<RepeatingTimer> scheduleRepeating(std::chrono::milliseconds interval,
                                                               Handler handler) = 0;
     virtual std::unique_ptr<NextTurn> onNextTurn(Handler handler) = 0;
+
+    /// Ends the program on a later turn.
+    virtual void quit() = 0;
 };
 
 } // namespace brellowind::platform

@@ -3,23 +3,16 @@
 #pragma once
 
 #include "foundation/Geometry.h"
+#include "foundation/Observers.h"
 
-#include <functional>
-#include <memory>
 #include <optional>
 
 namespace brellowind::platform {
 
-/// Observes pointer movements until it is destroyed. The handler may destroy it.
-class PointerMonitor {
-public:
-    virtual ~PointerMonitor() = default;
-};
-
 /// The mouse pointer.
 class Pointer {
 public:
-    using Handler = std::function<void()>;
+    using Handler = Observers::Callback;
 
     virtual ~Pointer() = default;
 
@@ -30,13 +23,10 @@ public:
     /// Whether a button is pressed, as in a drag. False if unknown.
     virtual bool isButtonHeld() { return false; }
 
-    /// Calls `handler` on the main thread after every movement outside this program's windows.
-    /// Returns null if the system refuses.
-    virtual std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) = 0;
-
-    /// Calls `handler` on the main thread after every movement over this program's windows, before
-    /// the window receives it. Returns null if the system refuses.
-    virtual std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) = 0;
+    /// Calls `handler` on the main thread after every movement that the system reports; over this
+    /// program's windows before the window receives it. The handler may end the subscription. Never
+    /// calls it if the system refuses.
+    virtual Subscription addMonitor(Handler handler) = 0;
 };
 
 } // namespace brellowind::platform

@@ -26,8 +26,8 @@ class WindowSystem {
 public:
     virtual ~WindowSystem() = default;
 
-    /// Makes an overlay of `window`, which must not have been shown before. This object and
-    /// `window` must outlive the overlay.
+    /// Makes an overlay of `window`, which must have an alpha buffer and must not have been shown
+    /// before. This object and `window` must outlive the overlay.
     virtual std::unique_ptr<Overlay> makeOverlay(QWindow& window) = 0;
 
     virtual Screens& screens() = 0;

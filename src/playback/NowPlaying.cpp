@@ -11,10 +11,9 @@ namespace brellowind {
 
 using platform::Player;
 
-NowPlaying::NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks,
-                       const platform::Clock& clock, Player& player)
-    : mainLoop_(mainLoop), tasks_(tasks), clock_(clock), player_(player),
-      lastSyncDate_(clock.now()) {}
+NowPlaying::NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks, Clock clock, Player& player)
+    : mainLoop_(mainLoop), tasks_(tasks), clock_(std::move(clock)), player_(player),
+      lastSyncDate_(clock_()) {}
 
 void NowPlaying::start() {
     stop();
@@ -84,7 +83,7 @@ void NowPlaying::apply(Player::Snapshot reading) {
     if (!toggledSinceQuestion_) // else the answer may predate the toggle
         setPlaying(reading.isPlaying);
     positionSec.set(reading.positionSec);
-    lastSyncDate_ = clock_.now();
+    lastSyncDate_ = clock_();
 }
 
 void NowPlaying::setPlaying(bool playing) {
@@ -94,7 +93,7 @@ void NowPlaying::setPlaying(bool playing) {
 }
 
 void NowPlaying::tick() {
-    const auto now = clock_.now();
+    const auto now = clock_();
     const std::chrono::duration<double> elapsed = now - lastSyncDate_;
     positionSec.set(positionSec.get() + elapsed.count());
     lastSyncDate_ = now;

@@ -4,13 +4,13 @@
 
 #include "foundation/Published.h"
 #include "foundation/Task.h"
-#include "platform/Clock.h"
 #include "platform/MainLoop.h"
 #include "platform/Player.h"
 #include "platform/TaskRunner.h"
 #include "platform/Track.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -25,8 +25,11 @@ public:
     static constexpr std::chrono::milliseconds tickInterval{50};
     static constexpr std::chrono::milliseconds confirmationDelay{150};
 
+    /// Returns the wall-clock time.
+    using Clock = std::function<std::chrono::system_clock::time_point()>;
+
     /// Inactive until `start()`. All services must outlive this object.
-    NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks, const platform::Clock& clock,
+    NowPlaying(platform::MainLoop& mainLoop, TaskRunner& tasks, Clock clock,
                platform::Player& player);
 
     /// Starts or restarts monitoring, and polls at once.
@@ -53,13 +56,13 @@ private:
 
     platform::MainLoop& mainLoop_;
     TaskRunner& tasks_;
-    const platform::Clock& clock_;
+    Clock clock_;
     platform::Player& player_;
     std::optional<TaskHandle> question_; ///< present while a request is open
     bool toggledSinceQuestion_ = false;
     std::unique_ptr<platform::Timer> timer_;
-    std::unique_ptr<platform::RepeatingTimer> ticker_; ///< paused while nothing plays
-    platform::WallTime lastSyncDate_;                  ///< time of the last change of `positionSec`
+    std::unique_ptr<platform::RepeatingTimer> ticker_;   ///< paused while nothing plays
+    std::chrono::system_clock::time_point lastSyncDate_; ///< of the last change of `positionSec`
 };
 
 } // namespace brellowind

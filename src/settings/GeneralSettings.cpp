@@ -67,7 +67,7 @@ void GeneralSettings::pressUpdateButton() {
 }
 
 void GeneralSettings::quit() {
-    services_.application.terminate();
+    services_.mainLoop.quit();
 }
 
 } // namespace brellowind

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "platform/Application.h"
 #include "platform/LinkOpener.h"
 #include "platform/Log.h"
 #include "platform/LoginItem.h"
@@ -21,7 +20,6 @@ struct SettingsServices {
     platform::Log& log;
     platform::LoginItem& loginItem;
     platform::LinkOpener& links;
-    platform::Application& application;
     const platform::ProductConstants& constants;
     SettingsRouter& router;
     UpdateChecker& updater;

@@ -93,7 +93,6 @@ void NotchRootView::tapGrabber() {
 }
 
 void NotchRootView::openSettings() {
-    environment_.application.activate();
     environment_.router.setSelectedTab(SettingsTab::general);
     environment_.openSettings();
 }

@@ -8,7 +8,6 @@
 #include "lyrics/LyricsStore.h"
 #include "notch/HoverMonitor.h"
 #include "notch/WindowInteractivity.h"
-#include "platform/Application.h"
 #include "platform/MainLoop.h"
 #include "platform/TaskRunner.h"
 #include "playback/NowPlaying.h"
@@ -47,7 +46,6 @@ public:
     struct Environment {
         platform::MainLoop& mainLoop;
         TaskRunner& tasks;
-        platform::Application& application;
         SettingsRouter& router;
         UpdateChecker& updater;
         std::shared_ptr<NowPlaying> nowPlaying;
@@ -55,7 +53,7 @@ public:
         std::shared_ptr<HoverMonitor> hover;
         std::shared_ptr<Artwork> artwork;
         WindowInteractivity::WindowFinder window; ///< finds the pill's window
-        std::function<void()> openSettings;       ///< opens the settings window, or raises it
+        std::function<void()> openSettings;       ///< opens the settings window and raises it
     };
 
     explicit NotchRootView(Environment environment);
@@ -108,7 +106,7 @@ public:
     // The entries of the context menu. The first two show the General tab of the settings.
     void openSettings();
     void checkForUpdates(); ///< also shows the settings window
-    void quit() { environment_.application.terminate(); }
+    void quit() { environment_.mainLoop.quit(); }
 
 private:
     void change(bool& ofForm, bool value);

@@ -22,10 +22,8 @@ Spring released(SpringParameters parameters) {
     return spring;
 }
 
-const std::vector<SpringParameters> everyKind{
-    {0.34, 0.82}, {0.42, 0.72}, {0.1, 0.5}, {0.24, 0.7}, // underdamped
-    {1, 0},       {0.5, 1},     {0.5, 1.5}, {0.5, 20},   // undamped, critically damped, overdamped
-};
+const std::vector<SpringParameters> kinds{
+    {0.34, 0.82}, {0.42, 0.72}, {0.1, 0.5}, {0.24, 0.7}, {1, 0}};
 
 TEST(Spring, RestsAtItsFirstValue) {
     const Spring spring({0.42, 0.72}, 5);
@@ -34,26 +32,12 @@ TEST(Spring, RestsAtItsFirstValue) {
     EXPECT_EQ(spring.velocity(3), 0);
 }
 
-TEST(Spring, CriticallyDampedFollowsItsFormula) {
-    const auto spring = released({unitResponse, 1}); // 1 - (1 + t) / e^t
-    EXPECT_NEAR(spring.value(1), 0.264241117657115, 1e-12);
-    EXPECT_NEAR(spring.velocity(1), 0.367879441171442, 1e-12);
-    EXPECT_NEAR(spring.value(2), 0.593994150290162, 1e-12);
-    EXPECT_NEAR(spring.velocity(2), 0.270670566473225, 1e-12);
-}
-
 TEST(Spring, UnderdampedOvershootsByItsFormula) {
     const auto spring = released({unitResponse, 0.6}); // oscillates at 0.8 rad/s
     const double peak = pi / 0.8;
     EXPECT_NEAR(spring.value(peak), 1 + 0.094780224842155, 1e-12); // e^(-0.75 pi)
     EXPECT_NEAR(spring.velocity(peak), 0, 1e-12);
     EXPECT_NEAR(spring.value(peak / 2), 1 - 0.230897978496374, 1e-12); // 0.75 e^(-0.375 pi)
-}
-
-TEST(Spring, OverdampedFollowsItsTwoDecays) {
-    const auto spring = released({unitResponse, 1.25}); // decays by 0.5 and by 2 per second
-    EXPECT_NEAR(spring.value(2), 1 - 4 / 3.0 * std::exp(-1) + 1 / 3.0 * std::exp(-4), 1e-12);
-    EXPECT_NEAR(spring.velocity(2), 2 / 3.0 * (std::exp(-1) - std::exp(-4)), 1e-12);
 }
 
 TEST(Spring, UndampedSwingsForEverOncePerResponse) {
@@ -66,7 +50,7 @@ TEST(Spring, UndampedSwingsForEverOncePerResponse) {
 }
 
 TEST(Spring, ObeysTheEquationOfTheDampedOscillator) {
-    for (const auto& parameters : everyKind) {
+    for (const auto& parameters : kinds) {
         const auto spring = released(parameters);
         const double stiffness = std::pow(2 * pi / parameters.response, 2);
         const double damping = 4 * pi * parameters.dampingFraction / parameters.response;
@@ -84,7 +68,7 @@ TEST(Spring, ObeysTheEquationOfTheDampedOscillator) {
 }
 
 TEST(Spring, VelocityIsTheChangeOfTheValue) {
-    for (const auto& parameters : everyKind) {
+    for (const auto& parameters : kinds) {
         const auto spring = released(parameters);
         const double step = parameters.response * 1e-6;
         for (double time = parameters.response / 16; time < parameters.response * 2;
@@ -97,19 +81,8 @@ TEST(Spring, VelocityIsTheChangeOfTheValue) {
     }
 }
 
-TEST(Spring, NearlyCriticalDampingMovesLikeCriticalDamping) {
-    const auto critical = released({0.5, 1});
-    for (const double off : {1e-3, 1e-8, 1e-15}) {
-        for (const double time : {0.05, 0.2, 0.7}) {
-            const double near = off + 1e-9;
-            EXPECT_NEAR(released({0.5, 1 - off}).value(time), critical.value(time), near);
-            EXPECT_NEAR(released({0.5, 1 + off}).value(time), critical.value(time), near);
-        }
-    }
-}
-
 TEST(Spring, ArrivesHoweverItIsDamped) {
-    for (const auto& parameters : everyKind) {
+    for (const auto& parameters : kinds) {
         if (parameters.dampingFraction == 0)
             continue;
         const auto spring = released(parameters);
@@ -120,18 +93,8 @@ TEST(Spring, ArrivesHoweverItIsDamped) {
     }
 }
 
-TEST(Spring, OvershootsExactlyWhenTheDampingFractionIsBelowOne) {
-    for (const auto& parameters : everyKind) {
-        const auto spring = released(parameters);
-        bool overshot = false;
-        for (double time = 0; time < 3; time += 0.001)
-            overshot = overshot || spring.value(time) > 1 + 1e-9;
-        EXPECT_EQ(overshot, parameters.dampingFraction < 1) << parameters.dampingFraction;
-    }
-}
-
 TEST(Spring, KeepsValueAndVelocityWhenTheTargetChanges) {
-    for (const auto& parameters : everyKind) {
+    for (const auto& parameters : kinds) {
         auto spring = released(parameters);
         const double turn = parameters.response * 0.3;
         const double value = spring.value(turn);
@@ -163,12 +126,12 @@ TEST(Spring, MayContinueAsAnotherSpring) {
     const double value = spring.value(0.04);
     const double velocity = spring.velocity(0.04);
     ASSERT_GT(velocity, 1);
-    spring.retarget(1, 0.04, {unitResponse, 1});
+    spring.retarget(1, 0.04, {unitResponse, 0.6});
     EXPECT_NEAR(spring.value(0.04), value, 1e-12);
     EXPECT_NEAR(spring.velocity(0.04), velocity, 1e-12);
-    // Critically damped at 1 rad/s, after 1 s.
-    const double displacement = (value - 1 + velocity + (value - 1)) / std::numbers::e;
-    EXPECT_NEAR(spring.value(1.04), 1 + displacement, 1e-12);
+    // After a quarter of an oscillation at 0.8 rad/s.
+    const double displacement = (velocity + 0.6 * (value - 1)) / 0.8 * std::exp(-0.375 * pi);
+    EXPECT_NEAR(spring.value(0.04 + pi / 1.6), 1 + displacement, 1e-12);
 }
 
 TEST(Spring, IsAsItWasAtTimesBeforeTheChangeOfTarget) {
@@ -186,21 +149,8 @@ TEST(Spring, OnlyTheTimeSinceTheChangeMatters) {
     EXPECT_NEAR(late.value(1024.125), early.value(0.125), 1e-12);
 }
 
-TEST(Spring, WithoutAResponseJumpsToTheTarget) {
-    for (const double response : {0.0, 1e-300, 1e-9, -1.0, std::nan("")}) {
-        Spring spring({response, 0.8}, 3);
-        EXPECT_EQ(spring.value(0), 3) << response;
-        spring.retarget(8, 2);
-        EXPECT_EQ(spring.value(1.9), 3) << response;
-        EXPECT_FALSE(spring.isSettled(1.9, 0.01)) << response;
-        EXPECT_EQ(spring.value(2), 8) << response;
-        EXPECT_EQ(spring.velocity(2), 0) << response;
-        EXPECT_TRUE(spring.isSettled(2, 0)) << response;
-    }
-}
-
 TEST(Spring, NeverMovesFasterThanTheSpeedThatItTells) {
-    for (const double damping : {0.0, 0.3, 0.72, 1.0, 2.0}) {
+    for (const double damping : {0.0, 0.3, 0.72}) {
         const auto spring = released({0.42, damping});
         double earlier = spring.speed(0);
         for (double time = 0; time < 3; time += 0.01) {
@@ -235,7 +185,7 @@ TEST(Spring, IsNotSettledWhilePassingTheTarget) {
 }
 
 TEST(Spring, StaysWithinTheToleranceOnceSettled) {
-    for (const auto& parameters : everyKind) {
+    for (const auto& parameters : kinds) {
         if (parameters.dampingFraction == 0)
             continue;
         const auto spring = released(parameters);

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 #include <limits>
-#include <utility>
 
 namespace brellowind {
 namespace {
@@ -54,7 +53,7 @@ protected:
 
     /// `isInside` after the pointer has moved to `point`.
     bool insideAt(Point point) {
-        machine.pointer.moveOutsideWindows(point);
+        machine.pointer.move(point);
         return hover->isInside.get();
     }
 
@@ -69,8 +68,7 @@ TEST_F(HoverMonitorTest, BeginsOutsideWithTheSizeOfTheCollapsedPill) {
 }
 
 TEST_F(HoverMonitorTest, DoesNotWatchBeforeItIsStarted) {
-    EXPECT_EQ(machine.pointer.globalMonitorCount(), 0U);
-    EXPECT_EQ(machine.pointer.localMonitorCount(), 0U);
+    EXPECT_EQ(machine.pointer.monitorCount(), 0U);
     EXPECT_FALSE(insideAt(overThePill));
 }
 
@@ -85,14 +83,6 @@ TEST_F(HoverMonitorTest, FollowsThePointerInAndOut) {
     EXPECT_TRUE(insideAt(overThePill));
     EXPECT_FALSE(insideAt(elsewhere));
     EXPECT_TRUE(insideAt(overThePill));
-}
-
-TEST_F(HoverMonitorTest, FollowsThePointerOverItsOwnWindows) {
-    hover->start();
-    machine.pointer.moveOverWindow(overThePill);
-    EXPECT_TRUE(hover->isInside.get());
-    machine.pointer.moveOverWindow(elsewhere);
-    EXPECT_FALSE(hover->isInside.get());
 }
 
 TEST_F(HoverMonitorTest, LeftEdgeIsInside) {
@@ -165,30 +155,28 @@ TEST_F(HoverMonitorTest, ASizeThatIsNotANumberHasNoInside) {
 TEST_F(HoverMonitorTest, APointerThatCannotBeSeenIsOutside) {
     hover->start();
     ASSERT_TRUE(insideAt(overThePill));
-    machine.pointer.moveOverWindow(std::nullopt);
+    machine.pointer.move(std::nullopt);
     EXPECT_FALSE(hover->isInside.get());
 }
 
 TEST_F(HoverMonitorTest, StartedTwiceWatchesOnce) {
     hover->start();
     hover->start();
-    EXPECT_EQ(machine.pointer.globalMonitorCount(), 1U);
-    EXPECT_EQ(machine.pointer.localMonitorCount(), 1U);
+    EXPECT_EQ(machine.pointer.monitorCount(), 1U);
     EXPECT_TRUE(insideAt(overThePill));
 }
 
-TEST_F(HoverMonitorTest, StartedTwiceRemovesTheEarlierMonitorsFirst) {
+TEST_F(HoverMonitorTest, StartedTwiceRemovesTheEarlierMonitorFirst) {
     hover->start();
     hover->start();
-    EXPECT_EQ(machine.pointer.mostMonitorsAtOnce, 2U);
+    EXPECT_EQ(machine.pointer.mostMonitorsAtOnce, 1U);
 }
 
 TEST_F(HoverMonitorTest, StoppedWatchesNoMore) {
     hover->start();
     ASSERT_TRUE(insideAt(overThePill));
     hover->stop();
-    EXPECT_EQ(machine.pointer.globalMonitorCount(), 0U);
-    EXPECT_EQ(machine.pointer.localMonitorCount(), 0U);
+    EXPECT_EQ(machine.pointer.monitorCount(), 0U);
     EXPECT_TRUE(insideAt(elsewhere)) << "the value is kept";
 }
 
@@ -197,7 +185,7 @@ TEST_F(HoverMonitorTest, MayBeStoppedWhenItIsNotStarted) {
     hover->start();
     hover->stop();
     hover->stop();
-    EXPECT_EQ(machine.pointer.globalMonitorCount(), 0U);
+    EXPECT_EQ(machine.pointer.monitorCount(), 0U);
 }
 
 TEST_F(HoverMonitorTest, MayBeStartedAgainAfterItWasStopped) {
@@ -211,27 +199,18 @@ TEST_F(HoverMonitorTest, MayBeStoppedWhileItNotifies) {
     hover->start();
     const auto subscription = hover->isInside.observe([&] { hover->stop(); });
     EXPECT_TRUE(insideAt(overThePill));
-    EXPECT_EQ(machine.pointer.globalMonitorCount(), 0U);
+    EXPECT_EQ(machine.pointer.monitorCount(), 0U);
 }
 
-TEST_F(HoverMonitorTest, KeepsLookingAtTheOtherMonitorWhenOneIsRefused) {
-    machine.pointer.refusesGlobalMonitors = true;
-    hover->start();
-    EXPECT_EQ(machine.pointer.globalMonitorCount(), 0U);
-    machine.pointer.moveOverWindow(overThePill);
-    EXPECT_TRUE(hover->isInside.get());
-}
-
-TEST_F(HoverMonitorTest, LooksOnceEvenWhenEveryMonitorIsRefused) {
-    machine.pointer.refusesGlobalMonitors = true;
-    machine.pointer.refusesLocalMonitors = true;
+TEST_F(HoverMonitorTest, LooksOnceEvenWhenItsMonitorIsRefused) {
+    machine.pointer.refusesMonitors = true;
     machine.pointer.position = overThePill;
     hover->start();
     EXPECT_TRUE(hover->isInside.get());
     hover->stop();
 }
 
-TEST_F(HoverMonitorTest, IsNotKeptAliveByItsMonitors) {
+TEST_F(HoverMonitorTest, IsNotKeptAliveByItsMonitor) {
     hover->start();
     const std::weak_ptr<HoverMonitor> weak = hover;
     hover.reset();
@@ -240,7 +219,7 @@ TEST_F(HoverMonitorTest, IsNotKeptAliveByItsMonitors) {
 
 TEST_F(HoverMonitorTest, MovementsThatArriveAfterItIsGoneDoNothing) {
     hover->start();
-    ASSERT_EQ(machine.pointer.handlers.size(), 2U);
+    ASSERT_EQ(machine.pointer.handlers.size(), 1U);
     hover.reset();
     const int before = machine.pointer.locationReadings;
     for (const auto& handler : machine.pointer.handlers)
@@ -252,7 +231,7 @@ TEST_F(HoverMonitorTest, MayLoseItsOwnerWhileItNotifies) {
     hover->start();
     const std::weak_ptr<HoverMonitor> weak = hover;
     const auto subscription = hover->isInside.observe([&] { hover.reset(); });
-    machine.pointer.moveOutsideWindows(overThePill);
+    machine.pointer.move(overThePill);
     EXPECT_TRUE(weak.expired());
 }
 

@@ -24,16 +24,6 @@ constexpr int waveformStepsPerSecond = 10;
 constexpr double screenWidth = 1512;
 constexpr double screenHeight = 982;
 
-class DesktopItem final : public PainterItem {
-public:
-    explicit DesktopItem(Item& parent) : PainterItem(&parent) {
-        stackBefore(*parent.childItems().front());
-        setSize(parent.size());
-    }
-
-    void paint(QPainter& painter) override { demo::paintDesktop(painter, size()); }
-};
-
 /// The service's answer for lyrics in the LRC format.
 std::string answer(const QString& lrc) {
     if (lrc.isEmpty())
@@ -46,14 +36,19 @@ void send(QWindow& window, QEvent::Type type, QPointF at, Qt::MouseButton button
     QCoreApplication::sendEvent(&window, &event);
 }
 
-/// The content of `window` over black.
-QImage grabbed(SceneWindow& window) {
-    const QImage shown = window.grab();
-    QImage image(shown.size(), QImage::Format_RGB32);
-    image.setDevicePixelRatio(shown.devicePixelRatio());
+/// An opaque black image of the size of `window`.
+QImage black(const QWindow& window) {
+    const double scale = window.devicePixelRatio();
+    QImage image(window.size() * scale, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
     image.fill(Qt::black);
-    QPainter(&image).drawImage(QPointF(0, 0), shown);
     return image;
+}
+
+/// The content of `window` over `behind`.
+QImage grabbed(SceneWindow& window, QImage behind) {
+    QPainter(&behind).drawImage(QPointF(0, 0), window.grab());
+    return behind;
 }
 
 } // namespace
@@ -75,7 +70,6 @@ PillStage::PillStage() {
     content_->resize(640, NotchMetrics::windowHeight);
     QResizeEvent resize(content_->size(), {}); // hidden windows get none
     QCoreApplication::sendEvent(content_.get(), &resize);
-    new DesktopItem(content_->root());
     root_->appear();
     rest();
 }
@@ -107,7 +101,7 @@ void PillStage::setPlaying(bool plays) {
 
 void PillStage::setPointerInside(bool inside) {
     const Point above{screenWidth / 2, screenHeight - 4};
-    machine_.pointer.moveOutsideWindows(inside ? above : Point{0, 0});
+    machine_.pointer.move(inside ? above : Point{0, 0});
     runTurns();
 }
 
@@ -131,13 +125,11 @@ void PillStage::rest() {
 }
 
 QImage PillStage::window() {
-    return grabbed(*content_);
+    return grabbed(*content_, desktop());
 }
 
 QImage PillStage::desktop() const {
-    const double scale = content_->devicePixelRatio();
-    QImage image(content_->size() * scale, QImage::Format_RGB32);
-    image.setDevicePixelRatio(scale);
+    QImage image = black(*content_);
     QPainter painter(&image);
     demo::paintDesktop(painter, content_->size());
     return image;
@@ -159,7 +151,7 @@ QImage PillStage::menu(const QString& hovered) {
         if (entry->accessibleName() == hovered)
             send(*menu, QEvent::MouseMove, entry->transform().map(entry->boundingRect().center()),
                  Qt::NoButton);
-    const QImage picture = grabbed(*menu);
+    const QImage picture = grabbed(*menu, black(*menu));
     menu->close();
     return picture;
 }

@@ -20,7 +20,7 @@ struct Monitor {
     TestMachine machine;
     FakePlayer& spotify = machine.player;
     std::shared_ptr<NowPlaying> nowPlaying = std::make_shared<NowPlaying>(
-        machine.mainLoop, machine.tasks, machine.clock, machine.player);
+        machine.mainLoop, machine.tasks, [this] { return machine.clock.now(); }, machine.player);
 
     /// Starts the monitor and processes an immediate answer of the player.
     void start() {

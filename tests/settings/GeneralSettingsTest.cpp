@@ -211,7 +211,7 @@ TEST_F(GeneralSettingsTest, FeedbackToAnAddressThatMakesNoLinkOpensNothingAndSay
 
 TEST_F(GeneralSettingsTest, QuitTerminatesTheProgram) {
     GeneralSettings(parts.services()).quit();
-    EXPECT_EQ(machine.application.terminations, 1);
+    EXPECT_EQ(machine.mainLoop.quits, 1);
 }
 
 } // namespace

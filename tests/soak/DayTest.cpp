@@ -76,12 +76,9 @@ public:
         forget(view_.machine.loginItem.attempts);
         forget(view_.window.calls);
         const auto& machine = view_.machine;
-        return {machine.mainLoop.timerCount(),
-                machine.mainLoop.nextTurnCount(),
-                machine.tasks.running(),
-                machine.http.pending(),
-                machine.pointer.globalMonitorCount() + machine.pointer.localMonitorCount(),
-                heap().blocks};
+        return {machine.mainLoop.timerCount(),  machine.mainLoop.nextTurnCount(),
+                machine.tasks.running(),        machine.http.pending(),
+                machine.pointer.monitorCount(), heap().blocks};
     }
 
     int songs = 0;

@@ -16,6 +16,7 @@ public:
     std::unique_ptr<platform::RepeatingTimer> scheduleRepeating(std::chrono::milliseconds interval,
                                                                 Handler handler) override;
     std::unique_ptr<platform::NextTurn> onNextTurn(Handler handler) override;
+    void quit() override { ++quits; }
 
     /// Runs all due handlers without advancing time.
     void runTurns() { advance(std::chrono::milliseconds(0)); }
@@ -30,6 +31,8 @@ public:
 
     /// Number of running repeating timers of `interval`.
     std::size_t repeatingTimerCount(std::chrono::milliseconds interval) const;
+
+    int quits = 0;
 
 private:
     class FakeTimer;

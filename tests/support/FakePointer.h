@@ -4,6 +4,7 @@
 
 #include "platform/Pointer.h"
 
+#include <cstddef>
 #include <list>
 #include <vector>
 
@@ -19,37 +20,26 @@ public:
 
     bool isButtonHeld() override { return buttonHeld; }
 
-    std::unique_ptr<platform::PointerMonitor> addGlobalMonitor(Handler handler) override;
-    std::unique_ptr<platform::PointerMonitor> addLocalMonitor(Handler handler) override;
+    Subscription addMonitor(Handler handler) override;
 
-    /// Moves the pointer over the desktop or another program: notifies the global monitors.
-    void moveOutsideWindows(std::optional<Point> to);
+    /// Moves the pointer and notifies the monitors.
+    void move(std::optional<Point> to);
 
-    /// Moves the pointer over a window of this program: notifies the local monitors.
-    void moveOverWindow(std::optional<Point> to);
-
-    std::size_t globalMonitorCount() const { return global_.size(); }
-    std::size_t localMonitorCount() const { return local_.size(); }
+    std::size_t monitorCount() const { return monitors_.size(); }
 
     std::optional<Point> position;
     bool buttonHeld = false;
-    bool refusesGlobalMonitors = false;
-    bool refusesLocalMonitors = false;
+    bool refusesMonitors = false;
     int locationReadings = 0;
-    std::size_t mostMonitorsAtOnce = 0; ///< global and local ones together
+    std::size_t mostMonitorsAtOnce = 0;
 
     /// All handlers ever installed, also those of destroyed monitors.
     std::vector<Handler> handlers;
 
 private:
-    class Monitor;
-    using Monitors = std::list<Monitor*>;
+    struct Monitor;
 
-    std::unique_ptr<platform::PointerMonitor> add(Monitors& monitors, Handler handler);
-    static void notify(const Monitors& monitors);
-
-    Monitors global_;
-    Monitors local_;
+    std::list<const Monitor*> monitors_;
 };
 
 } // namespace brellowind::test

@@ -22,10 +22,10 @@ struct RootViewParts : SettingsParts {
         return std::make_shared<NotchRootView>(NotchRootView::Environment{
             .mainLoop = m.mainLoop,
             .tasks = m.tasks,
-            .application = m.application,
             .router = router,
             .updater = *updater,
-            .nowPlaying = std::make_shared<NowPlaying>(m.mainLoop, m.tasks, m.clock, m.player),
+            .nowPlaying = std::make_shared<NowPlaying>(
+                m.mainLoop, m.tasks, [&m] { return m.clock.now(); }, m.player),
             .lyrics = std::make_shared<LyricsStore>(m.tasks, m.http, m.constants),
             .hover = std::make_shared<HoverMonitor>(m.pointer, m.screens),
             .artwork =

@@ -19,7 +19,6 @@ struct SettingsParts {
                 .log = machine.log,
                 .loginItem = machine.loginItem,
                 .links = machine.links,
-                .application = machine.application,
                 .constants = machine.constants,
                 .router = router,
                 .updater = *updater};

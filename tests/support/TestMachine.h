@@ -2,8 +2,6 @@
 
 #pragma once
 
-#include "platform/Application.h"
-#include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "platform/Images.h"
 #include "platform/LinkOpener.h"
@@ -17,7 +15,7 @@
 #include "support/FakePointer.h"
 #include "support/FakeScreens.h"
 
-#include <list>
+#include <chrono>
 #include <map>
 #include <optional>
 #include <string>
@@ -26,17 +24,19 @@
 namespace brellowind::test {
 
 /// A wall clock that runs with the fake main loop and can be changed.
-class FakeClock final : public platform::Clock {
+class FakeClock {
 public:
+    using Time = std::chrono::system_clock::time_point;
+
     explicit FakeClock(const FakeMainLoop& loop) : loop_(loop) {}
 
-    platform::WallTime now() const override { return start_ + loop_.elapsed() + shift; }
+    Time now() const { return start_ + loop_.elapsed() + shift; }
 
     std::chrono::milliseconds shift{0};
 
 private:
     const FakeMainLoop& loop_;
-    platform::WallTime start_{std::chrono::hours(24 * 365 * 50)};
+    Time start_{std::chrono::hours(24 * 365 * 50)};
 };
 
 class FakeLog final : public platform::Log {
@@ -70,15 +70,6 @@ public:
     std::size_t pending() const;
 
     std::vector<std::shared_ptr<Pending>> requests;
-};
-
-class FakeApplication final : public platform::Application {
-public:
-    void activate() override { ++activations; }
-    void terminate() override { ++terminations; }
-
-    int activations = 0;
-    int terminations = 0;
 };
 
 /// Records the opened links.
@@ -163,7 +154,6 @@ struct TestMachine {
     FakePlayer player{mainLoop};
     FakeScreens screens; ///< none at first
     FakePointer pointer;
-    FakeApplication application;
     FakeLinkOpener links;
     FakeLoginItem loginItem;
     platform::ProductConstants constants{

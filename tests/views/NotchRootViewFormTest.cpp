@@ -63,7 +63,7 @@ TEST(NotchRootViewForm, CountsAPointerThatLeavesInTheTurnOfThePauseAsGone) {
     view.appear();
     view.resume();
     view.movePointer(View::overThePill);
-    view.machine.pointer.moveOutsideWindows(View::elsewhere);
+    view.machine.pointer.move(View::elsewhere);
     view.view.tapWaveform();
     view.runTurns();
     EXPECT_TRUE(view.form().isMinimized);

@@ -52,7 +52,7 @@ TEST(NotchRootViewHover, ComesWithOneRedrawOnTheNextTurn) {
     view.appear();
     int redraws = 0;
     const auto subscription = view.view.onRedraw([&] { ++redraws; });
-    view.machine.pointer.moveOutsideWindows(View::overThePill);
+    view.machine.pointer.move(View::overThePill);
     EXPECT_FALSE(view.form().hovered);
     EXPECT_EQ(redraws, 0);
     view.runTurns();
@@ -158,8 +158,8 @@ TEST(NotchRootViewInteractivity, IsLeftAloneWhileThePointerStaysInOrOut) {
 TEST(NotchRootViewInteractivity, IsNotSwitchedByAPointerThatIsBackBeforeTheNextTurn) {
     View view;
     view.appear();
-    view.machine.pointer.moveOutsideWindows(View::overThePill);
-    view.machine.pointer.moveOutsideWindows(View::elsewhere);
+    view.machine.pointer.move(View::overThePill);
+    view.machine.pointer.move(View::elsewhere);
     view.runTurns();
     EXPECT_NE(ignoresMouse(view), false);
     EXPECT_FALSE(view.form().hovered);

@@ -213,8 +213,7 @@ private:
         const Point to{test::View::screenFrame.midX() + offsets[place],
                        test::View::screenFrame.maxY() - 5};
         inside_ = offsets[place] < aside + 8;
-        place % 2 == 0 ? view_.machine.pointer.moveOutsideWindows(to)
-                       : view_.machine.pointer.moveOverWindow(to);
+        view_.machine.pointer.move(to);
     }
 
     void hover(int item) {

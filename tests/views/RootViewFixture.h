@@ -51,7 +51,7 @@ struct View {
     std::size_t requests() const { return machine.http.requests.size(); }
 
     void movePointer(Point to) {
-        machine.pointer.moveOutsideWindows(to);
+        machine.pointer.move(to);
         runTurns();
     }
 

@@ -10,7 +10,6 @@
 #include "platform/linux/MprisProxy.h"
 
 #include <QDBusConnection>
-#include <QString>
 #include <map>
 #include <memory>
 #include <optional>

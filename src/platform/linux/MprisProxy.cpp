@@ -5,7 +5,6 @@
 #include "platform/linux/MprisReading.h"
 
 #include <algorithm>
-#include <string>
 #include <utility>
 
 namespace brellowind::platform {

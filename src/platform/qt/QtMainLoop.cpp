@@ -2,6 +2,7 @@
 
 #include "platform/qt/QtMainLoop.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 #include <utility>
 
@@ -63,6 +64,10 @@ std::unique_ptr<RepeatingTimer> QtMainLoop::scheduleRepeating(std::chrono::milli
 
 std::unique_ptr<NextTurn> QtMainLoop::onNextTurn(Handler handler) {
     return std::make_unique<QtNextTurn>(std::move(handler));
+}
+
+void QtMainLoop::quit() {
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
 } // namespace brellowind::platform

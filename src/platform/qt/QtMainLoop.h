@@ -13,6 +13,7 @@ public:
     std::unique_ptr<RepeatingTimer> scheduleRepeating(std::chrono::milliseconds interval,
                                                       Handler handler) override;
     std::unique_ptr<NextTurn> onNextTurn(Handler handler) override;
+    void quit() override;
 };
 
 } // namespace brellowind::platform

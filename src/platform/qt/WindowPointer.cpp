@@ -5,19 +5,9 @@
 #include <QMouseEvent>
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace brellowind::platform {
 namespace {
-
-class WindowPointerMonitor final : public PointerMonitor {
-public:
-    explicit WindowPointerMonitor(Subscription subscription)
-        : subscription_(std::move(subscription)) {}
-
-private:
-    Subscription subscription_;
-};
 
 /// Whether a mouse event is synthesised from touch. Qt on Wayland does not tell by the device.
 bool isFromFinger(const QEvent& event) {
@@ -26,14 +16,6 @@ bool isFromFinger(const QEvent& event) {
 }
 
 } // namespace
-
-std::unique_ptr<PointerMonitor> WindowPointer::addGlobalMonitor(Handler /*handler*/) {
-    return nullptr;
-}
-
-std::unique_ptr<PointerMonitor> WindowPointer::addLocalMonitor(Handler handler) {
-    return std::make_unique<WindowPointerMonitor>(observers_->add(std::move(handler)));
-}
 
 void WindowPointer::moveWithin(const Rect& frame, const QSinglePointEvent& event) {
     if (isFromFinger(event))

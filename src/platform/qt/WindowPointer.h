@@ -8,6 +8,7 @@
 #include <QSinglePointEvent>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace brellowind::platform {
 
@@ -16,8 +17,9 @@ namespace brellowind::platform {
 class WindowPointer final : public Pointer {
 public:
     std::optional<Point> location() override { return location_; }
-    std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) override;
-    std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) override;
+    Subscription addMonitor(Handler handler) override {
+        return observers_->add(std::move(handler));
+    }
 
     /// The pointer has moved to the position of `event` in a window with `frame` on the desktop.
     /// The position is kept below the frame's top edge. Ignores touch events.

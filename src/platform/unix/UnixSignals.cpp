@@ -25,19 +25,6 @@ void notify(int /*signal*/) {
     errno = error;
 }
 
-bool isIgnored(int signal) {
-    struct sigaction action {};
-    return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
-}
-
-void setHandler(int signal, void (*handler)(int)) {
-    struct sigaction action {};
-    action.sa_handler = handler;
-    action.sa_flags = SA_RESTART;
-    sigemptyset(&action.sa_mask);
-    ::sigaction(signal, &action, nullptr);
-}
-
 } // namespace
 
 UnixSignals::UnixSignals(std::function<void()> onTermination) {
@@ -58,16 +45,18 @@ UnixSignals::UnixSignals(std::function<void()> onTermination) {
                          }
                          handler();
                      });
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        if (!isIgnored(signal)) {
-            setHandler(signal, notify);
+    // On all supported systems the handler stays installed and interrupted calls are restarted.
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        if (std::signal(signal, notify) == SIG_IGN)
+            std::signal(signal, SIG_IGN);
+        else
             handled_.push_back(signal);
-        }
+    }
 }
 
 UnixSignals::~UnixSignals() {
     for (const int signal : handled_)
-        setHandler(signal, SIG_DFL);
+        std::signal(signal, SIG_DFL);
     if (!notifier_)
         return;
     notifier_.reset();

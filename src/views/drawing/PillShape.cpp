@@ -77,13 +77,6 @@ QImage narrowShadow(QSizeF size, double lift, double room, double ratio) {
     return alpha;
 }
 
-/// Limits the shadow to the visible width, since the pill's text may be arbitrarily long.
-double widestShadow(const QPainter& painter, double lift) {
-    const auto* device = painter.device();
-    const double seen = device->width() / device->devicePixelRatioF();
-    return 2 * std::ceil(seen / 2 + shadowExtent(lift) + topRadius + bottomRadius);
-}
-
 /// Black with `alpha`, with the middle column repeated up to `width` pixels.
 QImage widened(const QImage& alpha, int width) {
     const QImage narrow = alpha.convertToFormat(QImage::Format_ARGB32_Premultiplied);
@@ -147,9 +140,7 @@ void PillShape::paint(QPainter& painter) {
 void PillShape::paintShadow(QPainter& painter) {
     const double ratio = pixelRatio();
     const double extent = shadowExtent(lift_);
-    const Cast cast{.pill = {std::min(width(), widestShadow(painter, lift_)), height()},
-                    .lift = lift_,
-                    .room = roomBelow()};
+    const Cast cast{.pill = size(), .lift = lift_, .room = roomBelow()};
     if (shadow_.isNull() || cast != cast_ || shadow_.devicePixelRatio() != ratio) {
         shadow_ = widened(narrowShadow(cast.pill, cast.lift, cast.room, ratio),
                           static_cast<int>(std::lround((cast.pill.width() + 2 * extent) * ratio)));
@@ -158,8 +149,7 @@ void PillShape::paintShadow(QPainter& painter) {
     }
     painter.save();
     painter.setOpacity(painter.opacity() * std::clamp(lift_, 0.0, 1.0));
-    painter.drawImage(
-        QPointF((width() - cast.pill.width()) / 2 - extent, shadowDrop * lift_ - extent), shadow_);
+    painter.drawImage(QPointF(-extent, shadowDrop * lift_ - extent), shadow_);
     painter.restore();
 }
 

@@ -32,7 +32,7 @@ public:
 private:
     /// The parameters of a shadow's image.
     struct Cast {
-        QSizeF pill; ///< limited to the visible width
+        QSizeF pill;
         double lift = 0;
         double room = 0; ///< points below the pill
 

@@ -79,7 +79,6 @@ void FloatingArtwork::showCaption(double opacity) {
     }
     if (!caption_) {
         caption_ = new ArtworkCaption(frames_, this);
-        caption_->stackBefore(*area_);
         caption_->setTransformOrigin(BottomLeft);
         fillCaption();
     }

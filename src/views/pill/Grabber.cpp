@@ -3,14 +3,15 @@
 #include "views/pill/Grabber.h"
 
 #include "views/NotchRootView.h"
-#include "views/drawing/Capsule.h"
 #include "views/pill/Fade.h"
 #include "views/pill/PillContent.h"
 #include "views/pill/PillMotion.h"
 #include "views/pill/Style.h"
 #include "views/scene/TapArea.h"
 
+#include <QPainter>
 #include <algorithm>
+#include <utility>
 
 namespace brellowind {
 namespace {
@@ -22,11 +23,8 @@ constexpr double bright = 0.25;
 } // namespace
 
 Grabber::Grabber(NotchRootView& view, const PillContent& content, Item* parent)
-    : Item(parent), content_(content), capsule_(new Capsule(this)),
-      area_(new TapArea(QAccessible::Button, this)) {
+    : PainterItem(parent), content_(content), area_(new TapArea(QAccessible::Button, this)) {
     setSize({style::grabberWidth, style::grabberPadding + style::grabberHeight});
-    capsule_->setPosition({0, style::grabberPadding});
-    capsule_->setSize({style::grabberWidth, style::grabberHeight});
     area_->setPosition({-margin, -margin});
     area_->setSize(size().grownBy(QMarginsF(margin, margin, margin, margin)));
     area_->acceptHover();
@@ -44,8 +42,18 @@ void Grabber::refresh() {
 
 void Grabber::layOut(const PillMotion& motion) {
     const double brightness = style::mix(faint, bright, motion.grabber.value());
-    capsule_->setColor(QColor::fromRgbF(1, 1, 1, static_cast<float>(brightness)));
+    const auto color = QColor::fromRgbF(1, 1, 1, static_cast<float>(brightness));
+    if (std::exchange(color_, color) != color)
+        update();
     fade(*this, std::max(motion.hover.value(), motion.expand.value()));
+}
+
+void Grabber::paint(QPainter& painter) {
+    constexpr double radius = style::grabberHeight / 2;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color_);
+    painter.drawRoundedRect(boundingRect().adjusted(0, style::grabberPadding, 0, 0), radius,
+                            radius);
 }
 
 } // namespace brellowind

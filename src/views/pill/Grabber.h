@@ -4,16 +4,17 @@
 
 #include "views/scene/Item.h"
 
+#include <QColor>
+
 namespace brellowind {
 
-class Capsule;
 class NotchRootView;
 class TapArea;
 struct PillContent;
 struct PillMotion;
 
 /// The handle at the lower edge of a hovered pill.
-class Grabber : public Item {
+class Grabber : public PainterItem {
     Q_OBJECT
 
 public:
@@ -24,10 +25,12 @@ public:
 
     void layOut(const PillMotion& motion);
 
+    void paint(QPainter& painter) override;
+
 private:
     const PillContent& content_;
-    Capsule* capsule_;
     TapArea* area_;
+    QColor color_;
 };
 
 } // namespace brellowind

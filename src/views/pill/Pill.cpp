@@ -27,8 +27,9 @@ Item* named(Item* item, const char* name) {
     return item;
 }
 
+/// Its room is small until the window has a size, so that an endless line makes no endless pill.
 LyricText::Style lineStyle() {
-    return {style::font(13, QFont::Medium), style::text};
+    return {style::font(13, QFont::Medium), style::text, style::minimumContentWidth};
 }
 
 LyricText::Style panelLineStyle() {

@@ -120,12 +120,12 @@ void PillMenu::mouseReleaseEvent(QMouseEvent* event) {
 
 void PillMenu::showEvent(QShowEvent* event) {
     SceneWindow::showEvent(event);
-    announceMenu(*this, true);
+    announce(*this, QAccessible::PopupMenuStart);
 }
 
 void PillMenu::hideEvent(QHideEvent* event) {
     SceneWindow::hideEvent(event);
-    announceMenu(*this, false);
+    announce(*this, QAccessible::PopupMenuEnd);
     highlight(nullptr);
     isPressed_ = false;
     dragBegan_.reset();

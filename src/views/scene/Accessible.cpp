@@ -129,33 +129,17 @@ QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* obje
     return window ? new AccessibleWindow(*window) : nullptr;
 }
 
-void announce(QObject& object, QAccessible::Event what) {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent event(&object, what);
-    QAccessible::updateAccessibility(&event);
-}
-
 } // namespace
 
 void installAccessibility() {
     QAccessible::installFactory(makeAccessible);
 }
 
-void announceName(Item& item) {
-    announce(item, QAccessible::NameChanged);
-}
-
-void announceVisibility(Item& item, bool visible) {
-    announce(item, visible ? QAccessible::ObjectShow : QAccessible::ObjectHide);
-}
-
-void announceFocus(Item& item) {
-    announce(item, QAccessible::Focus);
-}
-
-void announceMenu(SceneWindow& menu, bool open) {
-    announce(menu, open ? QAccessible::PopupMenuStart : QAccessible::PopupMenuEnd);
+void announce(QObject& object, QAccessible::Event what) {
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(&object, what);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace brellowind

@@ -7,9 +7,6 @@
 
 namespace brellowind {
 
-class Item;
-class SceneWindow;
-
 /// The accessible interface of an item. Items that assistive programs can find derive from it.
 class Accessible {
 public:
@@ -31,18 +28,7 @@ public:
 /// Exposes the accessible items of every `SceneWindow`. Idempotent.
 void installAccessibility();
 
-// The functions below notify assistive programs. `item` must be `Accessible`.
-
-/// The name of `item` has changed.
-void announceName(Item& item);
-
-/// `item` has become available or unavailable.
-void announceVisibility(Item& item, bool visible);
-
-/// `item` has received the focus.
-void announceFocus(Item& item);
-
-/// `menu` opens or has closed.
-void announceMenu(SceneWindow& menu, bool open);
+/// Notifies assistive programs of a change of `object`, an `Accessible` item or a `SceneWindow`.
+void announce(QObject& object, QAccessible::Event what);
 
 } // namespace brellowind

@@ -4,7 +4,6 @@
 
 #include "views/scene/SceneWindow.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace brellowind {
@@ -37,20 +36,6 @@ Item::~Item() {
 
 SceneWindow* Item::window() const {
     return parent_ ? parent_->window() : window_;
-}
-
-void Item::stackBefore(const Item& sibling) {
-    auto& siblings = parent_->children_;
-    std::erase(siblings, this);
-    siblings.insert(std::ranges::find(siblings, &sibling), this);
-    makeStale();
-    requestFrame();
-}
-
-void Item::makeStale() {
-    stale_ = changed_ = true;
-    for (auto* child : children_)
-        child->makeStale();
 }
 
 void Item::setSize(QSizeF size) {

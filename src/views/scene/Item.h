@@ -34,9 +34,6 @@ public:
     /// Null if it belongs to no window.
     SceneWindow* window() const;
 
-    /// Moves it directly below `sibling` in the stacking order.
-    void stackBefore(const Item& sibling);
-
     QPointF position() const { return position_; }
     double x() const { return position_.x(); }
     double y() const { return position_.y(); }
@@ -110,7 +107,6 @@ private:
 
     void requestFrame();
     void notifyVisibility();
-    void makeStale();
     QTransform transformToParent() const;
     void updateRenderState(const RenderState& inherited, bool isInheritedNew, QRegion& damage);
     void draw(QPainter& painter, const QRegion& region);

@@ -10,7 +10,7 @@ void TapArea::setName(const QString& name) {
     if (name == name_)
         return;
     name_ = name;
-    announceName(*this);
+    announce(*this, QAccessible::NameChanged);
 }
 
 void TapArea::setEnabled(bool enabled) {
@@ -28,7 +28,7 @@ void TapArea::visibilityChanged() {
     const bool visible = isVisible() && enabled_;
     if (!visible)
         setHovered(false);
-    announceVisibility(*this, visible);
+    announce(*this, visible ? QAccessible::ObjectShow : QAccessible::ObjectHide);
 }
 
 void TapArea::setHovered(bool hovered) {
@@ -42,7 +42,7 @@ void TapArea::setFocused(bool focused) {
     isFocusable_ = true;
     isFocused_ = focused;
     if (focused)
-        announceFocus(*this);
+        announce(*this, QAccessible::Focus);
 }
 
 } // namespace brellowind

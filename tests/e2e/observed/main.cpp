@@ -27,7 +27,8 @@ int main(int argc, char** argv) {
     constants.termsURL = origin + "/terms";
     constants.feedbackEmail = "feedback@brellowind.example";
     constants.legalNotice = "© brellowind.example";
-    const auto machine = platform::makeMachine(1, argv, constants);
+    argc = 1;
+    const auto machine = platform::makeMachine(argc, argv, constants);
     if (!machine)
         return 1;
     BrellowindApp app(*machine, constants);

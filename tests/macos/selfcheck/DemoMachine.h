@@ -14,14 +14,12 @@ public:
         : machine_(machine), player_(player) {}
 
     platform::MainLoop& mainLoop() override { return machine_.mainLoop(); }
-    platform::Clock& clock() override { return machine_.clock(); }
     platform::Log& log() override { return machine_.log(); }
     platform::HttpClient& http() override { return machine_.http(); }
     platform::ImageDecoder& images() override { return machine_.images(); }
     platform::LocalFiles& files() override { return machine_.files(); }
     platform::Player& player() override { return player_; }
     platform::WindowSystem& windowSystem() override { return machine_.windowSystem(); }
-    platform::Application& application() override { return machine_.application(); }
     platform::LinkOpener& links() override { return machine_.links(); }
     platform::LoginItem& loginItem() override { return machine_.loginItem(); }
 

@@ -7,7 +7,7 @@
 #include "app/CompiledConstants.h"
 #include "companion/Companion.h"
 #include "service/DemoSong.h"
-#include "views/window/NotchView.h"
+#include "views/window/PillWindow.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -34,7 +34,7 @@ int complain(const char* message) {
     return 1;
 }
 
-int examine(NotchView& window, const QString& picture) {
+int examine(PillWindow& window, const QString& picture) {
     const auto view = static_cast<std::uintptr_t>(window.winId());
     const auto complaints = complaintsAbout(view);
     for (const auto& complaint : complaints)
@@ -50,11 +50,12 @@ int examine(NotchView& window, const QString& picture) {
 
 int main(int argc, char** argv) {
     auto constants = compiledConstants();
-    const auto machine = platform::makeMachine(1, argv, constants);
-    if (!machine)
-        return 1;
     if (argc != 2)
         return complain("usage: brellowind-selfcheck PICTURE");
+    argc = 1;
+    const auto machine = platform::makeMachine(argc, argv, constants);
+    if (!machine)
+        return 1;
     const auto song = demo::DemoSong::load(QStringLiteral(BRELLOWIND_DEMO_SONG));
     if (!song)
         return complain("the demo song is not whole");

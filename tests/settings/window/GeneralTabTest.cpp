@@ -120,9 +120,9 @@ TEST_F(GeneralTabTest, FeedbackBeginsAMessageToTheMaker) {
 
 TEST_F(GeneralTabTest, QuitEndsTheProgram) {
     open();
-    EXPECT_EQ(machine.application.terminations, 0);
+    EXPECT_EQ(machine.mainLoop.quits, 0);
     click(pressable(QStringLiteral("Quit Brellowind")));
-    EXPECT_EQ(machine.application.terminations, 1);
+    EXPECT_EQ(machine.mainLoop.quits, 1);
 }
 
 TEST_F(GeneralTabTest, ButtonsAreSoftAndLightUpWhilePressed) {
@@ -145,7 +145,7 @@ TEST_F(GeneralTabTest, ButtonsAreSoftAndLightUpWhilePressed) {
     EXPECT_EQ(fill(button), QColor::fromRgbF(1, 1, 1, 0.16F));
     QTest::mouseRelease(&window(), Qt::LeftButton, {}, middle + QPoint(0, 60));
     EXPECT_EQ(fill(button), QColor::fromRgbF(1, 1, 1, 0.09F));
-    EXPECT_EQ(machine.application.terminations, 0) << "released elsewhere";
+    EXPECT_EQ(machine.mainLoop.quits, 0) << "released elsewhere";
 }
 
 TEST_F(GeneralTabTest, EveryButtonDimsSmoothlyUnderThePointer) {

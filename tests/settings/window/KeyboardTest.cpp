@@ -95,11 +95,11 @@ TEST_F(SettingsKeyboardTest, SpaceAndEnterPress) {
     open();
     tabTo("Quit Brellowind");
     press(Qt::Key_Space);
-    EXPECT_EQ(machine.application.terminations, 1);
+    EXPECT_EQ(machine.mainLoop.quits, 1);
     press(Qt::Key_Return);
-    EXPECT_EQ(machine.application.terminations, 2);
+    EXPECT_EQ(machine.mainLoop.quits, 2);
     press(Qt::Key_Enter, Qt::KeypadModifier);
-    EXPECT_EQ(machine.application.terminations, 3);
+    EXPECT_EQ(machine.mainLoop.quits, 3);
 }
 
 TEST_F(SettingsKeyboardTest, SpaceTurnsTheSwitch) {
@@ -177,7 +177,7 @@ TEST_F(SettingsKeyboardTest, ScreenReadersCanPress) {
         actions->doAction(names.contains(press) ? press : toggle);
         turn();
     }
-    EXPECT_EQ(machine.application.terminations, 1);
+    EXPECT_EQ(machine.mainLoop.quits, 1);
     EXPECT_THAT(machine.loginItem.attempts, ElementsAre("register"));
     EXPECT_TRUE(item("aboutPage")->isVisible());
 }
@@ -188,10 +188,10 @@ TEST_F(SettingsKeyboardTest, ScreenReadersCannotPressWhatIsDisabled) {
     auto* actions = accessible(button)->actionInterface();
     button->setEnabled(false);
     actions->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(machine.application.terminations, 0);
+    EXPECT_EQ(machine.mainLoop.quits, 0);
     button->setEnabled(true);
     actions->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(machine.application.terminations, 1);
+    EXPECT_EQ(machine.mainLoop.quits, 1);
 }
 
 } // namespace

@@ -50,7 +50,6 @@ protected:
                              .log = machine.log,
                              .loginItem = machine.loginItem,
                              .links = machine.links,
-                             .application = machine.application,
                              .constants = machine.constants,
                              .router = router,
                              .updater = *updater}};

@@ -167,31 +167,5 @@ TEST(PillShape, CastsAShadowWithoutSeamsHoweverWideItIs) {
         ASSERT_EQ(image.pixel(x, 65), image.pixel(200, 65)) << x;
 }
 
-TEST(PillShape, OfAnEndlessLineCastsNoEndlessShadow) {
-    PillShape pill;
-    pill.setSize({700'000, 59});
-    pill.setLift(1);
-    test::ImageRecorder window({640, 540});
-    QPainter painter(&window);
-    painter.translate(320 - 350'000, 0);
-    pill.paint(painter);
-    painter.end();
-    EXPECT_GT(window.largestImage(), 0);
-    EXPECT_LT(window.largestImage(), 1024 * 1024);
-}
-
-TEST(PillShape, WiderThanTheWindowCastsTheSameShadowInIt) {
-    PillShape wide;
-    wide.setSize({3000, 59});
-    wide.setLift(1);
-    PillShape endless;
-    endless.setSize({700'000, 59});
-    endless.setLift(1);
-    const QSize window(640, 140);
-    const QImage expected = test::painted(wide, window, {320 - 1500, 0});
-    EXPECT_GT(qAlpha(expected.pixel(0, 62)), 50);
-    EXPECT_EQ(test::painted(endless, window, {320 - 350'000, 0}), expected);
-}
-
 } // namespace
 } // namespace brellowind

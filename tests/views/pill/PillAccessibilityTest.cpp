@@ -167,7 +167,7 @@ TEST_F(PillAccessibility, LetsTheMenuBeReadAndPressed) {
     press(find(root, [](auto* piece) {
         return piece->text(QAccessible::Name) == QStringLiteral("Quit Brellowind");
     }));
-    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_EQ(machine.machine.mainLoop.quits, 1);
     EXPECT_FALSE(menu()->isVisible());
 }
 

@@ -90,6 +90,12 @@ TEST_F(PillLayout, OfALongLineIsFortyPointsWiderThanIt) {
     EXPECT_EQ(std::fmod(pillSize().width, 2), 0);
 }
 
+TEST_F(PillLayout, IsTheDefaultPillWhateverTheLineUntilItsWindowHasASize) {
+    appearWith(std::string(100'000, 'H'));
+    PillWindow sizeless(machine.view, *frames, windowSystem);
+    EXPECT_EQ(sizeless.root().findChild<Item*>(QStringLiteral("pill"))->width(), 272);
+}
+
 TEST_F(PillLayout, OfALineWithoutEndStaysInTheWindowAlsoWhileItIsLiftedAndPulses) {
     appearWith(std::string(100'000, 'H'));
     ASSERT_GT(naturalWidth(), 10 * windowWidth);
@@ -388,13 +394,9 @@ TEST_F(PillLayout, ShowsThePlayButtonUnderThePointer) {
 TEST_F(PillLayout, BrightensAHoveredGrabber) {
     machine.appear();
     liftPill();
-    auto* capsule = below(grabber(), "Capsule");
-    ASSERT_NE(capsule, nullptr);
-    const auto brightness = [&] {
-        return test::painted(*capsule, {36, 5}).pixelColor(18, 2).alphaF();
-    };
-    EXPECT_EQ(capsule->size(), QSizeF(36, 5));
-    EXPECT_EQ(capsule->y(), 2);
+    const auto look = [&] { return test::painted(*grabber(), {36, 7}); };
+    const auto brightness = [&] { return look().pixelColor(18, 4).alphaF(); };
+    EXPECT_EQ(test::inkRect(look()), QRect(0, 2, 36, 5));
     EXPECT_NEAR(brightness(), 0.15, 0.002);
     machine.view.hoverGrabber(true);
     settle();

@@ -113,7 +113,6 @@ TEST_F(PillMenuTest, OpensInTheArtworkPanelAndWhileMinimized) {
 TEST_F(PillMenuTest, OpensTheSettings) {
     choose(0);
     EXPECT_EQ(machine.settingsOpenings, 1);
-    EXPECT_EQ(machine.machine.application.activations, 1);
     EXPECT_FALSE(menu()->isVisible());
 }
 
@@ -129,7 +128,7 @@ TEST_F(PillMenuTest, ChecksForUpdates) {
 
 TEST_F(PillMenuTest, Quits) {
     choose(2);
-    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_EQ(machine.machine.mainLoop.quits, 1);
     EXPECT_EQ(machine.settingsOpenings, 0);
 }
 
@@ -165,7 +164,7 @@ TEST_F(PillMenuTest, HomeAndEndGoToTheEnds) {
     open();
     QTest::keyClick(menu(), Qt::Key_End);
     QTest::keyClick(menu(), Qt::Key_Return);
-    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_EQ(machine.machine.mainLoop.quits, 1);
 }
 
 TEST_F(PillMenuTest, ALetterGoesToTheNextEntryThatBeginsWithIt) {
@@ -179,13 +178,13 @@ TEST_F(PillMenuTest, ALetterGoesToTheNextEntryThatBeginsWithIt) {
     open();
     QTest::keyClick(menu(), Qt::Key_Q);
     QTest::keyClick(menu(), Qt::Key_Return);
-    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_EQ(machine.machine.mainLoop.quits, 1);
 }
 
 TEST_F(PillMenuTest, ADragFromThePillChoosesWhereItEnds) {
     open();
     drag({2, 2}, middle(entries().at(2)));
-    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_EQ(machine.machine.mainLoop.quits, 1);
     EXPECT_FALSE(menu()->isVisible());
 }
 
@@ -194,14 +193,14 @@ TEST_F(PillMenuTest, AHandThatIsNotQuiteStillChoosesNothing) {
     const QPoint at = middle(entries().at(2));
     drag(at, at + QPoint(1, 1));
     EXPECT_TRUE(menu()->isVisible());
-    EXPECT_EQ(machine.machine.application.terminations, 0);
+    EXPECT_EQ(machine.machine.mainLoop.quits, 0);
 }
 
 TEST_F(PillMenuTest, ArrowKeysGoOnFromOneEndAtTheOther) {
     open();
     QTest::keyClick(menu(), Qt::Key_Up);
     QTest::keyClick(menu(), Qt::Key_Enter);
-    EXPECT_EQ(machine.machine.application.terminations, 1) << "the last entry";
+    EXPECT_EQ(machine.machine.mainLoop.quits, 1) << "the last entry";
     open();
     QTest::keyClick(menu(), Qt::Key_Up);
     QTest::keyClick(menu(), Qt::Key_Down);
@@ -214,7 +213,7 @@ TEST_F(PillMenuTest, ArrowKeysGoOnFromTheEntryUnderThePointer) {
     QTest::mouseMove(menu(), middle(entries().at(1)));
     QTest::keyClick(menu(), Qt::Key_Down);
     QTest::keyClick(menu(), Qt::Key_Return);
-    EXPECT_EQ(machine.machine.application.terminations, 1);
+    EXPECT_EQ(machine.machine.mainLoop.quits, 1);
 }
 
 TEST_F(PillMenuTest, EnterChoosesNothingBeforeAnEntryIsHighlighted) {

@@ -60,17 +60,6 @@ TEST(Item, LeavesItsParentWhenItGoes) {
     EXPECT_EQ(outer.childItems(), (std::vector<Item*>{second}));
 }
 
-TEST(Item, MovesBelowASibling) {
-    Item outer;
-    Item first(&outer);
-    Item second(&outer);
-    Item third(&outer);
-    third.stackBefore(second);
-    EXPECT_EQ(outer.childItems(), (std::vector<Item*>{&first, &third, &second}));
-    first.stackBefore(second);
-    EXPECT_EQ(outer.childItems(), (std::vector<Item*>{&third, &first, &second}));
-}
-
 TEST(Item, LiesWhereItIsPlacedInItsParent) {
     Item outer;
     outer.setPosition({100, 50});

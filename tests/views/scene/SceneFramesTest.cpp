@@ -97,15 +97,6 @@ TEST_F(SceneFrames, DrawsOnlyWhatLiesWhereSomethingChanged) {
     EXPECT_EQ(apart.drawn, 0);
 }
 
-TEST_F(SceneFrames, MovesAnItemWithAllThatIsInIt) {
-    Block other(&window.root(), {0, 0, 120, 80}, Qt::blue);
-    Block moved(&window.root(), {8, 8, 20, 20}, Qt::red);
-    Block inside(&moved, {40, 40, 20, 20}, Qt::green);
-    settle();
-    moved.stackBefore(other);
-    EXPECT_EQ(shown(), window.grab());
-}
-
 TEST_F(SceneFrames, ClearsWhatGoes) {
     auto block = std::make_unique<Block>(&window.root(), QRectF(10, 10, 20, 20), Qt::red);
     EXPECT_FALSE(test::inkRect(shown()).isEmpty());
@@ -144,7 +135,7 @@ public:
         }
         const auto index = static_cast<std::size_t>(pick(static_cast<int>(blocks_.size())));
         Block& block = *blocks_[index];
-        switch (pick(10)) {
+        switch (pick(9)) {
         case 0:
             block.setPosition({at(120), at(80)});
             break;
@@ -169,9 +160,6 @@ public:
         case 7:
             block.setClip(pick(2) == 0);
             break;
-        case 8:
-            raise(block);
-            break;
         default:
             remove(index);
             break;
@@ -192,12 +180,6 @@ private:
                 ? &root_
                 : blocks_[static_cast<std::size_t>(pick(static_cast<int>(blocks_.size())))];
         blocks_.push_back(new Block(parent, {at(120), at(80), at(50), at(50)}, color()));
-    }
-
-    void raise(Block& block) {
-        const auto& siblings = qobject_cast<Item*>(block.parent())->childItems();
-        if (siblings.front() != &block)
-            block.stackBefore(*siblings.front());
     }
 
     /// Removes an item and its children.

@@ -42,8 +42,6 @@ TEST_F(SceneWindowTest, ShowsLaterItemsOverEarlierOnes) {
     Block below(&window.root(), {0, 0, 40, 40}, Qt::red);
     Block above(&window.root(), {0, 0, 40, 40}, Qt::blue);
     EXPECT_EQ(window.grab().pixelColor(9, 9), QColor(Qt::blue));
-    above.stackBefore(below);
-    EXPECT_EQ(window.grab().pixelColor(9, 9), QColor(Qt::red));
 }
 
 TEST_F(SceneWindowTest, FadesAllThatIsInAFadedItem) {

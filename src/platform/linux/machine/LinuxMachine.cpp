@@ -4,17 +4,15 @@
 #include "platform/linux/MprisPlayer.h"
 #include "platform/linux/ScreenLock.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/linux/XdgLinkOpener.h"
 #include "platform/linux/XdgLoginItem.h"
 #include "platform/linux/machine/DisplayLoss.h"
 #include "platform/linux/machine/SessionWindowSystem.h"
-#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"
-#include "platform/qt/QtLinkOpener.h"
 #include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtStartEnvironment.h"
-#include "platform/qt/SystemClock.h"
 #include "platform/unix/StderrLog.h"
 #include "platform/unix/UnixSignals.h"
 
@@ -54,14 +52,12 @@ public:
     ~LinuxMachine() override { ignoreDisplay(); }
 
     MainLoop& mainLoop() override { return mainLoop_; }
-    Clock& clock() override { return clock_; }
     Log& log() override { return log_; }
     HttpClient& http() override { return http_; }
     ImageDecoder& images() override { return images_; }
     LocalFiles& files() override { return files_; }
     Player& player() override { return player_; }
     WindowSystem& windowSystem() override { return *windowSystem_; }
-    Application& application() override { return application_; }
     LinkOpener& links() override { return links_; }
     LoginItem& loginItem() override { return loginItem_; }
 
@@ -80,7 +76,6 @@ public:
 private:
     std::unique_ptr<QGuiApplication> guiApplication_;
     QtMainLoop mainLoop_;
-    SystemClock clock_;
     StderrLog log_;
     QtHttpClient http_{mainLoop_};
     QtImageDecoder images_;
@@ -88,16 +83,15 @@ private:
     MprisPlayer player_;
     ScreenLock screenLock_{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
     std::unique_ptr<WindowSystem> windowSystem_ = makeWindowSystem(mainLoop_, screenLock_);
-    QtApplication application_{*windowSystem_};
-    QtLinkOpener links_;
+    XdgLinkOpener links_;
     XdgLoginItem loginItem_ = makeLoginItem();
-    UnixSignals signals_{[this] { application_.terminate(); }};
+    UnixSignals signals_{[this] { mainLoop_.quit(); }};
     std::optional<SingleInstance> instance_;
 };
 
 } // namespace
 
-std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& constants) {
+std::unique_ptr<Machine> makeMachine(int& argc, char** argv, const ProductConstants& constants) {
 #ifdef __GLIBC__
     // Other threads allocate too little to need arenas of their own.
     mallopt(M_ARENA_MAX, 1);

@@ -11,45 +11,17 @@
 #include "platform/linux/x11/X11WindowSystem.h"
 #include "platform/linux/x11/XWaylandInput.h"
 
-#include <array>
 #include <cstdio>
 #include <qpa/qplatformintegrationfactory_p.h>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace brellowind::platform {
 namespace {
 
 const QLatin1String wayland("wayland"); ///< Qt's platform name
 
-/// The command line of a Qt application. Qt keeps references into it.
-class Arguments {
-protected:
-    Arguments(int argc, char** argv, std::string platforms)
-        : values_(argv, argv + argc), platform_{"-platform", std::move(platforms)} {
-        for (auto& option : platform_)
-            values_.push_back(option.data());
-        count_ = static_cast<int>(values_.size());
-        values_.push_back(nullptr);
-    }
-
-    int count_ = 0;
-    std::vector<char*> values_;
-
-private:
-    std::array<std::string, 2> platform_;
-};
-
-class Application final : private Arguments, public QGuiApplication {
-public:
-    Application(int argc, char** argv, std::string platforms)
-        : Arguments(argc, argv, std::move(platforms)), QGuiApplication(count_, values_.data()) {}
-};
-
 } // namespace
 
-std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv) {
+std::unique_ptr<QGuiApplication> makeGuiApplication(int& argc, char** argv) {
     silenceQt();
     const bool hasWayland =
         offersLayerShell() && QPlatformIntegrationFactory::keys().contains(wayland);
@@ -61,8 +33,8 @@ std::unique_ptr<QGuiApplication> makeGuiApplication(int argc, char** argv) {
                    stderr);
         return nullptr;
     }
-    const char* platforms = !hasWayland ? "xcb" : display ? "wayland;xcb" : "wayland";
-    return std::make_unique<Application>(argc, argv, platforms);
+    qputenv("QT_QPA_PLATFORM", !hasWayland ? "xcb" : display ? "wayland;xcb" : "wayland");
+    return std::make_unique<QGuiApplication>(argc, argv);
 }
 
 std::unique_ptr<WindowSystem> makeWindowSystem(MainLoop& mainLoop, ScreenLock& screenLock) {

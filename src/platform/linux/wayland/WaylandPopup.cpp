@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <utility>
 
 namespace brellowind::platform {
 namespace {

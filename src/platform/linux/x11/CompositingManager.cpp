@@ -11,10 +11,7 @@ namespace brellowind::platform {
 CompositingManager::CompositingManager(const X11Connection& x11, std::function<void()> onChange)
     : onChange_(std::move(onChange)),
       selection_(x11.atom(("_NET_WM_CM_S" + std::to_string(x11.screenNumber())).c_str())),
-      observer_([this](const xcb_generic_event_t& event) {
-          handle(event);
-          return false;
-      }) {
+      observer_([this](const auto& event) { return handle(event); }) {
     const auto* xfixes = xcb_get_extension_data(x11.get(), &xcb_xfixes_id);
     if (xfixes && xfixes->present) {
         selectionNotify_ = xfixes->first_event + XCB_XFIXES_SELECTION_NOTIFY;
@@ -30,15 +27,14 @@ CompositingManager::CompositingManager(const X11Connection& x11, std::function<v
     running_ = owner && owner->owner != XCB_WINDOW_NONE;
 }
 
-void CompositingManager::handle(const xcb_generic_event_t& event) {
-    if (eventType(event) != selectionNotify_)
-        return;
+bool CompositingManager::handle(const xcb_generic_event_t& event) {
     const auto& change = eventAs<xcb_xfixes_selection_notify_event_t>(event);
-    if (change.selection != selection_)
-        return;
-    const bool running = change.owner != XCB_WINDOW_NONE;
-    if (std::exchange(running_, running) != running)
-        onChange_();
+    if (eventType(event) == selectionNotify_ && change.selection == selection_) {
+        const bool running = change.owner != XCB_WINDOW_NONE;
+        if (std::exchange(running_, running) != running)
+            onChange_();
+    }
+    return false;
 }
 
 } // namespace brellowind::platform

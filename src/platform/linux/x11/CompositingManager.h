@@ -17,7 +17,7 @@ public:
     bool isRunning() const { return running_; }
 
 private:
-    void handle(const xcb_generic_event_t& event);
+    bool handle(const xcb_generic_event_t& event);
 
     std::function<void()> onChange_;
     xcb_atom_t selection_; ///< owned by the compositing manager

@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <deque>
-#include <optional>
 
 namespace brellowind::platform {
 

@@ -32,7 +32,7 @@ StayOnTop::StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& 
     : x11_(x11), qtWindow_(window), window_(static_cast<xcb_window_t>(window.winId())),
       managedMark_(x11.atom("WM_STATE")), mainLoop_(mainLoop),
       nextTurn_(mainLoop.onNextTurn([this] { check(); })),
-      observer_([this](const xcb_generic_event_t& event) { return handle(event); }) {
+      observer_([this](const auto& event) { return handle(event); }) {
     x11_.selectRootEvents(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
 }
 
@@ -71,20 +71,15 @@ bool StayOnTop::mayCover(const xcb_generic_event_t& event) {
 }
 
 bool StayOnTop::concernsChildOfRoot(const xcb_generic_event_t& event) const {
-    const auto concernsChild = [&]<typename Event>(const Event& change) {
-        return change.event == x11_.root() && change.window != x11_.root();
-    };
     switch (eventType(event)) {
     case XCB_MAP_NOTIFY:
-        return concernsChild(eventAs<xcb_map_notify_event_t>(event));
     case XCB_UNMAP_NOTIFY: // it may have been a shield
-        return concernsChild(eventAs<xcb_unmap_notify_event_t>(event));
     case XCB_CONFIGURE_NOTIFY:
-        return concernsChild(eventAs<xcb_configure_notify_event_t>(event));
     case XCB_CIRCULATE_NOTIFY:
-        return concernsChild(eventAs<xcb_circulate_notify_event_t>(event));
-    case XCB_REPARENT_NOTIFY:
-        return concernsChild(eventAs<xcb_reparent_notify_event_t>(event));
+    case XCB_REPARENT_NOTIFY: {
+        const auto& change = eventAs<xcb_map_notify_event_t>(event); // all begin with these fields
+        return change.event == x11_.root() && change.window != x11_.root();
+    }
     default:
         return false;
     }

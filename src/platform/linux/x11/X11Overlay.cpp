@@ -5,7 +5,6 @@
 #include "platform/linux/screens/QtScreens.h"
 
 #include <QPlatformSurfaceEvent>
-#include <QSurfaceFormat>
 #include <cmath>
 
 namespace brellowind::platform {
@@ -31,9 +30,6 @@ X11Overlay::X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLo
       lockChange_(screenLock.onChange([this] { updateVisibility(); })) {
     window_.setFlags(Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
                      Qt::BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus);
-    auto format = window_.requestedFormat();
-    format.setAlphaBufferSize(8);
-    window_.setFormat(format);
     window_.installEventFilter(this);
     connect(&window_, &QWindow::screenChanged, this, &X11Overlay::updateShape);
 }

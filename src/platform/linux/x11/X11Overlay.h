@@ -25,8 +25,8 @@ namespace brellowind::platform {
 /// active.
 class X11Overlay final : public QObject, public Overlay {
 public:
-    /// Sets the flags of `window`, which must not have a native window. All references must outlive
-    /// this object.
+    /// Sets the flags of `window`, which must have an alpha buffer but no native window. All
+    /// references must outlive this object.
     X11Overlay(QWindow& window, MainLoop& mainLoop, ScreenLock& screenLock, X11Input& input);
 
     /// Does nothing if there is no screen.

@@ -6,29 +6,11 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QWindow>
-#include <algorithm>
 #include <utility>
 #include <xcb/xinput.h>
 
 namespace brellowind::platform {
 namespace {
-
-class X11PointerMonitor final : public PointerMonitor {
-public:
-    explicit X11PointerMonitor(Subscription subscription)
-        : subscription_(std::move(subscription)) {}
-
-private:
-    Subscription subscription_;
-};
-
-/// Whether the program has a window that may be reparented by the window manager.
-bool hasManagedWindow() {
-    return std::ranges::any_of(QGuiApplication::topLevelWindows(), [](const QWindow* window) {
-        return window->isVisible() && !window->flags().testFlag(Qt::BypassWindowManagerHint);
-    });
-}
 
 /// The extension's opcode, or -1. Before 2.1 there are no raw events during grabs.
 int xinputNumber(const X11Connection& x11) {
@@ -56,10 +38,7 @@ void selectRawMotion(const X11Connection& x11, bool selected) {
 
 X11Pointer::X11Pointer(MainLoop& mainLoop)
     : xinput_(xinputNumber(x11_)), nextTurn_(mainLoop.onNextTurn([this] { notifyMonitors(); })),
-      observer_([this](const xcb_generic_event_t& event) {
-          handle(event);
-          return false;
-      }),
+      observer_([this](const auto& event) { return handle(event); }),
       use_([this] { handleUse(); }) {
     if (xinput_ < 0)
         return;
@@ -72,7 +51,7 @@ X11Pointer::~X11Pointer() {
 }
 
 std::optional<Point> X11Pointer::location() {
-    const auto position = query(x11_.root());
+    const auto position = query();
     if (!position || !position->same_screen)
         return std::nullopt;
     return ScreenArrangement::current().coordinates.desktopPoint(position->root_x,
@@ -82,37 +61,27 @@ std::optional<Point> X11Pointer::location() {
 bool X11Pointer::isButtonHeld() {
     constexpr auto buttons =
         XCB_KEY_BUT_MASK_BUTTON_1 | XCB_KEY_BUT_MASK_BUTTON_2 | XCB_KEY_BUT_MASK_BUTTON_3;
-    const auto position = query(x11_.root());
+    const auto position = query();
     return position && (position->mask & buttons) != 0;
 }
 
-std::unique_ptr<PointerMonitor> X11Pointer::addGlobalMonitor(Handler handler) {
-    return monitor(*global_, std::move(handler));
+Subscription X11Pointer::addMonitor(Handler handler) {
+    return xinput_ < 0 ? Subscription() : observers_->add(std::move(handler));
 }
 
-std::unique_ptr<PointerMonitor> X11Pointer::addLocalMonitor(Handler handler) {
-    return monitor(*local_, std::move(handler));
-}
-
-std::unique_ptr<PointerMonitor> X11Pointer::monitor(Observers& observers, Handler handler) const {
-    if (xinput_ < 0)
-        return nullptr;
-    return std::make_unique<X11PointerMonitor>(observers.add(std::move(handler)));
-}
-
-void X11Pointer::handle(const xcb_generic_event_t& event) {
-    if (eventType(event) != XCB_GE_GENERIC)
-        return;
+bool X11Pointer::handle(const xcb_generic_event_t& event) {
     const auto& generic = eventAs<xcb_ge_generic_event_t>(event);
-    if (generic.extension == xinput_ && generic.event_type == XCB_INPUT_RAW_MOTION)
+    if (eventType(event) == XCB_GE_GENERIC && generic.extension == xinput_ &&
+        generic.event_type == XCB_INPUT_RAW_MOTION)
         requestMovement();
+    return false;
 }
 
 /// A press uses the pointer as well, without a movement.
 void X11Pointer::handleUse() {
     if (moved_)
         return;
-    const auto position = query(x11_.root());
+    const auto position = query();
     if (position && told_ != std::pair<int, int>(position->root_x, position->root_y))
         requestMovement();
 }
@@ -135,29 +104,13 @@ void X11Pointer::notifyMonitors() {
     if (!std::exchange(moved_, false))
         return;
     qGuiApp->removeEventFilter(this);
-    auto position = query(x11_.root());
-    if (position)
+    if (const auto position = query())
         told_.emplace(position->root_x, position->root_y);
-    if (isOverOwnWindow(std::move(position)))
-        local_->notify();
-    else
-        global_->notify();
+    observers_->notify();
 }
 
-X11Pointer::Position X11Pointer::query(xcb_window_t within) const {
-    return x11_.ask<xcb_query_pointer, xcb_query_pointer_reply>(within);
-}
-
-bool X11Pointer::isOverOwnWindow(Position position) const {
-    const bool searchFrames = hasManagedWindow();
-    while (position && position->child != XCB_WINDOW_NONE) {
-        if (x11_.owns(position->child))
-            return true;
-        if (!searchFrames)
-            return false;
-        position = query(position->child);
-    }
-    return false;
+X11Answer<xcb_query_pointer_reply_t> X11Pointer::query() const {
+    return x11_.ask<xcb_query_pointer, xcb_query_pointer_reply>(x11_.root());
 }
 
 } // namespace brellowind::platform

@@ -23,29 +23,23 @@ public:
 
     std::optional<Point> location() override;
     bool isButtonHeld() override;
-    std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) override;
-    std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) override;
+    Subscription addMonitor(Handler handler) override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    using Position = X11Answer<xcb_query_pointer_reply_t>;
-
-    void handle(const xcb_generic_event_t& event);
+    bool handle(const xcb_generic_event_t& event);
     void handleUse();
     void requestMovement();
     void notifyMonitors();
-    Position query(xcb_window_t within) const;
-    bool isOverOwnWindow(Position position) const;
-    std::unique_ptr<PointerMonitor> monitor(Observers& observers, Handler handler) const;
+    X11Answer<xcb_query_pointer_reply_t> query() const;
 
     X11Connection x11_;
     int xinput_ = -1; ///< the extension's opcode; -1 if missing or too old
     bool moved_ = false;
     std::optional<std::pair<int, int>> told_; ///< the last location, in pixels of the root window
-    std::shared_ptr<Observers> global_ = std::make_shared<Observers>();
-    std::shared_ptr<Observers> local_ = std::make_shared<Observers>();
+    std::shared_ptr<Observers> observers_ = std::make_shared<Observers>();
     std::unique_ptr<NextTurn> nextTurn_;
     X11EventObserver observer_;
     X11PointerUse use_;

@@ -36,8 +36,7 @@ xcb_sync_counter_t idleCounter(const X11Connection& x11) {
 } // namespace
 
 X11PointerUse::X11PointerUse(std::function<void()> onUse)
-    : onUse_(std::move(onUse)),
-      observer_([this](const xcb_generic_event_t& event) { return handle(event); }) {
+    : onUse_(std::move(onUse)), observer_([this](const auto& event) { return handle(event); }) {
     const auto* extension = xcb_get_extension_data(x11_.get(), &xcb_sync_id);
     if (!extension || !extension->present)
         return;

@@ -15,10 +15,8 @@ bool isActive(std::uint8_t state) {
 } // namespace
 
 X11ScreenSaver::X11ScreenSaver(const X11Connection& x11, std::function<void()> onChange)
-    : onChange_(std::move(onChange)), observer_([this](const xcb_generic_event_t& event) {
-          handle(event);
-          return false;
-      }) {
+    : onChange_(std::move(onChange)),
+      observer_([this](const auto& event) { return handle(event); }) {
     const auto* extension = xcb_get_extension_data(x11.get(), &xcb_screensaver_id);
     if (!extension || !extension->present)
         return;
@@ -29,12 +27,14 @@ X11ScreenSaver::X11ScreenSaver(const X11Connection& x11, std::function<void()> o
     active_ = saver && platform::isActive(saver->state);
 }
 
-void X11ScreenSaver::handle(const xcb_generic_event_t& event) {
-    if (eventType(event) != notify_)
-        return;
-    const bool active = platform::isActive(eventAs<xcb_screensaver_notify_event_t>(event).state);
-    if (std::exchange(active_, active) != active)
-        onChange_();
+bool X11ScreenSaver::handle(const xcb_generic_event_t& event) {
+    if (eventType(event) == notify_) {
+        const auto& change = eventAs<xcb_screensaver_notify_event_t>(event);
+        const bool active = platform::isActive(change.state);
+        if (std::exchange(active_, active) != active)
+            onChange_();
+    }
+    return false;
 }
 
 } // namespace brellowind::platform

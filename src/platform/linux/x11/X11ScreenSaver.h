@@ -17,7 +17,7 @@ public:
     bool isActive() const { return active_; }
 
 private:
-    void handle(const xcb_generic_event_t& event);
+    bool handle(const xcb_generic_event_t& event);
 
     std::function<void()> onChange_;
     int notify_ = -1;

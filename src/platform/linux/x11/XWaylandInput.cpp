@@ -3,9 +3,7 @@
 #include "platform/linux/x11/XWaylandInput.h"
 
 #include "platform/linux/x11/X11Connection.h"
-#include "platform/linux/x11/XWaylandHover.h"
 #include "platform/linux/x11/XWaylandShape.h"
-#include "platform/qt/OutlineRegion.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -13,28 +11,6 @@
 #include <string_view>
 
 namespace brellowind::platform {
-namespace {
-
-class XWaylandOverlayShape final : public OverlayShape {
-public:
-    XWaylandOverlayShape(QWindow& window, WindowPointer& pointer, MainLoop& mainLoop,
-                         const QDBusConnection& sessionBus)
-        : shape_(window), hover_(window, pointer, mainLoop, sessionBus) {}
-
-    void update(const Path& outline, const std::vector<Rect>& inputRects, double scale,
-                bool ignoresMouseEvents) override {
-        const QRegion region = outlineRegion(outline, scale);
-        shape_.update(ignoresMouseEvents ? region : region | rectsRegion(inputRects, scale));
-    }
-
-    void present(const std::function<void()>& flush) override { shape_.present(flush); }
-
-private:
-    XWaylandShape shape_;
-    XWaylandHover hover_;
-};
-
-} // namespace
 
 bool isXWayland() {
     constexpr std::string_view extension = "XWAYLAND";
@@ -52,7 +28,7 @@ XWaylandInput::XWaylandInput(MainLoop& mainLoop, const QDBusConnection& sessionB
 
 std::unique_ptr<OverlayShape> XWaylandInput::shape(QWindow& window,
                                                    std::function<void()> /*changed*/) {
-    return std::make_unique<XWaylandOverlayShape>(window, pointer_, mainLoop_, sessionBus_);
+    return std::make_unique<XWaylandShape>(window, pointer_, mainLoop_, sessionBus_);
 }
 
 } // namespace brellowind::platform

@@ -2,6 +2,8 @@
 
 #include "platform/linux/x11/XWaylandShape.h"
 
+#include "platform/qt/OutlineRegion.h"
+
 #include <QCoreApplication>
 #include <qpa/qplatformwindow.h>
 
@@ -13,12 +15,20 @@ constexpr int mostExtra = 8;
 
 } // namespace
 
-XWaylandShape::XWaylandShape(const QWindow& window)
+XWaylandShape::XWaylandShape(QWindow& window, WindowPointer& pointer, MainLoop& mainLoop,
+                             const QDBusConnection& sessionBus)
     : qtWindow_(window), window_(static_cast<xcb_window_t>(window.winId())), shape_(x11_, window_),
-      commitsAllowed_(x11_.atom("_XWAYLAND_ALLOW_COMMITS")) {
+      commitsAllowed_(x11_.atom("_XWAYLAND_ALLOW_COMMITS")),
+      hover_(window, pointer, mainLoop, sessionBus) {
     constexpr std::uint32_t transparent = 0;
     xcb_change_window_attributes(x11_.get(), window_, XCB_CW_BACK_PIXEL, &transparent);
     QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+void XWaylandShape::update(const Path& outline, const std::vector<Rect>& inputRects, double scale,
+                           bool ignoresMouseEvents) {
+    const QRegion region = outlineRegion(outline, scale);
+    shape_.setInput(ignoresMouseEvents ? region : region | rectsRegion(inputRects, scale));
 }
 
 void XWaylandShape::present(const std::function<void()>& flush) {

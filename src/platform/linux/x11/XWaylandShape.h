@@ -2,11 +2,11 @@
 
 #pragma once
 
+#include "platform/linux/x11/OverlayShape.h"
 #include "platform/linux/x11/X11Shape.h"
+#include "platform/linux/x11/XWaylandHover.h"
 
 #include <QAbstractNativeEventFilter>
-#include <QWindow>
-#include <functional>
 
 namespace brellowind::platform {
 
@@ -15,17 +15,16 @@ namespace brellowind::platform {
 ///
 /// Therefore every frame changes the window's height, and XWayland commits height and content
 /// together. The height is a few transparent pixels larger than Qt's; the resize events are hidden
-/// from Qt.
-class XWaylandShape final : public QAbstractNativeEventFilter {
+/// from Qt. The outline always receives input, and the pointer over it is reported as hover.
+class XWaylandShape final : public OverlayShape, public QAbstractNativeEventFilter {
 public:
-    /// The native window of `window` must exist and outlive this object.
-    explicit XWaylandShape(const QWindow& window);
+    /// The native window of `window` must exist. All references must outlive this object.
+    XWaylandShape(QWindow& window, WindowPointer& pointer, MainLoop& mainLoop,
+                  const QDBusConnection& sessionBus);
 
-    /// `input` is in pixels.
-    void update(const QRegion& input) { shape_.setInput(input); }
-
-    /// Presents a frame. `flush` sends it to the X server.
-    void present(const std::function<void()>& flush);
+    void update(const Path& outline, const std::vector<Rect>& inputRects, double scale,
+                bool ignoresMouseEvents) override;
+    void present(const std::function<void()>& flush) override;
 
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
@@ -39,6 +38,7 @@ private:
     X11Shape shape_;
     xcb_atom_t commitsAllowed_;
     int extra_ = 0; ///< additional height in pixels
+    XWaylandHover hover_;
 };
 
 } // namespace brellowind::platform

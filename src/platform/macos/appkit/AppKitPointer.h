@@ -12,8 +12,7 @@ public:
     /// Always there.
     std::optional<Point> location() override;
     bool isButtonHeld() override;
-    std::unique_ptr<PointerMonitor> addGlobalMonitor(Handler handler) override;
-    std::unique_ptr<PointerMonitor> addLocalMonitor(Handler handler) override;
+    Subscription addMonitor(Handler handler) override;
 };
 
 } // namespace brellowind::platform

@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKit.h>
 
+#include <memory>
 #include <utility>
 
 namespace brellowind::platform {
@@ -13,32 +14,42 @@ namespace {
 /// lies outside it.
 constexpr double belowTheEdge = 1.0 / 64;
 
-/// The system holds the handler until the monitor is removed.
-class EventMonitor final : public PointerMonitor {
-public:
-    explicit EventMonitor(id token) : token_(token) {}
-    EventMonitor(const EventMonitor&) = delete;
-    EventMonitor& operator=(const EventMonitor&) = delete;
-    ~EventMonitor() override { [NSEvent removeMonitor:token_]; }
-
-private:
-    id token_;
-};
-
-std::unique_ptr<PointerMonitor> monitor(id _Nullable token) {
-    return token != nil ? std::make_unique<EventMonitor>(token) : nullptr;
-}
-
 using SharedHandler = std::shared_ptr<const Pointer::Handler>;
-
-SharedHandler shared(Pointer::Handler handler) {
-    return std::make_shared<const Pointer::Handler>(std::move(handler));
-}
 
 /// Keeps the handler while it runs, since it may destroy the monitor.
 void run(SharedHandler handler) {
     (*handler)();
 }
+
+/// AppKit has one monitor for movements over this program's windows and one for all others. The
+/// system holds the handler until both are removed.
+class EventMonitor {
+public:
+    explicit EventMonitor(Pointer::Handler handler) {
+        const SharedHandler kept = std::make_shared<const Pointer::Handler>(std::move(handler));
+        global_ = [NSEvent addGlobalMonitorForEventsMatchingMask:NSEventMaskMouseMoved
+                                                         handler:^(NSEvent*) {
+                                                           run(kept);
+                                                         }];
+        local_ = [NSEvent addLocalMonitorForEventsMatchingMask:NSEventMaskMouseMoved
+                                                       handler:^NSEvent*(NSEvent* event) {
+                                                         run(kept);
+                                                         return event;
+                                                       }];
+    }
+    EventMonitor(const EventMonitor&) = delete;
+    EventMonitor& operator=(const EventMonitor&) = delete;
+    ~EventMonitor() {
+        for (id token : {global_, local_}) {
+            if (token != nil)
+                [NSEvent removeMonitor:token];
+        }
+    }
+
+private:
+    id global_; ///< nil if the system refuses
+    id local_;  ///< nil if the system refuses
+};
 
 } // namespace
 
@@ -51,23 +62,8 @@ bool AppKitPointer::isButtonHeld() {
     return NSEvent.pressedMouseButtons != 0;
 }
 
-std::unique_ptr<PointerMonitor> AppKitPointer::addGlobalMonitor(Handler handler) {
-    auto kept = shared(std::move(handler));
-    id token = [NSEvent addGlobalMonitorForEventsMatchingMask:NSEventMaskMouseMoved
-                                                      handler:^(NSEvent*) {
-                                                        run(kept);
-                                                      }];
-    return monitor(token);
-}
-
-std::unique_ptr<PointerMonitor> AppKitPointer::addLocalMonitor(Handler handler) {
-    auto kept = shared(std::move(handler));
-    id token = [NSEvent addLocalMonitorForEventsMatchingMask:NSEventMaskMouseMoved
-                                                     handler:^NSEvent*(NSEvent* event) {
-                                                       run(kept);
-                                                       return event;
-                                                     }];
-    return monitor(token);
+Subscription AppKitPointer::addMonitor(Handler handler) {
+    return Subscription(std::make_shared<EventMonitor>(std::move(handler)));
 }
 
 } // namespace brellowind::platform

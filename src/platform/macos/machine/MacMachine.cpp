@@ -12,12 +12,10 @@
 #include "platform/macos/appkit/SystemLog.h"
 #include "platform/macos/appkit/WorkspaceLinks.h"
 #include "platform/macos/window/MacWindowSystem.h"
-#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtImageDecoder.h"
 #include "platform/qt/QtLocalFiles.h"
 #include "platform/qt/QtMainLoop.h"
-#include "platform/qt/SystemClock.h"
 #include "platform/unix/UnixSignals.h"
 
 #include <QGuiApplication>
@@ -31,22 +29,19 @@ namespace {
 /// Destroyed from the bottom up.
 class MacMachine final : public Machine {
 public:
-    MacMachine(int argc, char** argv)
-        : argumentCount_(argc), guiApplication_(argumentCount_, argv) {
+    MacMachine(int& argc, char** argv) : guiApplication_(argc, argv) {
         Program::becomeAccessory();
         QGuiApplication::setApplicationName(QStringLiteral("Brellowind"));
         QGuiApplication::setQuitOnLastWindowClosed(false);
     }
 
     MainLoop& mainLoop() override { return mainLoop_; }
-    Clock& clock() override { return clock_; }
     Log& log() override { return log_; }
     HttpClient& http() override { return http_; }
     ImageDecoder& images() override { return images_; }
     LocalFiles& files() override { return files_; }
     Player& player() override { return player_; }
     WindowSystem& windowSystem() override { return windowSystem_; }
-    Application& application() override { return application_; }
     LinkOpener& links() override { return links_; }
     LoginItem& loginItem() override { return loginItem_; }
 
@@ -60,10 +55,8 @@ public:
     int run() override { return QGuiApplication::exec(); }
 
 private:
-    int argumentCount_; ///< Qt keeps a reference to it
     QGuiApplication guiApplication_;
     QtMainLoop mainLoop_;
-    SystemClock clock_;
     SystemLog log_;
     QtHttpClient http_{mainLoop_};
     QtImageDecoder images_;
@@ -76,16 +69,16 @@ private:
                                    .pointer = pointer_,
                                    .makeOverlay = makeAppKitOverlay,
                                    .activateProgram = Program::activate}};
-    QtApplication application_{windowSystem_};
     WorkspaceLinks links_;
     ServiceLoginItem loginItem_;
-    UnixSignals signals_{[this] { application_.terminate(); }};
+    UnixSignals signals_{[this] { mainLoop_.quit(); }};
     std::optional<SecondStart> secondStart_;
 };
 
 } // namespace
 
-std::unique_ptr<Machine> makeMachine(int argc, char** argv, const ProductConstants& /*constants*/) {
+std::unique_ptr<Machine> makeMachine(int& argc, char** argv,
+                                     const ProductConstants& /*constants*/) {
     if (!Program::hasWindowServer()) {
         std::fputs("brellowind: this session has no window server to show the pill on\n", stderr);
         return nullptr;

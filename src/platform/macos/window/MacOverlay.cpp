@@ -5,7 +5,6 @@
 #include "platform/qt/PainterPath.h"
 
 #include <QPlatformSurfaceEvent>
-#include <QSurfaceFormat>
 #include <algorithm>
 #include <utility>
 
@@ -17,9 +16,6 @@ MacOverlay::MacOverlay(QWindow& window, Pointer& pointer, MakeNativeOverlay make
     // screens. Set once: Qt would undo what is set natively.
     window_.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint |
                      Qt::WindowDoesNotAcceptFocus);
-    auto format = window_.requestedFormat();
-    format.setAlphaBufferSize(8);
-    window_.setFormat(format);
     window_.installEventFilter(this);
 }
 
@@ -46,13 +42,7 @@ void MacOverlay::setOutline(const Path& outline, const std::vector<Rect>& inputR
 void MacOverlay::setIgnoresMouseEvents(bool ignores) {
     if (std::exchange(ignoresMouseEvents_, ignores) == ignores)
         return;
-    if (ignores) {
-        globalMonitor_.reset();
-        localMonitor_.reset();
-    } else {
-        globalMonitor_ = pointer_.addGlobalMonitor([this] { updateHover(); });
-        localMonitor_ = pointer_.addLocalMonitor([this] { updateHover(); });
-    }
+    monitor_ = ignores ? Subscription() : pointer_.addMonitor([this] { updateHover(); });
     updateHover();
 }
 

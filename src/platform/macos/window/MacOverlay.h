@@ -51,9 +51,8 @@ private:
     std::vector<Rect> inputRects_;
     bool ignoresMouseEvents_ = true;
     bool isCovered_ = false;
-    bool takesMouse_ = false;                       ///< the native window does
-    std::unique_ptr<PointerMonitor> globalMonitor_; ///< while mouse events are not ignored
-    std::unique_ptr<PointerMonitor> localMonitor_;
+    bool takesMouse_ = false; ///< the native window does
+    Subscription monitor_;    ///< while mouse events are not ignored
 };
 
 } // namespace brellowind::platform

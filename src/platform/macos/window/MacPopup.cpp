@@ -26,8 +26,7 @@ void MacPopup::show(const Popup& popup, std::function<void()> onClose) {
     window.setTransientParent(&popup.overlay); // Qt lifts it above the overlay then
     window.setPosition(popupPosition(popup));
     shown_ = std::make_unique<Shown>(window, std::move(onClose));
-    shown_->globalMonitor = pointer_.addGlobalMonitor([this] { updateHover(); });
-    shown_->localMonitor = pointer_.addLocalMonitor([this] { updateHover(); });
+    shown_->monitor = pointer_.addMonitor([this] { updateHover(); });
     qGuiApp->installEventFilter(this);
     window.show();
 }

@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace brellowind::platform {
 
@@ -37,8 +36,7 @@ private:
         QWindow& window;
         std::function<void()> onClose;
         HoverEvents hover;
-        std::unique_ptr<PointerMonitor> globalMonitor;
-        std::unique_ptr<PointerMonitor> localMonitor;
+        Subscription monitor;
     };
 
     void updateHover();

@@ -17,6 +17,7 @@
 #include <QPainter>
 #include <QRasterWindow>
 #include <QScreen>
+#include <QSurfaceFormat>
 #include <functional>
 #include <gtest/gtest.h>
 #include <optional>
@@ -37,6 +38,12 @@ inline Path rectanglePath(const QRectF& rect) {
 /// A window with a green pill, transparent elsewhere.
 class GreenWindow : public QRasterWindow {
 public:
+    GreenWindow() {
+        QSurfaceFormat transparent;
+        transparent.setAlphaBufferSize(8);
+        setFormat(transparent);
+    }
+
     QRect pill;
     std::function<void()> onPointer = [] {}; ///< entered or moved
     std::function<void()> onPress = [] {};

@@ -9,10 +9,10 @@
 namespace brellowind::platform {
 
 /// Opens links with `xdg-open`.
-class QtLinkOpener final : public LinkOpener {
+class XdgLinkOpener final : public LinkOpener {
 public:
     /// `environment` is that of the started programs.
-    explicit QtLinkOpener(QProcessEnvironment environment);
+    explicit XdgLinkOpener(QProcessEnvironment environment);
 
     bool open(std::string_view url) override;
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "platform/qt/QtLinkOpener.h"
+#include "platform/linux/XdgLinkOpener.h"
 
 #include "session/EventLoop.h"
 
@@ -13,10 +13,10 @@ namespace brellowind::platform {
 namespace {
 
 /// During its lifetime, PATH is a folder of the test.
-class QtLinkOpenerTest : public testing::Test {
+class XdgLinkOpenerTest : public testing::Test {
 protected:
-    QtLinkOpenerTest() { qputenv("PATH", folder.path().toUtf8()); }
-    ~QtLinkOpenerTest() override { qputenv("PATH", searchPath); }
+    XdgLinkOpenerTest() { qputenv("PATH", folder.path().toUtf8()); }
+    ~XdgLinkOpenerTest() override { qputenv("PATH", searchPath); }
 
     /// Installs a program that records its arguments and one environment variable.
     void install() const {
@@ -40,31 +40,32 @@ protected:
     QString opened = folder.filePath(QStringLiteral("opened"));
 };
 
-TEST_F(QtLinkOpenerTest, GivesTheLinkUnchangedToTheDesktop) {
+TEST_F(XdgLinkOpenerTest, GivesTheLinkUnchangedToTheDesktop) {
     install();
     const char* link = "https://downloads.invalid/a%20b.deb?from=app&c=%C3%A9#x";
-    EXPECT_TRUE(QtLinkOpener(QProcessEnvironment::systemEnvironment()).open(link));
+    EXPECT_TRUE(XdgLinkOpener(QProcessEnvironment::systemEnvironment()).open(link));
     EXPECT_EQ(written(), QStringLiteral("<%1><>").arg(QString::fromLatin1(link)));
 }
 
-TEST_F(QtLinkOpenerTest, StartsItInTheEnvironmentThatItWasGiven) {
+TEST_F(XdgLinkOpenerTest, StartsItInTheEnvironmentThatItWasGiven) {
     install();
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("CHOICE"), QStringLiteral("theirs"));
-    QtLinkOpener opener(environment);
+    XdgLinkOpener opener(environment);
     qputenv("CHOICE", "ours");
     EXPECT_TRUE(opener.open("mailto:feedback@brellowind.example"));
     EXPECT_EQ(written(), QStringLiteral("<mailto:feedback@brellowind.example><theirs>"));
     qunsetenv("CHOICE");
 }
 
-TEST_F(QtLinkOpenerTest, SaysWhenTheDesktopHasNoSuchCommand) {
-    EXPECT_FALSE(QtLinkOpener(QProcessEnvironment::systemEnvironment()).open("https://a.example/"));
+TEST_F(XdgLinkOpenerTest, SaysWhenTheDesktopHasNoSuchCommand) {
+    EXPECT_FALSE(
+        XdgLinkOpener(QProcessEnvironment::systemEnvironment()).open("https://a.example/"));
 }
 
-TEST_F(QtLinkOpenerTest, RefusesWhatIsNoAddress) {
+TEST_F(XdgLinkOpenerTest, RefusesWhatIsNoAddress) {
     install();
-    EXPECT_FALSE(QtLinkOpener(QProcessEnvironment::systemEnvironment()).open(""));
+    EXPECT_FALSE(XdgLinkOpener(QProcessEnvironment::systemEnvironment()).open(""));
 }
 
 } // namespace

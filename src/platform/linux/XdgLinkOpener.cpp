@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "platform/qt/QtLinkOpener.h"
+#include "platform/linux/XdgLinkOpener.h"
 
 #include <QProcess>
 #include <QUrl>
@@ -8,10 +8,10 @@
 
 namespace brellowind::platform {
 
-QtLinkOpener::QtLinkOpener(QProcessEnvironment environment)
+XdgLinkOpener::XdgLinkOpener(QProcessEnvironment environment)
     : environment_(std::move(environment)) {}
 
-bool QtLinkOpener::open(std::string_view url) {
+bool XdgLinkOpener::open(std::string_view url) {
     const auto link = QUrl::fromEncoded(QByteArray(url.data(), static_cast<qsizetype>(url.size())));
     if (!link.isValid())
         return false;
