@@ -156,10 +156,12 @@ TEST_F(SettingsKeyboardTest, ScreenReadersHearWhatCanBePressed) {
         {"Send Feedback", QAccessible::Button}, {"Quit Brellowind", QAccessible::Button},
     };
     for (const auto& [text, role] : roles) {
-        auto* interface = accessible(pressable(QString::fromUtf8(text)));
+        auto* const button = pressable(QString::fromUtf8(text));
+        auto* interface = accessible(button);
         EXPECT_EQ(interface->role(), role) << text;
         EXPECT_EQ(interface->text(QAccessible::Name).toStdString(), text);
-        EXPECT_TRUE(interface->state().focusable) << text;
+        // From Qt 6.8 on a disabled button is not focusable.
+        EXPECT_TRUE(interface->state().focusable || !button->isEnabled()) << text;
     }
     EXPECT_TRUE(accessible(item("generalTab"))->state().selected);
     EXPECT_FALSE(accessible(item("aboutTab"))->state().selected);
