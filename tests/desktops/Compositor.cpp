@@ -27,7 +27,9 @@ std::unique_ptr<Compositor> Compositor::make(const QString& name,
     if (name == QLatin1String("kwin"))
         return std::make_unique<KWin>(options);
     if (name == QLatin1String("mutter"))
-        return std::make_unique<Mutter>(options);
+        return std::make_unique<Mutter>(Mutter::Program::mutter, options);
+    if (name == QLatin1String("gnome-shell"))
+        return std::make_unique<Mutter>(Mutter::Program::gnomeShell, options);
     throw DesktopFailure(QStringLiteral("there is no compositor \"%1\"").arg(name));
 }
 
@@ -109,12 +111,15 @@ void Compositor::await(const char* what, const std::function<bool()>& condition)
     waitUntil([&] { return (holds = condition()) || !isRunning(); });
     if (holds)
         return;
-    QFile log(session_.file(logName));
-    log.open(QIODevice::ReadOnly);
     throw DesktopFailure(
         QStringLiteral("the compositor %1 before %2. It said:\n%3")
             .arg(isRunning() ? QStringLiteral("took too long") : QStringLiteral("ended"),
-                 QString::fromLatin1(what), QString::fromUtf8(log.readAll().right(4000))));
+                 QString::fromLatin1(what), QString::fromUtf8(output().right(4000))));
+}
+
+QByteArray Compositor::output() const {
+    QFile log(session_.file(logName));
+    return log.open(QIODevice::ReadOnly) ? log.readAll() : QByteArray();
 }
 
 void Compositor::end() {

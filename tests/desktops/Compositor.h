@@ -37,7 +37,7 @@ enum class Stroke { down, up };
 /// DesktopFailure.
 class Compositor {
 public:
-    /// "sway", "kwin" or "mutter", ready for clients.
+    /// "sway", "kwin", "mutter" or "gnome-shell", ready for clients.
     static std::unique_ptr<Compositor> make(const QString& name, const CompositorOptions& options);
 
     Compositor(const Compositor&) = delete;
@@ -102,6 +102,9 @@ protected:
     Compositor() = default;
 
     UserSession& mutableSession() { return session_; }
+
+    /// What the compositor has written to its output.
+    QByteArray output() const;
 
     /// Starts the compositor. Its output goes to a file, which failures quote.
     void launch(const QString& program, const QStringList& arguments);

@@ -8,8 +8,11 @@
 #include "session/EventLoop.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusInterface>
 #include <QDBusReply>
+#include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 namespace brellowind::test {
 namespace {
@@ -20,10 +23,29 @@ QRect geometry(const MutterScreen& screen) {
             (QSizeF(screen.pixels) / screen.scale).toSize()};
 }
 
+QStringList headless(const CompositorOptions& options) {
+    const QSize pixels = (QSizeF(options.size) * options.scale).toSize();
+    QStringList arguments{QStringLiteral("--headless"), QStringLiteral("--wayland"),
+                          QStringLiteral("--virtual-monitor"),
+                          QStringLiteral("%1x%2").arg(pixels.width()).arg(pixels.height())};
+    if (!options.xWayland)
+        arguments += QStringLiteral("--no-x11");
+    return arguments;
+}
+
+/// Whether GNOME Shell shows its overview, which it is asked to hide.
+bool isHidingOverview(const QDBusConnection& bus) {
+    QDBusInterface shell(QStringLiteral("org.gnome.Shell"), QStringLiteral("/org/gnome/Shell"),
+                         QStringLiteral("org.gnome.Shell"), bus);
+    const bool isActive = shell.property("OverviewActive").toBool();
+    if (isActive)
+        shell.setProperty("OverviewActive", false);
+    return isActive;
+}
+
 } // namespace
 
-Mutter::Mutter(const CompositorOptions& options) {
-    requireProgram(QStringLiteral("mutter"), QStringLiteral("mutter"));
+Mutter::Mutter(Program program, const CompositorOptions& options) {
     requireProgram(QStringLiteral("pipewire"), QStringLiteral("pipewire"));
     requireProgram(QStringLiteral("wireplumber"), QStringLiteral("wireplumber"));
     requireProgram(QStringLiteral("gst-launch-1.0"), QStringLiteral("gstreamer1.0-tools"));
@@ -33,20 +55,16 @@ Mutter::Mutter(const CompositorOptions& options) {
     auto& session = mutableSession();
     session.setVariable(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("keyfile"));
     session.writeFile(QStringLiteral(".config/glib-2.0/settings/keyfile"),
-                      "[org/gnome/desktop/interface]\nenable-animations=false\n");
+                      "[org/gnome/desktop/interface]\nenable-animations=false\n"
+                      "[org/gnome/desktop/notifications]\nshow-banners=false\n");
     pipewire_ = session.start(QStringLiteral("pipewire"), {}, QStringLiteral("pipewire.log"));
     if (!waitUntil([&] { return QFile::exists(session.file(QStringLiteral("pipewire-0"))); }))
         throw DesktopFailure(QStringLiteral("pipewire did not start"));
     wireplumber_ = session.start(QStringLiteral("wireplumber"), {}, QStringLiteral("pipewire.log"));
-    const QSize pixels = (QSizeF(options.size) * options.scale).toSize();
-    QStringList arguments{QStringLiteral("--headless"), QStringLiteral("--wayland"),
-                          QStringLiteral("--virtual-monitor"),
-                          QStringLiteral("%1x%2").arg(pixels.width()).arg(pixels.height())};
-    if (!options.xWayland)
-        arguments += QStringLiteral("--no-x11");
-    launch(QStringLiteral("mutter"),
-           arguments + QStringList{QStringLiteral("--")} + displayTeller());
-    awaitDisplays();
+    if (program == Program::gnomeShell)
+        launchShell(options);
+    else
+        launchMutter(options);
     await("it was on the bus", [&] {
         const QStringList names = session.bus().interface()->registeredServiceNames();
         return names.contains(QStringLiteral("org.gnome.Mutter.DisplayConfig")) &&
@@ -60,6 +78,50 @@ Mutter::Mutter(const CompositorOptions& options) {
     remote_ = std::make_unique<MutterRemote>(this->session());
     wakeDevices();
     awaitDevices();
+}
+
+void Mutter::launchMutter(const CompositorOptions& options) {
+    requireProgram(QStringLiteral("mutter"), QStringLiteral("mutter"));
+    launch(QStringLiteral("mutter"),
+           headless(options) + QStringList{QStringLiteral("--")} + displayTeller());
+    awaitDisplays();
+}
+
+/// The shell needs a system bus, starts no program that could tell its displays, and begins with
+/// the overview.
+void Mutter::launchShell(const CompositorOptions& options) {
+    requireProgram(QStringLiteral("gnome-shell"), QStringLiteral("gnome-shell"));
+    auto& session = mutableSession();
+    const QString address =
+        QStringLiteral("unix:path=") + session.file(QStringLiteral("system-bus"));
+    systemBus_ = session.start(
+        QStringLiteral("dbus-daemon"),
+        {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nosyslog"),
+         QStringLiteral("--address=") + address, QStringLiteral("--print-address=1")});
+    systemBus_->readLine();
+    session.setVariable(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), address);
+    launch(QStringLiteral("gnome-shell"), headless(options));
+    session.setVariable(QStringLiteral("WAYLAND_DISPLAY"),
+                        awaitOutput("Using Wayland display name '([^']+)'"));
+    if (options.xWayland) {
+        session.setVariable(QStringLiteral("DISPLAY"),
+                            awaitOutput("Using public X11 display (:\\d+)"));
+        const QStringList keys =
+            QDir(session.folder())
+                .entryList({QStringLiteral(".mutter-Xwaylandauth.*")}, QDir::Files | QDir::Hidden);
+        session.setVariable(QStringLiteral("XAUTHORITY"), session.file(keys.value(0)));
+    }
+    await("it had its overview", [&] { return isHidingOverview(session.bus()); });
+    await("it had hidden its overview", [&] { return !isHidingOverview(session.bus()); });
+}
+
+QString Mutter::awaitOutput(const char* pattern) const {
+    QRegularExpressionMatch match;
+    await("it had said its displays", [&] {
+        match = QRegularExpression(QLatin1String(pattern)).match(QString::fromUtf8(output()));
+        return match.hasMatch();
+    });
+    return match.captured(1);
 }
 
 void Mutter::tellXClients(double scale) {

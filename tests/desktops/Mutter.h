@@ -10,11 +10,13 @@ namespace brellowind::test {
 
 class MutterRemote;
 
-/// mutter, GNOME's compositor, without the shell and animations. There is no layer shell. The
-/// layout is in pixels and the scale an integer, as with GNOME.
+/// mutter, GNOME's compositor, alone or in GNOME Shell, without animations. There is no layer
+/// shell. The layout is in pixels and the scale an integer, as with GNOME.
 class Mutter : public Compositor {
 public:
-    explicit Mutter(const CompositorOptions& options);
+    enum class Program { mutter, gnomeShell };
+
+    Mutter(Program program, const CompositorOptions& options);
     ~Mutter() override;
 
     QImage screenshot(const QString& screen = {}) const override;
@@ -32,6 +34,12 @@ private:
         QPointF place;
     };
 
+    void launchMutter(const CompositorOptions& options);
+    void launchShell(const CompositorOptions& options);
+
+    /// The first group of `pattern` in the output of the compositor.
+    QString awaitOutput(const char* pattern) const;
+
     /// Uses each device once: mutter creates devices on first use.
     void wakeDevices();
 
@@ -40,6 +48,7 @@ private:
 
     Pixel pixelAt(QPointF place) const;
 
+    std::unique_ptr<demo::Companion> systemBus_;
     std::unique_ptr<demo::Companion> pipewire_;
     std::unique_ptr<demo::Companion> wireplumber_;
     std::unique_ptr<MutterRemote> remote_;

@@ -11,6 +11,8 @@
 namespace brellowind::test {
 namespace {
 
+const auto fullScreenKind = QStringLiteral("full-screen");
+
 QString hexadecimal(const QColor& colour) {
     return colour.name().mid(1);
 }
@@ -26,7 +28,7 @@ std::optional<PressLog::Press> press(const QString& line) {
 } // namespace
 
 PressLog PressLog::fullScreen(const Compositor& compositor, QColor colour) {
-    return window(compositor, QStringLiteral("full-screen"), colour);
+    return window(compositor, fullScreenKind, colour);
 }
 
 PressLog PressLog::maximized(const Compositor& compositor, QColor colour) {
@@ -37,8 +39,11 @@ PressLog PressLog::window(const Compositor& compositor, const QString& kind, QCo
     PressLog window(compositor, BRELLOWIND_DESKTOP_WINDOW, {kind, hexadecimal(colour)});
     const auto isFullyGrown = [&] {
         const auto picture = compositor.screenshot();
-        return picture.pixelColor(picture.rect().bottomLeft()) == colour &&
-               picture.pixelColor(picture.rect().bottomRight()) == colour;
+        const QRect rect = picture.rect();
+        const auto is = [&](QPoint corner) { return picture.pixelColor(corner) == colour; };
+        // A maximised window may be below a panel.
+        return is(rect.bottomLeft()) && is(rect.bottomRight()) &&
+               (kind != fullScreenKind || (is(rect.topLeft()) && is(rect.topRight())));
     };
     if (compositor.letsWindowsGrow() && !waitUntil(isFullyGrown))
         throw DesktopFailure(QStringLiteral("a window did not reach the corners of the screen"));

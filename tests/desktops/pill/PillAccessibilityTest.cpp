@@ -24,7 +24,7 @@ TEST_F(PillAccessibility, TheLineCanBeReadWhereItIs) {
     ASSERT_TRUE(line);
     const QRect extents = reader.extents(*line);
     EXPECT_TRUE(agree(extents, place("pill"))) << extents.x() << ", " << extents.y() << ", "
-                                                    << extents.width() << " x " << extents.height();
+                                               << extents.width() << " x " << extents.height();
 }
 
 TEST_F(PillAccessibility, TheIndicatorPlaysAndPauses) {

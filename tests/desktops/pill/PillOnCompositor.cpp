@@ -14,9 +14,10 @@ using std::chrono::seconds;
 
 constexpr QSizeF pillWindow(640, 540);
 
-/// mutter has no layer shell.
+/// GNOME has no layer shell.
 CompositorOptions withWindowSystem(CompositorOptions options) {
-    options.xWayland = QLatin1String(BRELLOWIND_COMPOSITOR) == QLatin1String("mutter");
+    constexpr QLatin1String name(BRELLOWIND_COMPOSITOR);
+    options.xWayland = name == QLatin1String("mutter") || name == QLatin1String("gnome-shell");
     return options;
 }
 

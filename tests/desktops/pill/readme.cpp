@@ -20,7 +20,7 @@ constexpr QRect crop(240, 0, 800, 170); ///< points of the screen
 
 bool takePicture(const QString& name, const QDir& folder) {
     CompositorOptions options;
-    options.xWayland = name == QLatin1String("mutter");
+    options.xWayland = name == QLatin1String("gnome-shell");
     options.scale = 2;
     const auto compositor = Compositor::make(name, options);
     const auto below = PressLog::fullScreen(*compositor, QColor(0x2f, 0x5d, 0x7c));
@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
     }
     try {
         for (const auto& name :
-             {QStringLiteral("sway"), QStringLiteral("kwin"), QStringLiteral("mutter")})
+             {QStringLiteral("sway"), QStringLiteral("kwin"), QStringLiteral("gnome-shell")})
             if (!takePicture(name, QDir(QString::fromLocal8Bit(argv[1])))) {
                 std::fprintf(stderr, "brellowind-desktop-pictures: the pictures cannot be saved\n");
                 return 1;
