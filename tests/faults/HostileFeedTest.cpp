@@ -66,7 +66,7 @@ TEST_P(HostileFeed, EndsInItsStateWithOneLineWhenItFailedAndTheNextCheckIsWell) 
         state = check();
         log = QByteArray::fromStdString(testing::internal::GetCapturedStderr());
     };
-    EXPECT_LT(loop.longestTurnOf(ask), LoopWatch::bearable);
+    EXPECT_LT(loop.longestTurnOf(ask), LoopWatch::bearable());
     ASSERT_EQ(state, GetParam().state);
     if (state == Case::failed) {
         EXPECT_TRUE(log.startsWith("Update check failed: ")) << log.constData();

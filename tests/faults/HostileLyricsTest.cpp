@@ -64,7 +64,7 @@ void expectEnd(Listener& listener, Case expected) {
         EXPECT_EQ(listener.load(hostileArtist), expected);
         EXPECT_LT(use.peakMemoryKiB() - before, memoryLimitKiB);
     };
-    EXPECT_LT(loop.longestTurnOf(load), LoopWatch::bearable);
+    EXPECT_LT(loop.longestTurnOf(load), LoopWatch::bearable());
 }
 
 struct Row {
