@@ -102,6 +102,27 @@ void blur(QImage& image, double sigma) {
         blurColumn({first + sample, image.bytesPerLine()});
 }
 
+QImage halved(const QImage& image) {
+    QImage half((image.width() + 1) / 2, (image.height() + 1) / 2, image.format());
+    half.setDevicePixelRatio(image.devicePixelRatio() / 2);
+    const int channels = image.depth() / 8;
+    const int rest = image.width() % 2 * channels;
+    std::vector<unsigned> sums(static_cast<std::size_t>(image.width() * channels + rest));
+    for (int y = 0; y < half.height(); ++y) {
+        const uchar* upper = image.constScanLine(2 * y);
+        const bool hasLower = 2 * y + 1 < image.height();
+        const uchar* lower = hasLower ? image.constScanLine(2 * y + 1) : upper;
+        for (int i = 0; i < image.width() * channels; ++i)
+            sums[static_cast<std::size_t>(i)] = upper[i] + (hasLower ? lower[i] : 0U);
+        const unsigned* sum = sums.data();
+        uchar* mean = half.scanLine(y);
+        for (int x = 0; x < half.width(); ++x, sum += channels)
+            for (int channel = 0; channel < channels; ++channel, ++sum)
+                *mean++ = static_cast<uchar>((sum[0] + sum[channels] + 2) / 4);
+    }
+    return half;
+}
+
 double blurExtent(double sigma) {
     return 3 * sigma;
 }

@@ -11,6 +11,10 @@ namespace brellowind {
 /// transparent margin of `blurExtent`. Does nothing if sigma is 0 or less; limits it to 120.
 void blur(QImage& image, double sigma);
 
+/// `image` (as above) at half its size and pixel ratio. Pixels outside an odd size count as
+/// transparent.
+QImage halved(const QImage& image);
+
 /// The distance over which a blur spreads a point, in the unit of `sigma`.
 double blurExtent(double sigma);
 

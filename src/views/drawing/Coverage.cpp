@@ -31,11 +31,11 @@ std::vector<Sample> samples(int from, int to) {
 
 /// `color` at each coverage.
 std::array<QRgb, 256> tints(QColor color) {
+    const QRgb full = color.rgba();
     std::array<QRgb, 256> all{};
-    for (int coverage = 0; coverage < 256; ++coverage) {
-        const auto alpha = qRound(color.alpha() * coverage / 255.0);
-        all[static_cast<std::size_t>(coverage)] =
-            qPremultiply(qRgba(color.red(), color.green(), color.blue(), alpha));
+    for (unsigned coverage = 0; coverage < 256; ++coverage) {
+        const unsigned alpha = (qAlpha(full) * coverage + 127) / 255;
+        all[coverage] = qPremultiply((full & RGB_MASK) | alpha << 24);
     }
     return all;
 }

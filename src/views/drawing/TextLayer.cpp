@@ -19,6 +19,7 @@ namespace {
 constexpr double strongestSigma = 5; ///< points, of an absent line
 const double largestBlurExtent = std::ceil(blurExtent(strongestSigma));
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
+constexpr double coarseSigma = 3;     ///< pixels; such a blur needs half the resolution only
 constexpr double tolerance = 1e-3;
 constexpr double smallestScale = 0.92; ///< of an absent line
 
@@ -189,11 +190,9 @@ void TextLayer::paintMoving(QPainter& painter, QColor color, QPointF origin, QRe
     const QPointF corner(std::floor(left * ratio) / ratio, std::floor(line.top() * ratio) / ratio);
     const QRectF part(corner, QPointF(right, line.bottom()));
     renderPicture(part, color, ratio);
-    blurPicture(blurRadius(sigma() * ratio));
-    const QSizeF room = (blurred_.size() - picture_.size()) / 2 / ratio;
-    const QRectF target(origin + part.topLeft() - QPointF(room.width(), room.height()),
-                        QSizeF(blurred_.size()) / ratio);
-    paintShrunk(painter, target, origin + layout_.boundingRect().center());
+    blurPicture();
+    paintShrunk(painter, blurredPart_.translated(origin + part.topLeft()),
+                origin + layout_.boundingRect().center());
 }
 
 /// Draws `blurred_` in `target`, scaled down about `middle`. Scales the image first: scaling by the
@@ -202,12 +201,15 @@ void TextLayer::paintShrunk(QPainter& painter, const QRectF& target, QPointF mid
     const auto shrunk = [&](QPointF corner) {
         return onPixel(painter, middle + (corner - middle) * scale());
     };
+    const double ratio = picture_.devicePixelRatio();
     const QPointF from = shrunk(target.topLeft());
-    const QPointF corner = (shrunk(target.bottomRight()) - from) * blurred_.devicePixelRatio();
+    const QPointF corner = (shrunk(target.bottomRight()) - from) * ratio;
     const QSize size(qRound(corner.x()), qRound(corner.y()));
-    painter.drawImage(from, blurred_.depth() == 8 ? tinted(blurred_, picturedColor_, size)
-                                                  : blurred_.scaled(size, Qt::IgnoreAspectRatio,
-                                                                    Qt::SmoothTransformation));
+    QImage image = blurred_.depth() == 8
+                       ? tinted(blurred_, picturedColor_, size)
+                       : blurred_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    image.setDevicePixelRatio(ratio);
+    painter.drawImage(from, image);
 }
 
 void TextLayer::renderPicture(QRectF part, QColor color, double ratio) {
@@ -234,13 +236,20 @@ void TextLayer::renderPicture(QRectF part, QColor color, double ratio) {
 }
 
 /// Does nothing if the radius is that of the last frame, as in most frames of a motion.
-void TextLayer::blurPicture(int radius) {
+void TextLayer::blurPicture() {
+    const double ratio = picture_.devicePixelRatio();
+    const double sigma = this->sigma() * ratio;
+    const int shrinking = sigma < coarseSigma ? 1 : 2;
+    const int radius = shrinking * blurRadius(sigma / shrinking);
     if (!blurred_.isNull() && radius == blurredRadius_)
         return;
-    const double ratio = picture_.devicePixelRatio();
     const int margin = std::max(0, radius - static_cast<int>(inkOverhang * ratio));
     blurred_ = picture_.copy(picture_.rect().adjusted(-margin, -margin, margin, margin));
-    blur(blurred_, sigma() * ratio);
+    if (shrinking == 2)
+        blurred_ = halved(blurred_);
+    blur(blurred_, sigma / shrinking);
+    blurredPart_ = QRectF(QPointF(-margin, -margin) / ratio,
+                          QSizeF(blurred_.size()) / blurred_.devicePixelRatio());
     blurredRadius_ = radius;
 }
 

@@ -63,7 +63,7 @@ private:
     void paintMoving(QPainter& painter, QColor color, QPointF origin, QRectF seen);
     void paintShrunk(QPainter& painter, const QRectF& target, QPointF middle) const;
     void renderPicture(QRectF part, QColor color, double ratio);
-    void blurPicture(int radius);
+    void blurPicture();
 
     QString text_;
     QTextLayout layout_;
@@ -77,6 +77,7 @@ private:
     QRectF pictured_;     ///< relative to the line's origin
     QColor picturedColor_;
     QImage blurred_;        ///< `picture_` with a margin, blurred; null until it is drawn
+    QRectF blurredPart_;    ///< of `blurred_`, relative to the picture's corner
     int blurredRadius_ = 0; ///< in pixels
 };
 

@@ -205,5 +205,31 @@ TEST(Blur, LeavesCopiesOfTheImageAlone) {
     EXPECT_NE(image, shapes());
 }
 
+TEST(Halved, HasTheMeansOfFourPixels) {
+    QImage image = clearAlpha(5, 3);
+    image.setDevicePixelRatio(2);
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 5; ++x)
+            image.scanLine(y)[x] = static_cast<uchar>(10 * y + x);
+    const QImage half = halved(image);
+    EXPECT_EQ(half.size(), QSize(3, 2));
+    EXPECT_EQ(half.devicePixelRatio(), 1);
+    const auto row = [&](int y) {
+        const uchar* first = half.constScanLine(y);
+        return std::vector<int>(first, first + 3);
+    };
+    EXPECT_EQ(row(0), (std::vector<int>{6, 8, 5})) << "the last is half outside";
+    EXPECT_EQ(row(1), (std::vector<int>{10, 11, 6})) << "outside counts as transparent";
+}
+
+TEST(Halved, TreatsEveryChannelOfAColouredImageAlike) {
+    QImage image(3, 2, QImage::Format_ARGB32_Premultiplied);
+    image.fill(qRgba(40, 80, 120, 200));
+    const QImage half = halved(image);
+    EXPECT_EQ(half.pixel(0, 0), image.pixel(0, 0));
+    const auto* edge = reinterpret_cast<const QRgb*>(half.constScanLine(0)) + 1;
+    EXPECT_EQ(*edge, qRgba(20, 40, 60, 100));
+}
+
 } // namespace
 } // namespace brellowind
