@@ -102,7 +102,7 @@ const Look looksAt2x[] = {
     {"long-arabic-end", glide(endlessArabic, 20)},
     {"hebrew", line("תחזיק את האור נמוך, 7 רחובות מכאן")},
     {"devanagari", line("रोशनी को थामो, धीरे धीरे चलो")},
-    {"emoji", line("Hold the light 🏮 hold it low 👩‍🚀🌙")},
+    {"emoji", line("🎵 Hold the light 🏮 1️⃣ hold it low 👩‍🚀🌙 👍🏽 🇯🇵 🏳️‍🌈 🎶")},
     {"artwork", [](PillStage& stage) { return artworkPanel(stage, true); }},
     {"artwork-long-middle", glide(endlessLine, 4, true)},
     {"menu", menu},

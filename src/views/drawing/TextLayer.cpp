@@ -4,6 +4,7 @@
 
 #include "views/drawing/Blur.h"
 #include "views/drawing/Coverage.h"
+#include "views/drawing/EmojiSequences.h"
 #include "views/drawing/Ideographs.h"
 #include "views/motion/Springs.h"
 
@@ -31,14 +32,21 @@ constexpr double unseenSwing = 0.1;
 constexpr qsizetype shortText = 256;
 constexpr qsizetype glyphsInPiece = 32;
 
+constexpr QChar emojiPresentation(0xFE0F);
+
 /// Points by which glyphs may extend beyond the line's rectangle.
 constexpr double inkOverhang = 6;
 
 /// The nominal distance of a fade in points, which determines its frame rate.
 constexpr double fadeDistance = 20;
 
-/// `text` with line breaks and other control characters replaced by spaces.
-QString singleLine(QString text) {
+/// `text` as it is drawn: with spaces instead of line breaks and other control characters, and with
+/// notes in the text's colour instead of emoji, which are dark in most emoji fonts. Emoji fonts
+/// have no glyph for the presentation selector; another font's would divide an emoji.
+QString drawnText(QString text) {
+    text.remove(emojiPresentation);
+    text.replace(QStringLiteral("🎵"), QStringLiteral("♪"));
+    text.replace(QStringLiteral("🎶"), QStringLiteral("♫"));
     for (QChar& character : text) {
         const auto category = character.category();
         if (category == QChar::Other_Control || category == QChar::Separator_Line ||
@@ -63,11 +71,13 @@ QPointF onPixel(const QPainter& painter, QPointF point) {
 
 TextLayer::TextLayer(const QString& text, const QFont& font, double presence)
     : text_(text), presence_(springs::morph, presence), shown_(presence) {
-    layout_.setText(singleLine(text));
+    layout_.setText(drawnText(text));
     layout_.setFont(font);
     layout_.setCacheEnabled(true);
+    auto formats = emojiSequences(layout_.text());
     if (font.weight() == QFont::Medium)
-        layout_.setFormats(regularIdeographs(layout_.text()));
+        formats += regularIdeographs(layout_.text());
+    layout_.setFormats(formats);
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
     option.setUseDesignMetrics(false);

@@ -73,6 +73,21 @@ TEST(TextLayer, DrawsControlCharactersAndLineBreaksAsSpacesInOneLine) {
     }
 }
 
+TEST(TextLayer, DrawsNotesInTheColourOfTheText) {
+    TextLayer emoji = layer(QStringLiteral("🎵 la 🎶"));
+    TextLayer notes = layer(QStringLiteral("♪ la ♫"));
+    EXPECT_EQ(paintedLayer(emoji), paintedLayer(notes));
+}
+
+TEST(TextLayer, DrawsAnEmojiAsOneWhateverItsPresentationSelectors) {
+    for (const auto& emoji : {QStringLiteral("1\uFE0F⃣"), QStringLiteral("🏳\uFE0F‍🌈")}) {
+        TextLayer marked = layer(emoji);
+        TextLayer plain = layer(QString(emoji).remove(QChar(0xFE0F)));
+        EXPECT_EQ(paintedLayer(marked), paintedLayer(plain));
+        EXPECT_LT(marked.width(), 1.5 * layer(QStringLiteral("🌈")).width());
+    }
+}
+
 TEST(TextLayer, ComesToRestWithoutAJump) {
     for (const double ratio : {1.0, 1.25, 2.0})
         for (const char16_t* text : {u"Hamburgefons", u"夜に駆ける", u"one 🎤 two"}) {
