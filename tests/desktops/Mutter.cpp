@@ -13,15 +13,13 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <cmath>
 
 namespace brellowind::test {
 namespace {
 
-/// In points.
-QRect geometry(const MutterScreen& screen) {
-    return {(QPointF(screen.position) / screen.scale).toPoint(),
-            (QSizeF(screen.pixels) / screen.scale).toSize()};
-}
+constexpr auto layoutInPoints =
+    "[org/gnome/mutter]\nexperimental-features=['scale-monitor-framebuffer']\n";
 
 QStringList headless(const CompositorOptions& options) {
     const QSize pixels = (QSizeF(options.size) * options.scale).toSize();
@@ -45,7 +43,8 @@ bool isHidingOverview(const QDBusConnection& bus) {
 
 } // namespace
 
-Mutter::Mutter(Program program, const CompositorOptions& options) {
+Mutter::Mutter(Program program, const CompositorOptions& options)
+    : isLayoutInPixels_(options.scale == std::round(options.scale)) {
     requireProgram(QStringLiteral("pipewire"), QStringLiteral("pipewire"));
     requireProgram(QStringLiteral("wireplumber"), QStringLiteral("wireplumber"));
     requireProgram(QStringLiteral("gst-launch-1.0"), QStringLiteral("gstreamer1.0-tools"));
@@ -56,7 +55,8 @@ Mutter::Mutter(Program program, const CompositorOptions& options) {
     session.setVariable(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("keyfile"));
     session.writeFile(QStringLiteral(".config/glib-2.0/settings/keyfile"),
                       "[org/gnome/desktop/interface]\nenable-animations=false\n"
-                      "[org/gnome/desktop/notifications]\nshow-banners=false\n");
+                      "[org/gnome/desktop/notifications]\nshow-banners=false\n" +
+                          QByteArray(isLayoutInPixels_ ? "" : layoutInPoints));
     pipewire_ = session.start(QStringLiteral("pipewire"), {}, QStringLiteral("pipewire.log"));
     if (!waitUntil([&] { return QFile::exists(session.file(QStringLiteral("pipewire-0"))); }))
         throw DesktopFailure(QStringLiteral("pipewire did not start"));
@@ -73,7 +73,7 @@ Mutter::Mutter(Program program, const CompositorOptions& options) {
     });
     if (options.scale != 1)
         setScale(options.scale);
-    if (options.xWayland)
+    if (options.xWayland && isLayoutInPixels_)
         tellXClients(options.scale);
     remote_ = std::make_unique<MutterRemote>(this->session());
     wakeDevices();
@@ -155,7 +155,7 @@ void Mutter::movePointerTo(QPointF place) {
 }
 
 void Mutter::movePointerBy(QPointF distance) {
-    remote_->movePointerBy(distance * MutterScreens(session()).all().value(0).scale);
+    remote_->movePointerBy(distance * layoutScale(MutterScreens(session()).all().first()));
 }
 
 void Mutter::button(int code, Stroke stroke) {
@@ -178,6 +178,15 @@ void Mutter::setScale(double scale) {
     auto all = screens.all();
     all.first().scale = scale;
     screens.apply(all);
+}
+
+double Mutter::layoutScale(const MutterScreen& screen) const {
+    return isLayoutInPixels_ ? screen.scale : 1;
+}
+
+QRect Mutter::geometry(const MutterScreen& screen) const {
+    return {(QPointF(screen.position) / layoutScale(screen)).toPoint(),
+            (QSizeF(screen.pixels) / screen.scale).toSize()};
 }
 
 Mutter::Pixel Mutter::pixelAt(QPointF place) const {

@@ -9,9 +9,11 @@
 namespace brellowind::test {
 
 class MutterRemote;
+struct MutterScreen;
 
 /// mutter, GNOME's compositor, alone or in GNOME Shell, without animations. There is no layer
-/// shell. The layout is in pixels and the scale an integer, as with GNOME.
+/// shell. The layout is in pixels and the scale an integer, as with GNOME; with a fractional scale
+/// at the start the layout is in points.
 class Mutter : public Compositor {
 public:
     enum class Program { mutter, gnomeShell };
@@ -47,6 +49,14 @@ private:
     void tellXClients(double scale);
 
     Pixel pixelAt(QPointF place) const;
+
+    /// The units of the layout to a point on `screen`.
+    double layoutScale(const MutterScreen& screen) const;
+
+    /// In points.
+    QRect geometry(const MutterScreen& screen) const;
+
+    bool isLayoutInPixels_;
 
     std::unique_ptr<demo::Companion> systemBus_;
     std::unique_ptr<demo::Companion> pipewire_;

@@ -2,6 +2,8 @@
 
 #include "desktops/pill/PillOnCompositor.h"
 
+#include <cmath>
+
 namespace brellowind::test {
 namespace {
 
@@ -118,6 +120,14 @@ QRect PillOnCompositor::silhouette(const Picture& picture) const {
     const QRectF area = this->area();
     return picture.differing(colourBelow(),
                              QRectF(area.topLeft() * scale, area.size() * scale).toAlignedRect());
+}
+
+bool PillOnCompositor::isInPlace(const Picture& picture, double scale) {
+    const QRect seen = silhouette(picture);
+    const QSizeF told = program->rectangle("pill").size() * scale;
+    return seen.top() == 0 && std::abs(seen.width() - told.width()) <= 2 &&
+           std::abs(seen.height() - told.height()) <= 2 &&
+           std::abs(seen.left() + seen.right() + 1 - picture.image().width()) <= 1;
 }
 
 testing::AssertionResult

@@ -75,6 +75,9 @@ protected:
     /// from the window below.
     QRect silhouette(const Picture& picture) const;
 
+    /// Whether the pill has its size at `scale` pixels to a point, in the middle of the top edge.
+    bool isInPlace(const Picture& picture, double scale);
+
     /// Waits until `holds` is true for a screenshot of the first screen, and saves the last one
     /// under `name` for review.
     testing::AssertionResult shows(const char* name,

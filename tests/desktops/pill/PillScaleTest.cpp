@@ -20,15 +20,6 @@ protected:
         return what + QByteArray("-at-") + QByteArray::number(GetParam());
     }
 
-    /// The pill has its size in pixels, in the middle of the top edge.
-    bool isInPlace(const Picture& picture) {
-        const QRect seen = silhouette(picture);
-        const QRectF told = program->rectangle("pill");
-        return seen.top() == 0 && std::abs(seen.width() - told.width() * GetParam()) <= 2 &&
-               std::abs(seen.height() - told.height() * GetParam()) <= 2 &&
-               std::abs(seen.left() + seen.right() + 1 - picture.image().width()) <= 1;
-    }
-
     /// Whether text was drawn at the native resolution: scaling leaves blurred or doubled edges.
     bool isSharp(const Picture& picture, QRectF place) const {
         const QRect text = inPixels(place, GetParam());
@@ -44,9 +35,10 @@ protected:
     }
 
     void expectSharpInPlace(const char* what) {
-        EXPECT_TRUE(
-            shows(name(what).constData(),
-                  [&](const Picture& picture) { return isInPlace(picture) && isSharp(picture); }))
+        EXPECT_TRUE(shows(name(what).constData(),
+                          [&](const Picture& picture) {
+                              return isInPlace(picture, GetParam()) && isSharp(picture);
+                          }))
             << "step " << picture().sharpestStep(inPixels(place("lyricLine"), GetParam()))
             << ", repeated " << picture().repeatedColumns(inPixels(place("lyricLine"), GetParam()));
     }

@@ -67,5 +67,26 @@ TEST_F(PillOnXWayland, LetsClicksBesideItThroughFromEveryStart) {
     }
 }
 
+class PillOnXWaylandAtAFractionalScale : public PillOnCompositor {
+protected:
+    static constexpr double scale = 1.5;
+
+    PillOnXWaylandAtAFractionalScale() : PillOnCompositor({.scale = scale}) {}
+};
+
+/// The compositor stretches the windows of X clients, so that the pill is not sharp.
+TEST_F(PillOnXWaylandAtAFractionalScale, HasItsPlaceAndSizeAndFindsThePointer) {
+    below();
+    startSinging();
+    EXPECT_TRUE(
+        shows("rest-at-1.5", [&](const Picture& picture) { return isInPlace(picture, scale); }));
+    enterPill();
+    compositor->click(background());
+    EXPECT_TRUE(program->becomes("isMinimized"));
+    const QPointF beside = area().center();
+    compositor->click(beside);
+    EXPECT_EQ(below().awaitPress().place, beside);
+}
+
 } // namespace
 } // namespace brellowind::test
