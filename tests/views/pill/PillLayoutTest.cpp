@@ -237,6 +237,19 @@ TEST_F(PillLayout, OfTheArtworkPanelIsTheSameForEveryLineAndWhileMinimized) {
     EXPECT_EQ(pillSize(), (Size{272, 33}));
 }
 
+TEST_F(PillLayout, WritesTheLineInWhiteOfNinetySixPercent) {
+    appearWith("HHH");
+    settle();
+    Item& line = *item("lyricLine");
+    const QImage image = test::painted(line, line.size().toSize(), {}, 4);
+    int brightest = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y).alpha() == 255)
+                brightest = std::max(brightest, image.pixelColor(x, y).green());
+    EXPECT_EQ(brightest, 245);
+}
+
 TEST_F(PillLayout, RoundsTheThumbnailByFourAndTheArtworkByEighteen) {
     appearIdle();
     auto* image = below(artwork(), "ArtworkImage");
