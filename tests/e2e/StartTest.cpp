@@ -9,7 +9,9 @@
 #include <QTemporaryFile>
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <xcb/xcb.h>
 
 namespace brellowind::test {
 namespace {
@@ -127,8 +129,14 @@ protected:
 TEST_F(SecondStart, FindsTheFirstHoweverTheDisplayIsSpelled) {
     const auto first = startFirst();
     const QString display = desktop.xServer.display();
-    for (const auto& spelling : {display + QStringLiteral(".0"), QStringLiteral("unix") + display,
-                                 QStringLiteral("unix/") + display}) {
+    QStringList spellings{display + QStringLiteral(".0"), QStringLiteral("unix/") + display};
+    const QString unixColon = QStringLiteral("unix") + display;
+    int number = 0;
+    if (char* host = nullptr; xcb_parse_display(qPrintable(unixColon), &host, &number, nullptr)) {
+        std::free(host);
+        spellings.append(unixColon); // until libxcb 1.16
+    }
+    for (const QString& spelling : spellings) {
         environment.insert(QStringLiteral("DISPLAY"), spelling);
         EXPECT_EQ(start()->finish(), 0) << qPrintable(spelling);
         EXPECT_EQ(pills(x), 1) << qPrintable(spelling);
