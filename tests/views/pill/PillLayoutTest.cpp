@@ -237,6 +237,23 @@ TEST_F(PillLayout, OfTheArtworkPanelIsTheSameForEveryLineAndWhileMinimized) {
     EXPECT_EQ(pillSize(), (Size{272, 33}));
 }
 
+TEST_F(PillLayout, FadesTheLineOutInTwoFifthsOfTheWayToThePanel) {
+    appearWith("A line of the song");
+    settle();
+    const double small = layout(artwork()).height();
+    machine.view.tapCover();
+    int begun = 0;
+    for (int frame = 0; frame < 60; ++frame) {
+        step(1.0 / 60);
+        const double expanded = (layout(artwork()).height() - small) / (320 - small);
+        begun += expanded > 0 && expanded < 0.4;
+        if (std::abs(expanded - 0.4) > 0.02) {
+            EXPECT_EQ(item("lyricLine")->isVisible(), expanded < 0.4) << expanded;
+        }
+    }
+    EXPECT_GT(begun, 2);
+}
+
 TEST_F(PillLayout, WritesTheLineInWhiteOfNinetySixPercent) {
     appearWith("HHH");
     settle();
