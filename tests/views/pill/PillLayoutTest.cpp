@@ -320,6 +320,23 @@ TEST_F(PillLayout, ShowsTheCaptionInThePanelAlone) {
     EXPECT_NE(below(artwork(), "ArtworkCaption"), nullptr);
 }
 
+TEST_F(PillLayout, FadesTheCaptionInOnTheSecondHalfOfTheWayToThePanel) {
+    appearWith("Title of the song");
+    settle();
+    const double small = layout(artwork()).height();
+    machine.view.tapCover();
+    int fading = 0;
+    for (int frame = 0; frame < 60; ++frame) {
+        step(1.0 / 60);
+        const double expanded = (layout(artwork()).height() - small) / (320 - small);
+        const auto* caption = below(artwork(), "ArtworkCaption");
+        const double seen = caption ? caption->opacity() : 0;
+        EXPECT_NEAR(seen, std::clamp(2 * expanded - 1, 0.0, 1.0), 1e-6);
+        fading += seen > 0 && seen < 1;
+    }
+    EXPECT_GT(fading, 2);
+}
+
 TEST_F(PillLayout, NeverShowsTheCaptionOnATiltedCover) {
     appearWith("Title of the song");
     machine.view.hoverCover(true);
