@@ -55,6 +55,14 @@ TEST_F(PillMenuTest, OffersNoCheckWithoutAReleaseFeed) {
               QStringList({QStringLiteral("Open Settings"), QStringLiteral("Quit Brellowind")}));
 }
 
+TEST_F(PillMenuTest, IsNearlyBlackWithAFaintBorder) {
+    open();
+    const QImage image = menu()->grab();
+    const int middle = image.width() / 2;
+    EXPECT_EQ(image.pixelColor(middle, 3), QColor(28, 28, 31));
+    EXPECT_NEAR(image.pixelColor(middle, 0).green(), 28 + 0.12 * (255 - 28), 1);
+}
+
 TEST_F(PillMenuTest, OpensOnASecondaryClickAnywhereOnThePill) {
     for (auto* piece : {pill(), artwork(), waveform()}) {
         const auto before = form();
