@@ -16,6 +16,12 @@
 
 void qml_register_types_Brellowind_Settings();
 
+/// The linker drops the compiled QML from a static library that nothing refers to. A resource
+/// cannot be initialised within a namespace.
+static void registerCompiledQml() {
+    Q_INIT_RESOURCE(qmlcache_brellowind_settings_window);
+}
+
 namespace brellowind {
 namespace {
 
@@ -27,6 +33,7 @@ void prepareQtQuick() {
     // Software rendering is enough for a small window and takes a third of the memory.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     qml_register_types_Brellowind_Settings();
+    registerCompiledQml();
 }
 
 /// Gives the window the fixed size of its content.
