@@ -180,6 +180,11 @@ TEST(TextLayer, IsBlurredOnItsWay) {
     EXPECT_TRUE(sharp.adjusted(-overhang, -overhang, overhang, overhang).contains(soft));
 }
 
+TEST(TextLayer, IsBlurredByFivePointsWhenItIsAbsent) {
+    constexpr double rounding = 1;
+    EXPECT_EQ(layer(QStringLiteral("HHHHHH"), 0).overhang(), 3 * 5 + rounding);
+}
+
 TEST(TextLayer, ShrinksALittleAsItGoesAndGrowsIntoPlaceAsItComes) {
     const QString ends = u'H' + QString(30, u' ') + u'H';
     // The distance between the centres of the ink in both halves, which no blur changes.

@@ -81,6 +81,26 @@ TEST(WaveformGlyph, IsSharpWhereverItStandsAndHoweverItIsScaled) {
             }
 }
 
+TEST(WaveformGlyph, HasBarsOfDifferentHeights) {
+    WaveformGlyph glyph;
+    const QImage image = paintedGlyph(glyph);
+    const double shares[bars] = {0.36, 0.74, 1, 0.56, 0.28};
+    for (int i = 0; i < bars; ++i) {
+        int height = 0;
+        for (int y = 0; y < image.height(); ++y)
+            height += qAlpha(image.pixel(8 + i * 12, y)) > 0;
+        EXPECT_NEAR(height, shares[i] * image.height(), 1.5) << i;
+    }
+}
+
+TEST(WaveformGlyph, MakesTenStepsASecond) {
+    WaveformGlyph glyph;
+    glyph.setActive(true);
+    const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(&glyph);
+    ASSERT_EQ(timers.size(), 1);
+    EXPECT_EQ(timers.first().interval, 100);
+}
+
 TEST(WaveformGlyph, IsNeverGone) {
     for (const auto& step : round())
         EXPECT_GE(std::ranges::min(step), 0.3 * 255);

@@ -65,5 +65,24 @@ TEST(ArtworkCaption, CanBeReadOnACoverOfAnyLightColour) {
     }
 }
 
+TEST(ArtworkCaption, LiesOnTheCoverBlurredByATwentiethOfItsSide) {
+    test::SteppedFrames frames;
+    ArtworkCaption caption(frames, nullptr);
+    QImage cover(320, 320, QImage::Format_RGB32);
+    cover.fill(Qt::black);
+    QPainter(&cover).fillRect(160, 0, 160, 320, Qt::white);
+    caption.setImage(cover);
+    const QImage image =
+        test::painted(caption.size().toSize(), [&](QPainter& painter) { caption.paint(painter); });
+    const auto grey = [&](int x) { return double(image.pixelColor(x, 4).green()); };
+    const double dark = grey(20);
+    const double light = grey(300);
+    ASSERT_GT(light - dark, 20);
+    int between = 0; // one standard deviation to each side of the edge
+    for (int x = 0; x < image.width(); ++x)
+        between += std::abs((grey(x) - dark) / (light - dark) - 0.5) < 0.341;
+    EXPECT_NEAR(between, 2 * 16, 4);
+}
+
 } // namespace
 } // namespace brellowind
