@@ -32,9 +32,10 @@ StayOnTop::StayOnTop(const X11Connection& x11, const QWindow& window, MainLoop& 
     : x11_(x11), qtWindow_(window), window_(static_cast<xcb_window_t>(window.winId())),
       managedMark_(x11.atom("WM_STATE")), mainLoop_(mainLoop),
       nextTurn_(mainLoop.onNextTurn([this] { check(); })),
-      observer_([this](const auto& event) { return handle(event); }) {
-    x11_.selectRootEvents(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
-}
+      neighbours_(x11.root(), [this](const auto& event) {
+          if (!pause_ && mayCover(event))
+              nextTurn_->request();
+      }) {}
 
 void StayOnTop::raise() {
     const auto above = windowsAbove();
@@ -51,34 +52,18 @@ void StayOnTop::putOnTop(xcb_window_t window) {
     xcb_configure_window(x11_.get(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
 }
 
-/// Events about children of the root window are kept from Qt: it takes a child's ConfigureNotify
-/// for one of the root window and asks for the whole arrangement of screens.
-bool StayOnTop::handle(const xcb_generic_event_t& event) {
-    if (!concernsChildOfRoot(event))
-        return false;
-    if (!pause_ && mayCover(event))
-        nextTurn_->request();
-    return true;
-}
-
 /// A change of this window that leaves it where it is in the stack covers nothing.
 bool StayOnTop::mayCover(const xcb_generic_event_t& event) {
-    if (eventType(event) != XCB_CONFIGURE_NOTIFY)
-        return true;
-    const auto& change = eventAs<xcb_configure_notify_event_t>(event);
-    return change.window != window_ ||
-           std::exchange(below_, change.above_sibling) != change.above_sibling;
-}
-
-bool StayOnTop::concernsChildOfRoot(const xcb_generic_event_t& event) const {
     switch (eventType(event)) {
     case XCB_MAP_NOTIFY:
     case XCB_UNMAP_NOTIFY: // it may have been a shield
-    case XCB_CONFIGURE_NOTIFY:
     case XCB_CIRCULATE_NOTIFY:
-    case XCB_REPARENT_NOTIFY: {
-        const auto& change = eventAs<xcb_map_notify_event_t>(event); // all begin with these fields
-        return change.event == x11_.root() && change.window != x11_.root();
+    case XCB_REPARENT_NOTIFY:
+        return true;
+    case XCB_CONFIGURE_NOTIFY: {
+        const auto& change = eventAs<xcb_configure_notify_event_t>(event);
+        return change.window != window_ ||
+               std::exchange(below_, change.above_sibling) != change.above_sibling;
     }
     default:
         return false;

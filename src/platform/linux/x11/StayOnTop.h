@@ -4,6 +4,7 @@
 
 #include "platform/MainLoop.h"
 #include "platform/linux/x11/RaiseBudget.h"
+#include "platform/linux/x11/RootChildren.h"
 #include "platform/linux/x11/X11Connection.h"
 
 #include <QWindow>
@@ -27,8 +28,6 @@ public:
 private:
     struct Neighbour;
 
-    bool handle(const xcb_generic_event_t& event);
-    bool concernsChildOfRoot(const xcb_generic_event_t& event) const;
     bool mayCover(const xcb_generic_event_t& event);
     void check();
     void putOnTop(xcb_window_t window);
@@ -48,7 +47,7 @@ private:
     RaiseBudget budget_;
     std::unique_ptr<NextTurn> nextTurn_;
     std::unique_ptr<Timer> pause_; ///< while the budget is spent
-    X11EventObserver observer_;
+    RootChildren neighbours_;
 };
 
 } // namespace brellowind::platform

@@ -48,13 +48,6 @@ xcb_atom_t X11Connection::atom(const char* name) const {
     return answer ? answer->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
-void X11Connection::selectRootEvents(std::uint32_t events) const {
-    const auto root = ask<xcb_get_window_attributes, xcb_get_window_attributes_reply>(root_);
-    const std::uint32_t all = events | (root ? root->your_event_mask : 0);
-    xcb_change_window_attributes(connection_, root_, XCB_CW_EVENT_MASK, &all);
-    flush();
-}
-
 X11EventObserver::X11EventObserver(Handler handler) : handler_(std::move(handler)) {
     QCoreApplication::instance()->installNativeEventFilter(this);
 }

@@ -46,9 +46,6 @@ public:
         return X11Answer<std::remove_pointer_t<decltype(answer)>>(answer);
     }
 
-    /// Adds to the selected events of the root window.
-    void selectRootEvents(std::uint32_t events) const;
-
 private:
     xcb_connection_t* connection_;
     int screenNumber_;
