@@ -36,14 +36,20 @@ protected:
 };
 
 TEST_P(HostileLine, NeverKeepsTheMainLoop) {
+    const auto noLyrics = [](const demo::Exchange& exchange) { exchange.respond(404, "{}"); };
+    const auto inManyScripts = QStringLiteral("aशक字ไ😀");
     startSinging();
+    service.handler = noLyrics;
+    play(inManyScripts); // loads the fonts
+    EXPECT_TRUE(program->shows(inManyScripts));
+    EXPECT_TRUE(program->comesToRest());
     program->longestTurn();
     service.handler = [](const demo::Exchange& exchange) { exchange.respond(200, lyrics()); };
     play(QStringLiteral("Hostile"));
     EXPECT_TRUE(waitUntil([&] { return program->text().startsWith(GetParam().unit); }));
     EXPECT_TRUE(program->comesToRest());
     EXPECT_LT(program->longestTurn(), LoopWatch::bearable());
-    service.handler = [](const demo::Exchange& exchange) { exchange.respond(404, "{}"); };
+    service.handler = noLyrics;
     play(QStringLiteral("Next"));
     EXPECT_TRUE(program->shows(QStringLiteral("Next")));
     EXPECT_TRUE(program->comesToRest());

@@ -25,7 +25,7 @@ std::chrono::microseconds LoopWatch::bearable() {
     static const QByteArray data(4 << 20, 'x');
     const auto before = threadTime();
     QCryptographicHash::hash(data, QCryptographicHash::Sha1);
-    return (threadTime() - before) * (isInstrumented ? 200 : 10);
+    return (threadTime() - before) * (isInstrumented ? 100 : 5);
 }
 
 LoopWatch::LoopWatch() : turnBegan_(threadTime()) {

@@ -12,7 +12,7 @@ namespace brellowind::test {
 /// does not depend on other load.
 class LoopWatch : public QObject {
 public:
-    /// The bound of a turn: no longer than this thread takes now to hash 40 MiB. Measures that
+    /// The bound of a turn: no longer than this thread takes now to hash 20 MiB. Measures that
     /// speed. Longer in instrumented builds.
     static std::chrono::microseconds bearable();
 
