@@ -187,7 +187,11 @@ TEST_F(X11Popup, IsWithoutACompositingManagerWhatItsRoundCornersCoverAsAWhole) {
 
 TEST_F(X11Popup, IsWithACompositingManagerTheWholeRectangle) {
     const CompositingManager compositing(x);
-    openMenu();
+    show();
+    const QRegion whole(QRect(QPoint(), windowPixels.size()));
+    ASSERT_TRUE(waitUntil([&] { return bounding() == whole; })); // once the manager is known
+    popUp();
+    ASSERT_TRUE(waitUntil([this] { return holdsPointer(); }));
     settle();
     EXPECT_EQ(x.shape(static_cast<xcb_window_t>(menu.winId()), XCB_SHAPE_SK_BOUNDING),
               QRegion(QRect(QPoint(0, 0), menuSize)));
