@@ -23,6 +23,12 @@ def machine():
             "loadBefore": os.getloadavg()[0], "date": time.strftime("%Y-%m-%d")}
 
 
+def cpu_ticks():
+    """All ticks of all processors so far, and those that a host gave to other machines."""
+    fields = [int(field) for field in Path("/proc/stat").read_text().split("\n", 1)[0].split()[1:9]]
+    return sum(fields), fields[7]
+
+
 def lyrics(build):
     """The parser of lyrics."""
     return json.loads(subprocess.run([f"{build}/benchmarks/lyrics/lyrics_benchmark"], check=True,
@@ -47,7 +53,13 @@ def main(build, folder, quick):
     ]
     for name, step in steps:
         print(f"bench: {name}…", file=sys.stderr, flush=True)
+        before = cpu_ticks()
         results[name] = step()
+        total, stolen = (after - early for after, early in zip(cpu_ticks(), before))
+        results["machine"].setdefault("stolen", {})[name] = stolen / total
+        if stolen > 0.05 * total:
+            print(f"bench: the host took {100 * stolen / total:.0f} % of the processors meanwhile",
+                  file=sys.stderr, flush=True)
     if results["osdlyrics"] and not results["osdlyrics"]["showsLines"]:
         print("bench: osdlyrics did not show the lines; its figures do not count", file=sys.stderr)
         results["osdlyrics"] = None
