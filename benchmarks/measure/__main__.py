@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Measures everything: python3 -m measure BUILD-FOLDER RESULTS-FOLDER [--quick]"""
+"""Measures everything, or some steps again:
+python3 -m measure BUILD-FOLDER RESULTS-FOLDER [--quick | --again STEP...]"""
 
 import json
 import os
@@ -35,11 +36,21 @@ def lyrics(build):
                                      stdout=subprocess.PIPE).stdout)
 
 
-def main(build, folder, quick):
+def earlier(folder):
+    """The results of the last whole run."""
+    try:
+        results = json.loads((folder / "results.json").read_text())
+    except FileNotFoundError:
+        sys.exit("bench: there is no earlier run")
+    if results["quick"]:
+        sys.exit("bench: the earlier run was a quick one")
+    return results
+
+
+def main(build, folder, quick=False, again=()):
     folder = Path(folder)
     folder.mkdir(parents=True, exist_ok=True)
     bench = Bench(build, quick)
-    results = {"machine": machine(), "quick": quick}
     steps = [
         ("lyrics", lambda: lyrics(build)),
         ("start", bench.start),
@@ -51,7 +62,12 @@ def main(build, folder, quick):
         ("lateness", bench.lateness),
         ("wayland", lambda: wayland.playing(bench.programs, bench.seconds, every(3))),
     ]
+    if unknown := set(again) - {name for name, _ in steps}:
+        sys.exit(f"bench: no such step: {', '.join(sorted(unknown))}")
+    results = earlier(folder) if again else {"machine": machine(), "quick": quick}
     for name, step in steps:
+        if again and name not in again:
+            continue
         print(f"bench: {name}…", file=sys.stderr, flush=True)
         before = cpu_ticks()
         results[name] = step()
@@ -70,4 +86,4 @@ def main(build, folder, quick):
     print(table.markdown(rows))
 
 
-main(sys.argv[1], sys.argv[2], "--quick" in sys.argv[3:])
+main(sys.argv[1], sys.argv[2], quick=sys.argv[3:] == ["--quick"], again=sys.argv[4:])
