@@ -2,10 +2,13 @@
 
 #include "platform/qt/OutlineRegion.h"
 
+#include "platform/qt/PainterPath.h"
+
+#include <QPolygonF>
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
 #include <compare>
-#include <utility>
 
 namespace brellowind::platform {
 namespace {
@@ -23,66 +26,38 @@ struct Crossing {
     auto operator<=>(const Crossing&) const = default;
 };
 
-/// The crossings of an outline. Painting it into a bitmap instead takes half of the time of a
-/// frame while the artwork panel opens.
-class Crossings {
-public:
-    std::vector<Crossing> of(const Path& outline) {
-        using Kind = Path::Element::Kind;
-        for (const auto& [kind, to, control] : outline.elements()) {
-            if (kind == Kind::line)
-                line(to);
-            else if (kind == Kind::quadCurve)
-                quadCurve(to, control);
-            else
-                line(start_); // closes the subpath
-            if (kind == Kind::move)
-                start_ = last_ = to;
-        }
-        line(start_);
-        std::ranges::sort(crossings_);
-        return std::move(crossings_);
-    }
-
-private:
-    void line(Point to) {
-        const auto [upper, lower] = std::ranges::minmax(last_, to, {}, &Point::y);
-        const double slope = (lower.x - upper.x) / (lower.y - upper.y);
-        for (int row = firstPixel(upper.y); row < firstPixel(lower.y); ++row)
-            crossings_.push_back({row, upper.x + slope * (row + 0.5 - upper.y)});
-        last_ = to;
-    }
-
-    void quadCurve(Point to, Point control) {
-        const Point from = last_;
-        constexpr int segments = 32; // within 1/20 pixel of a corner of 100 pixels
-        for (int i = 1; i <= segments; ++i) {
-            const double t = double(i) / segments;
-            const auto at = [t](double begin, double middle, double end) {
-                return std::lerp(std::lerp(begin, middle, t), std::lerp(middle, end, t), t);
-            };
-            line({at(from.x, control.x, to.x), at(from.y, control.y, to.y)});
+/// The crossings of an outline, sorted. Painting it into a bitmap instead takes half of the time of
+/// a frame while the artwork panel opens.
+std::vector<Crossing> crossings(const Path& outline, double scale) {
+    constexpr double precision = 16; // Qt approximates curves to half a unit
+    const auto fine = QTransform::fromScale(scale * precision, scale * precision);
+    std::vector<Crossing> all;
+    for (const QPolygonF& polygon : painterPath(outline).toSubpathPolygons(fine)) {
+        QPointF last = polygon.last() / precision; // an open one is closed
+        for (const QPointF& point : polygon) {
+            const QPointF next = point / precision;
+            const auto [upper, lower] = std::ranges::minmax(last, next, {}, &QPointF::y);
+            const double slope = (lower.x() - upper.x()) / (lower.y() - upper.y());
+            for (int row = firstPixel(upper.y()); row < firstPixel(lower.y()); ++row)
+                all.push_back({row, upper.x() + slope * (row + 0.5 - upper.y())});
+            last = next;
         }
     }
-
-    std::vector<Crossing> crossings_;
-    Point start_{};
-    Point last_{};
-};
+    std::ranges::sort(all);
+    return all;
+}
 
 } // namespace
 
 QRegion outlineRegion(const Path& outline, double scale) {
-    const auto crossings = Crossings().of(outline.mapped([scale](Point point) {
-        return Point{point.x * scale, point.y * scale};
-    }));
+    const auto all = crossings(outline, scale);
     QRegion region;
-    for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
+    for (std::size_t i = 0; i + 1 < all.size(); i += 2) {
         constexpr double tolerance = 1.0 / 64; // keeps the region of a symmetric outline symmetric
-        const int left = firstPixel(crossings[i].x - tolerance);
-        const int right = firstPixel(crossings[i + 1].x + tolerance);
+        const int left = firstPixel(all[i].x - tolerance);
+        const int right = firstPixel(all[i + 1].x + tolerance);
         if (left < right)
-            region += QRect(left, crossings[i].row, right - left, 1);
+            region += QRect(left, all[i].row, right - left, 1);
     }
     return region;
 }
