@@ -186,10 +186,11 @@ TEST_F(X11Popup, IsWithoutACompositingManagerWhatItsRoundCornersCoverAsAWhole) {
 }
 
 TEST_F(X11Popup, IsWithACompositingManagerTheWholeRectangle) {
-    const CompositingManager compositing(x);
     show();
     const QRegion whole(QRect(QPoint(), windowPixels.size()));
-    ASSERT_TRUE(waitUntil([&] { return bounding() == whole; })); // once the manager is known
+    ASSERT_TRUE(waitUntil([&] { return bounding() != whole; }));
+    const CompositingManager compositing(x);
+    ASSERT_TRUE(waitUntil([&] { return bounding() == whole; })) << "the manager is not noticed";
     popUp();
     ASSERT_TRUE(waitUntil([this] { return holdsPointer(); }));
     settle();
