@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -176,6 +177,21 @@ TEST_F(QtMainLoopTest, NextTurnRunsBeforeTheLoopRests) {
     const auto later = loop.scheduleOnce(200ms, [&] { events.push_back(3); });
     ASSERT_TRUE(restUntil([&] { return events.size() == 3; }));
     EXPECT_EQ(events, (std::vector<int>{1, 2, 3}));
+}
+
+TEST_F(QtMainLoopTest, NextTurnTakesNoFurtherIterationOfTheEventLoop) {
+    const auto next = loop.onNextTurn([&] { events.push_back(2); });
+    const auto now = loop.scheduleOnce(0ms, [&] {
+        next->request();
+        events.push_back(1);
+    });
+    const QObject watch;
+    auto* dispatcher = QAbstractEventDispatcher::instance();
+    QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &watch,
+                     [&] { events.push_back(0); });
+    ASSERT_TRUE(restUntil([&] { return std::ranges::count(events, 2) > 0; }));
+    const std::vector<int> both(std::ranges::find(events, 1), ++std::ranges::find(events, 2));
+    EXPECT_EQ(both, (std::vector<int>{1, 2}));
 }
 
 TEST_F(QtMainLoopTest, NextTurnRunsOnceAfterAllHandlersThatWereDueTogether) {
