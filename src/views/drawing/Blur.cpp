@@ -47,40 +47,44 @@ std::size_t radius(const Widths& widths) {
 class LineBlur {
 public:
     LineBlur(const Widths& widths, std::size_t length)
-        : widths_(widths), length_(length), room_(*std::ranges::max_element(widths)),
-          // Each filter shifts the samples by half of its width.
-          from_(room_ + length + radius(widths)), to_(from_.size()) {}
+        : widths_(widths), length_(length), first_(*std::ranges::max_element(widths)),
+          samples_(first_ + length + radius(widths)), once_(samples_.size()),
+          twice_(samples_.size()) {}
 
+    /// Each filter replaces a sample by the sum of itself and those before it, as many as the
+    /// filter is wide, which also shifts the line by half of that width.
     void operator()(const Line& line) {
         std::uint32_t ink = 0;
         for (std::size_t i = 0; i < length_; ++i)
-            ink |= from_[room_ + i] = line[i];
+            ink |= samples_[first_ + i] = line[i];
         if (ink == 0)
             return;
-        std::fill(from_.begin() + static_cast<std::ptrdiff_t>(room_ + length_), from_.end(), 0);
-        for (const std::size_t width : widths_) {
-            addUp(width);
-            from_.swap(to_);
+        const std::size_t end = samples_.size();
+        const std::size_t shift = end - length_;
+        const auto [a, b, c] = widths_;
+        const double share = 1.0 / static_cast<double>(a * b * c);
+        const std::uint32_t* const samples = samples_.data();
+        std::uint32_t* const once = once_.data();
+        std::uint32_t* const twice = twice_.data();
+        std::uint32_t sum1 = 0;
+        std::uint32_t sum2 = 0;
+        std::uint32_t sum3 = 0;
+        for (std::size_t i = first_; i < end; ++i) {
+            once[i] = sum1 += samples[i] - samples[i - a];
+            twice[i] = sum2 += once[i] - once[i - b];
+            sum3 += twice[i] - twice[i - c];
+            if (i >= shift)
+                line[i - shift] = static_cast<uchar>(sum3 * share + 0.5);
         }
-        const std::uint32_t* const sums = &from_[room_ + radius(widths_)];
-        const double share = 1.0 / static_cast<double>(widths_[0] * widths_[1] * widths_[2]);
-        for (std::size_t i = 0; i < length_; ++i)
-            line[i] = static_cast<uchar>(sums[i] * share + 0.5);
     }
 
 private:
-    /// Replaces each sample by the sum of itself and the `width` - 1 before it.
-    void addUp(std::size_t width) {
-        std::uint32_t sum = 0;
-        for (std::size_t i = room_; i < from_.size(); ++i)
-            to_[i] = sum += from_[i] - from_[i - width];
-    }
-
     Widths widths_;
     std::size_t length_;
-    std::size_t room_; ///< transparent samples before the first
-    std::vector<std::uint32_t> from_;
-    std::vector<std::uint32_t> to_;
+    std::size_t first_;                  ///< transparent samples before the first
+    std::vector<std::uint32_t> samples_; ///< with transparent ones also after the last
+    std::vector<std::uint32_t> once_;    ///< filtered by the first filter
+    std::vector<std::uint32_t> twice_;   ///< and by the second
 };
 
 } // namespace
@@ -114,11 +118,12 @@ QImage halved(const QImage& image) {
         const uchar* lower = hasLower ? image.constScanLine(2 * y + 1) : upper;
         for (int i = 0; i < image.width() * channels; ++i)
             sums[static_cast<std::size_t>(i)] = upper[i] + (hasLower ? lower[i] : 0U);
-        const unsigned* sum = sums.data();
-        uchar* mean = half.scanLine(y);
-        for (int x = 0; x < half.width(); ++x, sum += channels)
-            for (int channel = 0; channel < channels; ++channel, ++sum)
-                *mean++ = static_cast<uchar>((sum[0] + sum[channels] + 2) / 4);
+        for (int channel = 0; channel < channels; ++channel) {
+            const unsigned* sum = &sums[static_cast<std::size_t>(channel)];
+            uchar* mean = half.scanLine(y) + channel;
+            for (int x = 0; x < half.width(); ++x, sum += 2 * channels, mean += channels)
+                *mean = static_cast<uchar>((sum[0] + sum[channels] + 2) / 4);
+        }
     }
     return half;
 }

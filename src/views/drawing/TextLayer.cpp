@@ -20,7 +20,7 @@ namespace {
 constexpr double strongestSigma = 5; ///< points, of an absent line
 const double largestBlurExtent = std::ceil(blurExtent(strongestSigma));
 constexpr double faintestSigma = 0.2; ///< a weaker blur looks sharp
-constexpr double coarseSigma = 3;     ///< pixels; such a blur needs half the resolution only
+constexpr double coarseSigma = 2;     ///< pixels; such a blur needs half the resolution only
 constexpr double tolerance = 1e-3;
 constexpr double smallestScale = 0.92; ///< of an absent line
 
@@ -248,16 +248,18 @@ void TextLayer::renderPicture(QRectF part, QColor color, double ratio) {
 /// Does nothing if the radius is that of the last frame, as in most frames of a motion.
 void TextLayer::blurPicture() {
     const double ratio = picture_.devicePixelRatio();
-    const double sigma = this->sigma() * ratio;
-    const int shrinking = sigma < coarseSigma ? 1 : 2;
-    const int radius = shrinking * blurRadius(sigma / shrinking);
+    double sigma = this->sigma() * ratio;
+    int halvings = 0;
+    for (; sigma >= coarseSigma; sigma /= 2)
+        ++halvings;
+    const int radius = blurRadius(sigma) << halvings;
     if (!blurred_.isNull() && radius == blurredRadius_)
         return;
     const int margin = std::max(0, radius - static_cast<int>(inkOverhang * ratio));
     blurred_ = picture_.copy(picture_.rect().adjusted(-margin, -margin, margin, margin));
-    if (shrinking == 2)
+    for (int i = 0; i < halvings; ++i)
         blurred_ = halved(blurred_);
-    blur(blurred_, sigma / shrinking);
+    blur(blurred_, sigma);
     blurredPart_ = QRectF(QPointF(-margin, -margin) / ratio,
                           QSizeF(blurred_.size()) / blurred_.devicePixelRatio());
     blurredRadius_ = radius;

@@ -140,7 +140,7 @@ void SceneWindow::makeFrame() {
     const QRegion region = wholePixels(std::exchange(damage_, {}) & whole, ratio, whole);
     if (region.isEmpty())
         return;
-    store_.beginPaint(region);
+    store_.beginPaint(region); // and clears it, since the window has an alpha channel
     paintStore(region);
     store_.endPaint();
     present([&] { store_.flush(region); });
@@ -150,10 +150,6 @@ void SceneWindow::makeFrame() {
 
 void SceneWindow::paintStore(const QRegion& region) {
     QPainter painter(store_.paintDevice());
-    painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    for (const QRect& rect : region)
-        painter.fillRect(rect, Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setClipRegion(region);
     root_.draw(painter, region);
 }
