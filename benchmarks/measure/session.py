@@ -42,7 +42,8 @@ def tag(seconds):
 
 
 class LyricsService:
-    """A service that returns `lyrics` for every song and one of a few images for every cover."""
+    """A service that returns `lyrics` for every song, one of a few images for every cover, and an old
+    release as the latest."""
 
     def __init__(self):
         self.lyrics = ""
@@ -57,7 +58,9 @@ class LyricsService:
                 if path.startswith("/cover/"):
                     body, kind = covers[int(path.rsplit("/", 1)[1]) % len(covers)], "image/png"
                 else:
-                    body = json.dumps({"syncedLyrics": service.lyrics}).encode()
+                    feed = {"version": "0", "url": service.origin}
+                    lyrics = {"syncedLyrics": service.lyrics}
+                    body = json.dumps(feed if path == "/latest.json" else lyrics).encode()
                     kind = "application/json"
                 self.send_response(200)
                 self.send_header("Content-Type", kind)
