@@ -238,6 +238,23 @@ TEST_F(QtMainLoopTest, NextTurnAskedForByAnothersHandlerRunsBeforeTheLoopRests) 
     EXPECT_EQ(events, (std::vector<int>{1, 2})) << "only another event woke the loop";
 }
 
+TEST_F(QtMainLoopTest, NextTurnAskedForByAnothersHandlerRunsInAnotherIteration) {
+    std::unique_ptr<NextTurn> second;
+    const auto first = loop.onNextTurn([&] {
+        events.push_back(1);
+        second->request();
+    });
+    second = loop.onNextTurn([&] { events.push_back(2); });
+    const QObject watch;
+    auto* dispatcher = QAbstractEventDispatcher::instance();
+    QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &watch,
+                     [&] { events.push_back(0); });
+    first->request();
+    ASSERT_TRUE(restUntil([&] { return std::ranges::count(events, 2) > 0; }));
+    const std::vector<int> all(std::ranges::find(events, 1), ++std::ranges::find(events, 2));
+    EXPECT_EQ(all, (std::vector<int>{1, 0, 2}));
+}
+
 TEST_F(QtMainLoopTest, NextTurnRunsInALoopThatIsDrivenWithoutResting) {
     int ran = 0;
     const auto next = loop.onNextTurn([&] { ++ran; });
